@@ -1,0 +1,115 @@
+// The lesson window with all its controls, and the cell grid's constants.
+//
+// One exists at a time: RunLesson loads it and unloads it at the end.  This class places the controls and
+// gives them their looks; what they do when clicked is bound by the engine.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "display/text_panel.h"
+#include "platform/form.h"
+#include "platform/picture_box.h"
+
+namespace course {
+
+inline constexpr int gCellWidth = 16;     // pixels a column
+inline constexpr int gCellHeight = 25;    // pixels a row
+inline constexpr int gLeftMargin = 16;    // pixel X of column 1 on pnlLesson
+inline constexpr int gTopMargin = 5;      // pixel Y of row 2 on pnlLesson
+inline constexpr int gWbLeftMargin = 16;  // pixel X of column 1 in picWiperBox
+inline constexpr int gWbTopMargin = 5;    // pixel Y of row 1 in picWiperBox
+
+// Controls of one name, numbered from first to last.
+template <class T, int first, int last>
+class ControlArray {
+ public:
+  T& operator[](int i) { return *items_.at(i - first); }
+  const T& operator[](int i) const { return *items_.at(i - first); }
+  static constexpr int First() { return first; }
+  static constexpr int Last() { return last; }
+  template <class... Args>
+  void Make(const std::string& name, platform::Control& parent, const Args&... args) {
+    for (int i = first; i <= last; ++i)
+      items_[i - first] =
+          std::make_unique<T>(parent, name + "(" + std::to_string(i) + ")", args...);
+  }
+
+ private:
+  std::array<std::unique_ptr<T>, last - first + 1> items_;
+};
+
+class LessonWindow {
+ public:
+  LessonWindow();
+  ~LessonWindow();
+  LessonWindow(const LessonWindow&) = delete;
+  LessonWindow& operator=(const LessonWindow&) = delete;
+
+  platform::Form form;
+
+  // Surfaces.
+  platform::PictureBox pnlLesson;
+  platform::PictureBox picWiperBox;
+  platform::PictureBox picWiperBox2;
+  platform::PictureBox picTextWidth;     // hidden: measures headings
+  platform::PictureBox picPrintCellBox;  // print cell table
+  ControlArray<platform::PictureBox, 1, 5> picCommentBox;
+  ControlArray<platform::PictureBox, 1, 5> picGalleryImage;
+  ControlArray<platform::PictureBox, 1, 5> picGraph2D;
+  ControlArray<platform::PictureBox, 1, 5> picAnswer;
+
+  // Text on them.
+  TextPanel lessonText;
+  TextPanel wiperText;
+  TextPanel wiperText2;
+  std::array<std::unique_ptr<TextPanel>, 6> commentText;  // 1 to 5
+  std::array<std::unique_ptr<TextPanel>, 6> answerText;   // 1 to 5
+
+  // Answers.
+  platform::Label lblSelect;
+  ControlArray<platform::Button, 0, 4> cmdAnswer;  // hidden: the boxes are the way to choose
+
+  // Navigation.
+  platform::Frame fraNav;
+  ControlArray<platform::PictureBox, 1, 4> picNav;
+  ControlArray<platform::Button, 0, 10> cmdNavigate;
+  platform::PictureBox picScreenBox;
+  ControlArray<platform::PictureBox, 1, 9> picScreenNum;
+  platform::Frame fraAnimSpeed;
+  ControlArray<platform::OptionButton, 1, 3> optAnimSpeed;
+  platform::Button cmdShowRulesandReminders;
+
+  // Status.
+  platform::Label lblScreenNumber;
+  platform::Label lblPracticeResults;
+  platform::Label lblTestProbNo1;
+  platform::Label lblTestProbNo2;
+  platform::Label lblStudent;
+
+  // Menu.
+  platform::MenuItem* mnuFileRestart = nullptr;
+  platform::MenuItem* mnuFileReturn = nullptr;
+  platform::MenuItem* mnuFileExit = nullptr;
+  platform::MenuItem* mnuHelpProgramOverview = nullptr;
+  platform::MenuItem* mnuHelpTechSupport = nullptr;
+  platform::MenuItem* mnuHelpAbout = nullptr;
+
+  int ready = 0;  // flag: the window is shown
+
+  // Gives tab 1 to 4 its selected or its plain look.
+  void ShowTab(int index, bool selected);
+
+ private:
+  void PlacePanels();
+  void PlaceAnswers();
+  void PlaceNavigation();
+  void PlaceStatus();
+  void MakeMenus();
+};
+
+// The loaded window; empty between lessons.
+extern std::unique_ptr<LessonWindow> frmPR;
+
+}  // namespace course

@@ -1,0 +1,87 @@
+// A surface on which text is printed into cells: the lesson panel, the wiper boxes, the comment boxes
+// and the answer boxes are one thing with different cells, origins and rules.
+//
+// Rows and columns count from 1 and may be fractional; on the lesson panel row 2 is the first one that
+// lies on the surface.  Every panel keeps a transcript, the printed fragments since the last clear.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/picture_box.h"
+
+namespace course {
+
+// Which of the course's own characters a panel draws by itself, and how.
+enum class CharacterSet { LessonWindow, WiperBox, AnswerBox, CommentBox };
+
+struct Fragment {
+  double row = 0;
+  double col = 0;
+  platform::Colour colour = 0;
+  int level = 0;  // 1 raised, -1 lowered, 0 on the line
+  std::string text;
+};
+
+class TextPanel {
+ public:
+  struct Layout {
+    int cellWidth = 16;   // pixels
+    int cellHeight = 25;  // pixels
+    int leftMargin = 0;   // pixel X of column 1
+    int topMargin = 0;    // pixel Y of firstRow
+    int firstRow = 1;
+    double fontSize = 20;  // points, "Courier New" bold
+    CharacterSet characters = CharacterSet::LessonWindow;
+    platform::Colour restoredColour = 0;  // text colour that RestoreFont gives
+  };
+
+  TextPanel(platform::PictureBox& surface, const Layout& layout);
+
+  platform::PictureBox& surface;
+  Layout layout;
+
+  // Text cursor in pixels, and the same as a cell, valid only just after UpdateCursorCell.
+  int cursorX = 0;
+  int cursorY = 0;
+  float cursorCol = 1;
+  float cursorRow = 1;
+
+  platform::Colour textColour = 0;   // what "\z" returns to
+  platform::Colour eraseColour = 0;  // paints the band behind a text
+  bool erases = false;               // the panel is one that erases at all
+  int dontEraseBackground = 0;       // flag
+  int scriptLevel = 0;               // 1 while an exponent is printed, -1 for a subscript
+
+  // Moves the cursor; row and column are not checked, but a pixel beyond 16 bits ends the program.
+  void Locate(double row, double col);
+  void UpdateCursorCell();
+  // Moves the cursor by pixels, with the same check.
+  void SetCursor(double x, double y);
+  // Pixel of a cell's left and top edge, not rounded.
+  double CellX(double col) const;
+  double CellY(double row) const;
+
+  void SetFontSize(double size);
+  // "Courier New" bold at the panel's size, upright, in restoredColour.
+  void RestoreFont();
+  void SetColor(platform::Colour colour);
+
+  // Prints a string at the cursor and does not move it: erases the band behind it, then draws plain
+  // runs and the panel's own characters.  More than 30 runs stop the program.
+  void TextOut(const std::string& s);
+  // Clears the surface and the transcript; the cursor stays.
+  void Cls();
+
+  const std::vector<Fragment>& Transcript() const { return transcript_; }
+  void ClearTranscript() { transcript_.clear(); }
+
+ private:
+  std::vector<Fragment> transcript_;
+};
+
+// The transcript as lines of text, one a row, in single bytes: exponents as "^2^", subscripts between
+// code 250, blanks where nothing stands.
+std::vector<std::string> TranscriptLines(const TextPanel& panel);
+
+}  // namespace course

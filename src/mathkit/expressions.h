@@ -1,0 +1,28 @@
+// How a number or a term becomes a printed string.
+#pragma once
+
+#include <string>
+
+namespace course {
+
+// Plain decimal text with up to 15 significant digits: 5 is "5", -5 "-5", 0.5 ".5", -0.5 "-.5", 0 "0".
+std::string NumStr(double x);
+// A coefficient at the head of an expression: "" for 1, "-" for -1, "0" for 0.
+std::string CoefText(double c);
+// A signed coefficient inside an expression, its sign between two gaps; no digit for 1 and -1.
+std::string SignedCoefText(double c);
+// A signed constant: sign, gap, digits.  No gap in front.
+std::string SignedNumberText(double n);
+// On one line, reduced, with sign.  "undefined" when either part is 0.
+std::string FractionText(int n, int d);
+// A value as whole number, fraction or mixed number with a denominator up to 18; its decimal text when
+// none fits.  A whole part of 0 is left out and the sign stands before the fraction.
+std::string MixedNumberText(double value);
+// Dollars: "$12.00".  More than two decimals are not cut.
+std::string MoneyText(double x);
+// "" for 1, "s" otherwise.
+std::string PluralSuffix(double n);
+// "^n^", an exponent in an expression; "" for 1.
+std::string ExponentText(int n);
+
+}  // namespace course

@@ -1,0 +1,208 @@
+// Forms and what stands on them: thin classes over the toolkit's widgets, placed in twips.
+//
+// Every control belongs to a parent (a form, a frame or a picture box) that must outlive it.  A control
+// has a name in the course's words, such as "cmdNavigate(2)"; tests and failures speak of it by name.
+// Positions are those inside the parent.  Texts are single-byte (Latin-1); "&" before a letter makes
+// it the shortcut of a button, a menu or an entry.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/geometry.h"
+
+namespace platform {
+
+class Control {
+ public:
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& Name() const;
+  // Twips.
+  int Left() const;
+  int Top() const;
+  int Width() const;
+  int Height() const;
+  void SetLeft(int twips);
+  void SetTop(int twips);
+  void Move(int left, int top, int width, int height);
+
+  // The control's own flags, whatever its parents' are.
+  bool Visible() const;
+  void SetVisible(bool visible);
+  bool Enabled() const;
+  void SetEnabled(bool enabled);
+
+  void BringToFront();
+  void SetFocus();
+  // For a screen reader: what the control is, and what it holds at the moment.
+  void SetAccessibleName(const std::string& name);
+  void SetAccessibleText(const std::string& text);
+  std::string AccessibleName() const;
+  std::string AccessibleText() const;
+  void SetToolTip(const std::string& text);
+  // Small print beside the course's own faces: the face in points, "MS Sans Serif" 8 when not set.
+  void SetFont(const std::string& face, double points, bool bold = false);
+  void SetColours(Colour fore, Colour back);
+
+  // What a click by the person does.
+  std::function<void()> OnClick;
+  // Clicks as the person would.  False, and nothing happens, when he could not: the control or one of
+  // its parents is hidden or disabled, or a modal form or a disabled form stands before it.
+  bool Click();
+  bool CanBeClicked() const;
+
+  struct Impl;
+  Impl& impl() const { return *impl_; }
+
+ protected:
+  Control(Control* parent, std::string name);
+  virtual void OnResized() {}
+  std::unique_ptr<Impl> impl_;
+
+ private:
+  friend struct ControlAccess;
+};
+
+class Form;
+
+class Label final : public Control {
+ public:
+  Label(Control& parent, std::string name, const std::string& caption = "");
+  void SetCaption(const std::string& caption);  // '\r' or '\n' breaks the line; long lines are wrapped
+  std::string Caption() const;
+  enum class Align { Left, Centre, Right };
+  void SetAlignment(Align align);
+};
+
+class Button final : public Control {
+ public:
+  Button(Control& parent, std::string name, const std::string& caption = "");
+  void SetCaption(const std::string& caption);
+  std::string Caption() const;
+  // Fills the button with a picture of the artwork in place of a caption.
+  void SetPicture(const std::string& name);
+  std::string Picture() const;
+};
+
+class OptionButton final : public Control {
+ public:
+  OptionButton(Control& parent, std::string name, const std::string& caption);
+  // Options with one parent exclude each other.  Setting a value does not call OnClick.
+  void SetValue(bool chosen);
+  bool Value() const;
+};
+
+// A box with a caption around other controls; with an empty caption only a container.
+class Frame final : public Control {
+ public:
+  Frame(Control& parent, std::string name, const std::string& caption = "");
+};
+
+class ListBox final : public Control {
+ public:
+  ListBox(Control& parent, std::string name);
+  void Clear();
+  void AddItem(const std::string& text);
+  int ListCount() const;
+  std::string List(int index) const;  // "" outside 0 to ListCount - 1
+  // 0-based, -1 for none.  Setting another index than the present one calls OnClick once, as the
+  // person's own click or arrow key does.
+  int ListIndex() const;
+  void SetListIndex(int index);
+  std::string Text() const;  // the selected item's, "" for none
+  int RowHeight() const;     // twips
+  std::function<void()> OnDblClick;
+  // As the person would; false as Click.
+  bool DblClick();
+};
+
+class MenuItem {
+ public:
+  ~MenuItem();
+  void SetCaption(const std::string& caption);
+  std::string Caption() const;
+  void SetVisible(bool visible);
+  bool Visible() const;
+  void SetEnabled(bool enabled);
+  bool Enabled() const;
+  std::function<void()> OnClick;
+  bool Click();
+  const std::string& Name() const;
+
+  struct Impl;
+
+ private:
+  friend class Menu;
+  MenuItem(Form& form, std::string name);
+  std::unique_ptr<Impl> impl_;
+};
+
+class Menu {
+ public:
+  ~Menu();
+  MenuItem& AddItem(std::string name, const std::string& caption);
+  MenuItem& AddSeparator(std::string name);
+
+  struct Impl;
+
+ private:
+  friend class Form;
+  Menu(Form& form, const std::string& caption);
+  std::unique_ptr<Impl> impl_;
+};
+
+class Form : public Control {
+ public:
+  // The client area below the menu bar, in twips.  A form has a fixed size, the grey ground of the
+  // course, and is hidden.
+  Form(std::string name, int width, int height);
+  ~Form() override;
+
+  void SetCaption(const std::string& caption);
+  std::string Caption() const;
+  Menu& AddMenu(const std::string& caption);
+
+  // Centres the form on the screen: half the screen less half the form, each half a whole number.
+  void Center();
+  void Show();
+  void Hide();
+  // Shows the form, centred, before all others, and returns when Close is called.  Other forms take no
+  // input meanwhile.
+  void ShowModal();
+  void Close();
+  // True between Show or ShowModal and Hide or Close.
+  bool Shown() const;
+
+  // The person's key as a single-byte code (Esc is 27), before any control sees it.  True swallows it.
+  std::function<bool(int code)> OnKeyPress;
+  // Types a key as the person would; false when the form takes no input.
+  bool Press(int code);
+  // The close box or Alt+F4.  Without it the form stays: no window closes by accident.
+  std::function<void()> OnCloseBox;
+  bool ClickCloseBox();
+  // The first time that the form is painted after it was shown.
+  std::function<void()> OnFirstShown;
+  // Esc and the close box press this button.
+  void SetNeutralButton(Button& button);
+  // Enter presses this one.
+  void SetDefaultButton(Button& button);
+
+  // Writes what the form shows at this moment as a PNG file; false when it cannot be written.
+  bool SavePng(const std::string& path);
+  // The control, entry or form of this name, nullptr when there is none: for tests and tools.
+  Control* Find(const std::string& name);
+  MenuItem* FindMenuItem(const std::string& name);
+
+  // The modal form in front, nullptr for none.
+  static Form* ModalForm();
+
+ private:
+  std::vector<std::unique_ptr<Menu>> menus_;
+};
+
+}  // namespace platform
