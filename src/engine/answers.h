@@ -45,6 +45,6 @@ void AnswerLayout();
 // Typing a letter: 1 to the choice count.  Asks again, with a beep, until one is given.
 int LetterEntry(int choiceCount);
 
-// Text inside a box 1 to 5 stands in engine/answer_text.h.
+// Text inside a box 1 to 5 stands in display/answer_text.h.
 
 }  // namespace course
