@@ -1,4 +1,5 @@
-// Whole numbers, fractions and rounding.  Pure, but for ReduceFraction, which writes to its arguments.
+// Whole numbers, fractions and rounding.  Pure, but for ReduceFraction, which writes to its
+// arguments.
 #pragma once
 
 #include <string>
@@ -8,20 +9,21 @@ namespace course {
 
 // The 25 primes up to 97, two characters each, right-aligned.
 inline constexpr std::string_view kPrimes = " 2 3 5 7111317192329313741434753596167717379838997";
-int PrimeAt(int i);   // entry i of kPrimes, 1 to 25
 inline constexpr int kPrimeCount = static_cast<int>(kPrimes.size() / 2);
+int PrimeAt(int i);  // entry i of kPrimes, 1 to kPrimeCount
 
-// Greatest common factor by Euclid; 0 when a or b is 0.  With a negative argument it can be negative.
+// Greatest common factor by Euclid; 0 when a or b is 0.  With a negative argument it can be
+// negative.
 int Gcf(int a, int b);
-// Greatest common factor by the remainder; neither argument may be 0.
+// Greatest common factor of whole numbers by the remainder; a of 0 stops the program.
 double GcfReal(double a, double b);
-// |a * b| / GcfReal(a, b).
+// Least common multiple, never negative: |a * b| / GcfReal(a, b).
 double Lcm(double a, double b);
 // Lowest terms, d positive.  0/d and n/0 both become 0/0.
 void ReduceFraction(int& n, int& d);
-// How many prime factors up to 211, with repetition, a and b share.  Neither may be 0.
+// How many prime factors up to 211, with repetition, a and b share.  A 0 stops the program.
 int CommonPrimeFactors(int a, int b);
-// Lcm(a, b) is greater than both.
+// Neither is a multiple of the other: Lcm(a, b) is greater than both.
 bool NeitherDivides(int a, int b);
 
 // To the nearest whole number or hundredth; a value held slightly too low, as 2.675, still goes up.
@@ -32,9 +34,16 @@ double RoundTenthsPlain(double x);
 double RoundHundredthsPlain(double x);
 
 double SmallerOf(double a, double b);  // b when they are equal
+// s without its last n characters; empty when it has no more than these.
 std::string DropLastChars(const std::string& s, int n);
 
-// Floor, as whole number: IntOf(-2.9) is -3.
+// Slot i, from 1, of a table string of numbers, three characters each: "  5 12123" holds 5, 12 and
+// 123.
+int TableNumber(std::string_view table, int i);
+// Character i, from 1, of a table string as a number 0 to 255: often the slot of a second table.
+int TableCode(std::string_view table, int i);
+
+// Floor, as whole number: IntOf(-2.9) is -3.  Beyond 32 bits it stops the program.
 int IntOf(double x);
 // -1, 0 or 1.
 int Sgn(double x);
