@@ -6,7 +6,9 @@
 namespace course {
 
 // The one-character string of a code, 0 to 255.
-inline std::string Chr(int code) { return std::string(1, static_cast<char>(code)); }
+inline std::string Chr(int code) {
+  return std::string(1, static_cast<char>(code));
+}
 
 namespace tutor {
 inline const std::string Delta = Chr(127);
@@ -33,8 +35,8 @@ inline const std::string Bullet = Chr(253);
 inline const std::string Gap = Chr(255);  // a hard blank: no line breaks there
 }  // namespace tutor
 
-// What a person reads: the course's characters become their Unicode letters in UTF-8, the gap a blank.
-// Carets and colour codes stay.
+// What a person reads: the course's characters become their Unicode letters in UTF-8, the gap a
+// blank. Carets and colour codes stay.
 std::string ToUtf8(const std::string& text);
 
 // Upper case of ASCII letters only; all other bytes stay.
