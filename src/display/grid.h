@@ -1,7 +1,8 @@
 // The cell grid of the lesson window: cursor, colours and fonts of pnlLesson and of the wiper box.
 //
-// 40 columns of 16 pixels; rows 2 to 24 of 25 pixels on pnlLesson (row 1 lies above it), rows from 1 in the
-// wiper box.  Rows and columns are real numbers; a position is rounded half to even to a pixel.
+// 40 columns of 16 pixels; rows 2 to 24 of 25 pixels on pnlLesson (row 1 lies above it), rows from
+// 1 in the wiper box.  Rows and columns are real numbers; a position is rounded half to even to a
+// pixel.
 #pragma once
 
 #include <array>
@@ -12,16 +13,16 @@ namespace course {
 
 // Drawing state of the lesson screen that is no panel's own.
 struct ScreenState {
-  int gRightColumn = 40;       // last column of the screen
-  int gNoNewline = 0;          // flag: a print leaves the cursor behind the text
-  int gMeasureOnly = 0;        // flag: texts are measured and not drawn
-  int gLineGap = 0;            // extra pixels between wrapped lines: a tuning point, always 0
+  int gRightColumn = 40;  // last column of the screen
+  int gNoNewline = 0;     // flag: a print leaves the cursor behind the text
+  int gMeasureOnly = 0;   // flag: texts are measured and not drawn
+  int gLineGap = 0;       // extra pixels between wrapped lines: a tuning point, always 0
   int gWbLineGap = 0;
-  int gWbWidth = 0;            // wiper box, columns
-  int gWbHeight = 0;           // wiper box, rows
+  int gWbWidth = 0;                                      // wiper box, columns
+  int gWbHeight = 0;                                     // wiper box, rows
   platform::Colour gBackColor = platform::colour::Blue;  // with which animation erases
-  int gDrawTarget = 0;         // 0 lesson panel, negative wiper box, positive that comment box
-  int gLocateX = 0;            // where Locate put the cursor, for the proportional wrap
+  int gDrawTarget = 0;  // 0 lesson panel, negative wiper box, positive that comment box
+  int gLocateX = 0;     // where Locate put the cursor, for the proportional wrap
   int gLocateY = 0;
   std::array<double, 2> gCtrlCell{};  // row, column: see ctrlCentreCell
   int gLastFractionWidth = 0;         // columns
@@ -35,7 +36,8 @@ void UpdateCursorCell();
 void wbUpdateCursorCell();
 double isCursorCol();
 
-// Twips on the form of a grid line: "R" row or "C" column, either case.  Any other letter ends the program.
+// Twips on the form of a grid line: "R" row or "C" column, either case.  Any other letter ends the
+// program.
 int RowOrColumnInTwips(const std::string& which, double value);
 // Writes the cell of a control's centre to gCtrlCell: row, then column.
 void ctrlCentreCell(const platform::Control& control);
@@ -57,8 +59,8 @@ void RestoreColor();
 void SetDontEraseBackground();
 void SetEraseBackground();
 
-// The display half of a new screen: fonts, colours, flags and cursor back to their defaults, every box and
-// figure hidden, the panel cleared.
+// The display half of a new screen: fonts, colours, flags and cursor back to their defaults, every
+// box and figure hidden, the panel cleared.
 void ResetScreen();
 
 }  // namespace course

@@ -1,7 +1,7 @@
 // The lesson window with all its controls, and the cell grid's constants.
 //
-// One exists at a time: RunLesson loads it and unloads it at the end.  This class places the controls and
-// gives them their looks; what they do when clicked is bound by the engine.
+// One exists at a time: RunLesson loads it and unloads it at the end.  This class places the
+// controls and gives them their looks; what they do when clicked is bound by the engine.
 #pragma once
 
 #include <array>
@@ -29,11 +29,13 @@ class ControlArray {
   const T& operator[](int i) const { return *items_.at(i - first); }
   static constexpr int First() { return first; }
   static constexpr int Last() { return last; }
+  void Make(const std::string& name, platform::Control& parent) {
+    for (int i = first; i <= last; ++i) MakeOne(i, name, parent);
+  }
   template <class... Args>
-  void Make(const std::string& name, platform::Control& parent, const Args&... args) {
-    for (int i = first; i <= last; ++i)
-      items_[i - first] =
-          std::make_unique<T>(parent, name + "(" + std::to_string(i) + ")", args...);
+  void MakeOne(int i, const std::string& name, platform::Control& parent, const Args&... args) {
+    items_.at(i - first) =
+        std::make_unique<T>(parent, name + "(" + std::to_string(i) + ")", args...);
   }
 
  private:

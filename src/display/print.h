@@ -1,7 +1,8 @@
-// The line printer: puts a string at the cursor and breaks it only where the right margin forces it.
+// The line printer: puts a string at the cursor and breaks it only where the right margin forces
+// it.
 //
-// isPrint knows no codes but Chr(13), which breaks the line.  A routine whose name ends in "s" leaves the
-// cursor behind the text; the same name without it starts a new line.
+// isPrint knows no codes but Chr(13), which breaks the line.  A routine whose name ends in "s"
+// leaves the cursor behind the text; the same name without it starts a new line.
 #pragma once
 
 #include <string>
@@ -29,17 +30,5 @@ void wbisPrintLines();
 // The engine behind them, for any panel: rightColumn is the last one that a text may fill.
 void PrintOn(TextPanel& panel, const std::string& s, double rightColumn);
 void NewLineOn(TextPanel& panel);
-
-// Sets gNoNewline for its lifetime, and puts the old value back.
-class KeepOnLine {
- public:
-  KeepOnLine();
-  ~KeepOnLine();
-  KeepOnLine(const KeepOnLine&) = delete;
-  KeepOnLine& operator=(const KeepOnLine&) = delete;
-
- private:
-  int kept_;
-};
 
 }  // namespace course

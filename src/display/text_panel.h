@@ -1,8 +1,9 @@
-// A surface on which text is printed into cells: the lesson panel, the wiper boxes, the comment boxes
-// and the answer boxes are one thing with different cells, origins and rules.
+// A surface on which text is printed into cells: the lesson panel, the wiper boxes, the comment
+// boxes and the answer boxes are one thing with different cells, origins and rules.
 //
-// Rows and columns count from 1 and may be fractional; on the lesson panel row 2 is the first one that
-// lies on the surface.  Every panel keeps a transcript, the printed fragments since the last clear.
+// Rows and columns count from 1 and may be fractional; on the lesson panel row 2 is the first one
+// that lies on the surface.  Every panel keeps a transcript, the printed fragments since the last
+// clear.
 #pragma once
 
 #include <string>
@@ -52,6 +53,7 @@ class TextPanel {
   bool erases = false;               // the panel is one that erases at all
   int dontEraseBackground = 0;       // flag
   int scriptLevel = 0;               // 1 while an exponent is printed, -1 for a subscript
+  float scriptBaseRow = 1;           // the row that an exponent or subscript belongs to
 
   // Moves the cursor; row and column are not checked, but a pixel beyond 16 bits ends the program.
   void Locate(double row, double col);
@@ -72,6 +74,8 @@ class TextPanel {
   void TextOut(const std::string& s);
   // Clears the surface and the transcript; the cursor stays.
   void Cls();
+  // Adds a text at the cursor to the transcript: for texts that reach the surface in another way.
+  void Record(const std::string& s);
 
   const std::vector<Fragment>& Transcript() const { return transcript_; }
   void ClearTranscript() { transcript_.clear(); }
@@ -80,8 +84,9 @@ class TextPanel {
   std::vector<Fragment> transcript_;
 };
 
-// The transcript as lines of text, one a row, in single bytes: exponents as "^2^", subscripts between
-// code 250, blanks where nothing stands.
+// The transcript as lines of text from top to bottom, empty ones left out, in single bytes:
+// exponents as
+// "^2^", subscripts between code 250.  A later text stands in place of an earlier one in its cells.
 std::vector<std::string> TranscriptLines(const TextPanel& panel);
 
 }  // namespace course

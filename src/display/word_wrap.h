@@ -1,15 +1,14 @@
 // Word wrap: lays a paragraph out between the cursor and a right column.
 //
-// A paragraph may hold colour codes (\b blue, \c cyan, \g green, \k black, \m magenta, \r red, \w white,
-// \y yellow, \z back to the current colour), Chr(13) for a line break, exponents between "^", subscripts
-// between "`", "~" for a double quote, and macros such as \ST\.  At most 20 coloured segments.
+// A paragraph may hold colour codes (\b blue, \c cyan, \g green, \k black, \m magenta, \r red, \w
+// white, \y yellow, \z back to the current colour), Chr(13) for a line break, exponents between
+// "^", subscripts between "`", "~" for a double quote, and macros such as \ST\.  At most 20
+// coloured segments.
 #pragma once
 
 #include <string>
 
 namespace course {
-
-class TextPanel;
 
 void WordWrap(const std::string& s);   // ends with a new line
 void WordWraps(const std::string& s);  // the cursor stays behind the text
@@ -18,7 +17,8 @@ void WordWrapIndent(const std::string& s, double indentCol);
 void WordWrapNarrow(const std::string& s, double wid);
 void WordWrapIndentNarrow(const std::string& s, double indentCol, double wid);
 void WordWrap38(const std::string& s);  // the usual width of explanations
-// Rows that s would take; nothing is drawn, unless the background is not erased, and the cursor stays.
+// Rows that s would take; nothing is drawn, unless the background is not erased, and the cursor
+// stays.
 double WordWrapRows(const std::string& s);
 double WordWrap38Rows(const std::string& s);
 
@@ -28,28 +28,16 @@ void wbWordWraps(const std::string& s);
 void wbWordWrapIndent(const std::string& s, double indentCol);
 void wbWordWrapNarrow(const std::string& s, double wid);
 
-// How one panel wraps.
-struct WrapTarget {
-  TextPanel& panel;
-  double width;         // last column when no narrow width is in force
-  int exponentSize;     // points
-  int lineGap;          // pixels
-  bool smallestIsFatal; // a width below 10 ends the program
-};
-void WrapOn(const WrapTarget& target, const std::string& s);
-
-// Where to break s when it is printed from column col with last column wid, and the text that follows in
-// the next colour starts with the given look-ahead: -1 everything fits, -3 all but a trailing blank fits,
-// -2 nothing fits, otherwise the number of characters of s before the blank at which to break.
+// Where to break s when it is printed from column col with last column wid, and the text that
+// follows in the next colour starts with the given look-ahead: -1 everything fits, -3 all but a
+// trailing blank fits, -2 nothing fits, otherwise the number of characters of s before the blank at
+// which to break.
 int WordWrapFindBreak(int col, int wid, const std::string& s, const std::string& lookahead);
 
-// Macros, "~", "`" and \NNN\ codes replaced.
-std::string ExpandMacros(const std::string& s);
-
-// The wrap in a proportional face, for the authors' documentation lesson.  Pixels; an empty face is "Times
-// New Roman".
-void NonTutorWordWrapSetup(const std::string& fontName, bool bold, double size, int leftX, int rightX,
-                           int extraGap);
+// The wrap in a proportional face, for the authors' documentation lesson.  Pixels; an empty face is
+// "Times New Roman".
+void NonTutorWordWrapSetup(const std::string& fontName, bool bold, double size, int leftX,
+                           int rightX, int extraGap);
 void NonTutorWordWrap(const std::string& s);
 void NonTutorWordWraps(const std::string& s);
 
@@ -59,8 +47,6 @@ struct WrapState {
   float gIndentCol = 1;
   int gNarrowOn = 0;
   float gNarrowCol = 40;
-  int gWrapInner = 0;
-  std::string gWrapLookahead;
 };
 extern WrapState wrapState;
 
