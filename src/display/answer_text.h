@@ -1,4 +1,5 @@
-// Text inside the answer boxes.  A box, 1 to 5, has a cursor of its own and no margins; row 1 is the first.
+// Text inside the answer boxes.  A box, 1 to 5, has a cursor of its own and no margins; row 1 is
+// the first.
 #pragma once
 
 #include <string>
@@ -21,11 +22,11 @@ void picAnswerisPrints(int box, const std::string& s);
 // Knows only "^"; the cursor stays behind the text.
 void picAnswerPrintExponentExpression(int box, const std::string& s, int size = 14);
 
-void picAnswerPrintFraction(int box, const std::string& num, const std::string& den, int minWidth = 0,
-                            double barShift = 0, double tighten = 0);
+void picAnswerPrintFraction(int box, const std::string& num, const std::string& den,
+                            int minWidth = 0, double barShift = 0, double tighten = 0);
 // "a/b", cut at the first "/"; an empty side ends the program.
-void picAnswerPrintFractionText(int box, const std::string& text, int minWidth = 0, double barShift = 0,
-                                double tighten = 0);
+void picAnswerPrintFractionText(int box, const std::string& text, int minWidth = 0,
+                                double barShift = 0, double tighten = 0);
 // A whole number, a fraction, or a mixed number with gap columns before its fraction.
 void picAnswerPrintFractionValue(int box, int num, int den, double gap = 0, int minWidth = 0);
 void picAnswerPrintRadicalText(int box, const std::string& s, double widen = 0);

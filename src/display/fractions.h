@@ -1,11 +1,13 @@
-// Built-up fractions over three rows.  The cursor's row is the middle one; it ends there, behind the bar.
+// Built-up fractions over three rows.  The cursor's row is the middle one; it ends there, behind
+// the bar.
 #pragma once
 
 #include <string>
 
 namespace course {
 
-// Cells: minWidth is the least width; barShift moves the bar down by rows; tighten moves the parts towards it.
+// Cells: minWidth is the least width; barShift moves the bar down by rows; tighten moves the parts
+// towards it.
 void isPrintFraction(const std::string& num, const std::string& den, int minWidth = 0,
                      double barShift = 0, double tighten = 0);
 // With marked exponents in the parts, and no clearing of the rows.
