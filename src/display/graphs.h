@@ -1,5 +1,5 @@
-// Figures: number lines and coordinate planes in white boxes over the lesson screen, and an older family
-// that draws on the lesson panel itself.
+// Figures: number lines and coordinate planes in white boxes over the lesson screen, and an older
+// family that draws on the lesson panel itself.
 #pragma once
 
 #include <string>
@@ -15,7 +15,8 @@ void picGraph2DPrepare(int index, double row, double col, double wd, double ht);
 void picGraph2DShowPlane(int index, const std::string& numbers, bool thin = false);
 // style "arrows" or "noarrows", in any case; u is the value of a labelled tick's step.
 void picGraph2DShowNumberLine(int index, const std::string& style, double u);
-void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour, double radius = 0.2);
+void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,
+                         double radius = 0.2);
 // y = m * x + b, clipped by the box; width in pixels.
 void picGraph2DLine(int index, double m, double b, platform::Colour colour, int width = 1);
 // A label at an angle in degrees; size in points; an empty font is "Arial".

@@ -1,0 +1,142 @@
+#include "display/graphs.h"
+
+#include <cmath>
+
+#include "display/drawing.h"
+#include "display/drawing_cells.h"
+#include "display/lesson_window.h"
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
+#include "platform/stop.h"
+
+namespace course {
+namespace {
+
+constexpr double kLabelSize = 8;  // points
+
+platform::PictureBox& Figure(const char* routine, int index) {
+  auto& figures = frmPR->picGraph2D;
+  if (index < figures.First() || index > figures.Last())
+    platform::Stop(std::string(routine) + ": index = " + std::to_string(index));
+  return figures[index];
+}
+
+void PrintAt(platform::Surface& figure, double x, double y, const std::string& text) {
+  figure.CurrentX = x;
+  figure.CurrentY = y;
+  figure.Print(text);
+}
+
+void LabelAxes(platform::Surface& figure) {
+  for (int n = 1; n <= 5; ++n) {
+    const std::string positive = std::to_string(n);
+    const std::string negative = std::to_string(-n);
+    PrintAt(figure, -0.6, n + 0.5, positive);
+    PrintAt(figure, -0.8, -n + 0.5, negative);
+    PrintAt(figure, n - 0.2, -0.2, positive);
+    PrintAt(figure, -n - 0.4, -0.2, negative);
+  }
+}
+
+}  // namespace
+
+void picGraph2DPrepare(int index, double row, double col, double wd, double ht) {
+  platform::PictureBox& figure = Figure("picGraph2DPrepare", index);
+  const platform::PictureBox& panel = frmPR->pnlLesson;
+  figure.SetVisible(false);
+  figure.Move(
+      RoundedPixel(panel.Left() + (col + 1) * gCellWidth * platform::TwipsPerPixelX),
+      RoundedPixel(panel.Top() + (gTopMargin + gCellHeight * (row - 2)) * platform::TwipsPerPixelY),
+      RoundedPixel(gCellWidth * wd * platform::TwipsPerPixelX),
+      RoundedPixel(gCellHeight * ht * platform::TwipsPerPixelY));
+  figure.BackColor = platform::colour::White;
+  figure.Cls();
+  figure.Refresh();
+}
+
+void picGraph2DShowPlane(int index, const std::string& numbers, bool thin) {
+  platform::PictureBox& figure = Figure("picGraph2DShowPlane", index);
+  figure.FontSize = kLabelSize;
+  figure.SetVisible(true);
+  figure.Scale(-6.5, 6.5, 6.5, -6.5);
+  for (int t = -5; t <= 5; ++t) {
+    figure.Line(t, 5.5, t, -5.5, platform::colour::Cyan);
+    figure.Line(5.5, t, -5.5, t, platform::colour::Cyan);
+  }
+  if (thin) {
+    figure.Line(0, 5.5, 0, -5.5);
+    figure.Line(-5.5, 0, 5.5, 0);
+  } else {
+    figure.FilledBox(-0.05, 5.5, 0.05, -5.5);
+    figure.FilledBox(-5.5, -0.05, 5.5, 0.05);
+  }
+  if (UpperCase(numbers) == "SHOWNUMBERS") LabelAxes(figure);
+  figure.Refresh();
+}
+
+void picGraph2DShowNumberLine(int index, const std::string& style, double u) {
+  platform::PictureBox& figure = Figure("picGraph2DShowNumberLine", index);
+  const std::string wanted = UpperCase(style);
+  const bool arrows = wanted == "ARROWS";
+  if (!arrows && wanted != "NOARROWS")
+    platform::Stop("picGraph2DShowNumberLine: style = \"" + style + "\"");
+  figure.FontSize = kLabelSize;
+  figure.SetVisible(true);
+  figure.Scale(-4 * u, 3, 4 * u, -3);
+  const double end = arrows ? 3.9 * u : 3.75 * u;
+  figure.Line(-end, 0, end, 0);
+  // Counted in whole numbers, so that no tick is lost to rounding.
+  for (int half = -7; half <= 7; ++half) {
+    const double t = half * 0.5 * u;
+    figure.Line(t, 0.5, t, -0.5);
+  }
+  for (int n = -3; n <= 3; ++n)
+    PrintAt(figure, u * (n < 0 ? n - 0.2 : n - 0.05), -0.7, NumStr(n * u));
+  if (arrows) {
+    figure.FontSize = 14;
+    PrintAt(figure, 3.8 * u, 0.98, ">");
+    PrintAt(figure, -3.95 * u, 0.98, "<");
+  }
+  figure.FontSize = 12;  // of a script's own labels
+  figure.Refresh();
+}
+
+void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour, double radius) {
+  platform::PictureBox& figure = Figure("picGraph2DPlotPoint", index);
+  const platform::Colour keptColour = figure.FillColor;
+  const platform::FillStyles keptStyle = figure.FillStyle;
+  figure.FillColor = colour;
+  figure.FillStyle = platform::FillStyles::Solid;
+  figure.Circle(x, y, radius);
+  figure.FillColor = keptColour;
+  figure.FillStyle = keptStyle;
+  figure.Refresh();
+}
+
+void picGraph2DLine(int index, double m, double b, platform::Colour colour, int width) {
+  platform::PictureBox& figure = Figure("picGraph2DLine", index);
+  figure.DrawWidth = width;
+  figure.Line(-100, b - 100 * m, 100, b + 100 * m, colour);
+  figure.DrawWidth = 1;
+  figure.Refresh();
+}
+
+void picGraph2DPrintRotated(int index, double angle, double x, double y, const std::string& text,
+                            platform::Colour colour, double size, const std::string& font) {
+  platform::PictureBox& figure = Figure("picGraph2DPrintRotated", index);
+  figure.PrintRotated(text, x, y, angle, colour, font.empty() ? "Arial" : font, size, true);
+  figure.Refresh();
+}
+
+double Atn2Degrees(double slope) {
+  // Scripts were laid out with this value of two pi.
+  return std::atan(slope) * 360 / 6.2832;
+}
+
+void PaintGraph(int indx, int x, int y, platform::Colour color, platform::Colour boundary) {
+  platform::PictureBox& figure = Figure("PaintGraph", indx);
+  figure.FloodFill(x, y, color, boundary);
+  figure.Refresh();
+}
+
+}  // namespace course
