@@ -13,6 +13,7 @@ namespace course {
 namespace {
 
 constexpr int kSignificantDigits = 15;
+constexpr double kFirstOfSixteenDigits = 1e15;
 // Outside of these powers of ten a number is written with an exponent: nobody counts the zeros.
 constexpr int kLowestPower = -15;
 constexpr int kHighestPower = 20;
@@ -42,6 +43,10 @@ Decimal DecimalOf(double positive) {
 }
 
 std::string PositiveText(double positive) {
+  // Nearly every number of the course is whole, and a problem has many of them: the short way.
+  if (positive < kFirstOfSixteenDigits && positive == std::floor(positive)) {
+    return std::to_string(static_cast<long long>(positive));
+  }
   auto [digits, power] = DecimalOf(positive);
   if (power < kLowestPower || power > kHighestPower) {
     if (digits.size() > 1) digits.insert(1, ".");
