@@ -1,9 +1,10 @@
 // A persistent pixel image that can be drawn on, in the words of the course.
 //
-// Two coordinate systems meet here.  Line, Box, Circle, PSet and Print take user coordinates, which are
-// pixels until Scale says otherwise.  TextOut, BitBlt, FillRect, FloodFill, RoundRect and Polygon take
-// pixels always.  Pixel (0, 0) is the upper left one.  What lies outside the surface is clipped.
-// Lines are never antialiased.  Text is single-byte (Latin-1) and its background transparent.
+// Two coordinate systems meet here.  Line, Box, Circle, PSet and Print take user coordinates, which
+// are pixels until Scale says otherwise.  TextOut, BitBlt, FillRect, FloodFill, RoundRect and
+// Polygon take pixels always.  Pixel (0, 0) is the upper left one.  What lies outside the surface
+// is clipped. Lines are never antialiased.  Text is single-byte (Latin-1) and its background
+// transparent.
 #pragma once
 
 #include <memory>
@@ -34,8 +35,9 @@ class Surface {
   FillStyles FillStyle = FillStyles::Transparent;
   DrawModes DrawMode = DrawModes::CopyPen;
   int DrawWidth = 1;  // pixels, thickness of Line, Circle and PSet; wider ones have round ends
-  std::string FontName = "MS Sans Serif";  // "Courier New", "Symbol", "Times New Roman", "Arial" ...
-  double FontSize = 8;                     // points; 1 point is 4/3 pixel
+  std::string FontName =
+      "MS Sans Serif";  // "Courier New", "Symbol", "Times New Roman", "Arial" ...
+  double FontSize = 8;  // points; 1 point is 4/3 pixel
   bool FontBold = false;
   bool FontItalic = false;
   bool FontUnderline = false;
@@ -65,41 +67,42 @@ class Surface {
   void Box(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
   void FilledBox(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
   void PSet(double x, double y, std::optional<Colour> colour = {});
-  // Radius in X units.  Start and end in degrees, counter-clockwise from the right; aspect is height by
-  // width.  A whole circle is filled with FillColor when FillStyle is solid.
-  void Circle(double x, double y, double radius, std::optional<Colour> colour = {}, double start = 0,
-              double end = 360, double aspect = 1);
+  // Radius in X units.  Start and end in degrees, counter-clockwise from the right; aspect is
+  // height by width.  A whole circle is filled with FillColor when FillStyle is solid.
+  void Circle(double x, double y, double radius, std::optional<Colour> colour = {},
+              double start = 0, double end = 360, double aspect = 1);
 
-  // One string in the surface's font and ForeColor, its top left at CurrentX, CurrentY; CurrentX moves
-  // behind it.  In "Symbol" the codes 112, 165 and 174 are pi, infinity and the right arrow.
+  // One string in the surface's font and ForeColor, its top left at CurrentX, CurrentY; CurrentX
+  // moves behind it.  In "Symbol" the codes 112, 165 and 174 are pi, infinity and the right arrow.
   void Print(std::string_view text);
-  // The same at an angle in degrees, counter-clockwise around (x, y), in a face and size of its own.
+  // The same at an angle in degrees, counter-clockwise around (x, y), in a face and size of its
+  // own.
   void PrintRotated(std::string_view text, double x, double y, double degrees, Colour colour,
                     const std::string& face, double points, bool bold);
   // In user units.
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
 
-  // Characters at exactly (x + i * cellWidth, y), each inside its own cell, top-aligned: the baseline
-  // of "Courier New" lies 23 pixels below y at size 20 and about 1.11 pixels a point at smaller sizes.
-  // At size 20 the ink of every printable character lies within rows y + 4 to y + 28.  With cellWidth 0
-  // the string is drawn whole, at the face's own widths.
+  // Characters at exactly (x + i * cellWidth, y), each inside its own cell, top-aligned: the
+  // baseline of "Courier New" lies 23 pixels below y at size 20 and about 1.11 pixels a point at
+  // smaller sizes. At size 20 the ink of every printable character lies within rows y + 4 to y
+  // + 28.  With cellWidth 0 the string is drawn whole, at the face's own widths.
   void TextOut(int x, int y, std::string_view text, int cellWidth = 16);
 
-  // Copies a rectangle of source, which may be this very surface (overlapping is right, too), to (x, y).
-  // Source pixels outside the source are not copied; the destination keeps its own there.
+  // Copies a rectangle of source, which may be this very surface (overlapping is right, too), to
+  // (x, y). Source pixels outside the source are not copied; the destination keeps its own there.
   void BitBlt(int x, int y, int width, int height, const Surface& source, int sourceX, int sourceY);
   void FillRect(const PixelRect& rect, Colour colour);
   // Fills outward from the pixel until it meets the boundary colour or the edge.
   void FloodFill(int x, int y, Colour fill, Colour boundary);
   // Corners are quarter ellipses of the given width and height.  With a fill colour it is filled.
-  void RoundRect(const PixelRect& rect, int cornerWidth, int cornerHeight, Colour line, int lineWidth,
-                 std::optional<Colour> fill = {});
+  void RoundRect(const PixelRect& rect, int cornerWidth, int cornerHeight, Colour line,
+                 int lineWidth, std::optional<Colour> fill = {});
   // Closed; outline and inside in the one colour.
   void Polygon(std::span<const PixelPoint> points, Colour colour);
 
-  // A picture of the artwork by name, such as "letter_a", at its own size or fitted into a rectangle.
-  // A name that does not exist is an author's error and stops the program.
+  // A picture of the artwork by name, such as "letter_a", at its own size or fitted into a
+  // rectangle. A name that does not exist is an author's error and stops the program.
   void DrawPicture(const std::string& name, int x, int y);
   void DrawPicture(const std::string& name, const PixelRect& rect);
   // Copies a part of a picture, unscaled.

@@ -1,0 +1,91 @@
+#include "platform/surface.h"
+
+#include <QString>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/surface_impl.h"
+
+namespace platform {
+
+int NearestPixel(double value) {
+  constexpr double kFarthest = 1 << 24;
+  return static_cast<int>(std::nearbyint(std::clamp(value, -kFarthest, kFarthest)));
+}
+
+void Surface::Impl::Span(int y, int left, int right, QRgb rgb, DrawModes mode) {
+  if (y < 0 || y >= image.height()) return;
+  left = std::max(left, 0);
+  right = std::min(right, image.width() - 1);
+  if (left > right) return;
+  QRgb* row = Row(y);
+  if (mode == DrawModes::CopyPen) {
+    std::fill(row + left, row + right + 1, rgb);
+    return;
+  }
+  for (int x = left; x <= right; ++x) row[x] ^= rgb & 0xFFFFFF;
+}
+
+Surface::Surface(int width, int height) : impl_(std::make_unique<Impl>()) {
+  Resize(width, height);
+}
+
+Surface::~Surface() = default;
+
+int Surface::PixelWidth() const {
+  return impl_->image.width();
+}
+
+int Surface::PixelHeight() const {
+  return impl_->image.height();
+}
+
+void Surface::Resize(int width, int height) {
+  impl_->image = QImage(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
+  impl_->dirty = QRect();
+  Cls();
+}
+
+void Surface::Cls() {
+  impl_->image.fill(ToRgb(BackColor));
+  impl_->dirty = impl_->image.rect();
+  CurrentX = 0;
+  CurrentY = 0;
+}
+
+void Surface::Refresh() {
+  const QRect shown = impl_->dirty;
+  if (shown.isEmpty()) return;
+  impl_->dirty = QRect();
+  ShowRect({shown.x(), shown.y(), shown.width(), shown.height()});
+}
+
+void Surface::ShowRect(const PixelRect&) {}
+
+void Surface::Scale(double x1, double y1, double x2, double y2) {
+  impl_->scaled = true;
+  impl_->scale = QRectF(x1, y1, x2 - x1, y2 - y1);
+}
+
+void Surface::ScalePixels() {
+  impl_->scaled = false;
+}
+
+double Surface::ScaleWidth() const {
+  return impl_->scaled ? impl_->scale.width() : impl_->image.width();
+}
+
+double Surface::ScaleHeight() const {
+  return impl_->scaled ? impl_->scale.height() : impl_->image.height();
+}
+
+Colour Surface::Pixel(int x, int y) const {
+  if (!impl_->image.rect().contains(x, y)) return colour::Black;
+  return ToColour(impl_->Row(y)[x]);
+}
+
+bool Surface::SavePng(const std::string& path) const {
+  return impl_->image.save(QString::fromStdString(path), "PNG");
+}
+
+}  // namespace platform
