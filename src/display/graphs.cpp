@@ -38,6 +38,14 @@ void LabelAxes(platform::Surface& figure) {
   }
 }
 
+void PrintLineHeads(platform::Surface& figure, double u) {
+  // Printed at 0.98 the points would stand two pixels above the line that they end.
+  const double top = 0.98 + 2 * figure.ScaleHeight() / figure.PixelHeight();
+  figure.FontSize = 14;
+  PrintAt(figure, 3.8 * u, top, ">");
+  PrintAt(figure, -3.95 * u, top, "<");
+}
+
 }  // namespace
 
 void picGraph2DPrepare(int index, double row, double col, double wd, double ht) {
@@ -92,11 +100,7 @@ void picGraph2DShowNumberLine(int index, const std::string& style, double u) {
   }
   for (int n = -3; n <= 3; ++n)
     PrintAt(figure, u * (n < 0 ? n - 0.2 : n - 0.05), -0.7, NumStr(n * u));
-  if (arrows) {
-    figure.FontSize = 14;
-    PrintAt(figure, 3.8 * u, 0.98, ">");
-    PrintAt(figure, -3.95 * u, 0.98, "<");
-  }
+  if (arrows) PrintLineHeads(figure, u);
   figure.FontSize = 12;  // of a script's own labels
   figure.Refresh();
 }
@@ -107,7 +111,9 @@ void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,
   const platform::FillStyles keptStyle = figure.FillStyle;
   figure.FillColor = colour;
   figure.FillStyle = platform::FillStyles::Solid;
-  figure.Circle(x, y, radius);
+  // A whole number of pixels makes the rounder point.
+  const double unitsPerPixel = figure.ScaleWidth() / figure.PixelWidth();
+  figure.Circle(x, y, RoundedPixel(radius / unitsPerPixel) * unitsPerPixel);
   figure.FillColor = keptColour;
   figure.FillStyle = keptStyle;
   figure.Refresh();
