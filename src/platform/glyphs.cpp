@@ -16,7 +16,7 @@
 namespace platform {
 namespace {
 
-constexpr int kLargestExtent = 255;  // pixels; what an InkSpan can tell
+constexpr int kLargestExtent = 255;  // pixels; what an InkPixel can tell
 
 // How far right of the cell's left edge the outline begins: its advance is centred, then it is
 // moved inside the cell, so that erasing a cell takes its character away and no other's.
@@ -28,17 +28,24 @@ double Indent(const QPainterPath& outline, double advance, int cellWidth) {
   return std::min(indent, cellWidth - ink.right());
 }
 
-Glyph Spans(const QImage& coverage) {
+// How many pixels lower than its baseline asks a character stands, less than one: at the size of
+// the lesson pages the tallest just reach out of the band that is erased behind a text.
+double Drop(const QPainterPath& outline, int baseline, double points) {
+  constexpr double kBandTop = 4;  // rows below the top of a text
+  const double above = kBandTop - (baseline + outline.boundingRect().top());
+  return points == 20 && above > 0 && above < 1 ? above : 0;
+}
+
+Glyph InkOf(const QImage& image) {
   Glyph glyph;
-  for (int y = 0; y < coverage.height(); ++y) {
-    const auto* row = reinterpret_cast<const QRgb*>(coverage.constScanLine(y));
-    for (int x = 0; x < coverage.width();) {
-      const int first = x;
-      const int level = qAlpha(row[first]);
-      while (x < coverage.width() && qAlpha(row[x]) == level) ++x;
-      if (level == 0) continue;
-      glyph.push_back({static_cast<std::uint8_t>(first), static_cast<std::uint8_t>(y),
-                       static_cast<std::uint8_t>(x - first), static_cast<std::uint8_t>(level)});
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = 0; x < image.width(); ++x) {
+      const int coverage = qAlpha(row[x]);
+      if (coverage == 0) continue;
+      (coverage == 255 ? glyph.inside : glyph.rim)
+          .push_back({static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y),
+                      static_cast<std::uint8_t>(coverage)});
     }
   }
   return glyph;
@@ -49,6 +56,7 @@ Glyph Spans(const QImage& coverage) {
 struct GlyphSet::Impl {
   QRawFont font;
   std::string face;
+  double points = 0;
   int baseline = 0;
   int height = 0;
   int cellWidth = 0;
@@ -64,14 +72,15 @@ Glyph GlyphSet::Impl::Make(unsigned char code) const {
   const QPainterPath outline = font.pathForGlyph(indexes[0]);
   if (outline.isEmpty()) return {};
   const double advance = font.advancesForGlyphIndexes(indexes).at(0).x();
-  QImage coverage(cellWidth, height, QImage::Format_ARGB32_Premultiplied);
-  coverage.fill(Qt::transparent);
-  QPainter painter(&coverage);
+  QImage image(cellWidth, height, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(Indent(outline, advance, cellWidth), baseline);
+  painter.translate(Indent(outline, advance, cellWidth),
+                    baseline + Drop(outline, baseline, points));
   painter.fillPath(outline, Qt::white);
   painter.end();
-  return Spans(coverage);
+  return InkOf(image);
 }
 
 GlyphSet::GlyphSet(const std::string& face, double points, bool bold, bool italic, int cellWidth)
@@ -80,6 +89,7 @@ GlyphSet::GlyphSet(const std::string& face, double points, bool bold, bool itali
   impl_->font = QRawFont::fromFont(typeface.font);
   impl_->font.setPixelSize(typeface.pixelSize);
   impl_->face = face;
+  impl_->points = points;
   impl_->baseline = typeface.ascent;
   impl_->cellWidth = std::min(cellWidth, kLargestExtent);
   const int below = static_cast<int>(std::ceil(impl_->font.descent())) + 1;

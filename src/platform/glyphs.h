@@ -9,15 +9,17 @@
 
 namespace platform {
 
-// Neighbouring pixels of one row that the ink covers equally.
-struct InkSpan {
-  std::uint8_t x = 0;  // pixels from the left edge of the cell
-  std::uint8_t y = 0;  // rows from the top of the text
-  std::uint8_t length = 0;
+// A pixel that a character's ink covers, in full or in part.
+struct InkPixel {
+  std::uint8_t x = 0;         // pixels from the left edge of the cell
+  std::uint8_t y = 0;         // rows from the top of the text
   std::uint8_t coverage = 0;  // 1 to 255
 };
 
-using Glyph = std::vector<InkSpan>;
+struct Glyph {
+  std::vector<InkPixel> inside;  // covered in full
+  std::vector<InkPixel> rim;     // covered in part
+};
 
 class GlyphSet {
  public:

@@ -1,7 +1,9 @@
 // Text on a surface: characters in cells, whole strings, and strings at an angle.
 #include <QPainter>
 #include <QPainterPath>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 #include "platform/fonts_impl.h"
 #include "platform/glyphs.h"
@@ -19,32 +21,63 @@ QRgb Blend(QRgb below, QRgb colour, unsigned weight) {
   return 0xFF000000 | (redBlue & 0xFF00FF) | (green & 0x00FF00);
 }
 
-void BlendSpan(QRgb* pixels, int count, QRgb colour, unsigned coverage) {
-  if (coverage == 255) {
-    std::fill(pixels, pixels + count, colour);
-    return;
+// What a colour gives over one ground at every coverage.  Text mostly stands on a single colour,
+// and looking a blend up is several times as quick as working it out.
+class BlendTable {
+ public:
+  void Set(QRgb ground, QRgb colour) {
+    if (ground == ground_ && colour == colour_ && filled_) return;
+    ground_ = ground;
+    colour_ = colour;
+    filled_ = true;
+    for (unsigned i = 0; i < blends_.size(); ++i) blends_[i] = Blend(ground, colour, Weight(i));
   }
-  const unsigned weight = coverage + (coverage >> 7);
-  for (int i = 0; i < count; ++i) pixels[i] = Blend(pixels[i], colour, weight);
-}
+  QRgb Over(QRgb below, std::uint8_t coverage) const {
+    return below == ground_ ? blends_[coverage] : Blend(below, colour_, Weight(coverage));
+  }
+  QRgb FullColour() const { return colour_; }
+
+ private:
+  static unsigned Weight(unsigned coverage) { return coverage + (coverage >> 7); }
+
+  bool filled_ = false;
+  QRgb ground_ = 0;
+  QRgb colour_ = 0;
+  std::array<QRgb, 256> blends_{};
+};
+
+// The pixels of an image, which must not be shared or resized meanwhile.
+struct Pixels {
+  QRgb* first;
+  qsizetype stride;
+  QRect bounds;
+
+  explicit Pixels(QImage& image)
+      : first(reinterpret_cast<QRgb*>(image.bits())),
+        stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))),
+        bounds(image.rect()) {}
+};
 
 // A glyph whose cell lies whole on the image.
-void DrawGlyph(QImage& image, const Glyph& glyph, int x, int y, QRgb colour) {
-  const qsizetype stride = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
-  QRgb* corner = reinterpret_cast<QRgb*>(image.bits()) + y * stride + x;
-  for (const InkSpan& span : glyph)
-    BlendSpan(corner + span.y * stride + span.x, span.length, colour, span.coverage);
+void DrawGlyph(const Pixels& pixels, const Glyph& glyph, int x, int y, const BlendTable& blends) {
+  QRgb* corner = pixels.first + y * pixels.stride + x;
+  const QRgb colour = blends.FullColour();
+  for (const InkPixel& ink : glyph.inside) corner[ink.y * pixels.stride + ink.x] = colour;
+  for (const InkPixel& ink : glyph.rim) {
+    QRgb& pixel = corner[ink.y * pixels.stride + ink.x];
+    pixel = blends.Over(pixel, ink.coverage);
+  }
 }
 
-void DrawGlyphClipped(QImage& image, const Glyph& glyph, int x, int y, QRgb colour) {
-  for (const InkSpan& span : glyph) {
-    const int row = y + span.y;
-    const int left = std::max(x + span.x, 0);
-    const int right = std::min(x + span.x + span.length, image.width());
-    if (row < 0 || row >= image.height() || left >= right) continue;
-    BlendSpan(reinterpret_cast<QRgb*>(image.scanLine(row)) + left, right - left, colour,
-              span.coverage);
-  }
+void DrawGlyphClipped(const Pixels& pixels, const Glyph& glyph, int x, int y,
+                      const BlendTable& blends) {
+  const auto draw = [&](const InkPixel& ink) {
+    if (!pixels.bounds.contains(x + ink.x, y + ink.y)) return;
+    QRgb& pixel = pixels.first[(y + ink.y) * pixels.stride + x + ink.x];
+    pixel = blends.Over(pixel, ink.coverage);
+  };
+  for (const InkPixel& ink : glyph.inside) draw(ink);
+  for (const InkPixel& ink : glyph.rim) draw(ink);
 }
 
 QFont Decorated(const QFont& font, bool underline, bool strikethru) {
@@ -83,16 +116,20 @@ void Surface::TextOut(int x, int y, std::string_view text, int cellWidth) {
     return;
   }
   GlyphSet& glyphs = FindGlyphs(FontName, FontSize, FontBold, FontItalic, cellWidth);
-  const QRgb rgb = ToRgb(ForeColor);
   const QRect band(x, y, cellWidth * static_cast<int>(text.size()), glyphs.Height());
-  const bool whole = impl_->image.rect().contains(band);
+  if (!impl_->image.rect().intersects(band)) return;
+  static BlendTable blends;
+  const Pixels pixels(impl_->image);
+  const QRect shown = band & pixels.bounds;
+  blends.Set(pixels.first[shown.top() * pixels.stride + shown.left()], ToRgb(ForeColor));
   int left = x;
   for (const char letter : text) {
     const Glyph& glyph = glyphs[static_cast<unsigned char>(letter)];
-    if (whole)
-      DrawGlyph(impl_->image, glyph, left, y, rgb);
+    const QRect cell(left, y, cellWidth, glyphs.Height());
+    if (pixels.bounds.contains(cell))
+      DrawGlyph(pixels, glyph, left, y, blends);
     else
-      DrawGlyphClipped(impl_->image, glyph, left, y, rgb);
+      DrawGlyphClipped(pixels, glyph, left, y, blends);
     left += cellWidth;
   }
   impl_->Touch(band);
