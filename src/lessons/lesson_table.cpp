@@ -1,0 +1,36 @@
+#include "lessons/lesson_table.h"
+
+#include <algorithm>
+#include <array>
+
+#include "lessons/lessons.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course {
+namespace {
+
+struct LessonRow {
+  std::string_view title;  // as the catalogue lists it
+  std::unique_ptr<LessonScript> (*make)();
+};
+
+// In the order of the course; those that only the diagnostic test reaches come last.
+constexpr std::array<LessonRow, 0> kLessons{};
+
+}  // namespace
+
+std::unique_ptr<LessonScript> MakeLesson(const std::string& title) {
+  const std::string key = UpperCase(title);
+  const auto row = std::ranges::find_if(kLessons, [&](const LessonRow& lesson) {
+    return UpperCase(std::string(lesson.title)) == key;
+  });
+  return row == kLessons.end() ? nullptr : row->make();
+}
+
+std::vector<std::string_view> LessonTitles() {
+  std::vector<std::string_view> titles;
+  for (const LessonRow& lesson : kLessons) titles.push_back(lesson.title);
+  return titles;
+}
+
+}  // namespace course

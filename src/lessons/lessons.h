@@ -1,0 +1,14 @@
+// The makers of all lessons, one a script, in the order of the course.  lesson_table.cpp binds them
+// to their titles.
+#pragma once
+
+#include <memory>
+
+#include "engine/lesson_script.h"
+
+namespace course {
+
+// Unit 10, "Inequalities".
+std::unique_ptr<LessonScript> MakeSimpleInequalities();
+
+}  // namespace course
