@@ -155,10 +155,13 @@ void RunsOf(const Ellipse& bounds, RasterSize size, const RunSink& sink, const T
   }
 }
 
-// A radius reaches to the middle of its outermost pixel.
+// A radius reaches a little beyond the middle of its outermost pixel: by half a pixel a small
+// circle would look square.
 Ellipse Outermost(PixelPoint centre, double radiusX, double radiusY) {
-  return {
-      {static_cast<double>(centre.x), static_cast<double>(centre.y)}, radiusX + 0.5, radiusY + 0.5};
+  constexpr double kBeyond = 0.4;
+  return {{static_cast<double>(centre.x), static_cast<double>(centre.y)},
+          radiusX + kBeyond,
+          radiusY + kBeyond};
 }
 
 }  // namespace
@@ -176,14 +179,16 @@ void RasterLine(PixelPoint from, PixelPoint to, int thickness, RasterSize size,
   }
 }
 
-void RasterBox(PixelPoint from, PixelPoint to, int thickness, const RunSink& sink) {
+void RasterBox(PixelPoint from, PixelPoint to, int thickness, RasterSize size,
+               const RunSink& sink) {
   const int before = std::max(thickness, 1) / 2;
   const int after = (std::max(thickness, 1) - 1) / 2;
   const int left = std::min(from.x, to.x);
   const int right = std::max(from.x, to.x);
   const int top = std::min(from.y, to.y);
   const int bottom = std::max(from.y, to.y);
-  for (int y = top - before; y <= bottom + after; ++y) {
+  const int last = std::min(bottom + after, size.height - 1);
+  for (int y = std::max(top - before, 0); y <= last; ++y) {
     const bool inSide = y > top + after && y < bottom - before;
     if (inSide && left + after + 1 < right - before) {
       sink(y, left - before, left + after);

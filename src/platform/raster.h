@@ -27,7 +27,7 @@ void RasterLine(PixelPoint from, PixelPoint to, int thickness, RasterSize size,
                 const RunSink& sink);
 
 // The four sides, centred on the edges in the same way, with square corners.
-void RasterBox(PixelPoint from, PixelPoint to, int thickness, const RunSink& sink);
+void RasterBox(PixelPoint from, PixelPoint to, int thickness, RasterSize size, const RunSink& sink);
 
 struct Arc {
   double start = 0;     // degrees, counter-clockwise from the right

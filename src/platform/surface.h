@@ -67,8 +67,9 @@ class Surface {
   void Box(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
   void FilledBox(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
   void PSet(double x, double y, std::optional<Colour> colour = {});
-  // Radius in X units.  Start and end in degrees, counter-clockwise from the right; aspect is
-  // height by width.  A whole circle is filled with FillColor when FillStyle is solid.
+  // Radius in X units, rounded to whole pixels, of the longer axis.  Start and end in degrees,
+  // counter-clockwise from the right, a whole turn when they are equal; aspect is height by width.
+  // A whole circle is filled with FillColor when FillStyle is solid.
   void Circle(double x, double y, double radius, std::optional<Colour> colour = {},
               double start = 0, double end = 360, double aspect = 1);
 
@@ -79,7 +80,7 @@ class Surface {
   // own.
   void PrintRotated(std::string_view text, double x, double y, double degrees, Colour colour,
                     const std::string& face, double points, bool bold);
-  // In user units.
+  // In user units, never negative.  The height is that of a line, whatever the text.
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
 

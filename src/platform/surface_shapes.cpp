@@ -41,7 +41,7 @@ void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Col
 void Surface::Box(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
   const PixelPoint from = impl_->PixelAt(x1, y1);
   const PixelPoint to = impl_->PixelAt(x2, y2);
-  RasterBox(from, to, DrawWidth, impl_->Pen(colour.value_or(ForeColor), DrawMode));
+  RasterBox(from, to, DrawWidth, impl_->Size(), impl_->Pen(colour.value_or(ForeColor), DrawMode));
   impl_->TouchAround(from, to, DrawWidth / 2 + 1);
   CurrentX = x2;
   CurrentY = y2;
@@ -66,16 +66,17 @@ void Surface::PSet(double x, double y, std::optional<Colour> colour) {
 void Surface::Circle(double x, double y, double radius, std::optional<Colour> colour, double start,
                      double end, double aspect) {
   const PixelPoint centre = impl_->PixelAt(x, y);
+  // Whole pixels make the rounder circle.
   const double longer = std::abs(radius / impl_->UnitX());
-  const double radiusX = aspect > 1 ? longer / aspect : longer;
-  const double radiusY = aspect > 1 ? longer : longer * aspect;
+  const int radiusX = NearestPixel(aspect > 1 ? longer / aspect : longer);
+  const int radiusY = NearestPixel(aspect > 1 ? longer : longer * aspect);
   const double turn = (end - start) - 360 * std::floor((end - start) / 360);
   const Arc arc{start, turn == 0 ? 360 : turn};
   if (arc.extent >= 360 && FillStyle == FillStyles::Solid)
     RasterDisc(centre, radiusX, radiusY, impl_->Size(), impl_->Pen(FillColor, DrawMode));
   RasterEllipse(centre, radiusX, radiusY, DrawWidth, arc, impl_->Size(),
                 impl_->Pen(colour.value_or(ForeColor), DrawMode));
-  impl_->TouchAround(centre, centre, NearestPixel(longer) + DrawWidth + 1);
+  impl_->TouchAround(centre, centre, std::max(radiusX, radiusY) + DrawWidth + 1);
   CurrentX = x;
   CurrentY = y;
 }
