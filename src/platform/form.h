@@ -1,9 +1,9 @@
 // Forms and what stands on them: thin classes over the toolkit's widgets, placed in twips.
 //
-// Every control belongs to a parent (a form, a frame or a picture box) that must outlive it.  A control
-// has a name in the course's words, such as "cmdNavigate(2)"; tests and failures speak of it by name.
-// Positions are those inside the parent.  Texts are single-byte (Latin-1); "&" before a letter makes
-// it the shortcut of a button, a menu or an entry.
+// Every control belongs to a parent (a form, a frame or a picture box) that must outlive it.  A
+// control has a name in the course's words, such as "cmdNavigate(2)"; tests and failures speak of
+// it by name. Positions are those inside the parent.  Texts are single-byte (Latin-1); "&" before a
+// letter makes it the shortcut of a button, a menu or an entry.
 #pragma once
 
 #include <functional>
@@ -14,6 +14,9 @@
 #include "platform/geometry.h"
 
 namespace platform {
+
+class Surface;
+class Form;
 
 class Control {
  public:
@@ -51,29 +54,32 @@ class Control {
 
   // What a click by the person does.
   std::function<void()> OnClick;
-  // Clicks as the person would.  False, and nothing happens, when he could not: the control or one of
-  // its parents is hidden or disabled, or a modal form or a disabled form stands before it.
+  // Clicks as the person would.  False, and nothing happens, when he could not: the control or one
+  // of its parents is hidden or disabled, or a modal form or a disabled form stands before it.
   bool Click();
   bool CanBeClicked() const;
 
+  // The form that the control stands on, or the form itself.
+  Form* OwnForm() const;
+
+  // What the folder's own sources know of a control.
   struct Impl;
   Impl& impl() const { return *impl_; }
 
  protected:
   Control(Control* parent, std::string name);
+  // Called when the size in twips has changed.
   virtual void OnResized() {}
-  std::unique_ptr<Impl> impl_;
 
  private:
-  friend struct ControlAccess;
+  std::unique_ptr<Impl> impl_;
 };
-
-class Form;
 
 class Label final : public Control {
  public:
   Label(Control& parent, std::string name, const std::string& caption = "");
-  void SetCaption(const std::string& caption);  // '\r' or '\n' breaks the line; long lines are wrapped
+  void SetCaption(
+      const std::string& caption);  // '\r' or '\n' breaks the line; long lines are wrapped
   std::string Caption() const;
   enum class Align { Left, Centre, Right };
   void SetAlignment(Align align);
@@ -123,6 +129,7 @@ class ListBox final : public Control {
 
 class MenuItem {
  public:
+  MenuItem(Form& form, std::string name);
   ~MenuItem();
   void SetCaption(const std::string& caption);
   std::string Caption() const;
@@ -135,24 +142,21 @@ class MenuItem {
   const std::string& Name() const;
 
   struct Impl;
+  Impl& impl() const { return *impl_; }
 
  private:
-  friend class Menu;
-  MenuItem(Form& form, std::string name);
   std::unique_ptr<Impl> impl_;
 };
 
 class Menu {
  public:
+  Menu(Form& form, const std::string& caption);
   ~Menu();
   MenuItem& AddItem(std::string name, const std::string& caption);
   MenuItem& AddSeparator(std::string name);
 
-  struct Impl;
-
  private:
-  friend class Form;
-  Menu(Form& form, const std::string& caption);
+  struct Impl;
   std::unique_ptr<Impl> impl_;
 };
 
@@ -171,14 +175,15 @@ class Form : public Control {
   void Center();
   void Show();
   void Hide();
-  // Shows the form, centred, before all others, and returns when Close is called.  Other forms take no
-  // input meanwhile.
+  // Shows the form, centred, before all others, and returns when Close is called.  Other forms take
+  // no input meanwhile.
   void ShowModal();
   void Close();
   // True between Show or ShowModal and Hide or Close.
   bool Shown() const;
 
-  // The person's key as a single-byte code (Esc is 27), before any control sees it.  True swallows it.
+  // The person's key as a single-byte code (Esc is 27), before any control sees it.  True swallows
+  // it.
   std::function<bool(int code)> OnKeyPress;
   // Types a key as the person would; false when the form takes no input.
   bool Press(int code);
@@ -192,17 +197,22 @@ class Form : public Control {
   // Enter presses this one.
   void SetDefaultButton(Button& button);
 
-  // Writes what the form shows at this moment as a PNG file; false when it cannot be written.
-  bool SavePng(const std::string& path);
-  // The control, entry or form of this name, nullptr when there is none: for tests and tools.
+  // What the form shows at this moment, menu bar included.
+  std::unique_ptr<Surface> Grab();
+  // The control or entry of this name, nullptr when there is none: for tests and tools.
   Control* Find(const std::string& name);
   MenuItem* FindMenuItem(const std::string& name);
 
   // The modal form in front, nullptr for none.
   static Form* ModalForm();
+  // Forms that are shown, in the order in which they were.
+  static const std::vector<Form*>& ShownForms();
+
+  struct FormImpl;
+  FormImpl& formImpl() const { return *formImpl_; }
 
  private:
-  std::vector<std::unique_ptr<Menu>> menus_;
+  std::unique_ptr<FormImpl> formImpl_;
 };
 
 }  // namespace platform

@@ -84,6 +84,18 @@ Colour Surface::Pixel(int x, int y) const {
   return ToColour(impl_->Row(y)[x]);
 }
 
+std::unique_ptr<Surface> SurfaceMaker::FromImage(const QImage& image) {
+  auto surface = std::make_unique<Surface>(image.width(), image.height());
+  surface->impl_->image = image.convertToFormat(QImage::Format_RGB32);
+  surface->impl_->image.setDevicePixelRatio(1);
+  return surface;
+}
+
+std::unique_ptr<Surface> Surface::LoadPng(const std::string& path) {
+  const QImage image(QString::fromStdString(path), "PNG");
+  return image.isNull() ? nullptr : SurfaceMaker::FromImage(image);
+}
+
 bool Surface::SavePng(const std::string& path) const {
   return impl_->image.save(QString::fromStdString(path), "PNG");
 }

@@ -109,10 +109,15 @@ class Surface {
   // Copies a part of a picture, unscaled.
   void DrawPicturePart(const std::string& name, int x, int y, const PixelRect& part);
 
+  // Copies the whole of another surface into a rectangle, smoothly scaled.
+  void StretchBlt(const PixelRect& rect, const Surface& source);
+
   // Black outside the surface.
   Colour Pixel(int x, int y) const;
   // Writes a PNG file; false when the file cannot be written.
   bool SavePng(const std::string& path) const;
+  // The picture of a PNG file, nullptr when it cannot be read.
+  static std::unique_ptr<Surface> LoadPng(const std::string& path);
 
  protected:
   // Called by Refresh with what changed; the base shows nothing.
@@ -120,6 +125,7 @@ class Surface {
 
  private:
   friend class PictureBox;
+  friend struct SurfaceMaker;
   struct Impl;
   std::unique_ptr<Impl> impl_;
 };

@@ -1,4 +1,5 @@
 // Copying between surfaces, and filling up to a boundary.
+#include <QPainter>
 #include <cstdint>
 #include <cstring>
 #include <vector>
@@ -26,6 +27,14 @@ void Surface::BitBlt(int x, int y, int width, int height, const Surface& source,
                  bytes);
   }
   impl_->Touch(copied);
+}
+
+void Surface::StretchBlt(const PixelRect& rect, const Surface& source) {
+  const QRect target(rect.left, rect.top, rect.width, rect.height);
+  const QImage scaled =
+      source.impl_->image.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QPainter(&impl_->image).drawImage(target.topLeft(), scaled);
+  impl_->Touch(target);
 }
 
 namespace {

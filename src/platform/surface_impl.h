@@ -52,6 +52,11 @@ struct Surface::Impl {
   double DrawString(const Surface& surface, int x, int y, std::string_view text);
 };
 
+// A surface that shows an image.
+struct SurfaceMaker {
+  static std::unique_ptr<Surface> FromImage(const QImage& image);
+};
+
 // The pixel of a coordinate, half to even.  Far-off values are brought to where they stay integers.
 int NearestPixel(double value);
 

@@ -1,0 +1,135 @@
+#include <QAccessible>
+#include <algorithm>
+
+#include "platform/widgets_impl.h"
+
+namespace platform {
+
+Control::Control(Control* parent, std::string name) : impl_(std::make_unique<Impl>()) {
+  impl_->parent = parent;
+  impl_->name = std::move(name);
+  if (parent != nullptr) {
+    impl_->form = parent->impl_->form;
+    impl_->form->formImpl().controls.push_back(this);
+  }
+}
+
+Control::~Control() {
+  if (impl_->parent != nullptr) std::erase(impl_->form->formImpl().controls, this);
+  delete impl_->widget.data();
+}
+
+const std::string& Control::Name() const {
+  return impl_->name;
+}
+int Control::Left() const {
+  return impl_->left;
+}
+int Control::Top() const {
+  return impl_->top;
+}
+int Control::Width() const {
+  return impl_->width;
+}
+int Control::Height() const {
+  return impl_->height;
+}
+
+void Control::SetLeft(int twips) {
+  Move(twips, impl_->top, impl_->width, impl_->height);
+}
+
+void Control::SetTop(int twips) {
+  Move(impl_->left, twips, impl_->width, impl_->height);
+}
+
+void Control::Move(int left, int top, int width, int height) {
+  const bool resized = width != impl_->width || height != impl_->height;
+  impl_->left = left;
+  impl_->top = top;
+  impl_->width = width;
+  impl_->height = height;
+  impl_->widget->setGeometry(left / TwipsPerPixelX, top / TwipsPerPixelY, width / TwipsPerPixelX,
+                             height / TwipsPerPixelY);
+  if (resized) OnResized();
+}
+
+bool Control::Visible() const {
+  return impl_->visible;
+}
+
+void Control::SetVisible(bool visible) {
+  impl_->visible = visible;
+  impl_->widget->setVisible(visible);
+}
+
+bool Control::Enabled() const {
+  return impl_->enabled;
+}
+
+void Control::SetEnabled(bool enabled) {
+  impl_->enabled = enabled;
+  impl_->widget->setEnabled(enabled);
+}
+
+void Control::BringToFront() {
+  impl_->widget->raise();
+}
+
+void Control::SetFocus() {
+  impl_->widget->setFocus();
+}
+
+void Control::SetAccessibleName(const std::string& name) {
+  impl_->widget->setAccessibleName(ToText(name));
+}
+
+void Control::SetAccessibleText(const std::string& text) {
+  impl_->widget->setAccessibleDescription(ToText(text));
+  QAccessibleEvent changed(impl_->widget.data(), QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&changed);
+}
+
+std::string Control::AccessibleName() const {
+  return FromText(impl_->widget->accessibleName());
+}
+
+std::string Control::AccessibleText() const {
+  return FromText(impl_->widget->accessibleDescription());
+}
+
+void Control::SetToolTip(const std::string& text) {
+  impl_->widget->setToolTip(ToText(text));
+}
+
+void Control::SetFont(const std::string& face, double points, bool bold) {
+  impl_->widget->setFont(ToFont(face, points, bold));
+}
+
+void Control::SetColours(Colour fore, Colour back) {
+  QPalette palette = impl_->widget->palette();
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
+    palette.setColor(role, ToQColor(fore));
+  for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base})
+    palette.setColor(role, ToQColor(back));
+  impl_->widget->setPalette(palette);
+  impl_->widget->setAutoFillBackground(true);
+}
+
+Form* Control::OwnForm() const {
+  return impl_->form;
+}
+
+bool Control::CanBeClicked() const {
+  for (const Control* control = this; control != impl_->form; control = control->impl_->parent)
+    if (!control->Visible() || !control->Enabled()) return false;
+  return TakesInput(*impl_->form);
+}
+
+bool Control::Click() {
+  if (!CanBeClicked()) return false;
+  CallHandler(OnClick);
+  return true;
+}
+
+}  // namespace platform
