@@ -1,0 +1,157 @@
+#include "display/print.h"
+
+#include "display/exponents.h"
+#include "mathkit/tutor_codes.h"
+#include "support/display_fixture.h"
+
+namespace course::testing {
+namespace {
+
+using platform::colour::Blue;
+
+class PrintTest : public DisplayTest {};
+
+TEST_F(PrintTest, TheErasedBandLeavesFourRowsAboveAndTakesFourBelow) {
+  Panel().FillRect({0, 0, 672, 589}, platform::colour::Red);
+  Locate(5, 3);
+  isPrints("  ");
+  const int x = 48, y = 80;
+  EXPECT_EQ(Panel().Pixel(x, y + 3), platform::colour::Red);
+  EXPECT_EQ(Panel().Pixel(x, y + 4), Blue);
+  EXPECT_EQ(Panel().Pixel(x + 31, y + 28), Blue);
+  EXPECT_EQ(Panel().Pixel(x + 31, y + 29), platform::colour::Red);
+  EXPECT_EQ(Panel().Pixel(x + 32, y + 10), platform::colour::Red);
+  EXPECT_EQ(Panel().Pixel(x - 1, y + 10), platform::colour::Red);
+}
+
+TEST_F(PrintTest, WithoutErasingTheGroundShowsBetweenTheStrokes) {
+  Panel().FillRect({0, 0, 672, 589}, platform::colour::Red);
+  SetDontEraseBackground();
+  isPrints(".");
+  EXPECT_EQ(Panel().Pixel(17, 10), platform::colour::Red);
+  EXPECT_TRUE(HasInk(Panel(), 16, 9, 32, 34, platform::colour::Red));
+}
+
+TEST_F(PrintTest, MeasuringDrawsNothingUnlessTheBackgroundIsKept) {
+  screenState.gMeasureOnly = 1;
+  isPrint("measured");
+  EXPECT_FALSE(HasInk(Panel(), 0, 0, 672, 60, Blue));
+  EXPECT_TRUE(Lines().empty());
+  SetDontEraseBackground();
+  isPrint("drawn");
+  EXPECT_TRUE(HasInk(Panel(), 0, 30, 672, 60, Blue));
+  EXPECT_EQ(Lines(), std::vector<std::string>{"drawn"});
+}
+
+TEST_F(PrintTest, ThirtyRunsPrintAndThirtyOneStopTheProgram) {
+  std::string thirty;
+  for (int i = 0; i < 30; ++i) thirty += tutor::Gap;
+  isPrints(thirty);
+  EXPECT_EQ(Col(), 31);
+  Locate(3, 1);
+  EXPECT_THROW(isPrint(thirty + "x"), StoppedProgram);
+}
+
+TEST_F(PrintTest, LinesBreakAtTheRightMarginWhateverStandsThere) {
+  isPrint(std::string(100, 'a'));
+  EXPECT_EQ(Lines(), (std::vector<std::string>{std::string(40, 'a'), std::string(40, 'a'),
+                                               std::string(20, 'a')}));
+  EXPECT_EQ(Row(), 5);
+  EXPECT_EQ(Col(), 1);
+}
+
+TEST_F(PrintTest, ANudgedCharacterKeepsThePlaceInTheLastColumn) {
+  Locate(4, 40.2);
+  isPrints("p");
+  EXPECT_EQ(Text().Transcript()[0].text, "p");
+  EXPECT_EQ(Text().Transcript()[0].row, 4);
+  Locate(6, 41);
+  isPrints("x");  // past the margin: the character goes to the next row
+  EXPECT_EQ(Row(), 7);
+  EXPECT_EQ(Col(), 2);
+}
+
+TEST_F(PrintTest, CarriageReturnsBreakLinesUnlessTheCursorIsKept) {
+  isPrint("one\rtwo");
+  EXPECT_EQ(Row(), 4);
+  isPrints("a\rb");
+  EXPECT_EQ(Row(), 4);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"one", "two", "ab"}));
+  EXPECT_THROW(isPrint("1\r2\r3\r4\r5\r6\r7\r8\r9\r10\r11"), StoppedProgram);
+}
+
+TEST_F(PrintTest, KeepingTheCursorNestsAndIsPutBack) {
+  screenState.gNoNewline = 1;
+  isPrints("a");
+  EXPECT_EQ(screenState.gNoNewline, 1);
+  isPrint("b");
+  EXPECT_EQ(Col(), 3);
+}
+
+TEST_F(PrintTest, ColouredPrintGoesBackToTheCurrentColour) {
+  SetColor(platform::colour::Yellow);
+  isColorPrint("red", platform::colour::Red);
+  isPrint("yellow");
+  ASSERT_EQ(Text().Transcript().size(), 2u);
+  EXPECT_EQ(Text().Transcript()[0].colour, platform::colour::Red);
+  EXPECT_EQ(Text().Transcript()[1].colour, platform::colour::Yellow);
+}
+
+TEST_F(PrintTest, APiTurnsTheRestOfItsRunWhite) {
+  SetColor(platform::colour::Red);
+  isPrints("a" + tutor::Pi + "b");
+  EXPECT_EQ(Panel().ForeColor, platform::colour::White);
+  EXPECT_EQ(Text().textColour, platform::colour::White);
+}
+
+class ExponentTest : public DisplayTest {};
+
+TEST_F(ExponentTest, EachCharacterTakesACellAndTheCursorEndsOnTheBaseRow) {
+  Locate(10, 5);
+  isPrintExponent1("23", 12);
+  EXPECT_EQ(Row(), 10);
+  EXPECT_EQ(Col(), 7);
+  EXPECT_EQ(Panel().FontSize, 20);
+  // Size 12 is raised 0.3 row: the first of its ink lies above that of a size 14 exponent.
+  EXPECT_EQ(Lines(), std::vector<std::string>{"    ^23^"});
+}
+
+TEST_F(ExponentTest, MarksMustBalance) {
+  EXPECT_TRUE(MarksBalanced("x^2^ + y^3^"));
+  EXPECT_TRUE(MarksBalanced("x" + tutor::SubscriptMark + "1" + tutor::SubscriptMark));
+  EXPECT_FALSE(MarksBalanced("x^2"));
+  EXPECT_FALSE(MarksBalanced("x^" + tutor::SubscriptMark + "^" + tutor::SubscriptMark));
+  try {
+    isPrintExponentExpression("x^2", 14);
+    FAIL() << "an open exponent was printed";
+  } catch (const StoppedProgram& stopped) {
+    EXPECT_EQ(stopped.message,
+              "An incorrect number of ^ or Chr$(250) characters appears in the string \r"
+              "supplied to SUB isPrintExponentExpression");
+  }
+  EXPECT_THROW(isPrintExponent1("2", 9), StoppedProgram);
+  EXPECT_THROW(isPrintExponent1("2", 16), StoppedProgram);
+}
+
+TEST_F(ExponentTest, AnExpressionIsCutAtItsMarks) {
+  const std::vector<ScriptPart> parts = CutAtMarks("x^a^x^b^=x^a+b^");
+  std::vector<std::string> texts;
+  for (const ScriptPart& part : parts) texts.push_back((part.level > 0 ? "^" : "") + part.text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"x", "^a", "x", "^b", "=x", "^a+b"}));
+}
+
+TEST_F(ExponentTest, SingleExponentCharactersBecomeMarkedText) {
+  EXPECT_EQ(ExponentCharsToCarets(Chr(145) + Chr(146)), "^23^");
+  EXPECT_EQ(ExponentCharsToCarets("x" + Chr(130) + Chr(143)), "x^-0^");
+  EXPECT_EQ(ExponentCharsToCarets("a" + Chr(153) + Chr(157) + Chr(154) + "b"), "a^m+n^b");
+  EXPECT_EQ(ExponentCharsToCarets("x" + Chr(179) + Chr(220) + Chr(180)), "x^(x)^");
+  EXPECT_EQ(ExponentCharsToCarets("x^2^^3^"), "x^23^");
+}
+
+TEST_F(ExponentTest, BlanksInsideExponentsAreProtected) {
+  EXPECT_EQ(ProtectExponentSpaces("a b^c d^ e"), "a b^cXd^ e");
+  EXPECT_EQ(StripExponentMarks("x^2^y" + tutor::SubscriptMark + "1"), "x2y1");
+}
+
+}  // namespace
+}  // namespace course::testing
