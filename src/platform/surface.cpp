@@ -3,6 +3,7 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "platform/surface_impl.h"
 
@@ -24,6 +25,20 @@ void Surface::Impl::Span(int y, int left, int right, QRgb rgb, DrawModes mode) {
     return;
   }
   for (int x = left; x <= right; ++x) row[x] ^= rgb & 0xFFFFFF;
+}
+
+void Surface::Impl::Fill(const QRect& rect, QRgb rgb, DrawModes mode) {
+  const QRect filled = rect & image.rect();
+  if (filled.isEmpty()) return;
+  // The first row pixel by pixel, the others as copies of it, which is several times as quick.
+  const bool copies = mode == DrawModes::CopyPen;
+  const int last = copies ? filled.top() : filled.bottom();
+  for (int y = filled.top(); y <= last; ++y) Span(y, filled.left(), filled.right(), rgb, mode);
+  const QRgb* first = Row(filled.top()) + filled.left();
+  const std::size_t bytes = static_cast<std::size_t>(filled.width()) * sizeof(QRgb);
+  for (int y = last + 1; y <= filled.bottom(); ++y)
+    std::memcpy(Row(y) + filled.left(), first, bytes);
+  Touch(filled);
 }
 
 Surface::Surface(int width, int height) : impl_(std::make_unique<Impl>()) {

@@ -43,6 +43,8 @@ struct Surface::Impl {
   // Pixels left to right of row y, both included, clipped; a set and not a blend, or an exclusive
   // or.
   void Span(int y, int left, int right, QRgb rgb, DrawModes mode);
+  // The same for a rectangle, and touches it.
+  void Fill(const QRect& rect, QRgb rgb, DrawModes mode);
   // A sink that draws runs of pixels.
   RunSink Pen(Colour colour, DrawModes mode);
   PixelPoint PixelAt(double x, double y) const;

@@ -50,11 +50,9 @@ void Surface::Box(double x1, double y1, double x2, double y2, std::optional<Colo
 void Surface::FilledBox(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
   const PixelPoint from = impl_->PixelAt(x1, y1);
   const PixelPoint to = impl_->PixelAt(x2, y2);
-  const QRgb rgb = ToRgb(colour.value_or(ForeColor));
-  const int last = std::min(std::max(from.y, to.y), PixelHeight() - 1);
-  for (int y = std::max(std::min(from.y, to.y), 0); y <= last; ++y)
-    impl_->Span(y, std::min(from.x, to.x), std::max(from.x, to.x), rgb, DrawMode);
-  impl_->TouchAround(from, to, 0);
+  const QRect box(QPoint(std::min(from.x, to.x), std::min(from.y, to.y)),
+                  QPoint(std::max(from.x, to.x), std::max(from.y, to.y)));
+  impl_->Fill(box, ToRgb(colour.value_or(ForeColor)), DrawMode);
   CurrentX = x2;
   CurrentY = y2;
 }
@@ -82,11 +80,8 @@ void Surface::Circle(double x, double y, double radius, std::optional<Colour> co
 }
 
 void Surface::FillRect(const PixelRect& rect, Colour colour) {
-  const QRect filled = QRect(rect.left, rect.top, rect.width, rect.height) & impl_->image.rect();
-  const QRgb rgb = ToRgb(colour);
-  for (int y = filled.top(); y <= filled.bottom(); ++y)
-    impl_->Span(y, filled.left(), filled.right(), rgb, DrawModes::CopyPen);
-  impl_->Touch(filled);
+  impl_->Fill(QRect(rect.left, rect.top, rect.width, rect.height), ToRgb(colour),
+              DrawModes::CopyPen);
 }
 
 void Surface::RoundRect(const PixelRect& rect, int cornerWidth, int cornerHeight, Colour line,
