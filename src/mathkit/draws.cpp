@@ -57,9 +57,15 @@ void ReseedProblem(int seed) {
 }
 
 void NewProblemSeed() {
+  const int unit = session.gUnitNum;
+  const int lesson = session.gLessonNum;
+  if (unit < 0 || unit > kMaxUnits || lesson < 0 || lesson > kMaxLessons) {
+    platform::Stop("NewProblemSeed: there is no unit " + std::to_string(unit) + ", lesson " +
+                   std::to_string(lesson));
+  }
   Randomize();
   session.gProblemSeed = FreshSeed();
-  ++session.gProblemsGenerated.at(session.gUnitNum).at(session.gLessonNum);
+  ++session.gProblemsGenerated[unit][lesson];
 }
 
 void NewTestSeeds() {

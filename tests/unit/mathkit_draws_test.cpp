@@ -133,6 +133,8 @@ TEST_F(DrawsTest, AuthorsErrorsStopWithTheirValues) {
   ExpectStop("RandSeq: 5 numbers from a pool of 4", [] { RandSeq(4, 5); });
   ExpectStop("RandSeq: 1 numbers from a pool of 42", [] { RandSeq(42, 1); });
   ExpectStop("Index: there is no place in a table of 0", [] { ProblemStream().Index(0); });
+  session.gUnitNum = 21;
+  ExpectStop("NewProblemSeed: there is no unit 21, lesson 0", [] { NewProblemSeed(); });
   ExpectStop("AllDistinct: 4 strings asked for, 1 given", [] { AllDistinct(4, {"a"}); });
 }
 
