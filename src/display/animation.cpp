@@ -266,7 +266,9 @@ void WipeAndEraseLine(const std::string& direction, double rp, double ds, double
   const int dr = VerticalDirection("WipeAndEraseLine", direction);
   isDrawHorizLine(rp, 1, 40, 2);
   Anim2(rp, 0.5, 41, 1, dr, ds, sp, 1);
-  const double end = dr == kUp ? rp - ds : rp + ds;
+  // Where the line has come to in whole pixels.
+  const double moved = static_cast<double>(StepCount(gCellHeight * ds)) / gCellHeight;
+  const double end = dr == kUp ? rp - moved : rp + moved;
   isDrawDiagonalLineWithColor(end, 0.5, end, 40.5, 3, platform::colour::Blue);
 }
 

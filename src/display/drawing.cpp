@@ -61,8 +61,10 @@ InclusiveBox BoxOfCells(const TextPanel& panel, double rp1, double cp1, double r
 }
 
 platform::PixelPoint CellCentre(const TextPanel& panel, double rp, double cp) {
-  return {IntOf(panel.CellX(cp) + panel.layout.cellWidth / 2.0 + 0.5),
-          IntOf(panel.CellY(rp) + panel.layout.cellHeight / 2.0 + 0.5)};
+  // The hair keeps a centre that is meant to lie between two pixels from falling to the upper one.
+  constexpr double kHair = 1e-6;
+  return {IntOf(panel.CellX(cp) + panel.layout.cellWidth / 2.0 + 0.5 + kHair),
+          IntOf(panel.CellY(rp) + panel.layout.cellHeight / 2.0 + 0.5 + kHair)};
 }
 
 TextPanel& DrawTarget() {

@@ -36,10 +36,11 @@ bool HasHead(const ArrowLine& line, const std::string& end) {
 // A triangle with its point in the pixel, pointing to (dx, dy), one of which is 0.
 void DrawHead(const ArrowLine& line, platform::PixelPoint tip, int dx, int dy) {
   const int length = gArrowheadSmall == 1 ? 6 : 8;
+  const int back = length - 1;
   const int half = length / 2;
   gArrowPoints[1] = tip;
-  gArrowPoints[2] = {tip.x - length * dx + half * dy, tip.y - length * dy + half * dx};
-  gArrowPoints[3] = {tip.x - length * dx - half * dy, tip.y - length * dy - half * dx};
+  gArrowPoints[2] = {tip.x - back * dx + half * dy, tip.y - back * dy + half * dx};
+  gArrowPoints[3] = {tip.x - back * dx - half * dy, tip.y - back * dy - half * dx};
   DrawArrowhead(line.colour, &line.surface);
 }
 

@@ -88,7 +88,7 @@ void isDrawArcLabel(double rp, double cp, double wd) {
   constexpr int kRise = 6;  // pixels
   TextPanel& panel = frmPR->lessonText;
   const double half = (wd * gCellWidth - kStroke) / 2;
-  const double middle = panel.CellX(cp) + wd * gCellWidth / 2 - 0.5;
+  const double middle = panel.CellX(cp) + wd * gCellWidth / 2;
   const double foot = panel.CellY(rp) + 3;  // the highest letters begin below
   std::vector<RealPoint> points;
   constexpr int kPieces = 24;

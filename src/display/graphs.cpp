@@ -111,9 +111,7 @@ void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,
   const platform::FillStyles keptStyle = figure.FillStyle;
   figure.FillColor = colour;
   figure.FillStyle = platform::FillStyles::Solid;
-  // A whole number of pixels makes the rounder point.
-  const double unitsPerPixel = figure.ScaleWidth() / figure.PixelWidth();
-  figure.Circle(x, y, RoundedPixel(radius / unitsPerPixel) * unitsPerPixel);
+  figure.Circle(x, y, radius);
   figure.FillColor = keptColour;
   figure.FillStyle = keptStyle;
   figure.Refresh();
