@@ -1,15 +1,16 @@
 // The contract of a lesson.
 //
-// A script draws one run of one activity from top to bottom, then ends.  The base owns the order of a run,
-// the entry branch and the standard subroutines; a lesson adds its teaching screens, its generator, its
-// problem page and its explanation.  Nothing of a script outlives a run but what stands in the session.
+// A script draws one run of one activity from top to bottom, then ends.  The base owns the order of
+// a run, the entry branch and the standard subroutines; a lesson adds its teaching screens, its
+// generator, its problem page and its explanation.  Nothing of a script outlives a run but what
+// stands in the session.
 //
-// A run is abandoned by an exception that a wait throws after its events were served and that Run catches:
-// at WaitForClick, at the wait for an answer, and after modal forms, never inside a delay or an animation.
+// A run is abandoned by an exception that a wait throws after its events were served and that Run
+// catches: at WaitForClick, at the wait for an answer, and where a run is about to open a form,
+// never inside a delay or an animation.
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,64 +22,74 @@ namespace course {
 class LessonScript {
  public:
   virtual ~LessonScript();
+  LessonScript(const LessonScript&) = delete;
+  LessonScript& operator=(const LessonScript&) = delete;
 
   // One run, as session.gActivity and its companions want it.  The lesson window is loaded.
   void Run();
 
   const std::string& Title() const { return title_; }
   int ScreenCount();
+
   // The problem of a seed, drawn without a window: the order of the boxes is that of the screen.
   struct DrawnProblem {
     Problem problem;
     std::vector<int> order;  // order[i] is the choice in box i, from 1
-    int CorrectBox() const;
+    int CorrectBox() const;  // 1 to 5
   };
   DrawnProblem Draw(int seed);
 
  protected:
+  // The title in proper case, as the window's caption shows it.
   explicit LessonScript(std::string title);
 
-  // --- What a lesson adds ----------------------------------------------------------------------------
+  // --- What a lesson adds ------------------------------------------------------------------------
   using Screen = std::function<void()>;
+  // The teaching screens, 1 to 10, in their order.  Each begins with NewScreen.
   virtual std::vector<Screen> Screens() = 0;
-  // Draws numbers from this stream alone, and fills problem.
+  // Draws numbers from this stream alone, and fills problem, which is empty before.
   virtual void DrawProblem(RandomStream& random) = 0;
-  // Prints the question and calls picAnswerSetParameters; sets answerRow.
+  // Prints the question under the banner, calls picAnswerSetParameters, and sets answerRow.
   virtual void ShowProblem() = 0;
+  // The worked explanation of the drawn problem, from a cleared screen on, page by page.  Most
+  // lessons begin it with ProblemBanner.
   virtual void ExplainProblem() = 0;
+  // Whether practice offers a picture of the rules.
+  virtual bool OffersRules() const { return false; }
 
-  // --- What it draws and sets ------------------------------------------------------------------------
+  // --- What it draws and sets --------------------------------------------------------------------
   Problem problem;
   double answerRow = 0;  // the cursor's row at the answers
 
-  // --- Standard subroutines --------------------------------------------------------------------------
+  // --- Standard subroutines ----------------------------------------------------------------------
   void NewScreen();
+  // Waits for CONTINUE; does not return when the student wants to go elsewhere.
   void WaitForClick();
-  // The wait at the end of a page.
+  // The wait at the end of a page, with the buttons that belong to it.
   void PageEnd();
-  // Anim; with a negative distance the reverse move.
+  // Anim; with a negative distance the reverse move.  A direction dr other than 1 to 4 stops the
+  // program.
   void AnimHere(double rp, double cp, double wd, double ht, int dr, double ds, double sp, int er);
-  // A problem page (modes 1, 2, 6, 7, 10, 11), as against an example or explanation.
+  // A problem page (modes 1, 2, 6, 7, 10, 11), as against an example or explanation.  The
+  // diagnostic test counts with the latter.
   static bool OnProblemPage();
-  // Typing a letter in place of a click; no present lesson asks for it.
+  // The letter's number, typed in place of a click.  No present lesson asks for it.
   int LetterEntryHere();
 
  private:
   void SetDefaults();
+  void Enter();
   void LessonEntry();
   void ExampleEntry();
   void ExampleEnd();
+  void AfterExample();
   void ProblemEntry();
+  void DrawCurrentProblem();
   void AskProblem();
   void AfterProblem();
   void AfterPractice();
-  bool AskAnotherExample();
-  [[noreturn]] void ScriptExit();
 
   std::string title_;
-  int pickedBox_ = 0;
-  int answered_ = 0;
-  std::vector<int> choiceOrder_;
 };
 
 }  // namespace course

@@ -1,5 +1,5 @@
-// A drawn problem: what is asked, what is offered, what is right.  Everything that the screen, a test and
-// the authors' tools need to know about it, and nothing of how it is shown.
+// A drawn problem: what is asked, what is offered, what is right.  Everything that the screen, a
+// test and the authors' tools need to know about it, and nothing of how it is shown.
 #pragma once
 
 #include <array>
@@ -15,14 +15,14 @@ struct Choice {
   std::string mistake;
 };
 
-// One thing that is drawn beside the question: shape "interval", "point", "line" ..., and its numbers by
-// name, such as {"from", -3}, {"closed", 1}.
+// One thing that is drawn beside the question: shape "interval", "point", "line" ..., and its
+// numbers by name, such as {"from", -3}, {"closed", 1}.
 struct FigureItem {
   std::string shape;
   std::vector<std::pair<std::string, double>> values;
 };
 
-// How the boxes are laid out: see AnswerChoicesShow.
+// How many boxes there are, which of them are shuffled, and what stands in the fifth.
 namespace choice_kind {
 constexpr int FourShuffled = 1;
 constexpr int FourShuffledAndNone = 2;  // box 5 is "None of the above"
@@ -31,6 +31,8 @@ constexpr int FourInOrder = -1;
 constexpr int FourInOrderAndNone = -2;
 constexpr int FiveInOrder = -3;
 }  // namespace choice_kind
+
+inline constexpr const char* kNoneOfTheAbove = "None of the above";
 
 struct Problem {
   std::vector<std::string> question;  // lines as a student reads them
@@ -41,11 +43,11 @@ struct Problem {
 
   // The right choice, and a wrong one with its mistake.
   void Right(int slot, std::string text) {
-    choices.at(slot) = {std::move(text), ""};
+    choices.at(static_cast<std::size_t>(slot)) = {std::move(text), ""};
     correct = slot;
   }
   void Wrong(int slot, std::string mistake, std::string text) {
-    choices.at(slot) = {std::move(text), std::move(mistake)};
+    choices.at(static_cast<std::size_t>(slot)) = {std::move(text), std::move(mistake)};
   }
 };
 

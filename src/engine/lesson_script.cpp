@@ -1,0 +1,323 @@
+#include "engine/lesson_script.h"
+
+#include <algorithm>
+#include <array>
+
+#include "display/animation.h"
+#include "display/grid.h"
+#include "display/lesson_window.h"
+#include "engine/answers.h"
+#include "engine/header.h"
+#include "engine/hooks.h"
+#include "engine/navigation.h"
+#include "engine/practice.h"
+#include "engine/screen_reader.h"
+#include "engine/script_setup.h"
+#include "mathkit/draws.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/stop.h"
+#include "session/session.h"
+
+namespace course {
+namespace {
+
+// The value that all scripts share, to the last bit.
+constexpr double kPi = 0x1.921FB54442EEAp+1;
+
+constexpr double kAnswerToCursor = 6;  // rows from the answers to the cursor's place in the wait
+
+// Thrown to leave a run, and to leave the pages of an example for its end.
+struct RunAbandoned {};
+struct PagesEnded {};
+
+[[noreturn]] void ScriptExit() {
+  throw RunAbandoned{};
+}
+
+bool WantsElsewhere() {
+  return session.gLeaveLesson == 1 || session.gRunAgain == 1;
+}
+
+void ExitIfWanted() {
+  if (WantsElsewhere()) ScriptExit();
+}
+
+// Ends the run; the dispatcher starts the next one.
+[[noreturn]] void RunAgain() {
+  session.gRunAgain = 1;
+  ScriptExit();
+}
+
+[[noreturn]] void GoToActivity(int index) {
+  picNav_Click(index);
+  ScriptExit();
+}
+
+[[noreturn]] void RunAgainAfterResults() {
+  ShowLessonTestResults();
+  RunAgain();
+}
+
+bool AskAnotherExample() {
+  const platform::Message question = {"Would you like to see another example?", "",
+                                      platform::Buttons::YesNo, platform::Icon::None};
+  return platform::MessageBox(question) == platform::Answer::Yes;
+}
+
+void ClearPageWishes() {
+  session.gBeginExample = kFalse;
+  session.gBeginExplanation = kFalse;
+  session.gBeginTestExplanation = kFalse;
+  session.gEndExample = kFalse;
+  session.gEndExplanation = kFalse;
+  session.gEndTestExplanation = kFalse;
+}
+
+// Up and down, left and right change places.
+int ReversedDirection(int dr) {
+  constexpr std::array<int, 5> kReversed = {0, 2, 1, 4, 3};
+  return kReversed[static_cast<std::size_t>(dr)];
+}
+
+}  // namespace
+
+LessonScript::LessonScript(std::string title) : title_(std::move(title)) {}
+LessonScript::~LessonScript() = default;
+
+int LessonScript::ScreenCount() {
+  return static_cast<int>(Screens().size());
+}
+
+int LessonScript::DrawnProblem::CorrectBox() const {
+  return BoxOfChoice(problem.correct, order, ChoiceCountOf(problem.kind));
+}
+
+LessonScript::DrawnProblem LessonScript::Draw(int seed) {
+  RandomStream random(static_cast<std::uint64_t>(seed));
+  problem = Problem{};
+  DrawProblem(random);
+  std::vector<int> order = ChoiceOrder(problem.kind, random);
+  return {problem, std::move(order)};
+}
+
+void LessonScript::Run() {
+  while (frmPR->ready == 0) platform::WaitEvents("frmPR");
+  SetDefaults();
+  // Numbers outside a problem differ from run to run; the problem's own seed comes after it.
+  Randomize();
+  SetUpScriptRun();
+  try {
+    Enter();
+  } catch (const RunAbandoned&) {
+  }
+  session.gExampleRunLength = 0;
+  session.gCtrl = nullptr;
+}
+
+void LessonScript::SetDefaults() {
+  session.gPi = kPi;
+  session.gLessonName = title_;
+  session.gHasRules = OffersRules() ? kTrue : kFalse;
+}
+
+void LessonScript::Enter() {
+  using S = LessonScript;
+  struct Entry {
+    int mode;
+    void (S::*enter)();
+  };
+  static constexpr Entry kEntries[] = {
+      {mode::SameProblem, &S::ProblemEntry},           {mode::NewProblem, &S::ProblemEntry},
+      {mode::Explanation, &S::ExampleEntry},           {mode::Example, &S::ExampleEntry},
+      {mode::LessonTestProblem, &S::ProblemEntry},     {mode::LessonTestReview, &S::ProblemEntry},
+      {mode::LessonTestExplanation, &S::ExampleEntry}, {mode::Lesson, &S::LessonEntry},
+      {mode::UnitTestProblem, &S::ProblemEntry},       {mode::UnitTestReview, &S::ProblemEntry},
+      {mode::UnitTestExplanation, &S::ExampleEntry},   {mode::DiagnosticProblem, &S::ProblemEntry},
+  };
+  const auto entry = std::ranges::find(kEntries, session.gMode, &Entry::mode);
+  if (entry == std::end(kEntries))
+    platform::Stop("LessonScript::Run: gMode = " + std::to_string(session.gMode) + " is no entry");
+  (this->*entry->enter)();
+}
+
+void LessonScript::LessonEntry() {
+  session.gExampleRunLength = 0;
+  session.gExampleRunIndex = 0;
+  const std::vector<Screen> screens = Screens();
+  session.gScreenCount = static_cast<int>(screens.size());
+  if (session.gScreenNum < 1 || session.gScreenNum > session.gScreenCount)
+    platform::Stop("LessonScript::Run: gScreenNum% = " + std::to_string(session.gScreenNum) +
+                   ", not 1 to " + std::to_string(session.gScreenCount));
+  for (int number = session.gScreenNum; number <= session.gScreenCount; ++number) {
+    session.gScreenNum = number;
+    session.gFirstPageOfScreen = 1;
+    screens[static_cast<std::size_t>(number - 1)]();
+  }
+  ExitIfWanted();
+  GoToActivity(activity::Example);
+}
+
+void LessonScript::DrawCurrentProblem() {
+  problem = Problem{};
+  DrawProblem(ProblemStream());
+}
+
+void LessonScript::ExampleEntry() {
+  try {
+    NewScreen();
+    Locate(2, 1);
+    DrawCurrentProblem();
+    ExplainProblem();
+  } catch (const PagesEnded&) {
+  }
+  ExampleEnd();
+}
+
+void LessonScript::ExampleEnd() {
+  // Esc during a last animation: the student wants no further question.
+  ExitIfWanted();
+  switch (session.gMode) {
+    case mode::Explanation:
+      ExplanationEndChoices();
+      return AfterPractice();
+    case mode::Example:
+      return AfterExample();
+    case mode::LessonTestExplanation:
+      RunAgainAfterResults();
+    case mode::UnitTestExplanation:
+      session.gChapterTestReviewNum = 0;
+      session.gChapterTestReviewExplain = 0;
+      RunAgain();
+    default:
+      platform::Stop("ExampleEnd: gMode = " + std::to_string(session.gMode) +
+                     " is no example or explanation");
+  }
+}
+
+void LessonScript::AfterExample() {
+  if (session.gExampleRunLength > 0) {
+    if (++session.gExampleRunIndex < session.gExampleRunLength) GoToActivity(activity::Example);
+    session.gExampleRunLength = 0;
+  }
+  GoToActivity(AskAnotherExample() ? activity::Example : activity::Practice);
+}
+
+void LessonScript::ProblemEntry() {
+  // Wishes older than the run are forgotten here; one that comes while the problem is drawn counts.
+  session.gLeaveLesson = 0;
+  NewScreen();
+  Locate(2, 1);
+  ProblemBanner();
+  DrawCurrentProblem();
+  ShowProblem();
+  AskProblem();
+  AfterProblem();
+}
+
+void LessonScript::AskProblem() {
+  Locate(answerRow, 1);
+  const std::vector<int> order = AnswerChoicesShow(problem);
+  ExitIfWanted();
+  if (session.gLessonTestReviewNum > 0 || session.gChapterTestReviewNum > 0) {
+    UpdateAccessibleTexts();
+    return ShowTestProbReview();
+  }
+  Locate(answerRow + kAnswerToCursor, 1);
+  const int pickedBox = AnswerWait(problem.kind);
+  ExitIfWanted();
+  AnswerGrade(pickedBox, problem.correct, order);
+}
+
+void LessonScript::AfterProblem() {
+  if (!TestRunning(session)) return AfterPractice();
+  const bool lessonTestOver = session.gChapterTest != 1 && session.gDiagnosticTest != 1 &&
+                              session.gLessonTestProb > kLessonTestProblems;
+  if (lessonTestOver && session.gLessonTestReviewExplain != 1) RunAgainAfterResults();
+  RunAgain();
+}
+
+void LessonScript::AfterPractice() {
+  switch (session.gMode) {
+    case mode::SameProblem:
+      session.gRepeatProblem = 1;
+      break;
+    case mode::Explanation:
+      session.gExplainProblem = 1;
+      break;
+    case mode::Leave:
+      cmdNavigate_Click(3);
+      ScriptExit();
+    default:
+      break;
+  }
+  GoToActivity(activity::Practice);
+}
+
+void LessonScript::NewScreen() {
+  Header(session.gLessonName);
+}
+
+void LessonScript::WaitForClick() {
+  session.gProceed = 0;
+  session.gPauseStartTime = platform::TheClock().SecondsSinceMidnight();
+  UpdateAccessibleTexts();
+  // A wish that came during an animation needs no further click.
+  while (session.gProceed == 0 && !WantsElsewhere()) platform::WaitEvents("PageEnd");
+  ExitIfWanted();
+}
+
+void LessonScript::PageEnd() {
+  if (session.gMode == mode::Lesson) {
+    ShowNavButtons();
+    WaitForClick();
+    session.gFirstPageOfScreen = 0;
+    return;
+  }
+  ClearPageWishes();
+  ShowNavButtons();
+  WaitForClick();
+  if (session.gBeginExample != kFalse) {
+    session.gRepeatExample = 1;
+    GoToActivity(activity::Example);
+  }
+  if (session.gBeginExplanation != kFalse) {
+    session.gExplainProblem = 1;
+    GoToActivity(activity::Practice);
+  }
+  if (session.gBeginTestExplanation != kFalse) RunAgain();
+  if (session.gEndExample != kFalse || session.gEndExplanation != kFalse ||
+      session.gEndTestExplanation != kFalse)
+    throw PagesEnded{};
+}
+
+void LessonScript::AnimHere(double rp, double cp, double wd, double ht, int dr, double ds,
+                            double sp, int er) {
+  if (dr < 1 || dr > 4)
+    platform::Stop("AnimHere: direction " + std::to_string(dr) + ", not 1 to 4");
+  if (ds >= 0)
+    Anim(rp, cp, wd, ht, dr, ds, sp, er);
+  else
+    Anim(rp, cp, wd, ht, ReversedDirection(dr), -ds, sp, er);
+}
+
+bool LessonScript::OnProblemPage() {
+  switch (session.gMode) {
+    case mode::SameProblem:
+    case mode::NewProblem:
+    case mode::LessonTestProblem:
+    case mode::LessonTestReview:
+    case mode::UnitTestProblem:
+    case mode::UnitTestReview:
+      return true;
+    default:
+      return false;
+  }
+}
+
+int LessonScript::LetterEntryHere() {
+  return LetterEntry(ChoiceCountOf(problem.kind));
+}
+
+}  // namespace course
