@@ -328,10 +328,19 @@ Complaints MachineOutsidePlatform(const Files& files) {
 }
 
 Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compiled) {
+  const Graph graph = IncludeGraph(files);
+  std::set<std::string> reached;
+  const std::function<void(const std::string&)> reach = [&](const std::string& path) {
+    if (!graph.contains(path) || !reached.insert(path).second) return;
+    for (const std::string& target : graph.at(path)) reach(target);
+  };
+  for (const std::string& source : compiled) reach(source);
   Complaints complaints;
   for (const SourceFile& file : files) {
     if (IsSource(file) && !compiled.contains(file.path)) {
       complaints.push_back(file.path + " is not compiled");
+    } else if (IsHeader(file) && !reached.contains(file.path)) {
+      complaints.push_back(file.path + " is included by no compiled source");
     }
   }
   return complaints;

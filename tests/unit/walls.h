@@ -35,7 +35,7 @@ Complaints IncludeCycles(const Files& files);
 Complaints ToolkitOutsidePlatform(const Files& files);
 // Files, clocks, random devices, processes and the environment, in src/ outside of platform/.
 Complaints MachineOutsidePlatform(const Files& files);
-// Sources that are not among the compiled ones.
+// Sources that are not among the compiled ones, and headers that no compiled source includes.
 Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compiled);
 // Words and paths that point at papers and places which a reader of the repository does not have.
 Complaints PointersOutside(const Files& files);

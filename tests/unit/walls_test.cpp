@@ -146,10 +146,16 @@ TEST(WallChecksTest, TheMachineIsFoundOutsidePlatform) {
   }
 }
 
-TEST(WallChecksTest, ForgottenSourcesAreFound) {
-  const Files files = {{"src/engine/a.cpp", ""}, {"tests/unit/a_test.cpp", ""}, {"README.md", ""}};
+TEST(WallChecksTest, ForgottenFilesAreFound) {
+  const Files files = {{"src/engine/a.cpp", "#include \"engine/a.h\"\n"},
+                       {"src/engine/a.h", "#include \"engine/b.h\"\n"},
+                       {"src/engine/b.h", ""},
+                       {"src/engine/dust.h", ""},
+                       {"tests/unit/a_test.cpp", ""},
+                       {"README.md", ""}};
   EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp"}),
-            (Complaints{"tests/unit/a_test.cpp is not compiled"}));
+            (Complaints{"src/engine/dust.h is included by no compiled source",
+                        "tests/unit/a_test.cpp is not compiled"}));
 }
 
 TEST(WallChecksTest, PointersOutOfTheRepositoryAreFound) {
