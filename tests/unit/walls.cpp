@@ -335,8 +335,13 @@ Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compi
     for (const std::string& target : graph.at(path)) reach(target);
   };
   for (const std::string& source : compiled) reach(source);
+  // Benchmarks may be switched off as a whole.
+  const bool benchmarks =
+      std::any_of(compiled.begin(), compiled.end(),
+                  [](const std::string& path) { return StartsWith(path, "bench/"); });
   Complaints complaints;
   for (const SourceFile& file : files) {
+    if (StartsWith(file.path, "bench/") && !benchmarks) continue;
     if (IsSource(file) && !compiled.contains(file.path)) {
       complaints.push_back(file.path + " is not compiled");
     } else if (IsHeader(file) && !reached.contains(file.path)) {

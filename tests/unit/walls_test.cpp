@@ -152,10 +152,12 @@ TEST(WallChecksTest, ForgottenFilesAreFound) {
                        {"src/engine/b.h", ""},
                        {"src/engine/dust.h", ""},
                        {"tests/unit/a_test.cpp", ""},
+                       {"bench/a_bench.cpp", ""},
                        {"README.md", ""}};
-  EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp"}),
+  EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp"}),  // without benchmarks
             (Complaints{"src/engine/dust.h is included by no compiled source",
                         "tests/unit/a_test.cpp is not compiled"}));
+  EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp", "bench/b_bench.cpp"}).size(), 3u);
 }
 
 TEST(WallChecksTest, PointersOutOfTheRepositoryAreFound) {
