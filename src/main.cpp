@@ -5,5 +5,7 @@
 int main(int argc, char** argv) {
   platform::Application application(argc, argv);
   course::LoadMenu();
-  return application.Run();
+  const int status = application.Run();
+  course::frmMenu.reset();  // no form outlives the toolkit
+  return status;
 }

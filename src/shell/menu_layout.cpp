@@ -22,19 +22,20 @@ constexpr int kPixel = platform::TwipsPerPixelX;
 // The grid, in pixels: the outer margin, the two columns, the rows.
 constexpr int kMargin = 32;
 constexpr int kFormPixels = kFormWidth / kPixel;
-constexpr int kBandHeight = 104;
-constexpr int kUnitsWidth = 296;
-constexpr int kMarksLeft = 360;
-constexpr int kMarksWidth = 64;
-constexpr int kLessonsLeft = kMarksLeft + kMarksWidth + 8;
+constexpr int kBandHeight = 120;
+constexpr int kUnitsWidth = 320;
+constexpr int kMarksLeft = 376;
+constexpr int kMarksWidth = 40;
+constexpr int kLessonsLeft = kMarksLeft + kMarksWidth + 16;
 constexpr int kLessonsWidth = kFormPixels - kMargin - kLessonsLeft;
-constexpr int kInstructionsTop = 126;
-constexpr int kHeadingTop = 168;
-constexpr int kColumnHeadingTop = 200;
-constexpr int kListTop = 222;
+constexpr int kInstructionsTop = 148;
+constexpr int kHeadingTop = 200;
+constexpr int kColumnHeadingTop = 234;
+constexpr int kListTop = 258;
+constexpr int kStartTop = 510;
+constexpr int kStartHeight = 76;
 constexpr int kLegendLeft = 638;  // under it stands lblTestPassPercent
-constexpr int kLegendTop = 512;
-constexpr int kListFrame = 2;  // pixels around a list's rows
+constexpr int kListFrame = 2;     // pixels around a list's rows
 
 int ListPixels(const platform::ListBox& list, int rows) {
   return rows * list.RowHeight() / kPixel + 2 * kListFrame;
@@ -88,24 +89,24 @@ void MainMenu::PlaceHeadings() {
   lblBand.SetColours(kPaper, kNavy);
   MovePixels(lblBandEdge, 0, kBandHeight, kFormPixels, 4);
   lblBandEdge.SetColours(kAmber, kAmber);
-  MovePixels(lblProgramMenu, kMargin, 12, 500, 80);
+  MovePixels(lblProgramMenu, kMargin, 22, 500, 80);
   lblProgramMenu.SetColours(kPaper, kNavy);
   const int right = kFormPixels - kMargin - 240;
-  MovePixels(Label1, right, 66, 240, 22);
-  SetType(Label1, 10, false, kPaper, kNavy);
-  Label1.SetAlignment(platform::Label::Align::Right);
-  MovePixels(lblStudent, right, 14, 240, 46);
+  MovePixels(lblStudent, right, 26, 240, 46);
   SetType(lblStudent, 11, true, kAmber, kNavy);
   lblStudent.SetAlignment(platform::Label::Align::Right);
   lblStudent.SetVisible(false);
+  MovePixels(Label1, right, 78, 240, 22);
+  SetType(Label1, 10, false, kPaper, kNavy);
+  Label1.SetAlignment(platform::Label::Align::Right);
   MovePixels(lblInstructions, kMargin, kInstructionsTop, kFormPixels - 2 * kMargin, 24);
   SetType(lblInstructions, 12);
 }
 
 void MainMenu::PlaceUnits() {
-  MovePixels(lblUnits, kMargin, kHeadingTop, kUnitsWidth, 24);
-  SetType(lblUnits, 12, true);
-  lstChapter.SetFont("MS Sans Serif", 11);
+  MovePixels(lblUnits, kMargin, kColumnHeadingTop, kUnitsWidth, 20);
+  SetType(lblUnits, 10);
+  lstChapter.SetFont("Courier New", 11);  // in which a blank is as wide as a digit
   lstChapter.SetAccessibleName("Units");
   MovePixels(lstChapter, kMargin, kListTop, kUnitsWidth, ListPixels(lstChapter, kUnitMarkRows));
   MovePixels(picProgress1, kMargin - 24, kListTop + kListFrame, 20,
@@ -115,31 +116,31 @@ void MainMenu::PlaceUnits() {
 }
 
 void MainMenu::PlaceLessons() {
-  MovePixels(lblLessons1, kLessonsLeft, kHeadingTop, 40, 24);
-  MovePixels(lblLessons2, kLessonsLeft + 42, kHeadingTop, 28, 24);
-  MovePixels(lblLessons3, kLessonsLeft + 76, kHeadingTop, kLessonsWidth - 76, 24);
+  MovePixels(lblLessons1, kLessonsLeft, kHeadingTop, 38, 24);
+  MovePixels(lblLessons2, kLessonsLeft + 40, kHeadingTop, 24, 24);
+  MovePixels(lblLessons3, kLessonsLeft + 70, kHeadingTop, kLessonsWidth - 70, 24);
   for (platform::Label* label : {&lblLessons1, &lblLessons2, &lblLessons3})
     SetType(*label, 12, true);
-  MovePixels(lblLessons4, kMarksLeft, kColumnHeadingTop, kMarksWidth, 20);
+  MovePixels(lblLessons4, kMarksLeft - 10, kColumnHeadingTop, kMarksWidth + 24, 20);
   MovePixels(lblLessons5, kLessonsLeft, kColumnHeadingTop, kLessonsWidth, 20);
   SetType(lblLessons4, 10);
   SetType(lblLessons5, 10);
-  lstLesson.SetFont("MS Sans Serif", 11);
+  lstLesson.SetFont("Courier New", 11);
   lstLesson.SetAccessibleName("Lessons");
-  const int rowPixels = lstLesson.RowHeight() / kPixel;
-  MovePixels(lstLesson, kLessonsLeft, kListTop, kLessonsWidth,
-             ListPixels(lstLesson, kLessonMarkRows));
-  MovePixels(picProgress2, kMarksLeft + 16, kListTop + kListFrame, 40, kLessonMarkRows * rowPixels);
+  const int listHeight = ListPixels(lstLesson, kLessonMarkRows);
+  MovePixels(lstLesson, kLessonsLeft, kListTop, kLessonsWidth, listHeight);
+  MovePixels(picProgress2, kMarksLeft, kListTop + kListFrame, kMarksWidth,
+             listHeight - 2 * kListFrame);
   picProgress2.BackColor = FormGrey;
   picProgress2.SetAccessibleName("Progress");
-  MovePixels(linProgress, kLessonsLeft - 6, kListTop, 1, ListPixels(lstLesson, kLessonMarkRows));
+  MovePixels(linProgress, kMarksLeft - 10, kListTop, 1, listHeight);
   linProgress.SetColours(kSlate, kSlate);
 }
 
 void MainMenu::PlaceStart() {
-  MovePixels(cmdStart, kLessonsLeft, kLegendTop, kLegendLeft - 24 - kLessonsLeft, 64);
+  MovePixels(cmdStart, kLessonsLeft, kStartTop, kLegendLeft - 24 - kLessonsLeft, kStartHeight);
   cmdStart.SetFont("MS Sans Serif", 14, true);
-  MovePixels(picLegend, kLegendLeft, kLegendTop, 150, 96);
+  MovePixels(picLegend, kLegendLeft, kStartTop, 150, 96);
   picLegend.BackColor = FormGrey;
   picLegend.SetAccessibleName("W: worked, no test yet.  T: tested.  Check mark: completed.");
   lblTestPassPercent.Move(9570, 9250, 3000, 2000);

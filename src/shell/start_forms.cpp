@@ -19,7 +19,7 @@ constexpr int kLogoWidth = 360;  // of the picture
 constexpr int kLogoHeight = 240;
 
 constexpr int kTextWidth = 520;
-constexpr int kTextHeight = 296;
+constexpr int kTextHeight = 232;
 
 constexpr const char* kWelcomeText =
     "Thank you for purchasing this program.  We sincerely hope you will enjoy using it.\n\n"
@@ -27,7 +27,7 @@ constexpr const char* kWelcomeText =
     "(which is currently empty).\n\n"
     "The next screen that appears will allow you to add one or more names to the student "
     "file.\n\n"
-    "When you are done, click RETURN TO MENU there.\n\n"
+    "When you are done, click RETURN TO MENU.\n\n"
     "Now, click OK below to proceed to the next screen.";
 
 }  // namespace
