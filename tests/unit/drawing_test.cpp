@@ -6,6 +6,7 @@
 #include "display/print.h"
 #include "support/display_fixture.h"
 #include "support/expect_stop.h"
+#include "support/golden.h"
 #include "support/pixel_picture.h"
 
 namespace course::testing {
@@ -266,6 +267,32 @@ TEST_F(DrawingTest, PaintStaysInsideItsBoundary) {
   EXPECT_EQ(Extent(colour::Magenta), "(89, 94) 79 x 99");
   EXPECT_EQ(CountOf(colour::Magenta), 79u * 99);
   ExpectStop("isDrawPoly: np = 31", [] { isDrawPoly(31, colour::Green); });
+}
+
+TEST_F(DrawingTest, MarksLookAsTheyWereDesigned) {
+  Locate(3, 1);
+  isPrint("AB ABC A  AB XY X  f(x) = 3x + 4x");
+  isDrawArcLabel(3, 1, 2);
+  isDrawArcLabel(3, 4, 3);
+  isDrawArcLabel(3, 8, 1);
+  isDrawRayLabel(3, 11, 2);
+  isDrawRayLabel(3, 14, 2);
+  isDrawRayLabel(3, 17, 1);
+  Bracket(2.1, 27, 7, 2, 2);
+  Bracket(3.8, 27, 7, 2, 1);
+  Bracket2(3, 35, 3, 0.4, "R");
+  Bracket2(3, 36, 3, 0.4, "L");
+  isIntegralSign(3, 38, 3);
+  isDrawBullet(5, 2, colour::Cyan);
+  isDrawRay("", 6, 4, 5, 12, true);
+  isDrawRoundRectFilled(5, 14, 6, 18, 2, colour::Yellow, colour::Red);
+  isDrawArrowPointingLeftWithColor(5, 21, colour::Cyan);
+  isDrawArrowPointingRightWithColor(6, 23, colour::Cyan, 4);
+  isDrawArrow2Segment(5, 26, 6, 30, colour::Green, "A", "A", "H");
+  isDrawArrow3Segment(6, 32, 5, 32, 5, 38, 6, 38, colour::Yellow, "NA", "A");
+  platform::Surface marks(656, 131);
+  marks.BitBlt(0, 0, 656, 131, Panel(), 0, 0);
+  ExpectGolden(marks, "drawing_marks");
 }
 
 }  // namespace

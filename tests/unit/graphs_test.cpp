@@ -6,6 +6,7 @@
 #include "display/drawing.h"
 #include "support/display_fixture.h"
 #include "support/expect_stop.h"
+#include "support/golden.h"
 #include "support/pixel_picture.h"
 
 namespace course::testing {
@@ -157,6 +158,17 @@ TEST_F(GraphsTest, ALabelLiesAlongItsLine) {
   EXPECT_GT(upright.height, upright.width);
   EXPECT_EQ(Box().ForeColor, colour::Black);
   EXPECT_EQ(Box().FontName, "MS Sans Serif");
+}
+
+TEST_F(GraphsTest, FiguresLookAsTheyWereDesigned) {
+  Plane("SHOWNUMBERS");
+  picGraph2DLine(1, 2, 1, colour::Red, 2);
+  picGraph2DPlotPoint(1, 0, 1, colour::Red);
+  picGraph2DPlotPoint(1, -3, -2, colour::Green, 0.3);
+  picGraph2DPrintRotated(1, Atn2Degrees(2), 1.5, 2.5, "y = 2x + 1", colour::Red, 8);
+  ExpectGolden(Box(), "coordinate_plane");
+  NumberLine("arrows", 2);
+  ExpectGolden(Box(), "number_line");
 }
 
 TEST_F(GraphsTest, PaintFillsAFigureUpToItsLines) {
