@@ -88,6 +88,7 @@ void picGraph2DShowNumberLine(int index, const std::string& style, double u) {
   const bool arrows = wanted == "ARROWS";
   if (!arrows && wanted != "NOARROWS")
     platform::Stop("picGraph2DShowNumberLine: style = \"" + style + "\"");
+  if (u <= 0) platform::Stop("picGraph2DShowNumberLine: u = " + NumStr(u));
   figure.FontSize = kLabelSize;
   figure.SetVisible(true);
   figure.Scale(-4 * u, 3, 4 * u, -3);

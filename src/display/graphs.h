@@ -13,7 +13,7 @@ namespace course {
 void picGraph2DPrepare(int index, double row, double col, double wd, double ht);
 // "SHOWNUMBERS", in any case, labels the axes.
 void picGraph2DShowPlane(int index, const std::string& numbers, bool thin = false);
-// style "arrows" or "noarrows", in any case; u is the value of a labelled tick's step.
+// style "arrows" or "noarrows", in any case; u, above 0, is the value of a labelled tick's step.
 void picGraph2DShowNumberLine(int index, const std::string& style, double u);
 void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,
                          double radius = 0.2);

@@ -71,6 +71,7 @@ TEST_F(GraphsTest, TheLineOfANumberLineEndsAsItsStyleWants) {
   EXPECT_EQ(Box().Pixel(8, 36), colour::Black);
   ExpectStop("picGraph2DShowNumberLine: style = \"none\"",
              [] { picGraph2DShowNumberLine(1, "none", 2); });
+  ExpectStop("picGraph2DShowNumberLine: u = 0", [] { picGraph2DShowNumberLine(1, "arrows", 0); });
 }
 
 TEST_F(GraphsTest, NumbersStandUnderEverySecondTick) {
