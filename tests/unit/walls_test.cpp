@@ -157,6 +157,9 @@ TEST(WallChecksTest, ForgottenFilesAreFound) {
   EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp"}),  // without benchmarks
             (Complaints{"src/engine/dust.h is included by no compiled source",
                         "tests/unit/a_test.cpp is not compiled"}));
+  const SourceFile hook = {"scripts/hook.cpp", ""};
+  EXPECT_EQ(LeftOutOfBuild({hook}, {}).size(), 1u);
+  EXPECT_EQ(LeftOutOfBuild({hook, {"scripts/a.sh", "c++ scripts/hook.cpp\n"}}, {}), Complaints{});
   EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp", "bench/b_bench.cpp"}).size(), 3u);
 }
 
