@@ -15,7 +15,9 @@ struct LessonRow {
 };
 
 // In the order of the course; those that only the diagnostic test reaches come last.
-constexpr std::array<LessonRow, 0> kLessons{};
+constexpr auto kLessons = std::to_array<LessonRow>({
+    {"Simple Inequalities", MakeSimpleInequalities},
+});
 
 }  // namespace
 

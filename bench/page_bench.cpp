@@ -1,0 +1,121 @@
+// What a page of a lesson costs: printing, fractions, animation, problems, whole pages.
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+
+#include "display/animation.h"
+#include "display/fractions.h"
+#include "display/grid.h"
+#include "display/print.h"
+#include "display/word_wrap.h"
+#include "engine/navigation.h"
+#include "lessons/lesson_table.h"
+#include "platform/manual_clock.h"
+#include "platform/user.h"
+#include "session/session.h"
+
+namespace {
+
+using namespace course;
+
+// A user who leaves at every wait: one page is what is measured.
+class Leaver final : public platform::User {
+ public:
+  void AtWait(const std::string&) override { session.gLeaveLesson = 1; }
+  void AtPause(double) override {}
+  platform::Answer AtMessage(const platform::Message&) override { return platform::Answer::No; }
+  std::optional<std::string> AtInput(const std::string&) override { return {}; }
+  [[noreturn]] void AtStop(const std::string&) override { std::abort(); }
+  [[noreturn]] void AtEnd() override { std::abort(); }
+};
+
+// A lesson window on the screen, with no real waiting.
+class OpenWindow {
+ public:
+  OpenWindow() {
+    platform::InstallUser(&user_);
+    platform::InstallClock(&clock_);
+    LoadLessonWindow();
+    ResetScreen();
+  }
+  ~OpenWindow() {
+    UnloadLessonWindow();
+    platform::InstallClock(nullptr);
+    platform::InstallUser(nullptr);
+    session = Session{};
+  }
+
+ private:
+  Leaver user_;
+  platform::ManualClock clock_;
+};
+
+void LineOf40Characters(benchmark::State& state) {
+  const OpenWindow window;
+  const std::string line(40, 'x');
+  for (auto _ : state) {
+    Locate(10, 1);
+    isPrint(line);
+  }
+}
+BENCHMARK(LineOf40Characters);
+
+// 23 lines of wrapped text in four colours with exponents, each run shown at once.
+void FullPageWrapped(benchmark::State& state) {
+  const OpenWindow window;
+  const std::string paragraph =
+      R"(The \csquare\z of a binomial such as (x + 3)^2^ is a \ytrinomial\z: it has the terms )"
+      R"(x^2^, 6x and 9.  The \rmiddle term\z is twice the product of both terms. )";
+  std::string page;
+  while (page.size() < 1040) page += paragraph;
+  for (auto _ : state) {
+    frmPR->lessonText.ClearTranscript();
+    Locate(2, 1);
+    for (int part = 0; part < 5; ++part) WordWrap(page.substr(0, paragraph.size()));
+    benchmark::DoNotOptimize(frmPR->lessonText.cursorY);
+  }
+  UpdateCursorCell();
+  state.counters["rows"] = frmPR->lessonText.cursorRow - 2;
+}
+BENCHMARK(FullPageWrapped)->Unit(benchmark::kMillisecond);
+
+void BuiltUpFraction(benchmark::State& state) {
+  const OpenWindow window;
+  for (auto _ : state) {
+    Locate(10, 5);
+    isPrintFraction("x + 12", "3y");
+  }
+}
+BENCHMARK(BuiltUpFraction);
+
+// Two rows of text over the whole width, a pixel up, shown; without the pause.
+void AnimationStep(benchmark::State& state) {
+  const OpenWindow window;
+  for (auto _ : state) Anim2(12, 1, 40, 2, 1, 1.0 / 25, 0, 1);
+}
+BENCHMARK(AnimationStep);
+
+void DrawnProblem(benchmark::State& state) {
+  const auto lesson = MakeLesson("Simple Inequalities");
+  int seed = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(lesson->Draw(seed));
+    seed = (seed + 1) % 32767;
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(DrawnProblem);
+
+// From the cleared screen to the shown answer boxes.
+void PracticePage(benchmark::State& state) {
+  const OpenWindow window;
+  for (auto _ : state) {
+    session.gActivity = activity::Practice;
+    session.gLeaveLesson = 0;
+    MakeLesson("Simple Inequalities")->Run();
+  }
+}
+BENCHMARK(PracticePage)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,29 @@
+// The commands of lesson-lab.  Each prints its result and returns the program's exit status.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "engine/lesson_script.h"
+
+namespace lesson_lab {
+
+// A line a lesson: unit, title, numbered screens.
+int List();
+
+// Problems of seeds first, first + 1 ... as JSON, a line each.  Seeds go round after 32766.
+int PrintProblems(const std::string& title, int first, int count);
+
+// Every page of one run in a folder, as NN.png and NN.txt, and contact.png with all of them.
+struct PagesRequest {
+  std::string title;
+  std::string mode = "lesson";  // number or name of an entry mode
+  int seed = 0;
+  std::string folder;
+};
+int WritePages(const PagesRequest& request);
+
+// The script of a title, the blank lesson included; nullptr, and a message, when there is none.
+std::unique_ptr<course::LessonScript> FindLesson(const std::string& title);
+
+}  // namespace lesson_lab

@@ -1,0 +1,42 @@
+#include <cstdio>
+
+#include "lesson_lab/commands.h"
+#include "lessons/blank_lesson.h"
+#include "lessons/lesson_table.h"
+#include "mathkit/tutor_codes.h"
+#include "session/session.h"
+
+namespace lesson_lab {
+namespace {
+
+using course::session;
+
+// The unit of the menu that lists the title, 0 for a lesson outside the units.
+int UnitOf(const std::string& title) {
+  const std::string key = course::UpperCase(title);
+  for (int unit = 1; unit <= session.gUnitCount; ++unit)
+    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
+      if (course::UpperCase(session.gLessonTitle[unit][row]) == key) return unit;
+  return 0;
+}
+
+}  // namespace
+
+std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
+  auto lesson = course::MakeLesson(title);
+  if (!lesson && course::UpperCase(title) == "BLANK LESSON") lesson = course::MakeBlankLesson();
+  if (!lesson) std::fprintf(stderr, "No lesson has the title \"%s\".\n", title.c_str());
+  return lesson;
+}
+
+int List() {
+  for (const std::string_view title : course::LessonTitles()) {
+    const std::string name(title);
+    const int unit = UnitOf(name);
+    std::printf("%4s  %-45s %d\n", unit == 0 ? "-" : std::to_string(unit).c_str(),
+                course::ToUtf8(name).c_str(), course::MakeLesson(name)->ScreenCount());
+  }
+  return 0;
+}
+
+}  // namespace lesson_lab

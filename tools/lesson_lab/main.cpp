@@ -1,0 +1,40 @@
+// lesson-lab: the authors' bench beside the course.  It draws problems and pages without a student.
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+
+#include "lesson_lab/commands.h"
+#include "platform/program.h"
+#include "session/catalogue.h"
+
+int main(int argc, char** argv) {
+  // Without a display the pages are drawn all the same.
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  platform::Application application(argc, argv);
+  course::FillCourseTables();
+
+  CLI::App app("Draws the problems and pages of the course's lessons.");
+  app.require_subcommand(1);
+  std::string title;
+  int seed = 0;
+  int count = 1;
+  lesson_lab::PagesRequest pages;
+
+  app.add_subcommand("list", "A line a lesson: unit, title, screens");
+
+  CLI::App* problem = app.add_subcommand("problem", "Problems as JSON, a line each");
+  problem->add_option("title", title, "The lesson's title, in any case")->required();
+  problem->add_option("--seed", seed, "First seed")->required()->check(CLI::Range(0, 32766));
+  problem->add_option("--count", count, "How many seeds")->check(CLI::Range(1, 32767));
+
+  CLI::App* draw = app.add_subcommand("pages", "Every page of one run as pictures and text");
+  draw->add_option("title", pages.title, "The lesson's title, in any case")->required();
+  draw->add_option("--mode", pages.mode, "Entry mode: 1 to 13, or lesson, example, practice ...")
+      ->required();
+  draw->add_option("--seed", pages.seed, "Seed of the problem")->check(CLI::Range(0, 32766));
+  draw->add_option("--out", pages.folder, "Folder for the pages")->required();
+
+  CLI11_PARSE(app, argc, argv);
+  if (problem->parsed()) return lesson_lab::PrintProblems(title, seed, count);
+  if (draw->parsed()) return lesson_lab::WritePages(pages);
+  return lesson_lab::List();
+}

@@ -1,0 +1,64 @@
+#include "lesson_lab/page_turner.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "display/lesson_window.h"
+#include "mathkit/tutor_codes.h"
+#include "session/session.h"
+
+namespace lesson_lab {
+
+using course::frmPR;
+using course::session;
+
+namespace {
+
+std::string TextOfPage() {
+  std::string text;
+  for (const std::string& line : course::TranscriptLines(frmPR->lessonText))
+    text += course::ToUtf8(line) + "\n";
+  for (int box = 1; box <= session.gChoiceCount; ++box)
+    text += course::ToUtf8(frmPR->picAnswer[box].AccessibleText()) + "\n";
+  return text;
+}
+
+}  // namespace
+
+void PageTurner::KeepPage() {
+  pages.push_back({frmPR->form.Grab(), TextOfPage()});
+}
+
+void PageTurner::AtWait(const std::string& place) {
+  KeepPage();
+  if (place == "PageEnd") {
+    frmPR->pnlLesson.Click();
+  } else if (platform::Form* dialog = platform::Form::ModalForm()) {
+    dialog->Find("cmdOption(4)")->Click();
+  } else {
+    session.gLeaveLesson = 1;
+  }
+}
+
+void PageTurner::AtPause(double) {}
+
+platform::Answer PageTurner::AtMessage(const platform::Message&) {
+  KeepPage();
+  return platform::Answer::No;
+}
+
+std::optional<std::string> PageTurner::AtInput(const std::string&) {
+  return {};
+}
+
+void PageTurner::AtStop(const std::string& message) {
+  std::fprintf(stderr, "%s#%d: %s\n", session.gLessonName.c_str(), session.gProblemSeed,
+               message.c_str());
+  std::exit(1);
+}
+
+void PageTurner::AtEnd() {
+  std::exit(0);
+}
+
+}  // namespace lesson_lab

@@ -1,0 +1,157 @@
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+#include "display/lesson_window.h"
+#include "engine/navigation.h"
+#include "lesson_lab/commands.h"
+#include "lesson_lab/page_turner.h"
+#include "platform/manual_clock.h"
+#include "session/session.h"
+
+namespace lesson_lab {
+namespace {
+
+using course::session;
+namespace mode = course::mode;
+namespace activity = course::activity;
+
+const std::map<std::string, int> kModeNames = {
+    {"practice", mode::NewProblem},
+    {"explanation", mode::Explanation},
+    {"example", mode::Example},
+    {"lesson-test", mode::LessonTestProblem},
+    {"lesson-test-explanation", mode::LessonTestExplanation},
+    {"lesson", mode::Lesson},
+    {"unit-test", mode::UnitTestProblem},
+    {"unit-test-explanation", mode::UnitTestExplanation},
+    {"diagnostic", mode::DiagnosticProblem}};
+
+// 0 when there is no such entry.
+int ModeOf(const std::string& name) {
+  if (const auto found = kModeNames.find(name); found != kModeNames.end()) return found->second;
+  const int number = std::atoi(name.c_str());
+  return number >= 1 && number <= 13 && number != mode::Leave ? number : 0;
+}
+
+void WantPractice(int entry, int seed) {
+  session.gActivity = activity::Practice;
+  session.gProblemSeed = seed;
+  (entry == mode::Explanation ? session.gExplainProblem : session.gRepeatProblem) = 1;
+}
+
+void WantLessonTest(int entry, int seed) {
+  session.gActivity = activity::LessonTest;
+  session.gLessonTest = 1;
+  session.gLessonTestProb = 1;
+  session.gTestSeeds[1] = seed;
+  session.gLessonTestReviewNum = entry == mode::LessonTestProblem ? 0 : 1;
+  session.gLessonTestReviewExplain = entry == mode::LessonTestExplanation ? 1 : 0;
+}
+
+void WantUnitTest(int entry, int seed) {
+  session.gActivity = activity::UnitTest;
+  session.gChapterTest = 1;
+  session.gChapterTestStatus = 2;
+  session.gChapterTestProb = 1;
+  session.gChapterTestProbCount = 1;
+  session.gChapterTestData[1][course::unit_test_column::Seed] = std::to_string(seed);
+  session.gChapterTestReviewNum = entry == mode::UnitTestProblem ? 0 : 1;
+  session.gChapterTestReviewExplain = entry == mode::UnitTestExplanation ? 1 : 0;
+}
+
+// Writes the session fields so that the next run enters the lesson in the mode, with the seed.
+void WantEntry(int entry, int seed) {
+  switch (entry) {
+    case mode::Lesson:
+      session.gActivity = activity::Lesson;
+      break;
+    case mode::Example:
+      session.gActivity = activity::Example;
+      session.gProblemSeed = seed;
+      session.gRepeatExample = 1;
+      break;
+    case mode::LessonTestProblem:
+    case mode::LessonTestReview:
+    case mode::LessonTestExplanation:
+      WantLessonTest(entry, seed);
+      break;
+    case mode::UnitTestProblem:
+    case mode::UnitTestReview:
+    case mode::UnitTestExplanation:
+      WantUnitTest(entry, seed);
+      break;
+    case mode::DiagnosticProblem:
+      session.gActivity = activity::DiagnosticTest;
+      session.gDiagnosticTest = 1;
+      session.gDiagnosticProb = 1;
+      session.gDiagnosticData[1][course::diagnostic_column::Seed] = std::to_string(seed);
+      break;
+    default:
+      WantPractice(entry, seed);
+  }
+}
+
+bool WriteContactSheet(const std::vector<Page>& pages, const std::string& file) {
+  constexpr int kColumns = 3;
+  constexpr int kGap = 12;
+  const int width = pages[0].picture->PixelWidth() / 2;
+  const int height = pages[0].picture->PixelHeight() / 2;
+  const int count = static_cast<int>(pages.size());
+  const int rows = (count + kColumns - 1) / kColumns;
+  platform::Surface sheet(kColumns * (width + kGap) + kGap, rows * (height + kGap) + kGap);
+  for (int i = 0; i < count; ++i)
+    sheet.StretchBlt({kGap + i % kColumns * (width + kGap), kGap + i / kColumns * (height + kGap),
+                      width, height},
+                     *pages[static_cast<std::size_t>(i)].picture);
+  return sheet.SavePng(file);
+}
+
+bool WritePage(const Page& page, const std::string& stem) {
+  std::ofstream text(stem + ".txt", std::ios::binary);
+  text << page.text;
+  return page.picture->SavePng(stem + ".png") && text.good();
+}
+
+int WriteAll(const std::vector<Page>& pages, const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  bool written = !error && !pages.empty();
+  for (std::size_t i = 0; i < pages.size() && written; ++i) {
+    const std::string number = (i < 9 ? "0" : "") + std::to_string(i + 1);
+    written = WritePage(pages[i], folder + "/" + number);
+  }
+  written = written && WriteContactSheet(pages, folder + "/contact.png");
+  if (!written)
+    std::fprintf(stderr, "Cannot write the pages to \"%s\".\n", folder.c_str());
+  else
+    std::printf("%zu pages in %s\n", pages.size(), folder.c_str());
+  return written ? 0 : 1;
+}
+
+}  // namespace
+
+int WritePages(const PagesRequest& request) {
+  const auto lesson = FindLesson(request.title);
+  if (!lesson) return 1;
+  const int entry = ModeOf(request.mode);
+  if (entry == 0) {
+    std::fprintf(stderr, "There is no entry mode \"%s\".\n", request.mode.c_str());
+    return 1;
+  }
+  PageTurner reader;
+  platform::ManualClock clock;
+  platform::InstallUser(&reader);
+  platform::InstallClock(&clock);
+  course::LoadLessonWindow();
+  WantEntry(entry, request.seed);
+  lesson->Run();
+  course::UnloadLessonWindow();
+  platform::InstallClock(nullptr);
+  platform::InstallUser(nullptr);
+  return WriteAll(reader.pages, request.folder);
+}
+
+}  // namespace lesson_lab
