@@ -34,12 +34,25 @@ Trail TrailOf(int dr, int er) {
   return Trail::None;
 }
 
-// A rectangle on its way over a surface.
+// A rectangle on its way over a surface, and the text on it when the surface has one.
 class MovingRect {
  public:
-  MovingRect(platform::Surface& surface, platform::PixelRect rect, int dr, int er,
+  MovingRect(platform::Surface& surface, TextPanel* text, platform::PixelRect rect, int dr, int er,
              platform::Colour backColor)
-      : surface_(surface), rect_(rect), dr_(dr), trail_(TrailOf(dr, er)), backColor_(backColor) {}
+      : surface_(surface),
+        text_(text),
+        start_(rect),
+        rect_(rect),
+        dr_(dr),
+        trail_(TrailOf(dr, er)),
+        backColor_(backColor) {}
+  ~MovingRect() {
+    if (text_ != nullptr && step_ > 0)
+      text_->MoveTranscript(start_, rect_.left - start_.left, rect_.top - start_.top,
+                            trail_ == Trail::Copy);
+  }
+  MovingRect(const MovingRect&) = delete;
+  MovingRect& operator=(const MovingRect&) = delete;
 
   bool Moves() const { return trail_ != Trail::None; }
 
@@ -104,6 +117,8 @@ class MovingRect {
   }
 
   platform::Surface& surface_;
+  TextPanel* text_;  // nullptr when the surface holds no text
+  platform::PixelRect start_;
   platform::PixelRect rect_;  // where the rectangle stands
   int dr_;
   Trail trail_;
@@ -114,6 +129,7 @@ class MovingRect {
 // Cells and origin of the surface that an animation runs on.
 struct Ground {
   platform::Surface& surface;
+  TextPanel* text;
   int cellWidth;
   int cellHeight;
   int originX;  // pixel X of column firstCell
@@ -127,7 +143,8 @@ struct Ground {
 constexpr int kBandOffset = 4;
 
 Ground LessonGround(int bandOffset = kBandOffset) {
-  return {frmPR->pnlLesson, gCellWidth, gCellHeight, gLeftMargin, gTopMargin + bandOffset, 1, 2};
+  return {frmPR->pnlLesson, &frmPR->lessonText,      gCellWidth, gCellHeight,
+          gLeftMargin,      gTopMargin + bandOffset, 1,          2};
 }
 
 platform::PixelRect PixelsOf(const Ground& ground, double rp, double cp, double wd, double ht) {
@@ -143,7 +160,7 @@ int StepsOf(const Ground& ground, int dr, double ds) {
 void AnimCore(const Ground& ground, double rp, double cp, double wd, double ht, int dr, double ds,
               double sp, int er, platform::Colour backColor) {
   const AnimationFrame frame;
-  MovingRect rect(ground.surface, PixelsOf(ground, rp, cp, wd, ht), dr, er, backColor);
+  MovingRect rect(ground.surface, ground.text, PixelsOf(ground, rp, cp, wd, ht), dr, er, backColor);
   if (!rect.Moves()) return;
   const double pause = StepPause(sp);
   const int steps = StepsOf(ground, dr, ds);
@@ -160,19 +177,21 @@ Ground GroundOf(int surface, int index) {
     case 1:
       return LessonGround();
     case 2:
-      return {frmPR->picWiperBox,
-              gCellWidth,
-              gCellHeight,
-              gWbLeftMargin,
-              gWbTopMargin + kBandOffset,
-              1,
-              1};
+      return {frmPR->picWiperBox, &frmPR->wiperText,          gCellWidth, gCellHeight,
+              gWbLeftMargin,      gWbTopMargin + kBandOffset, 1,          1};
     case 3:
       CheckBoxIndex(index);
-      return {frmPR->picCommentBox[index], gCellWidth, gCellHeight, 4, 7, 1, 1};
+      return {frmPR->picCommentBox[index],
+              frmPR->commentText[static_cast<std::size_t>(index)].get(),
+              gCellWidth,
+              gCellHeight,
+              4,
+              7,
+              1,
+              1};
     case 4:
       CheckBoxIndex(index);
-      return {frmPR->picGalleryImage[index], 1, 1, 0, 0, 0, 0};
+      return {frmPR->picGalleryImage[index], nullptr, 1, 1, 0, 0, 0, 0};
     default:
       platform::Stop("AnimGenlCase: surface = " + std::to_string(surface));
   }
@@ -229,8 +248,10 @@ void Anim3(double rp1, double cp1, double wd1, double ht1, int dr1, double rp2, 
   const AnimationFrame frame;
   const Ground ground = LessonGround(6);
   const platform::Colour back = screenState.gBackColor;
-  MovingRect first(ground.surface, PixelsOf(ground, rp1, cp1, wd1, ht1), dr1, er, back);
-  MovingRect second(ground.surface, PixelsOf(ground, rp2, cp2, wd2, ht2), dr2, er, back);
+  MovingRect first(ground.surface, ground.text, PixelsOf(ground, rp1, cp1, wd1, ht1), dr1, er,
+                   back);
+  MovingRect second(ground.surface, ground.text, PixelsOf(ground, rp2, cp2, wd2, ht2), dr2, er,
+                    back);
   if (!first.Moves()) return;
   const double pause = StepPause(sp);
   const int steps = StepsOf(ground, dr1, ds);

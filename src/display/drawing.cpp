@@ -119,6 +119,7 @@ void isDrawBoxFilled(double rp1, double cp1, double rp2, double cp2, platform::C
   TextPanel& panel = DrawTarget();
   const InclusiveBox box = BoxOfCells(panel, rp1, cp1, rp2, cp2);
   panel.surface.FilledBox(box.left, box.top, box.right, box.bottom, colr);
+  panel.EraseTranscript({box.left, box.top, box.right - box.left + 1, box.bottom - box.top + 1});
   panel.surface.Refresh();
 }
 

@@ -1,6 +1,8 @@
 #include "display/text_panel.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <map>
 
 #include "display/grid.h"
@@ -128,6 +130,75 @@ void TextPanel::Record(const std::string& s) {
   UpdateCursorCell();
   const double row = scriptLevel == 0 ? cursorRow : scriptBaseRow;
   transcript_.push_back({row, cursorCol, surface.ForeColor, scriptLevel, s});
+}
+
+namespace {
+
+bool Contains(const platform::PixelRect& rect, platform::PixelPoint point) {
+  return point.x >= rect.left && point.x < rect.left + rect.width && point.y >= rect.top &&
+         point.y < rect.top + rect.height;
+}
+
+// The rectangle and all that it passes on its way by (dx, dy).
+platform::PixelRect Swept(const platform::PixelRect& rect, int dx, int dy) {
+  return {rect.left + std::min(dx, 0), rect.top + std::min(dy, 0), rect.width + std::abs(dx),
+          rect.height + std::abs(dy)};
+}
+
+// Adds one character of a fragment, to the stretch that is being built when it goes on there.
+void Append(std::vector<Fragment>& pieces, const Fragment& whole, std::size_t i, double row,
+            double col) {
+  if (!pieces.empty()) {
+    Fragment& last = pieces.back();
+    if (last.row == row && last.col + static_cast<double>(last.text.size()) == col) {
+      last.text += whole.text[i];
+      return;
+    }
+  }
+  pieces.push_back({row, col, whole.colour, whole.level, whole.text.substr(i, 1)});
+}
+
+}  // namespace
+
+platform::PixelPoint TextPanel::CentreOf(const Fragment& fragment, std::size_t i) const {
+  const double col = fragment.col + static_cast<double>(i) + 0.5;
+  return {static_cast<int>(CellX(col)), static_cast<int>(CellY(fragment.row + 0.66))};
+}
+
+void TextPanel::MoveTranscript(const platform::PixelRect& rect, int dx, int dy,
+                               bool keepsOriginal) {
+  const platform::PixelRect swept = Swept(rect, dx, dy);
+  const platform::PixelRect target{rect.left + dx, rect.top + dy, rect.width, rect.height};
+  const double rows = static_cast<double>(dy) / layout.cellHeight;
+  const double cols = static_cast<double>(dx) / layout.cellWidth;
+  std::vector<Fragment> left;
+  for (const Fragment& fragment : transcript_) {
+    std::vector<Fragment> staying;
+    std::vector<Fragment> moving;
+    for (std::size_t i = 0; i < fragment.text.size(); ++i) {
+      const platform::PixelPoint centre = CentreOf(fragment, i);
+      const bool inside = Contains(rect, centre);
+      const double col = fragment.col + static_cast<double>(i);
+      if (inside) Append(moving, fragment, i, fragment.row + rows, col + cols);
+      const bool copied = inside && keepsOriginal && !Contains(target, centre);
+      if (copied || !Contains(swept, centre)) Append(staying, fragment, i, fragment.row, col);
+    }
+    left.insert(left.end(), staying.begin(), staying.end());
+    left.insert(left.end(), moving.begin(), moving.end());
+  }
+  transcript_ = std::move(left);
+}
+
+void TextPanel::EraseTranscript(const platform::PixelRect& rect) {
+  std::vector<Fragment> left;
+  for (const Fragment& fragment : transcript_) {
+    std::vector<Fragment> staying;
+    for (std::size_t i = 0; i < fragment.text.size(); ++i)
+      if (!Contains(rect, CentreOf(fragment, i)))
+        Append(staying, fragment, i, fragment.row, fragment.col + static_cast<double>(i));
+    left.insert(left.end(), staying.begin(), staying.end());
+  }
+  transcript_ = std::move(left);
 }
 
 std::vector<std::string> TranscriptLines(const TextPanel& panel) {

@@ -77,16 +77,23 @@ class TextPanel {
   // Adds a text at the cursor to the transcript: for texts that reach the surface in another way.
   void Record(const std::string& s);
 
+  // What a reader finds after a part of the surface was moved by (dx, dy) pixels over what lay on
+  // its way, or copied there, or painted over: the transcript follows the letters' centres.
+  void MoveTranscript(const platform::PixelRect& rect, int dx, int dy, bool keepsOriginal);
+  void EraseTranscript(const platform::PixelRect& rect);
+
   const std::vector<Fragment>& Transcript() const { return transcript_; }
   void ClearTranscript() { transcript_.clear(); }
 
  private:
+  platform::PixelPoint CentreOf(const Fragment& fragment, std::size_t i) const;
+
   std::vector<Fragment> transcript_;
 };
 
 // The transcript as lines of text from top to bottom, empty ones left out, in single bytes:
-// exponents as
-// "^2^", subscripts between code 250.  A later text stands in place of an earlier one in its cells.
+// exponents as "^2^", subscripts between code 250.  A later text stands in place of an earlier one
+// in its cells.
 std::vector<std::string> TranscriptLines(const TextPanel& panel);
 
 }  // namespace course

@@ -1,5 +1,7 @@
 #include "display/print.h"
 
+#include "display/animation.h"
+#include "display/drawing.h"
 #include "display/exponents.h"
 #include "mathkit/tutor_codes.h"
 #include "support/display_fixture.h"
@@ -102,6 +104,29 @@ TEST_F(PrintTest, APiTurnsTheRestOfItsRunWhite) {
   isPrints("a" + tutor::Pi + "b");
   EXPECT_EQ(Panel().ForeColor, platform::colour::White);
   EXPECT_EQ(Text().textColour, platform::colour::White);
+}
+
+class TranscriptTest : public DisplayTest {};
+
+TEST_F(TranscriptTest, FollowsTextThatMovesAndLosesWhatIsSweptAway) {
+  Locate(5, 1);
+  isPrint("first");
+  isPrint("second");
+  isPrint("third");
+  Anim(7, 1, 40, 1, 1, 2, 50, 1);
+  EXPECT_EQ(Lines(), std::vector<std::string>{"third"});
+  EXPECT_EQ(Text().Transcript()[0].row, 5);
+}
+
+TEST_F(TranscriptTest, KeepsTheOriginalOfACopyAndSplitsLines) {
+  Locate(5, 1);
+  isPrints("2x + 3");
+  Anim(5, 1, 2, 1, 2, 2, 50, 0);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"2x + 3", "2x"}));
+  Anim(5, 6, 1, 1, 4, 4, 50, 1);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"2x +     3", "2x"}));
+  isDrawBoxFilled(5, 1, 5, 4, Blue);
+  EXPECT_EQ(Lines(), (std::vector<std::string>{"         3", "2x"}));
 }
 
 class ExponentTest : public DisplayTest {};
