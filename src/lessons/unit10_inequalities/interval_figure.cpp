@@ -26,9 +26,10 @@ int PixelOf(double value) {
   return kZeroX + kUnit * WholeOf(value);
 }
 
+// An open circle is white inside, so that the number line does not cross it.
 void DrawPoint(platform::PictureBox& box, double value) {
-  box.FillColor = platform::colour::Black;
-  box.FillStyle = IsOpen(value) ? platform::FillStyles::Transparent : platform::FillStyles::Solid;
+  box.FillColor = IsOpen(value) ? platform::colour::White : platform::colour::Black;
+  box.FillStyle = platform::FillStyles::Solid;
   box.Circle(PixelOf(value), kBaseline, kRadius);
   box.FillStyle = platform::FillStyles::Transparent;
 }
