@@ -1,19 +1,19 @@
 // Where the menu's controls stand, and how they look.
 #include "engine/hooks.h"
-#include "shell/look.h"
+#include "platform/look.h"
 #include "shell/menu.h"
 #include "shell/progress_marks.h"
 
 namespace course {
 namespace {
 
-using look::kAmber;
-using look::kNavy;
-using look::kPaper;
-using look::kSlate;
-using look::MovePixels;
-using look::SetType;
 using platform::colour::FormGrey;
+using platform::look::kAmber;
+using platform::look::kNavy;
+using platform::look::kPaper;
+using platform::look::kSlate;
+using platform::look::MovePixels;
+using platform::look::SetType;
 
 constexpr int kFormWidth = 13005;  // twips
 constexpr int kFormHeight = 10395;

@@ -3,14 +3,14 @@
 #include <string>
 
 #include "mathkit/tutor_codes.h"
+#include "platform/look.h"
 #include "shell/course_name.h"
-#include "shell/look.h"
 
 namespace course {
 namespace {
 
-using look::MovePixels;
-using look::SetType;
+using platform::look::MovePixels;
+using platform::look::SetType;
 
 constexpr int kPixel = platform::TwipsPerPixelX;
 constexpr int kMargin = 24;  // pixels
