@@ -68,7 +68,7 @@ void ResetLesson(const LessonChoice& choice) {
   session.gProblemsAttempted = 0;
   session.gProblemsCorrect = 0;
   session.gScratchFlag = 0;
-  session.gLessonStartTime = std::lround(platform::TheClock().SecondsSinceMidnight());
+  session.gLessonStartTime = std::lrint(platform::TheClock().SecondsSinceMidnight());
   session.gUnitNum = choice.unit;
   session.gLessonNum = choice.row;
   session.gScreenNum = 0;

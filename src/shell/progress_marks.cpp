@@ -54,6 +54,21 @@ void DrawUnitMark(platform::Surface& column, int unit) {
   StopAtCode(code, unit, 0);
 }
 
+// What the marks say, a line a lesson that has one.
+std::string MarksInWords(int unit) {
+  std::string words;
+  for (int row = 1; row <= session.gLessonCount[unit]; ++row) {
+    const std::string& code = session.gProgressCodes[unit][row];
+    if (code.empty()) continue;
+    const char* meaning = code == "C"   ? "completed"
+                          : code == "T" ? "tested"
+                                        : "worked, no test yet";
+    if (!words.empty()) words += '\n';
+    words += session.gLessonTitle[unit][row] + ": " + meaning;
+  }
+  return words;
+}
+
 void Prepare(platform::Surface& column, int rows) {
   column.Cls();
   column.Scale(0, 0, 1, rows);
@@ -79,6 +94,7 @@ void DrawProgressMarks() {
   const int index = frmMenu->lstChapter.ListIndex();
   if (index < 0) return;
   DrawProgressMarks(index + 1, frmMenu->picProgress2, frmMenu->picProgress1);
+  frmMenu->picProgress2.SetAccessibleText(MarksInWords(index + 1));
 }
 
 void ShowProgressControls() {
