@@ -1,10 +1,13 @@
 // The program of every test folder: the toolkit comes up once, without a display.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "platform/program.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
   platform::Application application(argc, argv);
   return RUN_ALL_TESTS();
 }
