@@ -15,7 +15,7 @@ using platform::Rgb;
 using platform::colour::FormGrey;
 
 constexpr int kPixel = platform::TwipsPerPixelX;
-constexpr platform::Colour kNavy = Rgb(16, 40, 88);
+constexpr platform::Colour kNavy = Rgb(22, 40, 79);
 
 // All in pixels: the verdict on the left, four equal buttons in a column on the right.
 constexpr int kWidth = 560;

@@ -85,10 +85,10 @@ std::string SpokenText(const std::string& text) {
     else
       AppendWords(spoken, words);
   }
-  // A blank behind a word and one of the text's own are one.
+  // Blanks only part the words here: several are one, and none stands at the ends.
   std::string single;
   for (const char c : spoken)
-    if (c != ' ' || single.empty() || single.back() != ' ') single += c;
+    if (c != ' ' || (!single.empty() && single.back() != ' ')) single += c;
   single.erase(single.find_last_not_of(' ') + 1);
   return single;
 }
