@@ -99,7 +99,7 @@ LessonScript::DrawnProblem LessonScript::Draw(int seed) {
   problem = Problem{};
   DrawProblem(random);
   std::vector<int> order = ChoiceOrder(problem.kind, random);
-  return {problem, std::move(order)};
+  return {std::move(problem), std::move(order)};
 }
 
 void LessonScript::Run() {

@@ -23,6 +23,7 @@ constexpr int kHeight = 268;
 constexpr int kMargin = 24;
 constexpr int kPictureSize = 120;
 constexpr int kVerdictLeft = kMargin + kPictureSize + 20;
+constexpr int kPromptWidth = 210;  // two lines of like length
 constexpr int kButtonWidth = 200;
 constexpr int kButtonHeight = 46;
 constexpr int kButtonGap = 12;
@@ -37,7 +38,7 @@ struct Option {
 constexpr Option kOptions[] = {
     {0, "Try problem again", "Try problem again"},
     {1, "Try a Different\nProblem", "Try a Different Problem"},
-    {2, "See Explanation\nof Problem", "See Explanation of Problem"},
+    {2, "See Explanation of Problem", "See Explanation of Problem"},
     {4, "Leave Lesson", "Leave Lesson"},
 };
 
@@ -67,7 +68,7 @@ class ResultForm {
     MovePixels(picResult_, kMargin, kMargin + 8, kPictureSize, kPictureSize);
     MovePixels(lblInfo1_, kVerdictLeft, kMargin + 36, textWidth, 24);
     MovePixels(lblInfo2_, kVerdictLeft, kMargin + 62, textWidth, 36);
-    MovePixels(lblInfo3_, kMargin, kMargin + 158, kButtonLeft - 2 * kMargin, 48);
+    MovePixels(lblInfo3_, kMargin, kMargin + 158, kPromptWidth, 48);
     lblInfo1_.SetFont("MS Sans Serif", 11);
     lblInfo2_.SetFont("MS Sans Serif", 18, true);
     lblInfo3_.SetFont("MS Sans Serif", 11);

@@ -50,12 +50,12 @@ void BlankLesson::MeaningOfParentheses() {
   WordWrap(R"(\cParentheses\z show which part of an expression is worked out first.)");
   PageEnd();
   isPrint();
-  WordWrap(R"(A number in front of them multiplies what they hold.  In 2\y(3 + 4)\z the sum )"
-           R"(\y3 + 4\z is 7, and 2 times 7 is 14.)");
+  WordWrap("A number in front of them multiplies what they hold:");
+  isPrint("  2(3 + 4) = 2" + tutor::Dot + "7 = 14");
   PageEnd();
   isPrint();
-  WordWrap(R"(Without parentheses, 2)" + tutor::Dot +
-           R"(3 + 4 is something else:  only the 3 is multiplied, and 6 + 4 is 10.)");
+  WordWrap(R"(Without parentheses it multiplies \yonly the first number\z:)");
+  isPrint("  2" + tutor::Dot + "3 + 4 = 6 + 4 = 10");
   PageEnd();
   isPrint();
   WordWrap("What is the value of 5(1 + 2)?");
@@ -111,7 +111,7 @@ void BlankLesson::ExplainProblem() {
   isPrint("  " + NumStr(first_) + " + " + NumStr(second_) + " = " + NumStr(Sum()));
   PageEnd();
   isPrint();
-  WordWrap(R"(The number in front \ymultiplies\z the whole sum:)");
+  WordWrap(R"(The number in front \ymultiplies\z the sum:)");
   isPrint("  " + NumStr(factor_) + tutor::Dot + NumStr(Sum()) + " = " + problem.choices[1].text);
   PageEnd();
   isPrint();
