@@ -41,6 +41,7 @@ class RecordFile {
 
   long Count();                        // whole records
   std::string ReadBytes();             // the whole file, a partial record at its end included
+  std::string Read(long number);       // record number 1 to Count()
   std::vector<std::string> ReadAll();  // the whole records
   // Writes record number 1 to Count() + 1 by one write, and has it on the disk on return.
   void Write(long number, const std::string& record);
@@ -52,7 +53,9 @@ class RecordFile {
   void ReplaceAll(const std::vector<std::string>& records);
 
  private:
-  void OpenLocked(Access access, Sharing sharing);
+  bool OpenNamed(const std::string& name, Access access, Sharing sharing);
+  bool BearsName();
+  std::string ReadAt(long offset, long size);
   void Close();
 
   std::string folder_;

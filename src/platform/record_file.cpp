@@ -1,0 +1,248 @@
+#include "platform/record_file.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstring>
+#include <optional>
+
+#include "platform/file_calls.h"
+
+namespace platform {
+namespace {
+
+// A file that is replaced again and again between its opening and its locking.
+constexpr int kMostReopenings = 1000;
+
+// The result of a call that went well.
+template <class Number>
+Number Checked(Number result) {
+  if (result >= 0) return result;
+  const int number = static_cast<int>(-result);
+  const char* text = strerrordesc_np(number);
+  throw FileError(number, text != nullptr ? text : "Unknown error");
+}
+
+[[noreturn]] void ThrowBusy() {
+  throw FileError(EAGAIN, "The file is in use");
+}
+
+bool IsRefusal(int result) {
+  return result == -EACCES || result == -EPERM || result == -EROFS;
+}
+
+bool SameName(const std::string& a, const std::string& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
+    return std::toupper(x) == std::toupper(y);
+  });
+}
+
+struct Place {
+  std::string folder;  // with a slash at its end
+  std::string name;
+};
+
+Place PlaceOf(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return {"./", path};
+  return {path.substr(0, slash + 1), path.substr(slash + 1)};
+}
+
+// The name under which a file stands on the disk.  Of several spellings the first in the order of
+// their codes is the one, so that all workstations take the same.
+std::optional<std::string> NameOnDisk(const Place& place) {
+  std::vector<std::string> names;
+  Checked(TheFileCalls().List(place.folder, names));
+  std::optional<std::string> found;
+  for (const std::string& name : names)
+    if (SameName(name, place.name) && (!found || name < *found)) found = name;
+  return found;
+}
+
+// Closes at the end of its life.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(Checked(number)) {}
+  ~Descriptor() { TheFileCalls().Close(number_); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int Number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+FileFacts FactsOf(int descriptor) {
+  FileFacts facts;
+  Checked(TheFileCalls().Facts(descriptor, facts));
+  return facts;
+}
+
+// One write; a short one is what a full disk does.
+void WriteOnce(int descriptor, const std::string& bytes, long offset) {
+  if (bytes.empty()) return;
+  const long written =
+      Checked(TheFileCalls().Write(descriptor, bytes.data(), bytes.size(), offset));
+  if (written < static_cast<long>(bytes.size())) Checked(-ENOSPC);
+}
+
+std::string Joined(const std::vector<std::string>& records) {
+  std::string bytes;
+  for (const std::string& record : records) bytes += record;
+  return bytes;
+}
+
+// The file that takes another one's place: "RECORDS.NEW" beside "RECORDS.DAT".
+std::string ReplacementOf(const std::string& path) {
+  return path.substr(0, path.rfind('.')) + ".NEW";
+}
+
+void WriteReplacement(const std::string& path, const std::string& bytes, int permissions) {
+  FileCalls& calls = TheFileCalls();
+  const Descriptor file(calls.Open(path, {.write = true, .create = true, .truncate = true}));
+  Checked(calls.SetPermissions(file.Number(), permissions));
+  WriteOnce(file.Number(), bytes, 0);
+  Checked(calls.Sync(file.Number()));
+}
+
+}  // namespace
+
+RecordFile::RecordFile(const std::string& path, int recordLength, Access access, Sharing sharing)
+    : recordLength_(recordLength) {
+  const Place place = PlaceOf(path);
+  folder_ = place.folder;
+  try {
+    for (int i = 0; !OpenNamed(place.name, access, sharing); ++i)
+      if (i == kMostReopenings) ThrowBusy();
+  } catch (const FileError&) {
+    Close();
+    throw;
+  }
+}
+
+RecordFile::~RecordFile() {
+  Close();
+}
+
+void RecordFile::Close() {
+  if (descriptor_ >= 0) TheFileCalls().Close(descriptor_);
+  descriptor_ = -1;
+}
+
+// False when another file has taken the name before the lock was there.
+bool RecordFile::OpenNamed(const std::string& name, Access access, Sharing sharing) {
+  Close();
+  FileCalls& calls = TheFileCalls();
+  const std::optional<std::string> present = NameOnDisk({folder_, name});
+  path_ = folder_ + present.value_or(name);
+  LockKind lock = sharing == Sharing::Exclusive ? LockKind::Exclusive : LockKind::Shared;
+  descriptor_ = calls.Open(
+      path_, {.read = true,
+              .write = access != Access::Read || lock == LockKind::Exclusive,  // the lock needs it
+              .create = access != Access::Read});
+  const bool readingWillDo =
+      access == Access::Read || (access == Access::ReadWrite && lock == LockKind::Shared);
+  if (IsRefusal(descriptor_) && readingWillDo) {
+    descriptor_ = calls.Open(path_, {.read = true});
+    lock = LockKind::Shared;  // keeps out those who can write
+  }
+  Checked(descriptor_);
+  const int locked = calls.Lock(descriptor_, lock);
+  if (locked == -EAGAIN || locked == -EACCES) ThrowBusy();
+  Checked(locked);
+  if (!BearsName()) return false;
+  if (!present) Checked(calls.SyncFolder(folder_));
+  if (sharing == Sharing::Plain) Checked(calls.Lock(descriptor_, LockKind::None));
+  return true;
+}
+
+bool RecordFile::BearsName() {
+  FileFacts named;
+  const int result = TheFileCalls().FactsOfPath(path_, named);
+  if (result == -ENOENT) return false;
+  Checked(result);
+  const FileFacts opened = FactsOf(descriptor_);
+  return named.device == opened.device && named.inode == opened.inode;
+}
+
+long RecordFile::Count() {
+  return FactsOf(descriptor_).size / recordLength_;
+}
+
+std::string RecordFile::ReadAt(long offset, long size) {
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  std::size_t had = 0;
+  while (had < bytes.size()) {
+    const long got = Checked(TheFileCalls().Read(
+        descriptor_, bytes.data() + had, bytes.size() - had, offset + static_cast<long>(had)));
+    if (got == 0) break;  // somebody has shortened the file
+    had += static_cast<std::size_t>(got);
+  }
+  bytes.resize(had);
+  return bytes;
+}
+
+std::string RecordFile::ReadBytes() {
+  return ReadAt(0, FactsOf(descriptor_).size);
+}
+
+std::string RecordFile::Read(long number) {
+  return ReadAt((number - 1) * recordLength_, recordLength_);
+}
+
+std::vector<std::string> RecordFile::ReadAll() {
+  const std::string bytes = ReadBytes();
+  const auto length = static_cast<std::size_t>(recordLength_);
+  std::vector<std::string> records;
+  records.reserve(bytes.size() / length);
+  for (std::size_t at = 0; at + length <= bytes.size(); at += length)
+    records.push_back(bytes.substr(at, length));
+  return records;
+}
+
+void RecordFile::Write(long number, const std::string& record) {
+  FileCalls& calls = TheFileCalls();
+  const long offset = (number - 1) * recordLength_;
+  const bool append = number > Count();
+  try {
+    WriteOnce(descriptor_, record, offset);
+  } catch (const FileError&) {
+    // No half a record for readers who round; where even this fails the next append repairs it.
+    if (append) calls.Truncate(descriptor_, offset);
+    throw;
+  }
+  Checked(calls.Sync(descriptor_));
+}
+
+void RecordFile::Clear() {
+  Checked(TheFileCalls().Truncate(descriptor_, 0));
+  Checked(TheFileCalls().Sync(descriptor_));
+}
+
+void RecordFile::ReplaceAll(const std::vector<std::string>& records) {
+  FileCalls& calls = TheFileCalls();
+  const std::string replacement = ReplacementOf(path_);
+  try {
+    WriteReplacement(replacement, Joined(records), FactsOf(descriptor_).permissions);
+    Checked(calls.Rename(replacement, path_));
+  } catch (const FileError&) {
+    calls.Remove(replacement);
+    throw;
+  }
+  Checked(calls.SyncFolder(folder_));
+  Close();
+}
+
+void WriteWorkFile(const std::string& path, const std::vector<std::string>& records,
+                   OldContents oldContents) {
+  FileCalls& calls = TheFileCalls();
+  const Place place = PlaceOf(path);
+  const std::string onDisk = place.folder + NameOnDisk(place).value_or(place.name);
+  const Descriptor file(calls.Open(
+      onDisk, {.write = true, .create = true, .truncate = oldContents == OldContents::Removed}));
+  WriteOnce(file.Number(), Joined(records), 0);
+  Checked(calls.Sync(file.Number()));
+}
+
+}  // namespace platform
