@@ -1,10 +1,13 @@
 // The course: brings up the toolkit, then the menu, whose start-up is that of the program.
 #include "platform/program.h"
 #include "shell/menu.h"
+#include "shell/record_hooks.h"
 
 int main(int argc, char** argv) {
   platform::Application application(argc, argv);
-  course::LoadMenu();
+  course::StartUp startUp;
+  course::BindRecords(startUp);
+  course::LoadMenu(startUp);
   const int status = application.Run();
   course::frmMenu.reset();  // no form outlives the toolkit
   return status;
