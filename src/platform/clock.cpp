@@ -8,7 +8,8 @@
 #include <chrono>
 #include <cmath>
 #include <ctime>
-#include <memory>
+
+#include "platform/handler_queue_impl.h"
 
 namespace platform {
 namespace {
@@ -42,13 +43,15 @@ class WakeUp {
 class MachineClock final : public Clock {
  public:
   double SecondsSinceMidnight() override {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    const double fraction = std::fmod(std::chrono::duration<double>(now).count(), 1.0);
-    const std::tm local = LocalTime();
-    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + fraction;
+    // Seconds and their fraction from one reading: two readings may lie on two sides of a second.
+    const auto now = std::chrono::system_clock::now();
+    const auto second = std::chrono::floor<std::chrono::seconds>(now);
+    const std::tm local = LocalTime(std::chrono::system_clock::to_time_t(second));
+    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec +
+           std::chrono::duration<double>(now - second).count();
   }
   Date Today() override {
-    const std::tm local = LocalTime();
+    const std::tm local = LocalTime(std::time(nullptr));
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
   }
   double Counter() override {
@@ -59,21 +62,20 @@ class MachineClock final : public Clock {
     constexpr double kSpin = 0.0003;  // seconds: a sleeping process is woken that much too late
     for (double rest = target - Counter(); rest > 0; rest = target - Counter()) {
       if (rest > kSpin) {
-        if (!wakeUp_) wakeUp_ = std::make_unique<WakeUp>();
-        wakeUp_->In(rest - kSpin);
+        static WakeUp& wakeUp = *new WakeUp;  // the toolkit goes before the statics do
+        wakeUp.In(rest - kSpin);
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        RunHandlers();
       }
     }
   }
 
  private:
-  static std::tm LocalTime() {
-    const std::time_t now = std::time(nullptr);
+  static std::tm LocalTime(std::time_t now) {
     std::tm local{};
     localtime_r(&now, &local);
     return local;
   }
-  std::unique_ptr<WakeUp> wakeUp_;
 };
 
 Clock* installedClock = nullptr;

@@ -1,9 +1,24 @@
 #include <QAccessible>
 #include <algorithm>
 
+#include "platform/fonts.h"
+#include "platform/fonts_impl.h"
 #include "platform/widgets_impl.h"
 
 namespace platform {
+
+QString ToText(const std::string& text) {
+  QString s = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+  return s.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+std::string FromText(const QString& text) {
+  return text.toLatin1().toStdString();
+}
+
+QFont ToFont(const std::string& face, double points, bool bold) {
+  return FindTypeface(face, points, bold, false).font;
+}
 
 Control::Control(Control* parent, std::string name) : impl_(std::make_unique<Impl>()) {
   impl_->parent = parent;
@@ -49,16 +64,22 @@ void Control::Move(int left, int top, int width, int height) {
   impl_->top = top;
   impl_->width = width;
   impl_->height = height;
-  impl_->widget->setGeometry(left / TwipsPerPixelX, top / TwipsPerPixelY, width / TwipsPerPixelX,
-                             height / TwipsPerPixelY);
+  if (impl_->form == this) {
+    // The window is as large as its client and the menu bar want it.
+    impl_->client->setFixedSize(ToPixels(width), ToPixels(height));
+    impl_->widget->move(ToPixels(left), ToPixels(top));
+  } else {
+    impl_->widget->setGeometry(ToPixels(left), ToPixels(top), ToPixels(width), ToPixels(height));
+  }
   if (resized) OnResized();
 }
 
 bool Control::Visible() const {
-  return impl_->visible;
+  return impl_->form == this ? impl_->form->Shown() : impl_->visible;
 }
 
 void Control::SetVisible(bool visible) {
+  if (impl_->form == this) return visible ? impl_->form->Show() : impl_->form->Hide();
   impl_->visible = visible;
   impl_->widget->setVisible(visible);
 }
@@ -84,10 +105,9 @@ void Control::SetAccessibleName(const std::string& name) {
   impl_->widget->setAccessibleName(ToText(name));
 }
 
+// The toolkit tells a screen reader of the change by itself.
 void Control::SetAccessibleText(const std::string& text) {
   impl_->widget->setAccessibleDescription(ToText(text));
-  QAccessibleEvent changed(impl_->widget.data(), QAccessible::DescriptionChanged);
-  QAccessible::updateAccessibility(&changed);
 }
 
 std::string Control::AccessibleName() const {
@@ -128,6 +148,7 @@ bool Control::CanBeClicked() const {
 
 bool Control::Click() {
   if (!CanBeClicked()) return false;
+  BeforeClick();
   CallHandler(OnClick);
   return true;
 }

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include "platform/stop.h"
 #include "platform/user.h"
 #include "platform/widgets_impl.h"
 
@@ -58,10 +59,17 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
 
 }  // namespace
 
+bool NobodyIsThere() {
+  const QString name = QGuiApplication::platformName();
+  return name == "offscreen" || name == "minimal";
+}
+
 Answer MessageBox(const Message& message) {
   if (User* user = InstalledUser()) return user->AtMessage(message);
+  if (NobodyIsThere()) Stop("MessageBox: nobody is there to answer: " + message.text);
   AnswerBox box(IconOf(message.icon), ToText(message.title), ToText(message.text),
-                ButtonsOf(message.buttons), QApplication::activeWindow());
+                ButtonsOf(message.buttons), FrontWindow());
+  box.setTextFormat(Qt::PlainText);
   switch (box.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;
@@ -76,9 +84,10 @@ Answer MessageBox(const Message& message) {
 
 std::optional<std::string> InputBox(const std::string& prompt, const std::string& title) {
   if (User* user = InstalledUser()) return user->AtInput(prompt);
+  if (NobodyIsThere()) Stop("InputBox: nobody is there to answer: " + prompt);
   bool accepted = false;
-  const QString typed = QInputDialog::getText(QApplication::activeWindow(), ToText(title),
-                                              ToText(prompt), QLineEdit::Normal, {}, &accepted);
+  const QString typed = QInputDialog::getText(FrontWindow(), ToText(title), ToText(prompt),
+                                              QLineEdit::Normal, {}, &accepted);
   if (!accepted) return {};
   return FromText(typed);
 }

@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 
 #include "platform/clock.h"
+#include "platform/handler_queue_impl.h"
 #include "platform/user.h"
 
 namespace platform {
 
 void PumpEvents() {
   QCoreApplication::processEvents();
+  RunHandlers();
 }
 
 void PumpPaintEvents() {
@@ -16,19 +18,22 @@ void PumpPaintEvents() {
 }
 
 void WaitEvents(const std::string& place) {
-  if (User* user = InstalledUser()) {
-    user->AtWait(place);
-  } else {
+  // What was noted while no handler could be called may be what the caller waits for.
+  if (RunHandlers()) return;
+  User* const user = InstalledUser();
+  if (user == nullptr) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    RunHandlers();
+    return;
   }
+  // He sees the page as it is painted, and acts when nothing else is about to happen.
+  QCoreApplication::processEvents();
+  if (!RunHandlers()) user->AtWait(place);
 }
 
 void Pause(double seconds) {
   const double end = TheClock().Counter() + seconds;
-  if (User* user = InstalledUser())
-    user->AtPause(seconds);
-  else
-    PumpEvents();
+  if (User* user = InstalledUser()) user->AtPause(seconds);
   TheClock().WaitUntil(end);
 }
 

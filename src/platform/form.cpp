@@ -1,18 +1,14 @@
 #include "platform/form.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QCloseEvent>
-#include <QIcon>
-#include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
 #include "platform/events.h"
+#include "platform/form_window_impl.h"
 #include "platform/surface.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
@@ -23,77 +19,39 @@ namespace {
 std::vector<Form*> shownForms;
 std::vector<Form*> modalForms;
 
-class FormWindow final : public QMainWindow {
- public:
-  explicit FormWindow(Form& form) : form_(form) {}
-
- protected:
-  void closeEvent(QCloseEvent* event) override {
-    event->ignore();
-    form_.ClickCloseBox();
-  }
-
- private:
-  Form& form_;
-};
-
-// The form's ground; it tells when it was painted for the first time.
-class Client final : public QWidget {
- public:
-  explicit Client(Form& form) : form_(form) {}
-  bool painted = false;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    if (std::exchange(painted, true)) return;
-    // Not from within the painting: the handler may show other forms.
-    QTimer::singleShot(0, this, [this] { CallHandler(form_.OnFirstShown); });
-  }
-
- private:
-  Form& form_;
-};
-
-// Keys reach the form before its controls.
-class KeyFilter final : public QObject {
- public:
-  bool eventFilter(QObject* target, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress || !target->isWindowType()) return false;
-    for (Form* form : shownForms) {
-      if (form->formImpl().window->windowHandle() != target) continue;
-      const QByteArray typed = static_cast<QKeyEvent*>(event)->text().toLatin1();
-      return !typed.isEmpty() && HandleKey(*form, static_cast<unsigned char>(typed[0]));
-    }
-    return false;
-  }
-
-  // True when the key was taken and no control is to see it.
-  static bool HandleKey(Form& form, int code) {
-    if (form.OnKeyPress && form.OnKeyPress(code)) return true;
-    const Form::FormImpl& impl = form.formImpl();
-    if (code == 27 && impl.neutral != nullptr) return impl.neutral->Click();
-    const bool onButton = qobject_cast<QAbstractButton*>(impl.window->focusWidget()) != nullptr;
-    if (code == 13 && impl.standard != nullptr && !onButton) return impl.standard->Click();
-    return false;
-  }
-};
-
-void InstallKeyFilter() {
-  static QPointer<KeyFilter> filter;
-  if (filter) return;
-  filter = new KeyFilter;
-  filter->setParent(qApp);
-  qApp->installEventFilter(filter);
-}
-
-// A form before the program's first window has no other in front of it.
-void KeepInFrontOf(QMainWindow& window, const Form* below) {
-  if (below == nullptr) return;
+void KeepInFrontOf(QMainWindow& window, const QWidget* below) {
+  if (below == nullptr || below == &window) return;
   window.winId();
-  window.windowHandle()->setTransientParent(below->formImpl().window->windowHandle());
+  window.windowHandle()->setTransientParent(below->windowHandle());
 }
+
+// A form that is modal from here on until the end of its life, whichever way that comes: a test's
+// user may leave by an exception.
+class ModalStretch {
+ public:
+  explicit ModalStretch(Form& form) : form_(form) {
+    modalForms.push_back(&form);
+    form.formImpl().window->setWindowModality(Qt::ApplicationModal);
+  }
+  ~ModalStretch() {
+    std::erase(modalForms, &form_);
+    form_.Hide();
+    form_.formImpl().window->setWindowModality(Qt::NonModal);
+    if (QWidget* below = FrontWindow()) below->activateWindow();
+  }
+  ModalStretch(const ModalStretch&) = delete;
+  ModalStretch& operator=(const ModalStretch&) = delete;
+
+ private:
+  Form& form_;
+};
 
 }  // namespace
+
+QWidget* FrontWindow() {
+  if (!modalForms.empty()) return modalForms.back()->formImpl().window;
+  return shownForms.empty() ? nullptr : shownForms.back()->formImpl().window.data();
+}
 
 bool TakesInput(const Form& form) {
   if (!form.Shown() || !form.Enabled()) return false;
@@ -104,23 +62,19 @@ Form::Form(std::string name, int width, int height)
     : Control(nullptr, std::move(name)), formImpl_(std::make_unique<FormImpl>()) {
   InstallKeyFilter();
   auto* window = new FormWindow(*this);
-  auto* client = new Client(*this);
-  client->setFixedSize(width / TwipsPerPixelX, height / TwipsPerPixelY);
-  window->setCentralWidget(client);
-  window->layout()->setSizeConstraint(QLayout::SetFixedSize);
-  window->setWindowIcon(QIcon(":/art/app_icon.svg"));
+  QWidget* client = window->centralWidget();
+  client->setFixedSize(ToPixels(width), ToPixels(height));
   formImpl_->window = window;
   impl().widget = window;
   impl().client = client;
   impl().form = this;
   impl().width = width;
   impl().height = height;
-  impl().visible = false;
 }
 
 Form::~Form() {
+  std::erase(modalForms, this);
   Hide();
-  formImpl_->menus.clear();
 }
 
 void Form::SetCaption(const std::string& caption) {
@@ -139,16 +93,19 @@ Menu& Form::AddMenu(const std::string& caption) {
 void Form::Center() {
   const QRect screen = QGuiApplication::primaryScreen()->geometry();
   const QSize size = formImpl_->window->sizeHint();
-  formImpl_->window->move(screen.x() + screen.width() / 2 - size.width() / 2,
-                          std::max(screen.y() + screen.height() / 2 - size.height() / 2, 0));
+  const QPoint corner(screen.x() + screen.width() / 2 - size.width() / 2,
+                      screen.y() + screen.height() / 2 - size.height() / 2);
+  // On a screen that is too small the menu bar must stay in reach.
+  Move(std::max(corner.x(), 0) * TwipsPerPixelX, std::max(corner.y(), 0) * TwipsPerPixelY, Width(),
+       Height());
 }
 
 void Form::Show() {
   if (formImpl_->shown) return;
   formImpl_->shown = true;
   shownForms.push_back(this);
-  static_cast<Client*>(impl().client)->painted = false;
-  SetVisible(true);
+  static_cast<FormWindow&>(*formImpl_->window).ExpectFirstPainting();
+  formImpl_->window->show();
   formImpl_->window->activateWindow();
 }
 
@@ -156,22 +113,12 @@ void Form::Hide() {
   if (!formImpl_->shown) return;
   formImpl_->shown = false;
   std::erase(shownForms, this);
-  if (formImpl_->window) SetVisible(false);
+  formImpl_->window->hide();
 }
 
 void Form::ShowModal() {
-  QMainWindow& window = *formImpl_->window;
-  window.setWindowModality(Qt::ApplicationModal);
-  KeepInFrontOf(window, shownForms.empty() ? nullptr : shownForms.back());
-  // Taken off on every path: a test's user may leave by an exception.
-  struct ModalGuard {
-    explicit ModalGuard(Form* shown) : form(shown) { modalForms.push_back(form); }
-    ~ModalGuard() {
-      std::erase(modalForms, form);
-      form->Hide();
-    }
-    Form* form;
-  } guard(this);
+  KeepInFrontOf(*formImpl_->window, FrontWindow());
+  const ModalStretch stretch(*this);
   Center();
   Show();
   while (formImpl_->shown) WaitEvents(Name());
@@ -186,7 +133,11 @@ bool Form::Shown() const {
 }
 
 bool Form::Press(int code) {
-  return TakesInput(*this) && (KeyFilter::HandleKey(*this, code), true);
+  if (!TakesInput(*this)) return false;
+  const std::weak_ptr<const char> life = impl().life;
+  HandleKey(*this, KeyEventOf(QEvent::KeyPress, code));
+  if (!life.expired() && Shown()) HandleKey(*this, KeyEventOf(QEvent::KeyRelease, code));
+  return true;
 }
 
 bool Form::ClickCloseBox() {
@@ -208,7 +159,14 @@ void Form::SetDefaultButton(Button& button) {
 }
 
 std::unique_ptr<Surface> Form::Grab() {
-  return SurfaceMaker::FromImage(formImpl_->window->grab().toImage());
+  QMainWindow& window = *formImpl_->window;
+  window.ensurePolished();
+  window.layout()->activate();
+  if (!formImpl_->shown) window.resize(window.sizeHint());
+  // Not the window's own picture: that has the screen's pixels, which may be denser.
+  QImage image(window.size(), QImage::Format_RGB32);
+  window.render(&image);
+  return SurfaceMaker::FromImage(image);
 }
 
 Control* Form::Find(const std::string& name) {

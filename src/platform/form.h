@@ -48,11 +48,12 @@ class Control {
   std::string AccessibleName() const;
   std::string AccessibleText() const;
   void SetToolTip(const std::string& text);
-  // Small print beside the course's own faces: the face in points, "MS Sans Serif" 8 when not set.
+  // The face in points, "MS Sans Serif" 10 when not set.
   void SetFont(const std::string& face, double points, bool bold = false);
   void SetColours(Colour fore, Colour back);
 
-  // What a click by the person does.
+  // What a click by the person does.  It is called between two looks into the event queue and never
+  // inside the toolkit, so that it may wait, throw and destroy the control.
   std::function<void()> OnClick;
   // Clicks as the person would.  False, and nothing happens, when he could not: the control or one
   // of its parents is hidden or disabled, or a modal form or a disabled form stands before it.
@@ -70,6 +71,8 @@ class Control {
   Control(Control* parent, std::string name);
   // Called when the size in twips has changed.
   virtual void OnResized() {}
+  // What the control itself does on a click, before OnClick is called.
+  virtual void BeforeClick() {}
 
  private:
   std::unique_ptr<Impl> impl_;
@@ -78,8 +81,8 @@ class Control {
 class Label final : public Control {
  public:
   Label(Control& parent, std::string name, const std::string& caption = "");
-  void SetCaption(
-      const std::string& caption);  // '\r' or '\n' breaks the line; long lines are wrapped
+  // '\r' or '\n' breaks the line; long lines are wrapped.
+  void SetCaption(const std::string& caption);
   std::string Caption() const;
   enum class Align { Left, Centre, Right };
   void SetAlignment(Align align);
@@ -101,6 +104,9 @@ class OptionButton final : public Control {
   // Options with one parent exclude each other.  Setting a value does not call OnClick.
   void SetValue(bool chosen);
   bool Value() const;
+
+ protected:
+  void BeforeClick() override;
 };
 
 // A box with a caption around other controls; with an empty caption only a container.

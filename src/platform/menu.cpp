@@ -10,6 +10,9 @@ struct MenuItem::Impl {
   QPointer<QAction> action;
   Form* form = nullptr;
   std::string name;
+  bool visible = true;
+  bool enabled = true;
+  Life life = NewLife();
 };
 
 struct Menu::Impl {
@@ -22,7 +25,8 @@ MenuItem::MenuItem(Form& form, std::string name) : impl_(std::make_unique<Impl>(
   impl_->form = &form;
   impl_->name = std::move(name);
   impl_->action = new QAction(form.formImpl().window);
-  QObject::connect(impl_->action, &QAction::triggered, [this] { CallHandler(OnClick); });
+  QObject::connect(impl_->action, &QAction::triggered,
+                   [this] { CallLater(impl_->life, [this] { Click(); }); });
   form.formImpl().items.push_back(this);
 }
 
@@ -37,20 +41,21 @@ std::string MenuItem::Caption() const {
 }
 
 void MenuItem::SetVisible(bool visible) {
+  impl_->visible = visible;
   impl_->action->setVisible(visible);
 }
 
 bool MenuItem::Visible() const {
-  return impl_->action->isVisible();
+  return impl_->visible;
 }
 
 void MenuItem::SetEnabled(bool enabled) {
+  impl_->enabled = enabled;
   impl_->action->setEnabled(enabled);
 }
 
-// The toolkit calls a hidden action disabled; the entry's own flag is what was set.
 bool MenuItem::Enabled() const {
-  return impl_->action->isEnabled() || !impl_->action->isVisible();
+  return impl_->enabled;
 }
 
 bool MenuItem::Click() {

@@ -1,6 +1,5 @@
 #include "platform/picture_box.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -10,9 +9,10 @@
 namespace platform {
 namespace {
 
-class SurfaceWidget final : public QWidget {
+class SurfaceWidget final : public Pressable<QWidget> {
  public:
-  SurfaceWidget(PictureBox& box, const QImage& image) : box_(box), image_(image) {
+  SurfaceWidget(PictureBox& box, const QImage& image)
+      : Pressable<QWidget>(box), box_(box), image_(image) {
     setAttribute(Qt::WA_OpaquePaintEvent);
   }
 
@@ -25,9 +25,6 @@ class SurfaceWidget final : public QWidget {
     painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
-  void mousePressEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton) CallHandler(box_.OnClick);
-  }
 
  private:
   PictureBox& box_;
@@ -38,12 +35,7 @@ class SurfaceWidget final : public QWidget {
 
 PictureBox::PictureBox(Control& parent, std::string name)
     : Control(&parent, std::move(name)), Surface(1, 1) {
-  auto* widget = new SurfaceWidget(*this, Surface::impl_->image);
-  widget->setParent(parent.impl().client);
-  impl().widget = widget;
-  impl().client = widget;
-  widget->setObjectName(ToText(Name()));
-  widget->show();
+  PutOn(parent, *this, new SurfaceWidget(*this, Surface::impl_->image));
 }
 
 PictureBox::~PictureBox() = default;
@@ -62,7 +54,7 @@ void PictureBox::ShowRect(const PixelRect& changed) {
 }
 
 void PictureBox::OnResized() {
-  Resize(std::max(Width() / TwipsPerPixelX, 1), std::max(Height() / TwipsPerPixelY, 1));
+  Resize(std::max(ToPixels(Width()), 1), std::max(ToPixels(Height()), 1));
 }
 
 }  // namespace platform

@@ -3,15 +3,13 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
-#include <QPainter>
 #include <QPalette>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTemporaryFile>
 #include <memory>
 
+#include "platform/events.h"
 #include "platform/fonts.h"
 #include "platform/picture_impl.h"
 #include "platform/widgets_impl.h"
@@ -24,21 +22,43 @@ std::unique_ptr<QApplication> application;
 // One look on every desktop: what we see here is what a school sees.
 QPalette CoursePalette() {
   const QColor ground = ToQColor(colour::FormGrey);
-  const QColor ink(16, 24, 48);
   QPalette palette(QColor(212, 212, 216), ground);
-  palette.setColor(QPalette::WindowText, ink);
-  palette.setColor(QPalette::ButtonText, ink);
-  palette.setColor(QPalette::Text, ink);
+  palette.setColor(QPalette::WindowText, kInk);
+  palette.setColor(QPalette::ButtonText, kInk);
+  palette.setColor(QPalette::Text, kInk);
   palette.setColor(QPalette::Base, QColor(250, 247, 240));
   palette.setColor(QPalette::AlternateBase, QColor(240, 237, 230));
   palette.setColor(QPalette::Highlight, QColor(22, 40, 79));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, QColor(250, 247, 240));
-  palette.setColor(QPalette::ToolTipText, ink);
+  palette.setColor(QPalette::ToolTipText, kInk);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
     palette.setColor(QPalette::Disabled, role, QColor(120, 124, 136));
   return palette;
+}
+
+// The course looks and behaves the same on every desktop and in every language.
+void PrepareToolkit() {
+  qputenv("LC_ALL", "C.UTF-8");
+  qputenv("QT_QPA_PLATFORMTHEME", "generic");
+  QLocale::setDefault(QLocale::c());
+  QGuiApplication::setDesktopSettingsAware(false);
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+  // Whole factors only, so that the surfaces' pixels stay sharp on dense screens.
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+      Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
+}
+
+// Without a screen the toolkit complains of every window that it cannot size.
+void KeepQuietWithoutScreen() {
+  if (!NobodyIsThere()) return;
+  static QtMessageHandler toolkitHandler = nullptr;
+  toolkitHandler = qInstallMessageHandler(
+      [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+        if (!message.startsWith("This plugin does not support"))
+          toolkitHandler(type, context, message);
+      });
 }
 
 std::filesystem::path ToPath(const QString& path) {
@@ -51,15 +71,20 @@ QString FromPath(const std::filesystem::path& path) {
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) {
-  QLocale::setDefault(QLocale::c());
-  application = std::make_unique<QApplication>(argc, argv);
+Application::Application(int&, char** argv) {
+  // There is no command line, the toolkit's own options included.
+  static int count = 1;
+  PrepareToolkit();
+  application = std::make_unique<QApplication>(count, argv);
+  KeepQuietWithoutScreen();
   QCoreApplication::setApplicationName("sumwright-algebra1");
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle("Fusion");
   QApplication::setPalette(CoursePalette());
-  QApplication::setQuitOnLastWindowClosed(true);
+  // The last form is closed when the course says so; see Run.
+  QApplication::setQuitOnLastWindowClosed(false);
   CheckFonts();
   QApplication::setFont(ToFont("MS Sans Serif", 10, false));
+  QApplication::setWindowIcon(QIcon(QPixmap::fromImage(PictureImage("app_icon", {64, 64}))));
 }
 
 Application::~Application() {
@@ -67,7 +92,8 @@ Application::~Application() {
 }
 
 int Application::Run() {
-  return QApplication::exec();
+  while (!Form::ShownForms().empty()) WaitEvents(Form::ShownForms().back()->Name());
+  return 0;
 }
 
 std::filesystem::path ProgramFolder() {

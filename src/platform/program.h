@@ -6,13 +6,14 @@
 
 namespace platform {
 
-// Brings up the toolkit with the course's own style, palette and fonts.  One instance, in main, before
-// anything else of this folder is used.  A missing font stops the program with the package to install.
+// Brings up the toolkit with the course's own style, palette and fonts.  One instance, in main,
+// before anything else of this folder is used.  A missing font stops the program with the package
+// to install.
 class Application {
  public:
   Application(int& argc, char** argv);
   ~Application();
-  // Serves events until the last form is closed or EndProgram is called; returns the exit status.
+  // Serves events until no form is shown any more; returns the exit status.
   int Run();
 };
 

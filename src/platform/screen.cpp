@@ -20,8 +20,12 @@ std::string SystemVersion() {
 
 void SetMousePointer(MousePointer pointer) {
   // The pointer is one for the whole program, not a stack.
-  while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
-  if (pointer == MousePointer::Hourglass) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  const bool isHourglass = QGuiApplication::overrideCursor() != nullptr;
+  if (isHourglass == (pointer == MousePointer::Hourglass)) return;
+  if (isHourglass)
+    QGuiApplication::restoreOverrideCursor();
+  else
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 }  // namespace platform

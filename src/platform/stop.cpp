@@ -4,17 +4,30 @@
 #include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/user.h"
 #include "platform/widgets_impl.h"
 
 namespace platform {
+namespace {
+
+void ShowStop(const std::string& message) {
+  QMessageBox box(QMessageBox::Critical, "Algebra 1", ToText(message), QMessageBox::Ok,
+                  FrontWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+}  // namespace
 
 void Stop(const std::string& message) {
   if (User* user = InstalledUser()) user->AtStop(message);
   std::fprintf(stderr, "%s\n", message.c_str());
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr)
-    QMessageBox::critical(nullptr, "Algebra 1", ToText(message));
+  static bool stopping = false;
+  const bool again = std::exchange(stopping, true);  // while the message is painted
+  const bool hasToolkit = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+  if (hasToolkit && !again && !NobodyIsThere()) ShowStop(message);
   std::_Exit(1);
 }
 

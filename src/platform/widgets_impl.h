@@ -1,42 +1,41 @@
-// Texts between the course's single bytes and the toolkit, and what a control is made of: for the
+// What a control is made of, and texts between the course's single bytes and the toolkit: for the
 // .cpp files of this folder alone.
 #pragma once
 
 #include <QFont>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
-#include <cmath>
 #include <string>
 
-#include "platform/fonts.h"
 #include "platform/form.h"
+#include "platform/handler_queue_impl.h"
 
 namespace platform {
 
-inline QString ToText(const std::string& text) {
-  QString s = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-  return s.replace("\r\n", "\n").replace('\r', '\n');
-}
-
-inline std::string FromText(const QString& text) {
-  return text.toLatin1().toStdString();
-}
+// '\r', "\r\n" and '\n' break the line.
+QString ToText(const std::string& text);
+std::string FromText(const QString& text);
+QFont ToFont(const std::string& face, double points, bool bold);
 
 inline QColor ToQColor(Colour colour) {
   return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
 }
 
-inline QFont ToFont(const std::string& face, double points, bool bold) {
-  QFont font(ToText(FamilyOf(face)));
-  font.setPixelSize(static_cast<int>(std::lround(points * 4 / 3)));
-  font.setBold(bold);
-  return font;
+// The nearest whole pixel.
+constexpr int ToPixels(int twips) {
+  const int shifted = twips + TwipsPerPixelX / 2;
+  return (shifted < 0 ? shifted - TwipsPerPixelX + 1 : shifted) / TwipsPerPixelX;
 }
 
+// The accent of the course's own controls: what is under the mouse, what has the focus.
+inline const QColor kAccent(244, 168, 54);
+inline const QColor kInk(16, 24, 48);
+
 struct Control::Impl {
-  QPointer<QWidget> widget;   // placed in the parent's client
+  QPointer<QWidget> widget;   // placed in the parent's client; the window of a form
   QWidget* client = nullptr;  // parent of the controls on this one
   Control* parent = nullptr;
   Form* form = nullptr;
@@ -47,6 +46,7 @@ struct Control::Impl {
   int top = 0;
   int width = 0;
   int height = 0;
+  Life life = NewLife();
 };
 
 struct Form::FormImpl {
@@ -57,16 +57,55 @@ struct Form::FormImpl {
   Button* neutral = nullptr;
   Button* standard = nullptr;
   bool shown = false;
-  bool modal = false;
 };
 
-// Calls a handler that is set.
-inline void CallHandler(const std::function<void()>& handler) {
-  // A copy: the handler may destroy the control that holds it.
-  if (const std::function<void()> call = handler) call();
+// A widget of the control's own that tells it of the mouse: a press is a click, so that it feels
+// immediate.
+template <class Widget>
+class Pressable : public Widget {
+ public:
+  template <class... Args>
+  explicit Pressable(Control& control, Args&&... args)
+      : Widget(std::forward<Args>(args)...), control_(control) {}
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return;
+    CallLater(control_.impl().life, [&control = control_] { control.Click(); });
+  }
+  Control& control_;
+};
+
+// Puts a new widget into the parent's client, and shows it as far as the parent is shown.
+template <class Widget>
+Widget& PutOn(Control& parent, Control& control, Widget* widget) {
+  widget->setParent(parent.impl().client);
+  control.impl().widget = widget;
+  control.impl().client = widget;
+  widget->setObjectName(ToText(control.Name()));
+  // A click on a disabled control is no click on what lies under it.
+  widget->setAttribute(Qt::WA_NoMousePropagation);
+  widget->show();
+  return *widget;
+}
+
+template <class Widget>
+Widget& WidgetOf(const Control& control) {
+  return *static_cast<Widget*>(control.impl().widget.data());
+}
+
+// The person has used the control's widget: its handler is called when the toolkit has returned.
+inline void HandleLater(Control& control) {
+  CallLater(control.impl().life, [&control] {
+    if (control.CanBeClicked()) CallHandler(control.OnClick);
+  });
 }
 
 // Whether the person reaches the form: it is shown, enabled, and no other form is modal before it.
 bool TakesInput(const Form& form);
+// The form that a new window belongs in front of, nullptr for none.
+QWidget* FrontWindow();
+// Without a screen a dialog would wait for ever.
+bool NobodyIsThere();
 
 }  // namespace platform

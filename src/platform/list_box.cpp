@@ -1,0 +1,89 @@
+#include <QListWidget>
+
+#include "platform/widgets_impl.h"
+
+namespace platform {
+namespace {
+
+constexpr int kRowHeight = 27;  // pixels
+
+QListWidget& ListOf(const ListBox& box) {
+  return WidgetOf<QListWidget>(box);
+}
+
+// The selected row, not the current one: the toolkit gives a list a current row with the focus.
+int SelectedRow(const QListWidget& list) {
+  const QList<QListWidgetItem*> selected = list.selectedItems();
+  return selected.isEmpty() ? -1 : list.row(selected.first());
+}
+
+void SelectQuietly(QListWidget& list, int row) {
+  const QSignalBlocker quiet(&list);
+  list.setCurrentRow(row);
+  if (row < 0) list.clearSelection();
+}
+
+}  // namespace
+
+ListBox::ListBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
+  QListWidget& list = PutOn(parent, *this, new QListWidget);
+  // Items keep fields of their own far to the right of what is to be seen.
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list.setTextElideMode(Qt::ElideNone);
+  list.setUniformItemSizes(true);
+  QObject::connect(&list, &QListWidget::itemSelectionChanged, [this, &list] {
+    // A click with the control key would leave no row selected.
+    if (SelectedRow(list) < 0)
+      SelectQuietly(list, list.currentRow());
+    else
+      HandleLater(*this);
+  });
+  QObject::connect(&list, &QListWidget::itemDoubleClicked,
+                   [this] { CallLater(impl().life, [this] { DblClick(); }); });
+}
+
+void ListBox::Clear() {
+  const QSignalBlocker quiet(&ListOf(*this));
+  ListOf(*this).clear();
+}
+
+void ListBox::AddItem(const std::string& text) {
+  auto* item = new QListWidgetItem(ToText(text), &ListOf(*this));
+  item->setSizeHint({0, kRowHeight});
+}
+
+int ListBox::ListCount() const {
+  return ListOf(*this).count();
+}
+
+std::string ListBox::List(int index) const {
+  const QListWidgetItem* item = ListOf(*this).item(index);
+  return item == nullptr ? "" : FromText(item->text());
+}
+
+int ListBox::ListIndex() const {
+  return SelectedRow(ListOf(*this));
+}
+
+void ListBox::SetListIndex(int index) {
+  const int before = ListIndex();
+  SelectQuietly(ListOf(*this), index < ListCount() ? index : -1);
+  const int now = ListIndex();
+  if (now != before && now >= 0) CallHandler(OnClick);
+}
+
+std::string ListBox::Text() const {
+  return List(ListIndex());
+}
+
+int ListBox::RowHeight() const {
+  return kRowHeight * TwipsPerPixelY;
+}
+
+bool ListBox::DblClick() {
+  if (!CanBeClicked()) return false;
+  CallHandler(OnDblClick);
+  return true;
+}
+
+}  // namespace platform

@@ -1,0 +1,21 @@
+// A hand on the mouse and the keyboard: puts input into the event queue just as the machine's own
+// devices do.  For tests and benchmarks; the course itself never uses it.
+#pragma once
+
+#include "platform/form.h"
+
+namespace platform::robot {
+
+// Presses and releases the left button at a pixel of the control.
+void ClickAt(const Control& control, int x, int y);
+void DoubleClickAt(const Control& control, int x, int y);
+
+// Presses and releases a key on the form: a character's code, or one of those without a character.
+enum class Key { Up, Down, Left, Right, Tab };
+void Type(const Form& form, int code);
+void Type(const Form& form, Key key);
+
+// Asks the form's window to close, as its close box does.
+void CloseWindow(const Form& form);
+
+}  // namespace platform::robot
