@@ -24,10 +24,9 @@ inline QColor ToQColor(Colour colour) {
   return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
 }
 
-// The nearest whole pixel.
+// Whole pixels: a control never reaches into one that it does not fill.
 constexpr int ToPixels(int twips) {
-  const int shifted = twips + TwipsPerPixelX / 2;
-  return (shifted < 0 ? shifted - TwipsPerPixelX + 1 : shifted) / TwipsPerPixelX;
+  return twips / TwipsPerPixelX;
 }
 
 // The accent of the course's own controls: what is under the mouse, what has the focus.
