@@ -1,0 +1,37 @@
+// The password of a student who logs in on a network, frmPassword.
+#pragma once
+
+#include <string>
+
+#include "platform/form.h"
+#include "platform/text_box.h"
+
+namespace course {
+
+// What the student picked must type: capital letters and digits.
+extern std::string gStudentPassword;
+
+// Asks for gStudentPassword.  The third wrong one closes the form.  session.gDialogResult is kTrue
+// when the right one was typed; otherwise it is left alone.
+class PasswordForm {
+ public:
+  PasswordForm();
+  platform::Form form;  // frmPassword
+
+ private:
+  void Place();
+  int txtPassword_KeyPress(int code);
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  int attempts_ = 0;
+  platform::Label Label1_;
+  platform::TextBox txtPassword_;
+  platform::Button cmdOK_;
+  platform::Button cmdCancel_;
+};
+
+// Whether session.gStudentName types the password that was stored for him; without one he does.
+bool KnowsPassword(const std::string& password);
+
+}  // namespace course
