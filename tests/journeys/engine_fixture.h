@@ -27,6 +27,7 @@ struct TestLessonPlan {
   int kind = choice_kind::FourShuffledAndNone;
   int correct = 1;
   bool setsParameters = true;
+  std::function<void()> onScreen;       // as a teaching screen begins
   std::function<void()> onProblemPage;  // before the answers are set out
   std::function<void()> onLastPage;     // behind the explanation's last page
 };
@@ -70,6 +71,7 @@ class TestLesson final : public LessonScript {
 
   void Teach(const std::string& name) {
     runs_.push_back(name);
+    if (plan_.onScreen) plan_.onScreen();
     NewScreen();
     isPrint(name + ", first page");
     PageEnd();

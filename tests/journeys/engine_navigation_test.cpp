@@ -1,7 +1,10 @@
 // The student's side of the lesson window: every button, tab, number, key and menu entry.
+#include <set>
+
 #include "display/animation.h"
 #include "engine/screen_reader.h"
 #include "journeys/engine_fixture.h"
+#include "mathkit/draws.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::testing {
@@ -171,6 +174,18 @@ TEST_F(Navigation, RestartGoesBackToTheScreenLastReached) {
   EXPECT_EQ(ModesOfRuns(), "screen 1 screen 2 screen 2 2 screen 1 ");
 }
 
+TEST_F(Navigation, NumbersOfATeachingScreenDifferFromRunToRun) {
+  std::set<double> drawn;
+  plan.onScreen = [&] { drawn.insert(Rnd()); };
+  for (int run = 1; run <= 2; ++run) {
+    ReseedProblem(4711);
+    clock.Advance(1);
+    Leave("PageEnd");
+    Run();
+  }
+  EXPECT_EQ(drawn.size(), 2u);
+}
+
 TEST_F(Navigation, ExitEndsTheProgramAtOnce) {
   user.At("PageEnd").Menu("mnuFileExit");
   EXPECT_THROW(Run(), ProgramEnded);
@@ -230,6 +245,13 @@ TEST_F(Navigation, EscDuringAnAnimationLeavesAtTheNextWait) {
   Run(activity::Example);  // no further click, and no question
   EXPECT_GE(user.pauses, 25);
   EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Navigation, AWishOlderThanTheProblemIsForgotten) {
+  Check("AnswerWait", [] { session.gLeaveLesson = session.gRunAgain = 1; });
+  Leave("AnswerWait");
+  Run(activity::Practice);
+  EXPECT_EQ(ModesOfRuns(), "2 2 ");
 }
 
 TEST_F(Navigation, EscWhileAProblemIsDrawnIsNotForgotten) {

@@ -183,6 +183,46 @@ TEST_F(Tests, ADiagnosticTestWritesTheLettersTheOtherWayRound) {
   EXPECT_EQ(session.gDiagnosticEndedEarly, 0);
 }
 
+TEST_F(Tests, AUnitTestThatIsLeftGivesTheTabsBack) {
+  LoadLessonWindow();
+  const auto leave = [this](const std::function<void()>& step) {
+    FillUnitTest();
+    session.gActivity = activity::UnitTest;
+    session.gRunAgain = session.gLeaveLesson = 0;
+    step();
+    TestLesson(plan, runs).Run();
+    EXPECT_EQ(session.gChapterTest, 0);
+    EXPECT_EQ(session.gHideNav, kFalse);
+  };
+  leave([this] { user.At("AnswerWait").Menu("mnuFileRestart"); });
+  EXPECT_EQ(session.gActivity, activity::Lesson);
+  leave([this] { user.At("AnswerWait").Menu("mnuFileReturn"); });
+  leave([this] {
+    user.Answer(Answer::Yes);
+    Leave("AnswerWait");
+  });
+  EXPECT_EQ(user.messages[0].text, "You are doing a Unit Test.\n\nDo you want to end the test?");
+}
+
+TEST_F(Tests, ADiagnosticTestThatIsLeftCountsAsEndedEarly) {
+  LoadLessonWindow();
+  const auto leave = [this](const std::function<void()>& step) {
+    session.gDiagnosticTest = session.gDiagnosticProb = 1;
+    session.gDiagnosticData[1] = {"", "Test Lesson", "1", " ", " ", ""};
+    session.gDiagnosticEndedEarly = session.gLeaveLesson = 0;
+    session.gActivity = activity::DiagnosticTest;
+    step();
+    TestLesson(plan, runs).Run();
+    EXPECT_EQ(session.gLeaveLesson, 1);
+    EXPECT_EQ(session.gDiagnosticEndedEarly, 1);
+  };
+  leave([this] { user.At("AnswerWait").Menu("mnuFileReturn"); });
+  leave([this] {
+    user.Answer(Answer::Yes);
+    user.At("AnswerWait").CloseBox();
+  });
+}
+
 TEST_F(Tests, ASeedThatIsNoNumberStopsTheProgram) {
   FillUnitTest();
   session.gChapterTestData[1][unit_test_column::Seed] = "";
