@@ -22,16 +22,12 @@ class PreviewPane final : public Control {
     // A file's printer needs no queue of the system; nothing is ever written to it.
     sheets_.setOutputFormat(QPrinter::PdfFormat);
     sheets_.setPageLayout(LayoutOf(document));
-    view_ = new QPrintPreviewWidget(&sheets_, parent.impl().client);
-    impl().widget = view_;
-    impl().client = view_;
-    view_->setObjectName(ToText(Name()));
+    view_ = &PutOn(parent, *this, new QPrintPreviewWidget(&sheets_));
     QObject::connect(view_, &QPrintPreviewWidget::paintRequested,
                      [this](QPrinter* printer) { PaintAll(*printer); });
     QObject::connect(view_, &QPrintPreviewWidget::previewChanged, [this] {
       if (OnChange) OnChange();
     });
-    view_->show();
     view_->fitToWidth();
     view_->updatePreview();
   }
