@@ -127,10 +127,15 @@ class ListBox final : public Control {
   int ListIndex() const;
   void SetListIndex(int index);
   std::string Text() const;  // the selected item's, "" for none
-  int RowHeight() const;     // twips
+  // Twips; to be set before the first item is added.
+  int RowHeight() const;
+  void SetRowHeight(int twips);
   std::function<void()> OnDblClick;
   // As the person would; false as Click.
   bool DblClick();
+
+ private:
+  int rowHeight_ = 27 * TwipsPerPixelY;
 };
 
 class MenuItem {

@@ -5,8 +5,6 @@
 namespace platform {
 namespace {
 
-constexpr int kRowHeight = 27;  // pixels
-
 QListWidget& ListOf(const ListBox& box) {
   return WidgetOf<QListWidget>(box);
 }
@@ -49,7 +47,7 @@ void ListBox::Clear() {
 
 void ListBox::AddItem(const std::string& text) {
   auto* item = new QListWidgetItem(ToText(text), &ListOf(*this));
-  item->setSizeHint({0, kRowHeight});
+  item->setSizeHint({0, ToPixels(rowHeight_)});
 }
 
 int ListBox::ListCount() const {
@@ -77,7 +75,11 @@ std::string ListBox::Text() const {
 }
 
 int ListBox::RowHeight() const {
-  return kRowHeight * TwipsPerPixelY;
+  return rowHeight_;
+}
+
+void ListBox::SetRowHeight(int twips) {
+  rowHeight_ = twips;
 }
 
 bool ListBox::DblClick() {
