@@ -1,0 +1,143 @@
+#include "platform/record_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+#include "support/record_fixture.h"
+
+namespace platform {
+namespace {
+
+using course::testing::ScratchFolder;
+using Strings = std::vector<std::string>;
+
+class RecordFileTest : public ::testing::Test {
+ protected:
+  RecordFile Open(const std::string& name, Access access = Access::ReadWrite,
+                  Sharing sharing = Sharing::Exclusive) const {
+    return RecordFile(folder.Path() + name, 4, access, sharing);
+  }
+  // 0 when the file can be opened, else the number of the error.
+  int OpenError(const std::string& name, Access access, Sharing sharing) const {
+    try {
+      Open(name, access, sharing);
+      return 0;
+    } catch (const FileError& error) {
+      return error.number;
+    }
+  }
+  Strings Names() const {
+    Strings names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+      names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  ScratchFolder folder;
+};
+
+TEST_F(RecordFileTest, RecordsStandOneBehindTheOther) {
+  RecordFile file = Open("A.DAT");
+  EXPECT_EQ(file.Count(), 0);
+  file.Write(1, "anna");
+  file.Write(2, "bert");
+  file.Write(1, "ANNA");
+  EXPECT_EQ(file.Count(), 2);
+  EXPECT_EQ(file.Read(2), "bert");
+  EXPECT_EQ(file.ReadAll(), (Strings{"ANNA", "bert"}));
+  EXPECT_EQ(folder.Bytes("A.DAT"), "ANNAbert");
+}
+
+TEST_F(RecordFileTest, PartialTailIsNotCountedAndIsWrittenOver) {
+  folder.Put("A.DAT", "annaber");
+  RecordFile file = Open("A.DAT");
+  EXPECT_EQ(file.Count(), 1);
+  EXPECT_EQ(file.ReadAll(), Strings{"anna"});
+  EXPECT_EQ(file.ReadBytes(), "annaber");
+  file.Write(file.Count() + 1, "carl");
+  EXPECT_EQ(folder.Bytes("A.DAT"), "annacarl");
+}
+
+TEST_F(RecordFileTest, NamesDoNotTellCaseApart) {
+  Open("records.dat").Write(1, "anna");
+  EXPECT_EQ(Open("RECORDS.DAT").ReadAll(), Strings{"anna"});
+  EXPECT_EQ(Open("Records.Dat", Access::Read).ReadAll(), Strings{"anna"});
+  Open("RECORDS.DAT").ReplaceAll({"bert"});
+  EXPECT_EQ(Names(), Strings{"records.dat"});
+  EXPECT_EQ(folder.Bytes("records.dat"), "bert");
+  // Of two spellings all programs take the same.
+  folder.Put("RECORDS.dat", "carl");
+  EXPECT_EQ(Open("records.dat").ReadAll(), Strings{"carl"});
+  EXPECT_EQ(Names(), (Strings{"RECORDS.dat", "records.dat"}));
+}
+
+TEST_F(RecordFileTest, BothSlashesPartFolders) {
+  folder.Put("A.DAT", "anna");
+  std::filesystem::create_directory(folder.Path() + "below");
+  RecordFile file(folder.Path() + R"(below\..\a.dat)", 4, Access::Read, Sharing::Plain);
+  EXPECT_EQ(file.ReadAll(), Strings{"anna"});
+}
+
+TEST_F(RecordFileTest, OnlyReadingDoesNotMakeAFile) {
+  for (const Sharing sharing : {Sharing::Exclusive, Sharing::Shared, Sharing::Plain})
+    EXPECT_EQ(OpenError("A.DAT", Access::Read, sharing), ENOENT);
+  EXPECT_EQ(Names(), Strings{});
+  EXPECT_EQ(OpenError("A.DAT", Access::Write, Sharing::Exclusive), 0);
+  EXPECT_EQ(folder.Bytes("A.DAT"), "");
+  EXPECT_THROW(RecordFile("/no/such/folder/A.DAT", 4, Access::Write, Sharing::Exclusive),
+               FileError);
+}
+
+TEST_F(RecordFileTest, WhoMayOpenWhatIsOpen) {
+  struct Case {
+    Sharing first, second;
+    bool both;
+  };
+  for (const Case& c : std::vector<Case>{{Sharing::Exclusive, Sharing::Exclusive, false},
+                                         {Sharing::Exclusive, Sharing::Shared, false},
+                                         {Sharing::Exclusive, Sharing::Plain, false},
+                                         {Sharing::Shared, Sharing::Exclusive, false},
+                                         {Sharing::Shared, Sharing::Shared, true},
+                                         {Sharing::Shared, Sharing::Plain, true},
+                                         {Sharing::Plain, Sharing::Exclusive, true},
+                                         {Sharing::Plain, Sharing::Shared, true},
+                                         {Sharing::Plain, Sharing::Plain, true}}) {
+    std::optional<RecordFile> first;
+    first.emplace(folder.Path() + "A.DAT", 4, Access::ReadWrite, c.first);
+    EXPECT_EQ(OpenError("a.dat", Access::ReadWrite, c.second), c.both ? 0 : EAGAIN)
+        << static_cast<int>(c.first) << " then " << static_cast<int>(c.second);
+    first.reset();
+    EXPECT_EQ(OpenError("a.dat", Access::ReadWrite, c.second), 0);
+  }
+}
+
+TEST_F(RecordFileTest, ReplacementKeepsTheRightsAndTheReaders) {
+  folder.Put("A.DAT", "annabert");
+  ASSERT_EQ(chmod((folder.Path() + "A.DAT").c_str(), 0664), 0);
+  RecordFile reader = Open("A.DAT", Access::Read, Sharing::Plain);
+  RecordFile writer = Open("A.DAT");
+  writer.ReplaceAll({"carl"});
+  EXPECT_EQ(reader.ReadAll(), (Strings{"anna", "bert"}));  // as it was when it was opened
+  EXPECT_EQ(folder.Bytes("A.DAT"), "carl");
+  EXPECT_EQ(Names(), Strings{"A.DAT"});
+  struct stat status {};
+  ASSERT_EQ(stat((folder.Path() + "A.DAT").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0664U);
+  EXPECT_EQ(OpenError("A.DAT", Access::ReadWrite, Sharing::Exclusive), 0);
+}
+
+TEST_F(RecordFileTest, WorkFilesStayBehind) {
+  folder.Put("A.TMP", "annabertcarl");
+  WriteWorkFile(folder.Path() + "a.tmp", {"dora"}, OldContents::Kept);
+  EXPECT_EQ(folder.Bytes("A.TMP"), "dorabertcarl");
+  WriteWorkFile(folder.Path() + "a.tmp", {"emil"}, OldContents::Removed);
+  EXPECT_EQ(folder.Bytes("A.TMP"), "emil");
+}
+
+}  // namespace
+}  // namespace platform
