@@ -1,0 +1,113 @@
+// File operations that go wrong: the n-th of them fails, or the process dies there.  What is synced
+// is not really pushed to the disk: that matters to a power failure only, and takes long.
+#pragma once
+
+#include <signal.h>
+
+#include <cerrno>
+#include <string>
+#include <vector>
+
+#include "platform/file_calls.h"
+
+namespace course::testing {
+
+class FaultyCalls final : public platform::FileCalls {
+ public:
+  enum class Fault {
+    None,
+    Fail,  // with the given error
+    KillBefore,
+    KillWithin,  // a write after half its bytes, any other call after its end
+    KillAfter,
+  };
+  // From the n-th call on, counted from 1; a failure lasts for so many calls.
+  FaultyCalls(Fault fault, int at, int lasting = 1, int error = EIO)
+      : fault_(fault), at_(at), lasting_(lasting), error_(error) {}
+
+  int Count() const { return count_; }
+  // The operations that change something on the disk, in their order.
+  const std::vector<std::string>& Changes() const { return changes_; }
+
+  int Open(const std::string& path, platform::OpenMode mode) override {
+    return Do([&] { return FileCalls::Open(path, mode); });
+  }
+  int Close(int descriptor) override {
+    const int result = FileCalls::Close(descriptor);  // a failing close lets go all the same
+    return Do([&] { return result; });
+  }
+  int Lock(int descriptor, platform::LockKind kind) override {
+    return Do([&] { return FileCalls::Lock(descriptor, kind); });
+  }
+  int Facts(int descriptor, platform::FileFacts& facts) override {
+    return Do([&] { return FileCalls::Facts(descriptor, facts); });
+  }
+  int FactsOfPath(const std::string& path, platform::FileFacts& facts) override {
+    return Do([&] { return FileCalls::FactsOfPath(path, facts); });
+  }
+  long Read(int descriptor, char* bytes, std::size_t count, long offset) override {
+    return Do([&] { return FileCalls::Read(descriptor, bytes, count, offset); });
+  }
+  long Write(int descriptor, const char* bytes, std::size_t count, long offset) override {
+    changes_.push_back("write");
+    if (fault_ == Fault::KillWithin && count_ + 1 == at_)
+      FileCalls::Write(descriptor, bytes, count / 2, offset);
+    return Do([&] { return FileCalls::Write(descriptor, bytes, count, offset); });
+  }
+  int Sync(int) override {
+    changes_.push_back("sync");
+    return Do([] { return 0; });
+  }
+  int SyncFolder(const std::string&) override {
+    changes_.push_back("sync folder");
+    return Do([] { return 0; });
+  }
+  int Truncate(int descriptor, long size) override {
+    changes_.push_back("truncate");
+    return Do([&] { return FileCalls::Truncate(descriptor, size); });
+  }
+  int SetPermissions(int descriptor, int permissions) override {
+    return Do([&] { return FileCalls::SetPermissions(descriptor, permissions); });
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    changes_.push_back("rename");
+    return Do([&] { return FileCalls::Rename(from, to); });
+  }
+  int Remove(const std::string& path) override {
+    changes_.push_back("remove");
+    return Do([&] { return FileCalls::Remove(path); });
+  }
+  int List(const std::string& folder, std::vector<std::string>& names) override {
+    return Do([&] { return FileCalls::List(folder, names); });
+  }
+
+ private:
+  template <class Call>
+  auto Do(Call call) -> decltype(call()) {
+    ++count_;
+    const bool here = count_ == at_;
+    if (here && (fault_ == Fault::KillBefore || fault_ == Fault::KillWithin)) raise(SIGKILL);
+    if (fault_ == Fault::Fail && count_ >= at_ && count_ < at_ + lasting_) return -error_;
+    const auto result = call();
+    if (here && fault_ == Fault::KillAfter) raise(SIGKILL);
+    return result;
+  }
+
+  Fault fault_;
+  int at_;
+  int lasting_;
+  int error_;
+  int count_ = 0;
+  std::vector<std::string> changes_;
+};
+
+// Puts the calls in place for as long as it lives.
+class InstalledCalls {
+ public:
+  explicit InstalledCalls(platform::FileCalls& calls) { platform::InstallFileCalls(&calls); }
+  ~InstalledCalls() { platform::InstallFileCalls(nullptr); }
+  InstalledCalls(const InstalledCalls&) = delete;
+  InstalledCalls& operator=(const InstalledCalls&) = delete;
+};
+
+}  // namespace course::testing
