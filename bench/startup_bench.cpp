@@ -1,9 +1,8 @@
-// From process start to a painted window, and what a waiting lesson costs: measured on programs of their own,
-// which report in one line.
+// From process start to a painted window, and what a waiting lesson costs: measured on programs of
+// their own, which report in one line.
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
-#include <array>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -15,14 +14,16 @@ struct Report {
   double megabytes = 0;     // highest resident memory
 };
 
-// Runs "startup-probe KIND" beside this program.
+// Runs "startup-probe KIND STARTED" beside this program; the start is the monotonic clock's
+// nanosecond.
 Report Probe(const std::string& kind) {
   const auto folder = std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  const std::string command = (folder / "startup-probe").string() + " " + kind;
+  const auto started = std::chrono::steady_clock::now().time_since_epoch();
+  const std::string command = "exec " + (folder / "startup-probe").string() + " " + kind + " " +
+                              std::to_string(std::chrono::nanoseconds(started).count());
   Report report;
   FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr ||
-      std::fscanf(pipe, "%lf %lf", &report.milliseconds, &report.megabytes) != 2)
+  if (pipe == nullptr || std::fscanf(pipe, "%lf %lf", &report.milliseconds, &report.megabytes) != 2)
     std::fprintf(stderr, "startup-probe %s reported nothing\n", kind.c_str());
   if (pipe != nullptr) pclose(pipe);
   return report;

@@ -5,7 +5,7 @@
 
 packages=(
   g++ cmake ninja-build ccache
-  qt6-base-dev qt6-svg-dev
+  qt6-base-dev qt6-svg-dev libfontconfig-dev
   fonts-liberation fonts-urw-base35
   libgtest-dev libbenchmark-dev libcli11-dev nlohmann-json3-dev
 )

@@ -1,6 +1,5 @@
-// A program that shows a bare window or the course's menu, and reports when it was painted; or waits at a
-// page's end for ten seconds and reports the processor time that this took.
-#include <sys/resource.h>
+// A program that shows a bare window or the course's menu, and reports when it was painted; or
+// waits at a page's end for ten seconds and reports the processor time that this took.
 #include <time.h>
 
 #include <QApplication>
@@ -13,31 +12,36 @@
 #include <string>
 
 #include "display/lesson_window.h"
-#include "lessons/lesson_table.h"
 #include "engine/navigation.h"
+#include "lessons/lesson_table.h"
 #include "platform/program.h"
 #include "session/session.h"
 #include "shell/menu.h"
 
 namespace {
 
-double Milliseconds(const timespec& t) { return t.tv_sec * 1e3 + t.tv_nsec / 1e6; }
+double Milliseconds(const timespec& t) {
+  return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
+}
 
-// Since the process was started, by the kernel's own stamp, to a hundredth of a second.
-double SinceProcessStart() {
-  std::ifstream stat("/proc/self/stat");
-  std::string field;
-  for (int i = 1; i <= 22; ++i) stat >> field;
-  const double started = std::atof(field.c_str()) * 1e3 / sysconf(_SC_CLK_TCK);
+double started = 0;  // milliseconds of the monotonic clock
+
+double SinceStart() {
   timespec now{};
-  clock_gettime(CLOCK_BOOTTIME, &now);
+  clock_gettime(CLOCK_MONOTONIC, &now);
   return Milliseconds(now) - started;
 }
 
+// Of this program alone: the resource usage that the system reports begins with the parent's.
 double PeakMegabytes() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss / 1024.0;
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;)
+    if (word == "VmHWM:") {
+      double kilobytes = 0;
+      status >> kilobytes;
+      return kilobytes / 1024;
+    }
+  return 0;
 }
 
 double ProcessorMilliseconds() {
@@ -54,7 +58,9 @@ double ProcessorMilliseconds() {
 
 class BareWindow : public QWidget {
  protected:
-  void paintEvent(QPaintEvent*) override { QTimer::singleShot(0, [] { Report(SinceProcessStart()); }); }
+  void paintEvent(QPaintEvent*) override {
+    QTimer::singleShot(0, [] { Report(SinceStart()); });
+  }
 };
 
 int ShowBareWindow(int argc, char** argv) {
@@ -68,7 +74,7 @@ int ShowBareWindow(int argc, char** argv) {
 int ShowMenu(int argc, char** argv) {
   platform::Application application(argc, argv);
   course::LoadMenu();
-  course::frmMenu->form.OnFirstShown = [] { Report(SinceProcessStart()); };
+  course::frmMenu->form.OnFirstShown = [] { Report(SinceStart()); };
   return application.Run();
 }
 
@@ -87,9 +93,10 @@ int WaitAtPageEnd(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   const std::string kind = argc > 1 ? argv[1] : "";
+  if (argc > 2) started = std::atof(argv[2]) / 1e6;
   if (kind == "bare") return ShowBareWindow(argc, argv);
   if (kind == "menu") return ShowMenu(argc, argv);
   if (kind == "wait") return WaitAtPageEnd(argc, argv);
-  std::fprintf(stderr, "startup-probe bare | menu | wait\n");
+  std::fprintf(stderr, "startup-probe bare | menu | wait  STARTED\n");
   return 1;
 }

@@ -1,5 +1,7 @@
 #include "platform/fonts.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QRawFont>
@@ -90,6 +92,27 @@ char16_t SymbolOf(unsigned char code) {
 }
 
 }  // namespace
+
+void ReadFontsPlainly() {
+  // The fonts of the named packages, and no rules of a desktop's own: those would change faces and
+  // hinting from one machine to the next, and to read them and all other fonts takes half the time
+  // until the first window shows.
+  static constexpr char kConfiguration[] =
+      "<fontconfig>"
+      "<dir>/usr/share/fonts/truetype/liberation</dir>"
+      "<dir>/usr/share/fonts/truetype/liberation2</dir>"
+      "<dir>/usr/share/fonts/opentype/urw-base35</dir>"
+      "<cachedir>/var/cache/fontconfig</cachedir><cachedir prefix='xdg'>fontconfig</cachedir>"
+      "</fontconfig>";
+  FcConfig* configuration = FcConfigCreate();
+  const bool parsed = FcConfigParseAndLoadFromMemory(
+      configuration, reinterpret_cast<const FcChar8*>(kConfiguration), FcTrue);
+  // Without it the system's own configuration is read, and the course runs all the same.
+  if (parsed && FcConfigBuildFonts(configuration))
+    FcConfigSetCurrent(configuration);
+  else
+    FcConfigDestroy(configuration);
+}
 
 void CheckFonts() {
   for (const Twin& twin : kTwins) {

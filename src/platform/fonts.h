@@ -5,6 +5,9 @@
 
 namespace platform {
 
+// Makes the fonts of the machine known without the rules of its desktop.  Before the toolkit starts.
+void ReadFontsPlainly();
+
 // Stops the program when a face that the course prints in is not installed; the message names the
 // package to install.  Needs the running toolkit.
 void CheckFonts();

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+#include <QTimer>
 #include <memory>
 
 #include "platform/events.h"
@@ -74,6 +75,7 @@ QString FromPath(const std::filesystem::path& path) {
 Application::Application(int&, char** argv) {
   // There is no command line, the toolkit's own options included.
   static int count = 1;
+  ReadFontsPlainly();
   PrepareToolkit();
   application = std::make_unique<QApplication>(count, argv);
   KeepQuietWithoutScreen();
@@ -84,7 +86,10 @@ Application::Application(int&, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   CheckFonts();
   QApplication::setFont(ToFont("MS Sans Serif", 10, false));
-  QApplication::setWindowIcon(QIcon(QPixmap::fromImage(PictureImage("app_icon", {64, 64}))));
+  // Nobody waits for the icon: it is drawn when the first window stands.
+  QTimer::singleShot(200, qApp, [] {
+    QApplication::setWindowIcon(QIcon(QPixmap::fromImage(PictureImage("app_icon", {64, 64}))));
+  });
 }
 
 Application::~Application() {

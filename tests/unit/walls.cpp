@@ -133,7 +133,8 @@ std::set<std::string> Paths(const Files& files) {
 std::optional<std::string> Resolved(const SourceFile& from, const std::string& name,
                                     const std::set<std::string>& paths) {
   const std::string besides = from.path.substr(0, from.path.rfind('/') + 1);
-  for (const std::string& folder : {besides, std::string("src/"), std::string("tests/")}) {
+  for (const std::string& folder :
+       {besides, std::string("src/"), std::string("tests/"), std::string("tools/")}) {
     if (paths.contains(folder + name)) return folder + name;
   }
   return std::nullopt;

@@ -23,6 +23,9 @@ struct PagesRequest {
 };
 int WritePages(const PagesRequest& request);
 
+// Every form of the course in a folder, as NAME.png.
+int WriteForms(const std::string& folder);
+
 // The script of a title, the blank lesson included; nullptr, and a message, when there is none.
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title);
 

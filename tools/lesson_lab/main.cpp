@@ -33,8 +33,13 @@ int main(int argc, char** argv) {
   draw->add_option("--seed", pages.seed, "Seed of the problem")->check(CLI::Range(0, 32766));
   draw->add_option("--out", pages.folder, "Folder for the pages")->required();
 
+  std::string folder;
+  CLI::App* forms = app.add_subcommand("forms", "Every form of the course as a picture");
+  forms->add_option("--out", folder, "Folder for the pictures")->required();
+
   CLI11_PARSE(app, argc, argv);
   if (problem->parsed()) return lesson_lab::PrintProblems(title, seed, count);
   if (draw->parsed()) return lesson_lab::WritePages(pages);
+  if (forms->parsed()) return lesson_lab::WriteForms(folder);
   return lesson_lab::List();
 }

@@ -1,8 +1,5 @@
 #include "lesson_lab/page_turner.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "display/lesson_window.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
@@ -31,34 +28,17 @@ void PageTurner::KeepPage() {
 
 void PageTurner::AtWait(const std::string& place) {
   KeepPage();
-  if (place == "PageEnd") {
+  if (place == "PageEnd")
     frmPR->pnlLesson.Click();
-  } else if (platform::Form* dialog = platform::Form::ModalForm()) {
-    dialog->Find("cmdOption(4)")->Click();
-  } else {
+  else if (platform::Form* dialog = platform::Form::ModalForm())
+    dialog->Close();
+  else
     session.gLeaveLesson = 1;
-  }
 }
 
-void PageTurner::AtPause(double) {}
-
-platform::Answer PageTurner::AtMessage(const platform::Message&) {
+platform::Answer PageTurner::AtMessage(const platform::Message& message) {
   KeepPage();
-  return platform::Answer::No;
-}
-
-std::optional<std::string> PageTurner::AtInput(const std::string&) {
-  return {};
-}
-
-void PageTurner::AtStop(const std::string& message) {
-  std::fprintf(stderr, "%s#%d: %s\n", session.gLessonName.c_str(), session.gProblemSeed,
-               message.c_str());
-  std::exit(1);
-}
-
-void PageTurner::AtEnd() {
-  std::exit(0);
+  return IdleUser::AtMessage(message);
 }
 
 }  // namespace lesson_lab

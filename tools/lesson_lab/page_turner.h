@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "lesson_lab/idle_user.h"
 #include "platform/surface.h"
-#include "platform/user.h"
 
 namespace lesson_lab {
 
@@ -15,16 +15,12 @@ struct Page {
   std::string text;  // UTF-8
 };
 
-class PageTurner final : public platform::User {
+class PageTurner final : public IdleUser {
  public:
   std::vector<Page> pages;
 
   void AtWait(const std::string& place) override;
-  void AtPause(double seconds) override;
   platform::Answer AtMessage(const platform::Message& message) override;
-  std::optional<std::string> AtInput(const std::string& prompt) override;
-  [[noreturn]] void AtStop(const std::string& message) override;
-  [[noreturn]] void AtEnd() override;
 
  private:
   void KeepPage();

@@ -8,7 +8,6 @@
 #include "engine/navigation.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/page_turner.h"
-#include "platform/manual_clock.h"
 #include "session/session.h"
 
 namespace lesson_lab {
@@ -142,15 +141,10 @@ int WritePages(const PagesRequest& request) {
     return 1;
   }
   PageTurner reader;
-  platform::ManualClock clock;
-  platform::InstallUser(&reader);
-  platform::InstallClock(&clock);
   course::LoadLessonWindow();
   WantEntry(entry, request.seed);
   lesson->Run();
   course::UnloadLessonWindow();
-  platform::InstallClock(nullptr);
-  platform::InstallUser(nullptr);
   return WriteAll(reader.pages, request.folder);
 }
 

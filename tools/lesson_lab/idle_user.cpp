@@ -1,0 +1,43 @@
+#include "lesson_lab/idle_user.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "mathkit/tutor_codes.h"
+#include "session/session.h"
+
+namespace lesson_lab {
+
+using course::session;
+
+IdleUser::IdleUser() {
+  platform::InstallUser(this);
+  platform::InstallClock(&clock_);
+}
+
+IdleUser::~IdleUser() {
+  platform::InstallClock(nullptr);
+  platform::InstallUser(nullptr);
+}
+
+void IdleUser::AtPause(double) {}
+
+platform::Answer IdleUser::AtMessage(const platform::Message&) {
+  return platform::Answer::No;
+}
+
+std::optional<std::string> IdleUser::AtInput(const std::string&) {
+  return {};
+}
+
+void IdleUser::AtStop(const std::string& message) {
+  std::fprintf(stderr, "%s#%d: %s\n", course::ToUtf8(session.gLessonName).c_str(),
+               session.gProblemSeed, message.c_str());
+  std::exit(1);
+}
+
+void IdleUser::AtEnd() {
+  std::exit(0);
+}
+
+}  // namespace lesson_lab

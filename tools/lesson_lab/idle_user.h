@@ -1,0 +1,28 @@
+// A user who wants nothing, with a clock that stands: the program runs without a person and without
+// waiting. Installed as long as it lives.
+#pragma once
+
+#include "platform/manual_clock.h"
+#include "platform/user.h"
+
+namespace lesson_lab {
+
+class IdleUser : public platform::User {
+ public:
+  IdleUser();
+  ~IdleUser() override;
+  IdleUser(const IdleUser&) = delete;
+  IdleUser& operator=(const IdleUser&) = delete;
+
+  void AtPause(double seconds) override;
+  platform::Answer AtMessage(const platform::Message& message) override;  // No
+  std::optional<std::string> AtInput(const std::string& prompt) override;
+  // Prints the message with the problem's name, and ends this program.
+  [[noreturn]] void AtStop(const std::string& message) override;
+  [[noreturn]] void AtEnd() override;
+
+ private:
+  platform::ManualClock clock_;
+};
+
+}  // namespace lesson_lab
