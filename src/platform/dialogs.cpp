@@ -1,17 +1,27 @@
-#include "platform/dialogs.h"
-
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QInputDialog>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
 
+#include "platform/dialogs_impl.h"
 #include "platform/stop.h"
 #include "platform/user.h"
 #include "platform/widgets_impl.h"
 
 namespace platform {
 namespace {
+
+constexpr double kTextPoints = 11;
+constexpr QSize kButtonSize(104, 36);  // pixels
+constexpr int kSign = 48;              // pixels, sides of the square that the sign stands in
+constexpr QSize kInputSize(380, 30);
 
 // A Yes/No box stays until one of its buttons is pressed.
 class AnswerBox final : public QMessageBox {
@@ -33,19 +43,6 @@ class AnswerBox final : public QMessageBox {
   bool MustAnswer() const { return standardButtons().testFlag(QMessageBox::Yes); }
 };
 
-QMessageBox::Icon IconOf(Icon icon) {
-  switch (icon) {
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::Question:
-      return QMessageBox::Question;
-    case Icon::Warning:
-      return QMessageBox::Warning;
-    default:
-      return QMessageBox::NoIcon;
-  }
-}
-
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
     case Buttons::YesNo:
@@ -57,6 +54,41 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   }
 }
 
+// The sign beside a text: a letter in a disc, or in a triangle where something is at stake.
+QPixmap SignOf(Icon icon) {
+  const double ratio = qApp->devicePixelRatio();
+  QPixmap sign(QSizeF(kSign * ratio, kSign * ratio).toSize());
+  sign.setDevicePixelRatio(ratio);
+  sign.fill(Qt::transparent);
+  QPainter painter(&sign);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool isWarning = icon == Icon::Warning;
+  QPainterPath shape;
+  if (isWarning)
+    shape.addPolygon(QPolygonF({{24, 5}, {45, 42}, {3, 42}, {24, 5}}));
+  else
+    shape.addEllipse(QPointF(24, 24), 20, 20);
+  painter.setPen(QPen(kNavy, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(isWarning ? kAccent : kNavy);
+  painter.drawPath(shape);
+  painter.setPen(isWarning ? kNavy : QColor(Qt::white));
+  painter.setFont(ToFont("Arial", 20, true));
+  const QRect place = isWarning ? QRect(0, 10, kSign, 32) : QRect(0, 0, kSign, kSign);
+  painter.drawText(place, Qt::AlignCenter, isWarning ? "!" : icon == Icon::Question ? "?" : "i");
+  return sign;
+}
+
+// One look for all dialogs: readable type, generous buttons without the toolkit's pictures.
+void Dress(QDialog& dialog) {
+  dialog.setFont(ToFont("MS Sans Serif", kTextPoints, false));
+  for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+    button->setIcon({});
+    button->setMinimumSize(kButtonSize);
+  }
+  dialog.layout()->setContentsMargins(20, 20, 20, 16);
+  dialog.layout()->setSpacing(14);
+}
+
 }  // namespace
 
 bool NobodyIsThere() {
@@ -64,12 +96,12 @@ bool NobodyIsThere() {
   return name == "offscreen" || name == "minimal";
 }
 
-Answer MessageBox(const Message& message) {
-  if (User* user = InstalledUser()) return user->AtMessage(message);
-  if (NobodyIsThere()) Stop("MessageBox: nobody is there to answer: " + message.text);
-  AnswerBox box(IconOf(message.icon), ToText(message.title), ToText(message.text),
+Answer ShowMessage(const Message& message) {
+  AnswerBox box(QMessageBox::NoIcon, ToText(message.title), ToText(message.text),
                 ButtonsOf(message.buttons), FrontWindow());
   box.setTextFormat(Qt::PlainText);
+  if (message.icon != Icon::None) box.setIconPixmap(SignOf(message.icon));
+  Dress(box);
   switch (box.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;
@@ -82,14 +114,33 @@ Answer MessageBox(const Message& message) {
   }
 }
 
+Answer MessageBox(const Message& message) {
+  if (User* user = InstalledUser()) return user->AtMessage(message);
+  if (NobodyIsThere()) Stop("MessageBox: nobody is there to answer: " + message.text);
+  return ShowMessage(message);
+}
+
 std::optional<std::string> InputBox(const std::string& prompt, const std::string& title) {
   if (User* user = InstalledUser()) return user->AtInput(prompt);
   if (NobodyIsThere()) Stop("InputBox: nobody is there to answer: " + prompt);
-  bool accepted = false;
-  const QString typed = QInputDialog::getText(FrontWindow(), ToText(title), ToText(prompt),
-                                              QLineEdit::Normal, {}, &accepted);
-  if (!accepted) return {};
-  return FromText(typed);
+  QDialog dialog(FrontWindow());
+  dialog.setWindowTitle(ToText(title));
+  auto* label = new QLabel(ToText(prompt));
+  auto* input = new QLineEdit;
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  label->setTextFormat(Qt::PlainText);
+  label->setBuddy(input);
+  input->setAccessibleName(label->text());
+  input->setMinimumSize(kInputSize);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  for (QWidget* part : std::initializer_list<QWidget*>{label, input, buttons})
+    layout->addWidget(part);
+  Dress(dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return FromText(input->text());
 }
 
 void Beep() {

@@ -17,8 +17,8 @@ struct Message {
   Icon icon = Icon::None;
 };
 
-// Shows the message and returns the button pressed.  A Yes/No box cannot be closed without an answer;
-// closing another one is Cancel, or Ok where there is no Cancel.
+// Shows the message and returns the button pressed.  A Yes/No box cannot be closed without an
+// answer; closing another one is Cancel, or Ok where there is no Cancel.
 Answer MessageBox(const Message& message);
 
 // What was typed, nothing when the person cancelled.

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/form_window_impl.h"
+#include "platform/picture_box.h"
 
 namespace platform {
 namespace {
@@ -50,7 +51,7 @@ Control* FocusedControl(const Form& form) {
 
 bool PressEnter(const Form& form) {
   Control* focused = FocusedControl(form);
-  if (auto* button = dynamic_cast<Button*>(focused)) return button->Click();
+  if (dynamic_cast<Button*>(focused) || dynamic_cast<PictureBox*>(focused)) return focused->Click();
   auto* list = dynamic_cast<ListBox*>(focused);
   if (list != nullptr && list->OnDblClick) return list->DblClick();
   Button* standard = form.formImpl().standard;

@@ -1,5 +1,7 @@
 #include "platform/picture_box.h"
 
+#include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -21,20 +23,63 @@ class SurfaceWidget final : public Pressable<QWidget> {
     QPainter painter(this);
     const QRect changed = event->rect();
     painter.drawImage(changed, image_, changed);
-    if (!box_.Border()) return;
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QRect edge = rect().adjusted(0, 0, -1, -1);
+    if (box_.Border()) {
+      painter.setPen(Qt::black);
+      painter.drawRect(edge);
+    }
+    if (hasFocus()) {
+      painter.setPen(QPen(kAccent, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+      painter.drawRect(edge.adjusted(1, 1, 0, 0));
+    }
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() != Qt::Key_Space) return Pressable<QWidget>::keyPressEvent(event);
+    CallLater(box_.impl().life, [&box = box_] { box.Click(); });
+  }
+
+ private:
+  friend class SpokenSurface;
+  PictureBox& box_;
+  const QImage& image_;
+};
+
+// What a screen reader makes of a box: a text, or a button when a click does something.
+class SpokenSurface final : public QAccessibleWidget {
+ public:
+  explicit SpokenSurface(SurfaceWidget& widget) : QAccessibleWidget(&widget), box_(widget.box_) {}
+
+  QAccessible::Role role() const override {
+    return box_.OnClick ? QAccessible::Button : QAccessible::StaticText;
+  }
+  QString text(QAccessible::Text kind) const override {
+    if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
+    QStringList parts = {widget()->accessibleName(), widget()->accessibleDescription()};
+    parts.removeAll("");
+    return parts.join(": ");
+  }
+  QStringList actionNames() const override {
+    return box_.OnClick ? QStringList{pressAction()} : QStringList{};
+  }
+  void doAction(const QString& name) override {
+    if (name == pressAction()) CallLater(box_.impl().life, [&box = box_] { box.Click(); });
   }
 
  private:
   PictureBox& box_;
-  const QImage& image_;
 };
+
+QAccessibleInterface* MakeSpoken(const QString&, QObject* object) {
+  auto* surface = dynamic_cast<SurfaceWidget*>(object);
+  return surface == nullptr ? nullptr : new SpokenSurface(*surface);
+}
 
 }  // namespace
 
 PictureBox::PictureBox(Control& parent, std::string name)
     : Control(&parent, std::move(name)), Surface(1, 1) {
+  static const bool installed = (QAccessible::installFactory(MakeSpoken), true);
+  static_cast<void>(installed);
   PutOn(parent, *this, new SurfaceWidget(*this, Surface::impl_->image));
 }
 
@@ -47,6 +92,10 @@ void PictureBox::SetBorder(bool border) {
 
 bool PictureBox::Border() const {
   return border_;
+}
+
+void PictureBox::SetTabStop(bool tabStop) {
+  impl().widget->setFocusPolicy(tabStop ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void PictureBox::ShowRect(const PixelRect& changed) {

@@ -8,12 +8,15 @@ namespace platform {
 
 class PictureBox : public Control, public Surface {
  public:
-  // 1 by 1 pixel until it is moved.  Giving it another size in twips resizes and clears the surface.
+  // 1 by 1 pixel until it is moved.  Giving it another size in twips resizes and clears the
+  // surface.
   PictureBox(Control& parent, std::string name);
   ~PictureBox() override;
-  // A thin black line around the surface, inside the control's rectangle.
+  // A thin black line over the outermost pixels of the surface.
   void SetBorder(bool border);
   bool Border() const;
+  // Whether the keyboard reaches the box: Tab comes by, the blank and Enter click it.
+  void SetTabStop(bool tabStop);
 
  protected:
   void ShowRect(const PixelRect& changed) override;

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "platform/dialogs_impl.h"
 #include "platform/events.h"
 #include "platform/fonts.h"
 #include "platform/picture_impl.h"
@@ -29,7 +30,7 @@ QPalette CoursePalette() {
   palette.setColor(QPalette::Text, kInk);
   palette.setColor(QPalette::Base, QColor(250, 247, 240));
   palette.setColor(QPalette::AlternateBase, QColor(240, 237, 230));
-  palette.setColor(QPalette::Highlight, QColor(22, 40, 79));
+  palette.setColor(QPalette::Highlight, kNavy);
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, QColor(250, 247, 240));
   palette.setColor(QPalette::ToolTipText, kInk);

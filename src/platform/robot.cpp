@@ -1,6 +1,7 @@
 #include "platform/robot.h"
 
-#include <QCoreApplication>
+#include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QWindow>
 #include <map>
 
@@ -60,16 +61,28 @@ void Type(const Form& form, int code) {
 }
 
 void Type(const Form& form, Key key) {
-  static const std::map<Key, int> kKeys = {{Key::Up, Qt::Key_Up},
-                                           {Key::Down, Qt::Key_Down},
-                                           {Key::Left, Qt::Key_Left},
-                                           {Key::Right, Qt::Key_Right},
-                                           {Key::Tab, Qt::Key_Tab}};
+  static const std::map<Key, int> kKeys = {
+      {Key::Up, Qt::Key_Up},       {Key::Down, Qt::Key_Down}, {Key::Left, Qt::Key_Left},
+      {Key::Right, Qt::Key_Right}, {Key::Tab, Qt::Key_Tab},   {Key::BackTab, Qt::Key_Backtab}};
   TypeKey(form, kKeys.at(key), key == Key::Tab ? "\t" : "");
 }
 
 void CloseWindow(const Form& form) {
   WindowOf(form)->close();
+}
+
+std::string Spoken(const Control& control) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control.impl().widget);
+  return FromText(spoken->text(QAccessible::Name));
+}
+
+bool PressBySpeech(const Control& control) {
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control.impl().widget);
+  QAccessibleActionInterface* actions = spoken->actionInterface();
+  const QString press = QAccessibleActionInterface::pressAction();
+  if (actions == nullptr || !actions->actionNames().contains(press)) return false;
+  actions->doAction(press);
+  return true;
 }
 
 }  // namespace platform::robot

@@ -11,11 +11,15 @@ void ClickAt(const Control& control, int x, int y);
 void DoubleClickAt(const Control& control, int x, int y);
 
 // Presses and releases a key on the form: a character's code, or one of those without a character.
-enum class Key { Up, Down, Left, Right, Tab };
+enum class Key { Up, Down, Left, Right, Tab, BackTab };
 void Type(const Form& form, int code);
 void Type(const Form& form, Key key);
 
 // Asks the form's window to close, as its close box does.
 void CloseWindow(const Form& form);
+
+// What a screen reader says of the control, and its way to press it; false when it has none.
+std::string Spoken(const Control& control);
+bool PressBySpeech(const Control& control);
 
 }  // namespace platform::robot

@@ -1,25 +1,14 @@
 #include "platform/stop.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
 
+#include "platform/dialogs_impl.h"
 #include "platform/user.h"
-#include "platform/widgets_impl.h"
 
 namespace platform {
-namespace {
-
-void ShowStop(const std::string& message) {
-  QMessageBox box(QMessageBox::Critical, "Algebra 1", ToText(message), QMessageBox::Ok,
-                  FrontWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
-}
-
-}  // namespace
 
 void Stop(const std::string& message) {
   if (User* user = InstalledUser()) user->AtStop(message);
@@ -27,7 +16,9 @@ void Stop(const std::string& message) {
   static bool stopping = false;
   const bool again = std::exchange(stopping, true);  // while the message is painted
   const bool hasToolkit = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
-  if (hasToolkit && !again && !NobodyIsThere()) ShowStop(message);
+  if (hasToolkit && !again && !NobodyIsThere())
+    ShowMessage({message, "Algebra 1", Buttons::Ok, Icon::Warning});
+  std::fflush(nullptr);
   std::_Exit(1);
 }
 

@@ -32,6 +32,7 @@ constexpr int ToPixels(int twips) {
 // The accent of the course's own controls: what is under the mouse, what has the focus.
 inline const QColor kAccent(244, 168, 54);
 inline const QColor kInk(16, 24, 48);
+inline const QColor kNavy(22, 40, 79);
 
 struct Control::Impl {
   QPointer<QWidget> widget;   // placed in the parent's client; the window of a form
@@ -104,7 +105,5 @@ inline void HandleLater(Control& control) {
 bool TakesInput(const Form& form);
 // The form that a new window belongs in front of, nullptr for none.
 QWidget* FrontWindow();
-// Without a screen a dialog would wait for ever.
-bool NobodyIsThere();
 
 }  // namespace platform

@@ -266,11 +266,32 @@ TEST_F(FormsTest, MovingKeepsTheDrawingAndResizingClearsIt) {
   EXPECT_EQ(sample.picPanel.Pixel(3, 3), platform::colour::Blue);
 }
 
-TEST_F(FormsTest, AccessibleTextsAndNamesAreKept) {
-  sample.picPanel.SetAccessibleName("Lesson");
-  sample.picPanel.SetAccessibleText("x\xB2 = 4\nx = 2");
-  EXPECT_EQ(sample.picPanel.AccessibleName(), "Lesson");
-  EXPECT_EQ(sample.picPanel.AccessibleText(), "x\xB2 = 4\nx = 2");
+TEST_F(FormsTest, ScreenReaderSpeaksAndPressesABox) {
+  ShowSample();
+  sample.picPanel.SetAccessibleName("Answer A");
+  sample.picPanel.SetAccessibleText("x\xB2 < 3");
+  EXPECT_EQ(sample.picPanel.AccessibleText(), "x\xB2 < 3");
+  EXPECT_EQ(robot::Spoken(sample.picPanel), "Answer A: x\xB2 < 3");
+  EXPECT_TRUE(robot::PressBySpeech(sample.picPanel));
+  EXPECT_EQ(Done(), Names{"picPanel"});
+  sample.picPanel.OnClick = nullptr;
+  EXPECT_FALSE(robot::PressBySpeech(sample.picPanel));
+  sample.cmdContinue.SetAccessibleName("Continue");
+  EXPECT_EQ(robot::Spoken(sample.cmdContinue), "Continue");
+}
+
+TEST_F(FormsTest, KeyboardReachesABoxThatTabStopsAt) {
+  ShowSample();
+  sample.picPanel.SetTabStop(true);
+  sample.lstUnits.SetFocus();
+  robot::Type(sample.form, robot::Key::BackTab);
+  robot::Type(sample.form, ' ');
+  EXPECT_EQ(Done(), Names{"picPanel"});
+  robot::Type(sample.form, 13);
+  EXPECT_EQ(Done(), Names{"picPanel"});
+}
+
+TEST_F(FormsTest, ControlsAreFoundByName) {
   EXPECT_EQ(sample.form.Find("optFaster"), &sample.optFaster);
   EXPECT_EQ(sample.form.Find("optTurbo"), nullptr);
   EXPECT_EQ(sample.form.FindMenuItem("mnuExit"), sample.mnuExit);
