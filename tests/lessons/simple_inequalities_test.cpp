@@ -1,6 +1,9 @@
 // Every problem of "Simple Inequalities", read as the student reads it.
+#include <map>
 #include <set>
 
+#include "display/lesson_window.h"
+#include "engine/navigation.h"
 #include "lessons/lesson_table.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
@@ -42,7 +45,8 @@ bool Holds(const std::string& choice, double x) {
   return false;
 }
 
-// A choice is right when it holds for just the numbers that the ray covers; halves tell all cases apart.
+// A choice is right when it holds for just the numbers that the ray covers; halves tell all cases
+// apart.
 bool DescribesRay(const std::string& choice, const FigureItem& ray) {
   for (int halves = -20; halves <= 20; ++halves)
     if (Holds(choice, halves / 2.0) != Covers(ray, halves / 2.0)) return false;
@@ -77,6 +81,62 @@ TEST_F(SimpleInequalitiesTest, TheSameSeedGivesTheSameProblem) {
     for (int choice = 1; choice <= 4; ++choice)
       EXPECT_EQ(ChoiceText(once.problem, choice), ChoiceText(again.problem, choice));
   }
+}
+
+// A reader who turns every page of an explanation and keeps its lines.
+class Reader final : public platform::User {
+ public:
+  std::vector<std::vector<std::string>> pages;
+
+  void AtWait(const std::string&) override {
+    pages.push_back(TranscriptLines(frmPR->lessonText));
+    if (platform::Form* dialog = platform::Form::ModalForm())
+      dialog->Find("cmdOption(4)")->Click();
+    else
+      frmPR->pnlLesson.Click();
+  }
+  void AtPause(double) override {}
+  platform::Answer AtMessage(const platform::Message&) override { return platform::Answer::No; }
+  std::optional<std::string> AtInput(const std::string&) override { return {}; }
+  [[noreturn]] void AtStop(const std::string& message) override { throw StoppedProgram{message}; }
+  [[noreturn]] void AtEnd() override { throw ProgramEnded{}; }
+};
+
+// One seed for each of the 52 problems.
+std::map<std::string, int> SeedsOfAllProblems(LessonScript& lesson) {
+  std::map<std::string, int> seeds;
+  for (int seed = 0; seed < kSeeds && seeds.size() < 52; ++seed) {
+    const Problem problem = lesson.Draw(seed).problem;
+    seeds.emplace(ChoiceText(problem, problem.correct), seed);
+  }
+  return seeds;
+}
+
+TEST_F(SimpleInequalitiesTest, EveryExplanationKeepsToTheScreenAndEndsAtTheRightChoice) {
+  const auto seeds = SeedsOfAllProblems(*lesson_);
+  ASSERT_EQ(seeds.size(), 52u);
+  LoadLessonWindow();
+  for (const auto& [answer, seed] : seeds) {
+    SCOPED_TRACE("Simple Inequalities#" + std::to_string(seed));
+    Reader reader;
+    platform::InstallUser(&reader);
+    session.gActivity = activity::Practice;
+    session.gProblemSeed = seed;
+    session.gExplainProblem = 1;
+    session.gLeaveLesson = 0;
+    MakeLesson("Simple Inequalities")->Run();
+    platform::InstallUser(&user);
+    ASSERT_EQ(reader.pages.size(), 8u);
+    const std::string last = reader.pages.back().back();
+    EXPECT_EQ(last, std::string(16, ' ') + answer);
+    // The sentence that has slid up is the only one left between the graph and the answer.
+    const std::vector<std::string>& end = reader.pages.back();
+    ASSERT_EQ(end.size(), 6u);
+    EXPECT_EQ(end[2].substr(0, 20), "The arrow's range in");
+    EXPECT_EQ(end[4], "  This is written as:");
+    for (const Fragment& fragment : frmPR->lessonText.Transcript()) EXPECT_LE(fragment.row, 23);
+  }
+  UnloadLessonWindow();
 }
 
 }  // namespace
