@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "platform/look.h"
+
 namespace course {
 
 std::unique_ptr<LessonWindow> frmPR;
@@ -12,8 +14,9 @@ using platform::colour::AnswerBox;
 using platform::colour::Black;
 using platform::colour::Blue;
 using platform::colour::White;
+using platform::look::MovePixels;
+using platform::look::SetType;
 
-constexpr platform::Colour kNavy = platform::Rgb(16, 40, 88);
 constexpr int kFormWidth = 13380;  // twips
 constexpr int kFormHeight = 9900;  // twips, below the menu bar
 constexpr int kPanelLeft = 1500;   // twips
@@ -34,10 +37,6 @@ const TextPanel::Layout kWiperLayout = {.leftMargin = gWbLeftMargin,
                                         .restoredColour = Black};
 const TextPanel::Layout kCommentLayout = {.characters = CharacterSet::CommentBox};
 const TextPanel::Layout kAnswerLayout = {.characters = CharacterSet::AnswerBox};
-
-void MovePixels(platform::Control& control, int left, int top, int width, int height) {
-  control.Move(left * kPixel, top * kPixel, width * kPixel, height * kPixel);
-}
 
 constexpr std::string_view kTabPictures[] = {"", "lesson", "examples", "practice", "test"};
 constexpr const char* kTabNames[] = {"", "Lesson concept", "See examples", "Practice problems",
@@ -147,8 +146,7 @@ void LessonWindow::PlaceAnswers() {
     cmdAnswer[i].SetVisible(false);
   }
   MovePixels(lblSelect, 776, 370, 108, 130);
-  lblSelect.SetFont("MS Sans Serif", 11, true);
-  lblSelect.SetColours(kNavy, platform::colour::FormGrey);
+  SetType(lblSelect, 11, true);
   lblSelect.SetAlignment(platform::Label::Align::Centre);
   lblSelect.SetVisible(false);
 }
@@ -181,12 +179,12 @@ void LessonWindow::PlaceNavigation() {
     MovePixels(picScreenNum[i], 0, 8, 27, 27);
     picScreenNum[i].SetVisible(false);
   }
-  MovePixels(fraAnimSpeed, 774, 124, 112, 112);
+  MovePixels(fraAnimSpeed, 780, 124, 104, 112);
   fraAnimSpeed.SetAccessibleName("Animation");
   for (int i = 1; i <= 3; ++i) {
     static constexpr const char* kCaptions[] = {"", "Slower", "Faster", "Turbo"};
     optAnimSpeed.MakeOne(i, "optAnimSpeed", fraAnimSpeed, kCaptions[i]);
-    MovePixels(optAnimSpeed[i], 12, 22 + (i - 1) * 28, 90, 24);
+    MovePixels(optAnimSpeed[i], 10, 22 + (i - 1) * 28, 90, 24);
   }
 }
 
@@ -200,13 +198,12 @@ void LessonWindow::PlaceStatus() {
   lblTestProbNo1.SetCaption("   Test    Problem #");
   for (platform::Label* label :
        {&lblScreenNumber, &lblPracticeResults, &lblTestProbNo1, &lblTestProbNo2, &lblStudent}) {
-    label->SetFont("MS Sans Serif", 11, true);
-    label->SetColours(kNavy, platform::colour::FormGrey);
+    SetType(*label, 11, true);
     label->SetVisible(false);
   }
-  for (platform::Label* label : {&lblScreenNumber, &lblTestProbNo1, &lblTestProbNo2})
+  for (platform::Label* label : {&lblScreenNumber, &lblTestProbNo2})
     label->SetAlignment(platform::Label::Align::Centre);
-  lblTestProbNo2.SetFont("MS Sans Serif", 18, true);
+  SetType(lblTestProbNo2, 18, true);
   cmdShowRulesandReminders.SetVisible(false);
 }
 
