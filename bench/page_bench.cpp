@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 
-#include "display/animation.h"
 #include "display/fractions.h"
 #include "display/grid.h"
 #include "display/print.h"
@@ -91,13 +90,6 @@ void BuiltUpFraction(benchmark::State& state) {
   }
 }
 BENCHMARK(BuiltUpFraction);
-
-// Two rows of text over the whole width, a pixel up, shown; without the pause.
-void AnimationStep(benchmark::State& state) {
-  const OpenWindow window;
-  for (auto _ : state) Anim2(12, 1, 40, 2, 1, 1.0 / 25, 0, 1);
-}
-BENCHMARK(AnimationStep);
 
 void DrawnProblem(benchmark::State& state) {
   const auto lesson = MakeLesson("Simple Inequalities");
