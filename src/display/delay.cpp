@@ -3,6 +3,7 @@
 #include "display/animation.h"
 #include "display/animation_frame.h"
 #include "display/lesson_window.h"
+#include "display/scoped_value.h"
 #include "mathkit/integers.h"
 #include "platform/events.h"
 #include "platform/screen.h"
@@ -13,17 +14,10 @@ namespace {
 
 constexpr double kShortestPause = 0.002;  // seconds
 
-struct DelayFlag {
-  DelayFlag() { session.gInDelay = 1; }
-  ~DelayFlag() { session.gInDelay = 0; }
-  DelayFlag(const DelayFlag&) = delete;
-  DelayFlag& operator=(const DelayFlag&) = delete;
-};
-
 }  // namespace
 
 void Delay(double seconds) {
-  const DelayFlag flag;
+  const ScopedValue flag(session.gInDelay, 1);
   platform::Pause(std::max(seconds, kShortestPause));
 }
 

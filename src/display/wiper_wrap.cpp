@@ -9,6 +9,7 @@
 #include "display/print.h"
 #include "display/scoped_value.h"
 #include "display/word_wrap.h"
+#include "display/wrap_modes.h"
 #include "mathkit/integers.h"
 
 namespace course {
@@ -21,10 +22,7 @@ struct Piece {
 };
 
 void StartNewLine() {
-  TextPanel& panel = frmPR->wiperText;
-  const double indent = wrapState.gIndentOn * (wrapState.gIndentCol - 1) * panel.layout.cellWidth;
-  panel.SetCursor(panel.layout.leftMargin + indent,
-                  panel.cursorY + panel.layout.cellHeight + screenState.gWbLineGap);
+  StartWrappedLine(frmPR->wiperText, screenState.gWbLineGap);
 }
 
 // Prints a line and leaves the cursor behind it and behind the blank that was swallowed at its end.
@@ -102,18 +100,12 @@ void wbWordWraps(const std::string& s) {
 }
 
 void wbWordWrapIndent(const std::string& s, double indentCol) {
-  {
-    const ScopedValue on(wrapState.gIndentOn, 1);
-    const ScopedValue col(wrapState.gIndentCol, static_cast<float>(indentCol));
-    wbWordWrap(s);
-  }
-  TextPanel& panel = frmPR->wiperText;
-  panel.SetCursor(panel.layout.leftMargin, panel.cursorY);
+  const HangingIndent indent(frmPR->wiperText, indentCol);
+  wbWordWrap(s);
 }
 
 void wbWordWrapNarrow(const std::string& s, double wid) {
-  const ScopedValue on(wrapState.gNarrowOn, 1);
-  const ScopedValue col(wrapState.gNarrowCol, static_cast<float>(wid));
+  const NarrowWidth narrow(wid);
   wbWordWrap(s);
 }
 

@@ -6,6 +6,7 @@
 #include "display/grid.h"
 #include "display/paragraph.h"
 #include "display/scoped_value.h"
+#include "display/wrap_modes.h"
 #include "mathkit/integers.h"
 #include "platform/stop.h"
 
@@ -27,12 +28,6 @@ int CellsOf(const std::string& s) {
   return static_cast<int>(StripExponentMarks(s).size());
 }
 
-void StartNewLine(TextPanel& panel, int lineGap) {
-  const double indent = wrapState.gIndentOn * (wrapState.gIndentCol - 1) * panel.layout.cellWidth;
-  panel.SetCursor(panel.layout.leftMargin + indent,
-                  panel.cursorY + panel.layout.cellHeight + lineGap);
-}
-
 double CurrentWidth() {
   return wrapState.gNarrowOn == 1 ? wrapState.gNarrowCol : screenState.gRightColumn;
 }
@@ -42,7 +37,7 @@ double CurrentWidth() {
 void LayOutWords(std::string s, const std::string& lookahead, int wid) {
   TextPanel& panel = frmPR->lessonText;
   const auto print = [](const std::string& t) { isPrintExponentExpression(t, kExponentSize); };
-  const auto newLine = [&] { StartNewLine(panel, screenState.gLineGap); };
+  const auto newLine = [&] { StartWrappedLine(panel, screenState.gLineGap); };
   bool freshLine = false;
   for (;;) {
     panel.UpdateCursorCell();
@@ -102,7 +97,7 @@ void WordWrap(const std::string& s) {
   TextPanel& panel = frmPR->lessonText;
   PrintParagraph({.current = panel.textColour,
                   .setColour = [&](platform::Colour c) { panel.surface.ForeColor = c; },
-                  .newLine = [&] { StartNewLine(panel, screenState.gLineGap); },
+                  .newLine = [&] { StartWrappedLine(panel, screenState.gLineGap); },
                   .layOut =
                       [&](const std::string& stretch, const std::string& lookahead) {
                         LayOutWords(stretch, lookahead, IntOf(wid));
@@ -117,24 +112,17 @@ void WordWraps(const std::string& s) {
 }
 
 void WordWrapIndent(const std::string& s, double indentCol) {
-  {
-    const ScopedValue on(wrapState.gIndentOn, 1);
-    const ScopedValue col(wrapState.gIndentCol, static_cast<float>(indentCol));
-    WordWrap(s);
-  }
-  TextPanel& panel = frmPR->lessonText;
-  panel.SetCursor(panel.layout.leftMargin, panel.cursorY);
+  const HangingIndent indent(frmPR->lessonText, indentCol);
+  WordWrap(s);
 }
 
 void WordWrapNarrow(const std::string& s, double wid) {
-  const ScopedValue on(wrapState.gNarrowOn, 1);
-  const ScopedValue col(wrapState.gNarrowCol, static_cast<float>(wid));
+  const NarrowWidth narrow(wid);
   WordWrap(s);
 }
 
 void WordWrapIndentNarrow(const std::string& s, double indentCol, double wid) {
-  const ScopedValue on(wrapState.gNarrowOn, 1);
-  const ScopedValue col(wrapState.gNarrowCol, static_cast<float>(wid));
+  const NarrowWidth narrow(wid);
   WordWrapIndent(s, indentCol);
 }
 
