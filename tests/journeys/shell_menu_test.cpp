@@ -89,6 +89,10 @@ struct Offer {
   bool test;         // diagnostic
   bool results;      // enabled
   bool resultsSeen;  // with their separator
+
+  friend void PrintTo(const Offer& offer, std::ostream* out) {
+    *out << "version " << offer.gversion << (offer.loggedIn ? " logged in" : " without a login");
+  }
 };
 
 class MenuOffer : public MenuTest, public ::testing::WithParamInterface<Offer> {};
