@@ -99,7 +99,10 @@ void MainMenu::ShowStudent() {
     return;
   }
   CallHook(startUp_.ReadProgress);
-  lblStudent.SetCaption("Student: \n" + session.gStudentName);
+  // The name is kept as wide as the roster's field; its blanks would push it from the right edge.
+  std::string name = session.gStudentName;
+  name.erase(name.find_last_not_of(' ') + 1);
+  lblStudent.SetCaption("Student: \n" + name);
   lblStudent.SetVisible(true);
 }
 
