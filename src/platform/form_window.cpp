@@ -23,7 +23,7 @@ class Client final : public Pressable<QWidget> {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    if (std::exchange(painted, true)) return;
+    if (std::exchange(painted, true) || !form_.OnFirstShown) return;
     CallLater(form_.impl().life, [&form = form_] {
       if (form.Shown()) CallHandler(form.OnFirstShown);
     });

@@ -23,15 +23,8 @@ class SurfaceWidget final : public Pressable<QWidget> {
     QPainter painter(this);
     const QRect changed = event->rect();
     painter.drawImage(changed, image_, changed);
-    const QRect edge = rect().adjusted(0, 0, -1, -1);
-    if (box_.Border()) {
-      painter.setPen(Qt::black);
-      painter.drawRect(edge);
-    }
-    if (hasFocus()) {
-      painter.setPen(QPen(kAccent, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-      painter.drawRect(edge.adjusted(1, 1, 0, 0));
-    }
+    if (box_.Border()) DrawFrame(painter, 1, Qt::black);
+    if (hasFocus()) DrawFrame(painter, 2, kAccent);
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Space) return Pressable<QWidget>::keyPressEvent(event);
@@ -40,6 +33,11 @@ class SurfaceWidget final : public Pressable<QWidget> {
 
  private:
   friend class SpokenSurface;
+  // By areas, as a pen's line would lie half a pixel off on a dense screen.
+  void DrawFrame(QPainter& painter, int thickness, const QColor& color) const {
+    const QRect inside = rect().adjusted(thickness, thickness, -thickness, -thickness);
+    for (const QRect& side : QRegion(rect()) - inside) painter.fillRect(side, color);
+  }
   PictureBox& box_;
   const QImage& image_;
 };
