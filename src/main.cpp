@@ -1,5 +1,6 @@
 // The course: brings up the toolkit, then the menu, whose start-up is that of the program.
 #include "platform/program.h"
+#include "shell/diagnostics_binding.h"
 #include "shell/login_binding.h"
 #include "shell/menu.h"
 #include "shell/record_hooks.h"
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
   course::StartUp startUp;
   course::BindRecords(startUp);
   course::BindLogin(startUp);
+  course::BindDiagnostics(startUp);
   course::LoadMenu(startUp);
   const int status = application.Run();
   course::frmMenu.reset();  // no form outlives the toolkit

@@ -162,7 +162,8 @@ void MainMenu::MakeMenus() {
   platform::Menu& diagnostics = form.AddMenu("&Diagnostics");
   mnuDiagnosticsTest = &diagnostics.AddItem("mnuDiagnosticsTest", "&Take Diagnostic Test");
   mnuDiagnosticsSeparator1 = &diagnostics.AddSeparator("mnuDiagnosticsSeparator1");
-  mnuDiagnosticsResults = &diagnostics.AddItem("mnuDiagnosticsResults", "Diagnostic Test &Results");
+  mnuDiagnosticsResults =
+      &diagnostics.AddItem("mnuDiagnosticsResults", "Manage Diagnostic Test &Results");
 
   const MenuForms& forms = startUp_.forms;
   Offer(*mnuRecordsStudents, forms.Students);
