@@ -37,8 +37,12 @@ class Client final : public Pressable<QWidget> {
 int CodeOf(const QKeyEvent& event) {
   constexpr Qt::KeyboardModifiers kShortcuts =
       Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (event.modifiers() & kShortcuts) return -1;
+  // Not every platform gives these a text: a VNC screen gives Esc none.
+  if (event.key() == Qt::Key_Escape) return kEsc;
+  if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return kEnter;
   const QString text = event.text();
-  if (text.size() != 1 || text[0].unicode() > 255 || (event.modifiers() & kShortcuts)) return -1;
+  if (text.size() != 1 || text[0].unicode() > 255) return -1;
   return text[0].unicode();
 }
 

@@ -53,6 +53,7 @@ void LoadMenu(const StartUp& startUp) {
   frmMenu = std::make_unique<MainMenu>(startUp);
   frmMenu->Form_Load();
   frmMenu->form.Show();
+  frmMenu->lstChapter.SetFocus();
 }
 
 void MainMenu::Form_Load() {
