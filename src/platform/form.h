@@ -119,6 +119,7 @@ class ListBox final : public Control {
  public:
   ListBox(Control& parent, std::string name);
   void Clear();
+  // What stands behind 100 blanks is kept, and neither seen nor read out.
   void AddItem(const std::string& text);
   int ListCount() const;
   std::string List(int index) const;  // "" outside 0 to ListCount - 1

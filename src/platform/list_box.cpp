@@ -5,6 +5,9 @@
 namespace platform {
 namespace {
 
+constexpr int kHidingGap = 100;  // blanks
+constexpr int kFullText = Qt::UserRole;
+
 QListWidget& ListOf(const ListBox& box) {
   return WidgetOf<QListWidget>(box);
 }
@@ -25,7 +28,6 @@ void SelectQuietly(QListWidget& list, int row) {
 
 ListBox::ListBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
   QListWidget& list = PutOn(parent, *this, new QListWidget);
-  // Items keep fields of their own far to the right of what is to be seen.
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list.setTextElideMode(Qt::ElideNone);
   list.setUniformItemSizes(true);
@@ -46,7 +48,10 @@ void ListBox::Clear() {
 }
 
 void ListBox::AddItem(const std::string& text) {
-  auto* item = new QListWidgetItem(ToText(text), &ListOf(*this));
+  const QString full = ToText(text);
+  const QString seen = full.left(full.indexOf(QString(kHidingGap, ' ')));
+  auto* item = new QListWidgetItem(seen, &ListOf(*this));
+  item->setData(kFullText, full);
   item->setSizeHint({0, ToPixels(rowHeight_)});
 }
 
@@ -56,7 +61,7 @@ int ListBox::ListCount() const {
 
 std::string ListBox::List(int index) const {
   const QListWidgetItem* item = ListOf(*this).item(index);
-  return item == nullptr ? "" : FromText(item->text());
+  return item == nullptr ? "" : FromText(item->data(kFullText).toString());
 }
 
 int ListBox::ListIndex() const {

@@ -61,18 +61,13 @@ class LineBox final : public QLineEdit {
 };
 
 LineBox& LineOf(const TextBox& box) {
-  return *static_cast<LineBox*>(box.impl().widget.data());
+  return WidgetOf<LineBox>(box);
 }
 
 }  // namespace
 
 TextBox::TextBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
-  auto* line = new LineBox(*this);
-  line->setParent(parent.impl().client);
-  line->setObjectName(ToText(Name()));
-  impl().widget = line;
-  impl().client = line;
-  line->show();
+  PutOn(parent, *this, new LineBox(*this));
 }
 
 void TextBox::SetText(const std::string& text) {

@@ -18,7 +18,7 @@ constexpr int kUsualPercent = 60;
 
 // All in pixels: two lists side by side, each with its heading above and what to do below.
 constexpr int kMargin = 24;
-constexpr int kColumnWidth = 340;
+constexpr int kColumnWidth = 384;
 constexpr int kColumnGap = 24;
 constexpr int kRightColumn = kMargin + kColumnWidth + kColumnGap;
 constexpr int kHeadingHeight = 30;
@@ -26,7 +26,7 @@ constexpr int kCaptionTop = kMargin + kHeadingHeight + 14;
 constexpr int kListTop = kCaptionTop + 24;
 constexpr int kListHeight = 11 * 27 + 4;
 constexpr int kAdviceTop = kListTop + kListHeight + 8;
-constexpr int kAdviceHeight = 40;
+constexpr int kAdviceHeight = 22;
 constexpr int kButtonTop = kAdviceTop + kAdviceHeight + 20;
 constexpr int kButtonWidth = 200;
 constexpr int kButtonHeight = 46;

@@ -20,12 +20,12 @@ constexpr int kMaxAttempts = 3;
 
 // All in pixels.
 constexpr int kMargin = 24;
-constexpr int kTextWidth = 312;
+constexpr int kTextWidth = 336;
 constexpr int kPromptHeight = 48;
 constexpr int kBoxTop = kMargin + kPromptHeight + 8;
 constexpr int kBoxHeight = 34;
 constexpr int kButtonTop = kBoxTop + kBoxHeight + 24;
-constexpr int kButtonWidth = 150;
+constexpr int kButtonWidth = 160;
 constexpr int kButtonHeight = 40;
 constexpr int kWidth = kTextWidth + 2 * kMargin;
 constexpr int kHeight = kButtonTop + kButtonHeight + kMargin;

@@ -23,6 +23,7 @@ constexpr int kPixel = platform::TwipsPerPixelX;
 constexpr int kMargin = 32;
 constexpr int kFormPixels = kFormWidth / kPixel;
 constexpr int kBandHeight = 120;
+constexpr int kFactsWidth = 303;  // as wide as the heading leaves: the widest name fits
 constexpr int kUnitsWidth = 320;
 constexpr int kMarksLeft = 376;
 constexpr int kMarksWidth = 40;
@@ -91,12 +92,12 @@ void MainMenu::PlaceHeadings() {
   lblBandEdge.SetColours(kAmber, kAmber);
   MovePixels(lblProgramMenu, kMargin, 22, 500, 80);
   lblProgramMenu.SetColours(kPaper, kNavy);
-  const int right = kFormPixels - kMargin - 240;
-  MovePixels(lblStudent, right, 26, 240, 46);
+  const int right = kFormPixels - kMargin - kFactsWidth;
+  MovePixels(lblStudent, right, 26, kFactsWidth, 46);
   SetType(lblStudent, 11, true, kAmber, kNavy);
   lblStudent.SetAlignment(platform::Label::Align::Right);
   lblStudent.SetVisible(false);
-  MovePixels(Label1, right, 78, 240, 22);
+  MovePixels(Label1, right, 78, kFactsWidth, 22);
   SetType(Label1, 10, false, kPaper, kNavy);
   Label1.SetAlignment(platform::Label::Align::Right);
   MovePixels(lblInstructions, kMargin, kInstructionsTop, kFormPixels - 2 * kMargin, 24);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "platform/text_box.h"
+
 namespace course::testing {
 namespace {
 
@@ -82,6 +84,13 @@ ScriptedUser& ScriptedUser::Select(const std::string& list, int index) {
 ScriptedUser& ScriptedUser::Menu(const std::string& item) {
   const std::string what = "choose " + item;
   return Do(what, [=] { Expect(FindMenuItem(item).Click(), what); });
+}
+
+ScriptedUser& ScriptedUser::TypeIn(const std::string& textBox, const std::string& keys) {
+  const std::string what = "type " + keys + " in " + textBox;
+  return Do(what, [=] {
+    Expect(dynamic_cast<platform::TextBox&>(FindControl(textBox)).Type(keys), what);
+  });
 }
 
 ScriptedUser& ScriptedUser::Press(int code) {

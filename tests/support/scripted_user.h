@@ -39,6 +39,7 @@ class ScriptedUser final : public platform::User {
   ScriptedUser& DblClick(const std::string& list);
   ScriptedUser& Select(const std::string& list, int index);
   ScriptedUser& Menu(const std::string& item);
+  ScriptedUser& TypeIn(const std::string& textBox, const std::string& keys);
   ScriptedUser& Press(int code);
   ScriptedUser& CloseBox();
   ScriptedUser& Do(const std::string& what, std::function<void()> action);
