@@ -232,12 +232,13 @@ void DrawSpecialCharacter(TextPanel& panel, int code, int x, int y) {
     DrawStroke(surface, kWiperDot, x, y);
 }
 
-std::string FillTutorCharTable() {
-  std::string table;
+std::string gTutorCharTable;
+
+void FillTutorCharTable() {
+  gTutorCharTable.clear();
   for (int code : {127, 129, 130, 131, 132, 133, 134, 141, 157, 162, 163, 164, 165, 166, 167,
                    168, 191, 216, 217, 218, 219, 221, 226, 230, 231, 248, 249, 253, 255})
-    table += Chr(code);
-  return table;
+    gTutorCharTable += Chr(code);
 }
 
 }  // namespace course

@@ -20,7 +20,9 @@ void DrawSpecialCharacter(TextPanel& panel, int code, int x, int y);
 // A code outside 127 to 255 or another kind stops the program.
 void DrawSprite(platform::Surface& target, int code, int x, int y, int surfaceKind);
 
-// The 29 codes of the first character table; no routine reads it.
-std::string FillTutorCharTable();
+// Fills gTutorCharTable with the 29 codes of the first character table, at start.  No routine reads
+// it: the drawn codes are 39 by now.
+void FillTutorCharTable();
+extern std::string gTutorCharTable;
 
 }  // namespace course

@@ -1,4 +1,5 @@
 #include "display/grid.h"
+#include "display/special_characters.h"
 #include "engine/hooks.h"
 #include "platform/dialogs.h"
 #include "platform/screen.h"
@@ -22,6 +23,7 @@ void SetDefaults() {
   screenState.gRightColumn = 40;
   session.gShowProgressCodes = kTrue;
   session.gTestPassPercent = 60;
+  FillTutorCharTable();
 }
 
 void WarnOfNarrowScreen() {

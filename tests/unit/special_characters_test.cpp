@@ -22,7 +22,6 @@ TEST_F(SpecialCharacterTest, ThirtyNineCodesAreDrawnAndFourInCommentBoxes) {
   }
   EXPECT_EQ(drawn, 39);
   EXPECT_EQ(drawnInComments, 4);
-  EXPECT_EQ(FillTutorCharTable().size(), 29u);
 }
 
 TEST_F(SpecialCharacterTest, EachLeavesInkInItsCellAndTheBlankOnesNone) {
