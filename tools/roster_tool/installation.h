@@ -1,0 +1,35 @@
+// The record files of a network installation: the two rosters, which this tool writes, and the two
+// files of results, which must be there before the first student logs in.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "roster_tool/entries.h"
+
+namespace roster_tool {
+
+// The bytes of the roster files, a string a record.  Every field is valid, every number known.
+std::vector<std::string> ClassRecords(const Rosters& rosters);
+std::vector<std::string> StudentRecords(const Rosters& rosters);
+
+// What the roster files of a folder hold; missing ones hold nothing.  Throws platform::FileError.
+Rosters ReadRosters(const std::string& folder);
+
+// Puts the rosters in the place of those in the folder, each file in one step, and makes the files
+// of results where they are missing; these are never changed.  Without being told to overwrite it
+// refuses a folder in which a roster file holds anything, and changes nothing.  Throws
+// platform::FileError.
+Complaints WriteInstallation(const std::string& folder, const Rosters& rosters, bool overwrite);
+
+// Whether the course can work with the files of a folder.
+struct Inspection {
+  Complaints complaints;
+  long classes = 0;
+  long students = 0;
+  long activityRecords = 0;
+  long diagnosticResults = 0;
+};
+Inspection InspectInstallation(const std::string& folder);
+
+}  // namespace roster_tool
