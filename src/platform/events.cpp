@@ -14,7 +14,9 @@ void PumpEvents() {
 }
 
 void PumpPaintEvents() {
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // Input is taken, too, but what it does waits with the handlers.  Left in the toolkit's queue it
+  // would lie there, on some displays, until more input came.
+  QCoreApplication::processEvents();
 }
 
 void WaitEvents(const std::string& place) {

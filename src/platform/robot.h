@@ -1,5 +1,6 @@
-// A hand on the mouse and the keyboard: puts input into the event queue just as the machine's own
-// devices do.  For tests and benchmarks; the course itself never uses it.
+// A hand on the mouse and the keyboard: the toolkit takes its input at once, like that of the
+// machine's own devices when their turn in the event queue has come.  For tests and benchmarks; the
+// course itself never uses it.
 #pragma once
 
 #include "platform/form.h"

@@ -52,7 +52,8 @@ TEST_F(FormsTest, SecondPressOfADoubleClickCounts) {
   EXPECT_EQ(Done(), (Names{"picPanel", "picPanel"}));
 }
 
-TEST_F(FormsTest, InputStaysInTheQueueWhilePainting) {
+// Input that has come in already takes no effect before the next wait.
+TEST_F(FormsTest, HandlersWaitWhilePainting) {
   ShowSample();
   robot::ClickAt(sample.cmdContinue, 20, 20);
   robot::Type(sample.form, 27);
