@@ -7,7 +7,7 @@ packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev qt6-svg-dev libfontconfig-dev
   fonts-liberation fonts-urw-base35
-  libgtest-dev libbenchmark-dev libcli11-dev libfccp-dev nlohmann-json3-dev
+  libgtest-dev libbenchmark-dev libcli11-dev libfccp-dev nlohmann-json3-dev libsqlite3-dev
 )
 
 Say() { printf '== %s\n' "$*"; }

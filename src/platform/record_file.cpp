@@ -212,6 +212,8 @@ void RecordFile::Write(long number, const std::string& record) {
     if (append) calls.Truncate(descriptor_, offset);
     throw;
   }
+  // The record has its place, and many writers can wait for the disk at the same time.
+  Checked(calls.Lock(descriptor_, LockKind::None));
   Checked(calls.Sync(descriptor_));
 }
 

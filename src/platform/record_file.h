@@ -43,7 +43,8 @@ class RecordFile {
   std::string ReadBytes();             // the whole file, a partial record at its end included
   std::string Read(long number);       // record number 1 to Count()
   std::vector<std::string> ReadAll();  // the whole records
-  // Writes record number 1 to Count() + 1 by one write, and has it on the disk on return.
+  // Writes record number 1 to Count() + 1 by one write, then lets others in, and has it on the disk
+  // on return: the last that is done with an open file.
   void Write(long number, const std::string& record);
   // Leaves the file empty.
   void Clear();

@@ -42,11 +42,11 @@ class RecordFileTest : public ::testing::Test {
 };
 
 TEST_F(RecordFileTest, RecordsStandOneBehindTheOther) {
+  EXPECT_EQ(Open("A.DAT").Count(), 0);
+  Open("A.DAT").Write(1, "anna");
+  Open("A.DAT").Write(2, "bert");
+  Open("A.DAT").Write(1, "ANNA");
   RecordFile file = Open("A.DAT");
-  EXPECT_EQ(file.Count(), 0);
-  file.Write(1, "anna");
-  file.Write(2, "bert");
-  file.Write(1, "ANNA");
   EXPECT_EQ(file.Count(), 2);
   EXPECT_EQ(file.Read(2), "bert");
   EXPECT_EQ(file.ReadAll(), (Strings{"ANNA", "bert"}));
