@@ -1,4 +1,6 @@
+#include <QKeyEvent>
 #include <QListWidget>
+#include <algorithm>
 
 #include "platform/widgets_impl.h"
 
@@ -7,6 +9,19 @@ namespace {
 
 constexpr int kHidingGap = 100;  // blanks
 constexpr int kFullText = Qt::UserRole;
+
+// The toolkit puts its mark for the keyboard on the first row of a list with the focus, selected or
+// not.  Where nothing is selected an arrow key selects that row and does not step past it.
+class Rows final : public QListWidget {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (arrow && count() > 0 && selectedItems().isEmpty())
+      setCurrentRow(std::max(currentRow(), 0));
+    else
+      QListWidget::keyPressEvent(event);
+  }
+};
 
 QListWidget& ListOf(const ListBox& box) {
   return WidgetOf<QListWidget>(box);
@@ -27,7 +42,7 @@ void SelectQuietly(QListWidget& list, int row) {
 }  // namespace
 
 ListBox::ListBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
-  QListWidget& list = PutOn(parent, *this, new QListWidget);
+  QListWidget& list = PutOn(parent, *this, new Rows);
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list.setTextElideMode(Qt::ElideNone);
   list.setUniformItemSizes(true);

@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QWindow>
 #include <map>
 
@@ -38,9 +40,10 @@ void PressAndRelease(const Control& control, int x, int y) {
                       QEvent::MouseButtonRelease, Qt::NoModifier, ++timestamp);
 }
 
-void TypeKey(const Form& form, int key, const QString& text) {
+void TypeKey(const Form& form, int key, const QString& text,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
-    qt_handleKeyEvent(WindowOf(form), type, key, Qt::NoModifier, text, false, 1);
+    qt_handleKeyEvent(WindowOf(form), type, key, modifiers, text, false, 1);
 }
 
 }  // namespace
@@ -65,6 +68,11 @@ void Type(const Form& form, Key key) {
       {Key::Up, Qt::Key_Up},       {Key::Down, Qt::Key_Down}, {Key::Left, Qt::Key_Left},
       {Key::Right, Qt::Key_Right}, {Key::Tab, Qt::Key_Tab},   {Key::BackTab, Qt::Key_Backtab}};
   TypeKey(form, kKeys.at(key), key == Key::Tab ? "\t" : "");
+}
+
+void Paste(const Form& form, const std::string& text) {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+  TypeKey(form, Qt::Key_V, "\x16", Qt::ControlModifier);
 }
 
 void CloseWindow(const Form& form) {

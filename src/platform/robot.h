@@ -16,6 +16,9 @@ enum class Key { Up, Down, Left, Right, Tab, BackTab };
 void Type(const Form& form, int code);
 void Type(const Form& form, Key key);
 
+// Pastes a text, in UTF-8, where the focus is.
+void Paste(const Form& form, const std::string& text);
+
 // Asks the form's window to close, as its close box does.
 void CloseWindow(const Form& form);
 
