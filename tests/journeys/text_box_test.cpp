@@ -82,6 +82,7 @@ class HidingListTest : public CourseTest {
 TEST_F(HidingListTest, KeepsHiddenFieldsOutOfSightAtAnyWidth) {
   const std::string item = "Ada" + std::string(100, ' ') + "7 KL;";
   form.Show();
+  platform::PumpEvents();  // the focus comes now, and marks no row
   const auto picture = [this](const std::string& text) {
     lstNames.Clear();
     lstNames.AddItem(text);
