@@ -6,6 +6,12 @@
 #include "engine/result_form.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/form_camera.h"
+#include "records/login_form.h"
+#include "records/login_form_network.h"
+#include "records/login_form_password.h"
+#include "records/record_text.h"
+#include "records/rosters.h"
+#include "records/student_form_add.h"
 #include "session/session.h"
 #include "shell/menu.h"
 #include "shell/start_forms.h"
@@ -32,6 +38,44 @@ void ShowResult(course::Verdict verdict) {
   course::UnloadLessonWindow();
 }
 
+// An item of a roster: a name, and hidden fields of this length.
+std::string Item(const std::string& name, std::size_t nameLength, std::size_t hidden) {
+  return course::Padded(name, nameLength) + std::string(course::kHiddenGap, ' ') +
+         std::string(hidden, '1');
+}
+
+std::vector<std::string> StudentItems() {
+  std::vector<std::string> items = {
+      Item(std::string(course::kStudentNameLength, 'W'), course::kStudentNameLength, 2)};
+  for (int i = 1; i <= 30; ++i)
+    items.push_back(Item("Student " + std::to_string(i), course::kStudentNameLength, 2));
+  return items;
+}
+
+void ShowLogin() {
+  course::LoginForm(StudentItems()).form.ShowModal();
+}
+
+void ShowNetworkLogin() {
+  std::vector<std::string> classes = {
+      Item(std::string(course::kClassNameLength, 'W'), course::kClassNameLength, 5)};
+  for (int i = 1; i <= 30; ++i)
+    classes.push_back(Item("Period " + std::to_string(i), course::kClassNameLength, 5));
+  course::NetworkLoginForm(classes).form.ShowModal();
+}
+
+void ShowPassword() {
+  session.gStudentName = std::string(course::kStudentNameLength, 'W');
+  course::PasswordForm().form.ShowModal();
+}
+
+void ShowStudentName() {
+  const std::string name(course::kStudentNameLength, 'W');
+  course::AddStudentForm("Edit Student Name",
+                         "In the box below, enter new name of student: " + name, name, {})
+      .form.ShowModal();
+}
+
 }  // namespace
 
 int WriteForms(const std::string& folder) {
@@ -45,7 +89,11 @@ int WriteForms(const std::string& folder) {
            {"welcome", course::ShowWelcome},
            {"correct", [] { ShowResult(course::Verdict::Correct); }},
            {"incorrect", [] { ShowResult(course::Verdict::Incorrect); }},
-           {"explained", [] { ShowResult(course::Verdict::None); }}}) {
+           {"explained", [] { ShowResult(course::Verdict::None); }},
+           {"login", ShowLogin},
+           {"network_login", ShowNetworkLogin},
+           {"password", ShowPassword},
+           {"student_name", ShowStudentName}}) {
     camera.nextName = name;
     show();
   }
