@@ -7,11 +7,15 @@
 #include <optional>
 #include <vector>
 
+#include "platform/file_calls.h"
+#include "support/faulty_calls.h"
 #include "support/record_fixture.h"
 
 namespace platform {
 namespace {
 
+using course::testing::FaultyCalls;
+using course::testing::InstalledCalls;
 using course::testing::ScratchFolder;
 using Strings = std::vector<std::string>;
 
@@ -129,6 +133,54 @@ TEST_F(RecordFileTest, ReplacementKeepsTheRightsAndTheReaders) {
   ASSERT_EQ(stat((folder.Path() + "A.DAT").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0664U);
   EXPECT_EQ(OpenError("A.DAT", Access::ReadWrite, Sharing::Exclusive), 0);
+}
+
+// Another workstation puts a new file in the place of one that is open and not locked yet.
+class ReplacedInBetween final : public FileCalls {
+ public:
+  explicit ReplacedInBetween(const ScratchFolder& scratch) : scratch_(scratch) {}
+  int Lock(int descriptor, LockKind kind) override {
+    if (scratch_.Bytes("A.NEW") != "(none)")
+      FileCalls::Rename(scratch_.Path() + "A.NEW", scratch_.Path() + "A.DAT");
+    return FileCalls::Lock(descriptor, kind);
+  }
+
+ private:
+  const ScratchFolder& scratch_;
+};
+
+TEST_F(RecordFileTest, LockedFileIsTheOneThatBearsTheName) {
+  folder.Put("A.DAT", "annabert");
+  folder.Put("A.NEW", "anna");
+  ReplacedInBetween calls(folder);
+  const InstalledCalls installed(calls);
+  RecordFile file = Open("A.DAT");
+  EXPECT_EQ(file.ReadAll(), Strings{"anna"});
+  file.Write(2, "carl");
+  EXPECT_EQ(folder.Bytes("A.DAT"), "annacarl");
+}
+
+TEST_F(RecordFileTest, FailedReplacementLeavesTheFileAndNothingElse) {
+  int failures = 0;
+  for (int at = 1; at <= 12; ++at) {
+    folder.Put("A.DAT", "annabert");
+    FaultyCalls calls(FaultyCalls::Fault::Fail, at, 1, ENOSPC);
+    RecordFile file = Open("A.DAT");
+    const InstalledCalls installed(calls);
+    bool failed = false;
+    try {
+      file.ReplaceAll({"carl"});
+    } catch (const FileError& error) {
+      EXPECT_EQ(error.number, ENOSPC);
+      EXPECT_STREQ(error.what(), "No space left on device");
+      failed = true;
+      ++failures;
+    }
+    EXPECT_EQ(Names(), Strings{"A.DAT"}) << at;
+    const std::string bytes = folder.Bytes("A.DAT");
+    EXPECT_TRUE(bytes == "carl" || (failed && bytes == "annabert")) << at << bytes;
+  }
+  EXPECT_GE(failures, 5);
 }
 
 TEST_F(RecordFileTest, WorkFilesStayBehind) {
