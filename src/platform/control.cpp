@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <algorithm>
+#include <utility>
 
 #include "platform/fonts.h"
 #include "platform/fonts_impl.h"
@@ -89,8 +90,14 @@ bool Control::Enabled() const {
 }
 
 void Control::SetEnabled(bool enabled) {
-  impl_->enabled = enabled;
+  const bool changed = enabled != std::exchange(impl_->enabled, enabled);
+  if (!changed) return;
+  // A disabled form loses its focus to nobody; the person goes on where he was.
+  const bool isForm = impl_->form == this;
+  if (isForm && !enabled) impl_->form->formImpl().focusBefore = impl_->widget->focusWidget();
   impl_->widget->setEnabled(enabled);
+  if (!isForm || !enabled) return;
+  if (QWidget* focus = impl_->form->formImpl().focusBefore) focus->setFocus();
 }
 
 void Control::BringToFront() {

@@ -37,7 +37,6 @@ class ModalStretch {
     std::erase(modalForms, &form_);
     form_.Hide();
     form_.formImpl().window->setWindowModality(Qt::NonModal);
-    if (QWidget* below = FrontWindow()) below->activateWindow();
   }
   ModalStretch(const ModalStretch&) = delete;
   ModalStretch& operator=(const ModalStretch&) = delete;
@@ -114,6 +113,8 @@ void Form::Hide() {
   formImpl_->shown = false;
   std::erase(shownForms, this);
   formImpl_->window->hide();
+  // Not every screen has a window manager that passes the keyboard on.
+  if (QWidget* below = FrontWindow()) below->activateWindow();
 }
 
 void Form::ShowModal() {

@@ -56,6 +56,7 @@ struct Form::FormImpl {
   std::vector<MenuItem*> items;
   Button* neutral = nullptr;
   Button* standard = nullptr;
+  QPointer<QWidget> focusBefore;  // what had the focus when the form was disabled
   bool shown = false;
 };
 

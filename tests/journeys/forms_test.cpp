@@ -117,6 +117,22 @@ TEST_F(FormsTest, EnterAndEscPressTheirButtons) {
   EXPECT_EQ(Done(), Names{"cmdCancel"});
 }
 
+TEST_F(FormsTest, KeyboardGoesOnWhereItWas) {
+  ShowSample();
+  sample.lstUnits.SetListIndex(0);
+  sample.lstUnits.SetFocus();
+  sample.form.SetEnabled(false);
+  {
+    SampleForm lesson("frmLesson");
+    lesson.form.Show();
+    platform::PumpEvents();
+  }
+  sample.form.SetEnabled(true);
+  platform::PumpEvents();
+  robot::Type(sample.form, robot::Key::Down);
+  EXPECT_EQ(sample.lstUnits.ListIndex(), 1);
+}
+
 TEST_F(FormsTest, TabWalksInTheOrderOfMaking) {
   ShowSample();
   sample.cmdContinue.SetFocus();
