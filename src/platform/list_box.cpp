@@ -63,10 +63,10 @@ void ListBox::Clear() {
 }
 
 void ListBox::AddItem(const std::string& text) {
-  const QString full = ToText(text);
-  const QString seen = full.left(full.indexOf(QString(kHidingGap, ' ')));
-  auto* item = new QListWidgetItem(seen, &ListOf(*this));
-  item->setData(kFullText, full);
+  const std::string seen = text.substr(0, text.find(std::string(kHidingGap, ' ')));
+  auto* item = new QListWidgetItem(ToText(seen), &ListOf(*this));
+  // Byte for byte: fields are found by their places.
+  item->setData(kFullText, QByteArray::fromStdString(text));
   item->setSizeHint({0, ToPixels(rowHeight_)});
 }
 
@@ -76,7 +76,7 @@ int ListBox::ListCount() const {
 
 std::string ListBox::List(int index) const {
   const QListWidgetItem* item = ListOf(*this).item(index);
-  return item == nullptr ? "" : FromText(item->data(kFullText).toString());
+  return item == nullptr ? "" : item->data(kFullText).toByteArray().toStdString();
 }
 
 int ListBox::ListIndex() const {

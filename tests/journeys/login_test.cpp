@@ -114,6 +114,21 @@ TEST_F(LoginTest, ARosterThatCannotBeReadEndsTheProgram) {
   ExpectStop("Failed in attempt to read file STUDENTS.DAT", [this] { Load(); });
 }
 
+TEST_F(LoginTest, ADamagedRosterIsShownAsItIs) {
+  const std::string breaks = "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r";
+  const std::string nothing(25, '\0');
+  folder.Put("STUDENTS.DAT", nothing + breaks + "8 99" + "Ada                  x 99" + breaks);
+  PassLogo();
+  user.At("frmLogin").Do("look", [] {
+    const auto& list = dynamic_cast<platform::ListBox&>(FindControl("lstStudents"));
+    EXPECT_EQ(list.ListCount(), 4);  // a torn record of more than half its length counts
+  });
+  user.Select("lstStudents", 2).Click("cmdLogin");
+  Load();
+  EXPECT_EQ(session.gStudentName, breaks);
+  EXPECT_EQ(session.gStudentNum, 8);
+}
+
 TEST_F(LoginTest, WithoutRecordsNobodyIsAsked) {
   Load(1);
   EXPECT_EQ(session.gRecordKeepingEnabled, 0);
