@@ -4,12 +4,14 @@
 #include "shell/login_binding.h"
 #include "shell/menu.h"
 #include "shell/record_hooks.h"
+#include "shell/records_binding.h"
 
 int main(int argc, char** argv) {
   platform::Application application(argc, argv);
   course::StartUp startUp;
   course::BindRecords(startUp);
   course::BindLogin(startUp);
+  course::BindRecordViews(startUp);
   course::BindDiagnostics(startUp);
   course::LoadMenu(startUp);
   const int status = application.Run();
