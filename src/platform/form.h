@@ -131,6 +131,8 @@ class ListBox final : public Control {
   // Twips; to be set before the first item is added.
   int RowHeight() const;
   void SetRowHeight(int twips);
+  // Twips that a text takes in the list's type.
+  int TextWidth(const std::string& text) const;
   std::function<void()> OnDblClick;
   // As the person would; false as Click.
   bool DblClick();

@@ -1,6 +1,8 @@
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/widgets_impl.h"
 
@@ -100,6 +102,11 @@ int ListBox::RowHeight() const {
 
 void ListBox::SetRowHeight(int twips) {
   rowHeight_ = twips;
+}
+
+int ListBox::TextWidth(const std::string& text) const {
+  const QFontMetricsF metrics(ListOf(*this).font());
+  return static_cast<int>(std::lround(metrics.horizontalAdvance(ToText(text)) * TwipsPerPixelX));
 }
 
 bool ListBox::DblClick() {

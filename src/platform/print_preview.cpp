@@ -93,11 +93,11 @@ class PreviewForm {
       MovePixels(control, left, kMargin, width, kButtonHeight);
       left += width + gap;
     };
-    put(cmdPrint_, 120, 8);
-    put(cmdSave_, 140, 32);
+    put(cmdPrint_, 104, 8);
+    put(cmdSave_, 136, 20);
     put(cmdPrevious_, 96, 8);
-    put(lblPage_, 110, 8);
-    put(cmdNext_, 96, 32);
+    put(lblPage_, 100, 8);
+    put(cmdNext_, 96, 20);
     put(cmdZoomIn_, 84, 8);
     put(cmdZoomOut_, 84, 8);
     MovePixels(cmdCancel_, kWidth - kMargin - 96, kMargin, 96, kButtonHeight);

@@ -8,7 +8,7 @@ namespace course {
 namespace {
 
 constexpr const char* kTitle = "Printing Student Records";
-constexpr double kPoints = 8;  // nine lines an inch; the lines of 113 characters fit with ease
+constexpr double kPoints = 9;  // the largest that nine lines an inch have place for
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/look.h"
+#include "records/list_columns.h"
 #include "records/record_load.h"
 #include "records/record_report.h"
 #include "session/session.h"
@@ -21,35 +22,23 @@ constexpr int kPixel = platform::TwipsPerPixelX;
 
 // All in pixels.
 constexpr int kMargin = 24;
-constexpr int kLineLength = 98;   // characters
-constexpr double kCharacter = 8;  // width of one in the list
-constexpr int kTextLeft = 6;      // from the list's left edge to a row's first character
-constexpr int kScrollBar = 20;
-constexpr int kListWidth = 2 * kTextLeft + static_cast<int>(kLineLength * kCharacter) + kScrollBar;
+constexpr int kListWidth = 800;  // 98 characters and a scroll bar
 constexpr int kWidth = kListWidth + 2 * kMargin;
 constexpr int kHeadingHeight = 30;
-constexpr int kLabelsTop = kMargin + kHeadingHeight + 14;
 constexpr int kLabelHeight = 34;
-constexpr int kListTop = kLabelsTop + kLabelHeight + 4;
-constexpr int kListHeight = 12 * 27 + 4;
+constexpr int kListTop = kMargin + kHeadingHeight + 14 + kLabelHeight + 4;
+constexpr int kRowHeight = 20;
+constexpr int kListHeight = 17 * kRowHeight + 4;
 constexpr int kCommentTop = kListTop + kListHeight + 10;
 constexpr int kCommentHeight = 20;
 constexpr int kFrameTop = kCommentTop + 2 * kCommentHeight + 14;
 constexpr int kFrameHeight = 64;
-constexpr int kSortByWidth = 420;
-constexpr int kDirectionWidth = 240;
+constexpr int kSortByWidth = 400;
+constexpr int kDirectionWidth = 232;
 constexpr int kButtonWidth = 120;
 constexpr int kButtonHeight = 46;
 constexpr int kHeight = kFrameTop + kFrameHeight + kMargin;
 
-// A heading over the columns first to last of the rows, counted in characters from 0.
-struct ColumnLabel {
-  const char* name;
-  const char* caption;
-  int first;
-  int last;
-  Label::Align align;
-};
 using enum Label::Align;
 // A grade and a verdict stand in one place: a record is either practice or a test.
 constexpr ColumnLabel kColumns[] = {
@@ -57,11 +46,11 @@ constexpr ColumnLabel kColumns[] = {
     {"lblDate", "\nDate", 18, 24, Left},
     {"lblLesson", "\nLesson", 26, 49, Left},
     {"lblActivity", "\nActivity", 52, 63, Left},
-    {"lblProbsAtt", "Probs\nAtt.", 62, 67, Right},
-    {"lblProbsCorr", "Probs\nCorr.", 68, 73, Right},
-    {"lblPctCorr", "Pct.\nCorr.", 74, 79, Right},
-    {"lblPracticeGrade", "Practice Grade*", 80, 94, Right},
-    {"lblPassTest", "\nPass Test?**", 80, 94, Right},
+    {"lblProbsAtt", "Probs\nAtt.", 61, 67, Right},
+    {"lblProbsCorr", "Probs\nCorr.", 67, 73, Right},
+    {"lblPctCorr", "Pct.\nCorr.", 73, 79, Right},
+    {"lblPracticeGrade", "Practice Grade*", 79, 93, Right},
+    {"lblPassTest", "\nPass Test?**", 79, 93, Right},
     {"lblMins", "\nMins.", 93, 98, Right},
 };
 
@@ -85,7 +74,6 @@ class RecordView {
         cmdOK_(form, "cmdOK", "Close") {
     form.SetCaption(caption);
     PlaceList();
-    PlaceColumns();
     PlaceOrders();
     PlaceDirections();
     MovePixels(cmdOK_, kWidth - kMargin - kButtonWidth, kFrameTop + kFrameHeight - kButtonHeight,
@@ -105,6 +93,8 @@ class RecordView {
     SetType(lblHeading_, 16, true);
     MovePixels(lstRecords_, kMargin, kListTop, kListWidth, kListHeight);
     lstRecords_.SetFont("Courier New", 10);
+    lstRecords_.SetRowHeight(kRowHeight * kPixel);
+    columns_ = MakeColumnLabels(lstRecords_, kColumns, kLabelHeight);
     lstRecords_.SetAccessibleName("Records");
     int top = kCommentTop;
     for (Label* comment : {&lblPracticeGradeComment_, &lblTestPassingGradeComment_}) {
@@ -114,27 +104,13 @@ class RecordView {
     }
   }
 
-  void PlaceColumns() {
-    for (const ColumnLabel& column : kColumns) {
-      columns_.push_back(std::make_unique<Label>(form, column.name, column.caption));
-      Label& label = *columns_.back();
-      const auto pixel = [](int character) {
-        return kMargin + kTextLeft + static_cast<int>(character * kCharacter);
-      };
-      MovePixels(label, pixel(column.first), kLabelsTop, pixel(column.last) - pixel(column.first),
-                 kLabelHeight);
-      label.SetFont("MS Sans Serif", 9.5, true);
-      label.SetAlignment(column.align);
-    }
-  }
-
   void PlaceOrders() {
     MovePixels(fraSortBy_, kMargin, kFrameTop, kSortByWidth, kFrameHeight);
     for (int i = 0; i < 4; ++i) {
       auto& option = optSort_[static_cast<std::size_t>(i)];
       option = std::make_unique<platform::OptionButton>(
           fraSortBy_, "optSort(" + std::to_string(i + 1) + ")", kOrderNames[i]);
-      MovePixels(*option, 16 + i * 100, 26, 96, 26);
+      MovePixels(*option, 16 + i * 95, 26, 91, 26);
       option->OnClick = [this, i] { optSort_Click(static_cast<SortOrder>(i + 1)); };
     }
     if (OneStudentIsLoaded()) optSort_[0]->SetEnabled(false);
@@ -148,7 +124,7 @@ class RecordView {
       auto& option = optSortDir_[static_cast<std::size_t>(i)];
       option = std::make_unique<platform::OptionButton>(
           fraSortDirection_, "optSortDir(" + std::to_string(i + 1) + ")", kDirectionNames[i]);
-      MovePixels(*option, 16 + i * 112, 26, 108, 26);
+      MovePixels(*option, 16 + i * 106, 26, 102, 26);
       option->OnClick = [this, i] { optSortDir_Click(static_cast<SortDirection>(i + 1)); };
     }
     optSortDir_[static_cast<std::size_t>(gRecordsSortDirection) - 1]->SetValue(true);
@@ -173,7 +149,7 @@ class RecordView {
   }
 
   Label lblHeading_;
-  std::vector<std::unique_ptr<Label>> columns_;
+  ColumnLabels columns_;
   platform::ListBox lstRecords_;
   Label lblPracticeGradeComment_;
   Label lblTestPassingGradeComment_;

@@ -1,13 +1,11 @@
 #include "records/session_form.h"
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "platform/dialogs.h"
 #include "platform/form.h"
 #include "platform/look.h"
-#include "records/activity_records.h"
+#include "records/list_columns.h"
 #include "records/record_report.h"
 #include "session/session.h"
 
@@ -23,30 +21,18 @@ constexpr int kSessionPercent = 70;
 
 // All in pixels.
 constexpr int kMargin = 24;
-constexpr int kLineLength = 63;   // characters
-constexpr double kCharacter = 9;  // width of one in the list
-constexpr int kTextLeft = 6;      // from the list's left edge to a row's first character
-constexpr int kScrollBar = 20;
-constexpr int kListWidth = 2 * kTextLeft + static_cast<int>(kLineLength * kCharacter) + kScrollBar;
+constexpr int kListWidth = 564;  // 63 characters and a scroll bar
 constexpr int kWidth = kListWidth + 2 * kMargin;
 constexpr int kHeadingHeight = 30;
-constexpr int kLabelsTop = kMargin + kHeadingHeight + 14;
 constexpr int kLabelHeight = 50;
-constexpr int kListTop = kLabelsTop + kLabelHeight + 4;
-constexpr int kListHeight = 12 * 27 + 4;
+constexpr int kListTop = kMargin + kHeadingHeight + 14 + kLabelHeight + 4;
+constexpr int kRowHeight = 22;
+constexpr int kListHeight = 15 * kRowHeight + 4;
 constexpr int kButtonTop = kListTop + kListHeight + 20;
 constexpr int kButtonWidth = 140;
 constexpr int kButtonHeight = 46;
 constexpr int kHeight = kButtonTop + kButtonHeight + kMargin;
 
-// A heading over the columns first to last of the rows, counted in characters from 0.
-struct ColumnLabel {
-  const char* name;
-  const char* caption;
-  int first;
-  int last;
-  Label::Align align;
-};
 using enum Label::Align;
 constexpr ColumnLabel kColumns[] = {
     {"lblLesson", "\n\nLesson", 0, 27, Left},
@@ -77,18 +63,10 @@ class SessionForm {
   void Place() {
     MovePixels(lblHeading_, kMargin, kMargin, kListWidth, kHeadingHeight);
     SetType(lblHeading_, 16, true);
-    for (const ColumnLabel& column : kColumns) {
-      columns_.push_back(std::make_unique<Label>(form, column.name, column.caption));
-      const auto pixel = [](int character) {
-        return kMargin + kTextLeft + static_cast<int>(character * kCharacter);
-      };
-      MovePixels(*columns_.back(), pixel(column.first), kLabelsTop,
-                 pixel(column.last) - pixel(column.first), kLabelHeight);
-      columns_.back()->SetFont("MS Sans Serif", 9.5, true);
-      columns_.back()->SetAlignment(column.align);
-    }
     MovePixels(lstRecords_, kMargin, kListTop, kListWidth, kListHeight);
     lstRecords_.SetFont("Courier New", 11);
+    lstRecords_.SetRowHeight(kRowHeight * kPixel);
+    columns_ = MakeColumnLabels(lstRecords_, kColumns, kLabelHeight);
     lstRecords_.SetAccessibleName("Session Results");
     MovePixels(cmdOK_, kWidth - kMargin - kButtonWidth, kButtonTop, kButtonWidth, kButtonHeight);
     cmdOK_.SetFont("MS Sans Serif", 11, true);
@@ -103,7 +81,7 @@ class SessionForm {
   }
 
   Label lblHeading_;
-  std::vector<std::unique_ptr<Label>> columns_;
+  ColumnLabels columns_;
   platform::ListBox lstRecords_;
   platform::Button cmdOK_;
 };
