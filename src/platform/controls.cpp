@@ -28,7 +28,13 @@ void Label::SetAlignment(Align align) {
   const Qt::Alignment horizontal = align == Align::Left     ? Qt::AlignLeft
                                    : align == Align::Centre ? Qt::AlignHCenter
                                                             : Qt::AlignRight;
-  WidgetOf<QLabel>(*this).setAlignment(horizontal | Qt::AlignTop);
+  QLabel& label = WidgetOf<QLabel>(*this);
+  label.setAlignment(horizontal | (label.alignment() & Qt::AlignVertical_Mask));
+}
+
+void Label::CentreVertically() {
+  QLabel& label = WidgetOf<QLabel>(*this);
+  label.setAlignment((label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
 }
 
 Button::Button(Control& parent, std::string name, const std::string& caption)

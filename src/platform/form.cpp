@@ -99,6 +99,21 @@ void Form::Center() {
        Height());
 }
 
+void Form::StandBeside(const Control& control) {
+  formImpl_->neighbour = &control;
+}
+
+void Form::Place() {
+  if (formImpl_->neighbour == nullptr) return Center();
+  const QWidget& neighbour = *formImpl_->neighbour->impl().widget;
+  const QRect screen = QGuiApplication::primaryScreen()->geometry();
+  const QSize size = formImpl_->window->sizeHint();
+  const QPoint corner = neighbour.mapToGlobal(neighbour.rect().topRight());
+  const int left = std::min(corner.x() + 1, screen.x() + screen.width() - size.width());
+  const int top = std::max(corner.y(), screen.y());
+  Move(left * TwipsPerPixelX, top * TwipsPerPixelY, Width(), Height());
+}
+
 void Form::Show() {
   if (formImpl_->shown) return;
   formImpl_->shown = true;
@@ -120,7 +135,7 @@ void Form::Hide() {
 void Form::ShowModal() {
   KeepInFrontOf(*formImpl_->window, FrontWindow());
   const ModalStretch stretch(*this);
-  Center();
+  Place();
   Show();
   while (formImpl_->shown) WaitEvents(Name());
 }

@@ -86,6 +86,8 @@ class Label final : public Control {
   std::string Caption() const;
   enum class Align { Left, Centre, Right };
   void SetAlignment(Align align);
+  // The text stands in the middle of the label's height; without it at the top.
+  void CentreVertically();
 };
 
 class Button final : public Control {
@@ -189,6 +191,9 @@ class Form : public Control {
   void Center();
   void Show();
   void Hide();
+  // ShowModal places the form to the right of this control of another form, with their tops in
+  // line, as far as the screen has room there, and not in the middle of the screen.
+  void StandBeside(const Control& control);
   // Shows the form, centred, before all others, and returns when Close is called.  Other forms take
   // no input meanwhile.
   void ShowModal();
@@ -226,6 +231,8 @@ class Form : public Control {
   FormImpl& formImpl() const { return *formImpl_; }
 
  private:
+  void Place();
+
   std::unique_ptr<FormImpl> formImpl_;
 };
 

@@ -57,6 +57,7 @@ struct Form::FormImpl {
   Button* neutral = nullptr;
   Button* standard = nullptr;
   QPointer<QWidget> focusBefore;  // what had the focus when the form was disabled
+  const Control* neighbour = nullptr;  // the form stands beside it, not in the middle
   bool shown = false;
 };
 
