@@ -192,8 +192,8 @@ void LessonWindow::PlaceStatus() {
   MovePixels(lblScreenNumber, 774, 8, 112, 100);
   MovePixels(cmdShowRulesandReminders, 774, 252, 112, 60);
   MovePixels(lblPracticeResults, 100, 604, 470, 44);
-  MovePixels(lblTestProbNo1, 8, 460, 84, 60);
-  MovePixels(lblTestProbNo2, 8, 520, 84, 36);
+  MovePixels(lblTestProbNo1, 8, 476, 78, 44);
+  MovePixels(lblTestProbNo2, 8, 522, 78, 36);
   MovePixels(lblStudent, 774, 330, 112, 36);
   lblTestProbNo1.SetCaption("   Test    Problem #");
   for (platform::Label* label :
@@ -201,7 +201,7 @@ void LessonWindow::PlaceStatus() {
     SetType(*label, 11, true);
     label->SetVisible(false);
   }
-  for (platform::Label* label : {&lblScreenNumber, &lblTestProbNo2})
+  for (platform::Label* label : {&lblScreenNumber, &lblTestProbNo1, &lblTestProbNo2})
     label->SetAlignment(platform::Label::Align::Centre);
   SetType(lblTestProbNo2, 18, true);
   cmdShowRulesandReminders.SetVisible(false);
