@@ -5,6 +5,7 @@
 #include "shell/menu.h"
 #include "shell/record_hooks.h"
 #include "shell/records_binding.h"
+#include "shell/test_hooks.h"
 
 int main(int argc, char** argv) {
   platform::Application application(argc, argv);
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
   course::BindLogin(startUp);
   course::BindRecordViews(startUp);
   course::BindDiagnostics(startUp);
+  course::BindTests();
   course::LoadMenu(startUp);
   const int status = application.Run();
   course::frmMenu.reset();  // no form outlives the toolkit

@@ -1,5 +1,6 @@
 #include "shell/menu.h"
 
+#include "assessment/unit_test.h"
 #include "engine/program_exit.h"
 #include "platform/stop.h"
 #include "session/session.h"
@@ -78,7 +79,7 @@ void MainMenu::RunSelectedLesson() {
   RunLesson(choice, {.EnableMenu = [this](bool enabled) { form.SetEnabled(enabled); },
                      .RefreshProgress = [] { DrawProgressMarks(); },
                      .RunScript = RunScriptOf,
-                     .Chapter_Test = {},
+                     .Chapter_Test = Chapter_Test,
                      .Docs = {}});
 }
 
