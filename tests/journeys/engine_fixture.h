@@ -23,6 +23,7 @@ namespace course::testing {
 // Three screens of two pages, one number a problem, an explanation of two pages.  What a test wants
 // to be different stands in the fields below.
 struct TestLessonPlan {
+  std::string title = "Test Lesson";
   int screens = 3;
   int kind = choice_kind::FourShuffledAndNone;
   int correct = 1;
@@ -35,7 +36,7 @@ struct TestLessonPlan {
 class TestLesson final : public LessonScript {
  public:
   TestLesson(const TestLessonPlan& plan, std::vector<std::string>& runs)
-      : LessonScript("Test Lesson"), plan_(plan), runs_(runs) {}
+      : LessonScript(plan.title), plan_(plan), runs_(runs) {}
 
  private:
   std::vector<Screen> Screens() override {
