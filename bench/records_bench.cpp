@@ -22,6 +22,8 @@
 #include "platform/clock.h"
 #include "platform/user.h"
 #include "records/activity_records.h"
+#include "records/record_report.h"
+#include "records/rosters.h"
 #include "session/session.h"
 #include "support/child_process.h"
 
@@ -231,6 +233,41 @@ void Settings(benchmark::internal::Benchmark* benchmark) {
   benchmark->ArgName("writers")->Arg(1)->Arg(30)->Arg(100);
   benchmark->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
+
+// What a login and a view read: a file of so many records, and a roster of 99 students.
+class FullFolder {
+ public:
+  explicit FullFolder(int records) {
+    std::ofstream file(folder_.Path() + "RECORDS.DAT", std::ios::binary);
+    for (int i = 0; i < records; ++i) {
+      char text[40];
+      std::snprintf(text, sizeof text, "C299%02d01152601%02d008005003", 1 + i % 99, 1 + i % 8);
+      file << text;
+    }
+    std::ofstream roster(folder_.Path() + "STUDENTS.DAT", std::ios::binary);
+    for (int i = 1; i <= 99; ++i)
+      roster << course::MakeStudentRecord("Student " + std::to_string(i), i);
+    course::session.gDataPath = folder_.Path();
+    course::session.gUnitCount = 12;
+  }
+
+ private:
+  Folder folder_;
+};
+
+void ReadingTheProgress(benchmark::State& state) {
+  const FullFolder folder(static_cast<int>(state.range(0)));
+  for (auto _ : state) course::ReadStudentProgress(99, 98);
+}
+BENCHMARK(ReadingTheProgress)->ArgName("records")->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void ReadingAViewWithNames(benchmark::State& state) {
+  const FullFolder folder(static_cast<int>(state.range(0)));
+  for (auto _ : state)
+    for (const std::string& record : course::ReadActivityRecords())
+      benchmark::DoNotOptimize(course::StudentNameFromNumber(course::StudentOfRecord(record)));
+}
+BENCHMARK(ReadingAViewWithNames)->ArgName("records")->Arg(1000)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_CAPTURE(Saving, own_file, OwnFile())->Apply(Settings);
 BENCHMARK_CAPTURE(Saving, database, Database())->Apply(Settings);
