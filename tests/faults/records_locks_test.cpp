@@ -210,7 +210,7 @@ ChildProcess Workstation(Work work) {
 
 // Record number n of a writer.
 std::string RecordOf(int writer, int n) {
-  char text[26];
+  char text[48];
   std::snprintf(text, sizeof text, "C299%02d0115260101%03d000001", writer, n);
   return text;
 }
