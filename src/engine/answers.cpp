@@ -91,11 +91,7 @@ void DrawLetter(int box) {
 
 void PrintChoice(int box, const std::string& text) {
   picAnswerLocatePixels(box, kTextTop, kTextLeft);
-  const std::string marked = ExponentCharsToCarets(text);
-  if (answerParameters.printChoice != nullptr)
-    answerParameters.printChoice(box, marked);
-  else
-    picAnswerPrintExponentExpression(box, marked);
+  picAnswerPrintExponentExpression(box, ExponentCharsToCarets(text));
 }
 
 bool IsBlank(const std::string& text) {

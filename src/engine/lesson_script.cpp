@@ -98,8 +98,9 @@ LessonScript::DrawnProblem LessonScript::Draw(int seed) {
   RandomStream random(static_cast<std::uint64_t>(seed));
   problem = Problem{};
   DrawProblem(random);
+  const std::uint64_t draws = random.Draws();
   std::vector<int> order = ChoiceOrder(problem.kind, random);
-  return {std::move(problem), std::move(order)};
+  return {std::move(problem), std::move(order), draws};
 }
 
 void LessonScript::Run() {

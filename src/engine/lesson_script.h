@@ -10,6 +10,7 @@
 // never inside a delay or an animation.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -35,6 +36,7 @@ class LessonScript {
   struct DrawnProblem {
     Problem problem;
     std::vector<int> order;  // order[i] is the choice in box i, from 1
+    std::uint64_t draws = 0;  // random numbers that the problem took, the order's aside
     int CorrectBox() const;  // 1 to 5
   };
   DrawnProblem Draw(int seed);

@@ -25,9 +25,11 @@ RandomStream::RandomStream(std::uint64_t seed) : state_(seed) {}
 
 void RandomStream::Reseed(std::uint64_t seed) {
   state_ = seed;
+  draws_ = 0;
 }
 
 double RandomStream::Rnd() {
+  ++draws_;
   // The 53 bits that a double holds exactly: the result is below 1, and so is Rnd() * n below n.
   return static_cast<double>(NextBits(state_) >> 11) * 0x1p-53;
 }

@@ -35,8 +35,12 @@ class RandomStream {
   // author's error and stops the program.
   std::vector<int> RandSeq(int poolSize, int count);
 
+  // Numbers given since the start or the last Reseed: what rejected tries have cost.
+  std::uint64_t Draws() const { return draws_; }
+
  private:
   std::uint64_t state_;
+  std::uint64_t draws_ = 0;
 };
 
 // Letters that read well as variables; the second leaves out a and b where these are constants.
