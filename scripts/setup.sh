@@ -8,6 +8,7 @@ packages=(
   qt6-base-dev qt6-svg-dev libfontconfig-dev
   fonts-liberation fonts-urw-base35
   libgtest-dev libbenchmark-dev libcli11-dev libfccp-dev nlohmann-json3-dev libsqlite3-dev
+  libgmp-dev
 )
 
 Say() { printf '== %s\n' "$*"; }
@@ -28,7 +29,7 @@ MissingPackages() {
 InstallPackages() {
   command -v dpkg-query >/dev/null ||
     Fail "this is no Debian system; install a C++20 compiler, CMake, Ninja, Qt 6 with Svg," \
-      "GoogleTest, Google Benchmark, CLI11, libfccp, nlohmann-json and the Liberation and URW" \
+      "GoogleTest, Google Benchmark, CLI11, libfccp, GMP, nlohmann-json and the Liberation and URW" \
       "fonts, then build with: cmake -G Ninja -S . -B build && ninja -C build"
   local missing
   mapfile -t missing < <(MissingPackages)

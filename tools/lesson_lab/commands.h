@@ -23,6 +23,17 @@ struct PagesRequest {
 };
 int WritePages(const PagesRequest& request);
 
+// Draws the problems of the seeds, shows them and explains them, and tells every fault as
+// "Title#seed: fault".  All lessons and the blank one without a title.  1 when there was a fault.
+// To be called before the toolkit is up.
+struct CheckRequest {
+  std::string title;
+  int first = 0;
+  int last = 32766;
+  bool drawOnly = false;  // no pages
+};
+int Check(const CheckRequest& request);
+
 // Every form of the course in a folder, as NAME.png.
 int WriteForms(const std::string& folder);
 

@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "lesson_lab/idle_user.h"
+#include "lesson_check/pages/idle_user.h"
 #include "platform/form.h"
 
 namespace lesson_lab {
 
-class FormCamera final : public IdleUser {
+class FormCamera final : public lesson_check::IdleUser {
  public:
   explicit FormCamera(std::string folder);
 

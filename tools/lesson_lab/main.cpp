@@ -6,10 +6,27 @@
 #include "platform/program.h"
 #include "session/catalogue.h"
 
+namespace {
+
+// "17" or "0-999".
+void ReadSeeds(const std::string& text, lesson_lab::CheckRequest& request) {
+  const std::size_t dash = text.find('-');
+  const auto number = [](const std::string& digits) {
+    const bool all = !digits.empty() && digits.size() <= 5 &&
+                     digits.find_first_not_of("0123456789") == std::string::npos;
+    return all ? std::stoi(digits) : -1;
+  };
+  request.first = number(text.substr(0, dash));
+  request.last = dash == std::string::npos ? request.first : number(text.substr(dash + 1));
+  if (request.first < 0 || request.last < request.first || request.last > 32766)
+    throw CLI::ValidationError("--seeds", "\"" + text + "\" is no range A-B within 0-32766");
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   // Without a display the pages are drawn all the same.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  platform::Application application(argc, argv);
   course::FillCourseTables();
 
   CLI::App app("Draws the problems and pages of the course's lessons.");
@@ -37,7 +54,18 @@ int main(int argc, char** argv) {
   CLI::App* forms = app.add_subcommand("forms", "Every form of the course as a picture");
   forms->add_option("--out", folder, "Folder for the pictures")->required();
 
+  lesson_lab::CheckRequest checked;
+  CLI::App* check = app.add_subcommand("check", "All problems and pages of a lesson, or of all");
+  check->add_option("title", checked.title, "The lesson's title, in any case; all without one");
+  check->add_option_function<std::string>(
+      "--seeds", [&checked](const std::string& text) { ReadSeeds(text, checked); },
+      "Seeds A-B, all without it");
+  check->add_flag("--draw-only", checked.drawOnly, "No pages: problems alone");
+
   CLI11_PARSE(app, argc, argv);
+  // Each of the processes of a check brings up the toolkit for itself.
+  if (check->parsed()) return lesson_lab::Check(checked);
+  platform::Application application(argc, argv);
   if (problem->parsed()) return lesson_lab::PrintProblems(title, seed, count);
   if (draw->parsed()) return lesson_lab::WritePages(pages);
   if (forms->parsed()) return lesson_lab::WriteForms(folder);

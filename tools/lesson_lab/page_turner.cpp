@@ -38,7 +38,7 @@ void PageTurner::AtWait(const std::string& place) {
 
 platform::Answer PageTurner::AtMessage(const platform::Message& message) {
   KeepPage();
-  return IdleUser::AtMessage(message);
+  return lesson_check::IdleUser::AtMessage(message);
 }
 
 }  // namespace lesson_lab

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "lesson_lab/idle_user.h"
+#include "lesson_check/pages/idle_user.h"
 #include "platform/surface.h"
 
 namespace lesson_lab {
@@ -15,7 +15,7 @@ struct Page {
   std::string text;  // UTF-8
 };
 
-class PageTurner final : public IdleUser {
+class PageTurner final : public lesson_check::IdleUser {
  public:
   std::vector<Page> pages;
 

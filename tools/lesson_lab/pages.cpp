@@ -6,6 +6,7 @@
 
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
+#include "lesson_check/pages/entry.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/page_turner.h"
 #include "session/session.h"
@@ -13,9 +14,7 @@
 namespace lesson_lab {
 namespace {
 
-using course::session;
 namespace mode = course::mode;
-namespace activity = course::activity;
 
 const std::map<std::string, int> kModeNames = {
     {"practice", mode::NewProblem},
@@ -33,64 +32,6 @@ int ModeOf(const std::string& name) {
   if (const auto found = kModeNames.find(name); found != kModeNames.end()) return found->second;
   const int number = std::atoi(name.c_str());
   return number >= 1 && number <= 13 && number != mode::Leave ? number : 0;
-}
-
-void WantPractice(int entry, int seed) {
-  session.gActivity = activity::Practice;
-  session.gProblemSeed = seed;
-  (entry == mode::Explanation ? session.gExplainProblem : session.gRepeatProblem) = 1;
-}
-
-void WantLessonTest(int entry, int seed) {
-  session.gActivity = activity::LessonTest;
-  session.gLessonTest = 1;
-  session.gLessonTestProb = 1;
-  session.gTestSeeds[1] = seed;
-  session.gLessonTestReviewNum = entry == mode::LessonTestProblem ? 0 : 1;
-  session.gLessonTestReviewExplain = entry == mode::LessonTestExplanation ? 1 : 0;
-}
-
-void WantUnitTest(int entry, int seed) {
-  session.gActivity = activity::UnitTest;
-  session.gChapterTest = 1;
-  session.gChapterTestStatus = 2;
-  session.gChapterTestProb = 1;
-  session.gChapterTestProbCount = 1;
-  session.gChapterTestData[1][course::unit_test_column::Seed] = std::to_string(seed);
-  session.gChapterTestReviewNum = entry == mode::UnitTestProblem ? 0 : 1;
-  session.gChapterTestReviewExplain = entry == mode::UnitTestExplanation ? 1 : 0;
-}
-
-// Writes the session fields so that the next run enters the lesson in the mode, with the seed.
-void WantEntry(int entry, int seed) {
-  switch (entry) {
-    case mode::Lesson:
-      session.gActivity = activity::Lesson;
-      break;
-    case mode::Example:
-      session.gActivity = activity::Example;
-      session.gProblemSeed = seed;
-      session.gRepeatExample = 1;
-      break;
-    case mode::LessonTestProblem:
-    case mode::LessonTestReview:
-    case mode::LessonTestExplanation:
-      WantLessonTest(entry, seed);
-      break;
-    case mode::UnitTestProblem:
-    case mode::UnitTestReview:
-    case mode::UnitTestExplanation:
-      WantUnitTest(entry, seed);
-      break;
-    case mode::DiagnosticProblem:
-      session.gActivity = activity::DiagnosticTest;
-      session.gDiagnosticTest = 1;
-      session.gDiagnosticProb = 1;
-      session.gDiagnosticData[1][course::diagnostic_column::Seed] = std::to_string(seed);
-      break;
-    default:
-      WantPractice(entry, seed);
-  }
 }
 
 bool WriteContactSheet(const std::vector<Page>& pages, const std::string& file) {
@@ -142,7 +83,7 @@ int WritePages(const PagesRequest& request) {
   }
   PageTurner reader;
   course::LoadLessonWindow();
-  WantEntry(entry, request.seed);
+  lesson_check::WantEntry(entry, request.seed);
   lesson->Run();
   course::UnloadLessonWindow();
   return WriteAll(reader.pages, request.folder);

@@ -5,7 +5,7 @@
 #include "platform/manual_clock.h"
 #include "platform/user.h"
 
-namespace lesson_lab {
+namespace lesson_check {
 
 class IdleUser : public platform::User {
  public:
@@ -25,4 +25,4 @@ class IdleUser : public platform::User {
   platform::ManualClock clock_;
 };
 
-}  // namespace lesson_lab
+}  // namespace lesson_check

@@ -1,4 +1,4 @@
-#include "lesson_lab/idle_user.h"
+#include "lesson_check/pages/idle_user.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
-namespace lesson_lab {
+namespace lesson_check {
 
 using course::session;
 
@@ -40,4 +40,4 @@ void IdleUser::AtEnd() {
   std::exit(0);
 }
 
-}  // namespace lesson_lab
+}  // namespace lesson_check

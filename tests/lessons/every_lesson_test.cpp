@@ -1,0 +1,71 @@
+// Every lesson of the table, and the blank one, through the checker.  A new lesson is covered by
+// its row.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "lesson_check/lesson_check.h"
+#include "lessons/blank_lesson.h"
+#include "lessons/lesson_table.h"
+#include "mathkit/tutor_codes.h"
+#include "session/session.h"
+
+namespace lesson_check {
+namespace {
+
+std::vector<std::string> Titles() {
+  std::vector<std::string> titles;
+  for (const std::string_view title : course::LessonTitles()) titles.emplace_back(title);
+  titles.emplace_back("Blank Lesson");
+  return titles;
+}
+
+std::string TestName(const ::testing::TestParamInfo<std::string>& parameter) {
+  std::string name;
+  for (const char c : parameter.param)
+    if (std::isalnum(static_cast<unsigned char>(c)) != 0 && c < 127) name += c;
+  return name;
+}
+
+std::string FaultsOf(const std::string& title, const Report& report) {
+  std::ostringstream text;
+  for (const Finding& finding : report.findings)
+    text << ProblemName(title, finding.seed) << ": " << finding.fault << "\n";
+  return text.str();
+}
+
+class EveryLesson : public ::testing::TestWithParam<std::string> {
+ protected:
+  void TearDown() override { course::session = course::Session{}; }
+
+  MakeScript make_ = [this] {
+    auto lesson = course::MakeLesson(GetParam());
+    return lesson ? std::move(lesson) : course::MakeBlankLesson();
+  };
+};
+
+// So many seeds also tell how many draws are rejected.
+TEST_P(EveryLesson, DrawsProblemsWithOneRightChoice) {
+  constexpr int kSample = 20000;
+  Report report = CheckDrawing(make_, {0, kSample - 1});
+  CheckAcceptance(report);
+  EXPECT_EQ(report.problems, kSample);
+  EXPECT_EQ(FaultsOf(GetParam(), report), "");
+}
+
+TEST_P(EveryLesson, ShowsAndExplainsTheSameProblem) {
+  const Report report = CheckPages(make_, {3, kSeeds - 1, 1021});
+  EXPECT_GE(report.pages, 33 * 3);
+  EXPECT_EQ(FaultsOf(GetParam(), report), "");
+}
+
+TEST_P(EveryLesson, TeachesOnPagesWithoutFault) {
+  const Report report = CheckTeaching(make_);
+  EXPECT_GE(report.pages, 1);
+  EXPECT_EQ(FaultsOf(GetParam(), report), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Course, EveryLesson, ::testing::ValuesIn(Titles()), TestName);
+
+}  // namespace
+}  // namespace lesson_check

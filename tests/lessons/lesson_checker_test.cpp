@@ -1,0 +1,385 @@
+// The checker must find what it is there for: each test hands it a lesson, a problem or a page with
+// one fault.
+#include <gtest/gtest.h>
+
+#include "display/grid.h"
+#include "display/lesson_window.h"
+#include "display/print.h"
+#include "engine/answers.h"
+#include "engine/header.h"
+#include "lesson_check/judges/judges.h"
+#include "lesson_check/lesson_check.h"
+#include "lesson_check/pages/page_check.h"
+#include "lesson_check/pages/page_layout.h"
+#include "lesson_check/problem_check.h"
+#include "mathkit/expressions.h"
+#include "platform/stop.h"
+#include "session/session.h"
+
+namespace lesson_check {
+namespace {
+
+using course::Problem;
+using ::testing::Test;
+namespace choice_kind = course::choice_kind;
+
+// --- Problems ------------------------------------------------------------------------------------
+
+// 1/2 + 1/4, without a fault.
+Problem SumOfFractions() {
+  Problem problem;
+  problem.question = {"What is 1/2 + 1/4?"};
+  problem.kind = choice_kind::FourShuffled;
+  problem.Right(1, "3/4");
+  problem.Wrong(2, "adds above and below", "2/6");
+  problem.Wrong(3, kFiller, "1/8");
+  problem.Wrong(4, kFiller, "5/4");
+  return problem;
+}
+
+std::vector<std::string> FaultsOf(const Problem& problem,
+                                  std::vector<int> order = {0, 1, 2, 3, 4, 5},
+                                  Judge judge = ReadArithmetic) {
+  std::vector<std::string> faults;
+  MistakeCounts mistakes;
+  CheckProblem(
+      judge, {problem, std::move(order), 0},
+      [&](const std::string& fault) { faults.push_back(fault); }, mistakes);
+  return faults;
+}
+
+using Faults = std::vector<std::string>;
+
+TEST(ProblemCheck, AProblemWithoutFaultPasses) {
+  EXPECT_EQ(FaultsOf(SumOfFractions()), Faults{});
+  EXPECT_EQ(FaultsOf(SumOfFractions(), {0, 3, 1, 4, 2, 5}), Faults{});
+}
+
+TEST(ProblemCheck, EqualTextsAndEqualValuesAreFound) {
+  Problem problem = SumOfFractions();
+  problem.choices[3].text = "2/6";
+  EXPECT_EQ(FaultsOf(problem), Faults{"two choices read \"2/6\""});
+  problem.choices[3].text = "1/3";
+  EXPECT_EQ(FaultsOf(problem), Faults{"\"2/6\" and \"1/3\" are equal"});
+}
+
+TEST(ProblemCheck, ASecondRightChoiceIsFound) {
+  Problem problem = SumOfFractions();
+  problem.choices[4].text = "6/8";
+  EXPECT_EQ(FaultsOf(problem), (Faults{"\"3/4\" and \"6/8\" are equal", "\"6/8\" is right, too"}));
+}
+
+TEST(ProblemCheck, AWrongAnswerHeldForRightIsFound) {
+  Problem problem = SumOfFractions();
+  problem.choices[1].text = "3/8";
+  EXPECT_EQ(FaultsOf(problem), Faults{"\"3/8\" is not right: 3/8, not 3/4"});
+}
+
+TEST(ProblemCheck, NoneOfTheAboveIsRightOnlyWhenNoneIs) {
+  Problem problem = SumOfFractions();
+  problem.kind = choice_kind::FourShuffledAndNone;
+  EXPECT_EQ(FaultsOf(problem), Faults{});
+  problem.Wrong(1, kFiller, "7/8");
+  problem.Right(5, "3/4");
+  EXPECT_EQ(FaultsOf(problem), Faults{});
+  problem.Wrong(3, kFiller, "3/4");
+  EXPECT_EQ(FaultsOf(problem), Faults{"\"3/4\" is right, too"});
+  problem.Wrong(3, kFiller, "1/8");
+  problem.Right(5, "1/4");
+  EXPECT_EQ(FaultsOf(problem), Faults{"\"1/4\" behind the last box is not right: not 3/4"});
+}
+
+TEST(ProblemCheck, AMistakeMustLeadToItsChoice) {
+  Problem problem;
+  problem.question = {"What is the value of 3(4 + 5)?"};
+  problem.Right(1, "27");
+  problem.Wrong(2, "multiplies the first number only", "17");
+  problem.Wrong(3, "adds the number in front", "13");
+  problem.Wrong(4, "multiplies all three numbers", "60");
+  EXPECT_EQ(FaultsOf(problem), Faults{"who \"adds the number in front\" does not come to \"13\" "
+                                      "but to 12"});
+}
+
+TEST(ProblemCheck, ChoicesWithoutANameOrATextAreFound) {
+  Problem problem = SumOfFractions();
+  problem.choices[2].mistake.clear();
+  EXPECT_EQ(FaultsOf(problem), Faults{"no mistake leads to \"2/6\""});
+  problem = SumOfFractions();
+  problem.choices[4].text = " ";
+  EXPECT_EQ(FaultsOf(problem).at(0), "choice 4 is empty");
+}
+
+TEST(ProblemCheck, AnOrderThatLosesAChoiceIsFound) {
+  EXPECT_EQ(FaultsOf(SumOfFractions(), {0, 1, 1, 3, 4, 5}),
+            Faults{"the boxes do not hold each choice once"});
+  Problem inOrder = SumOfFractions();
+  inOrder.kind = choice_kind::FourInOrder;
+  EXPECT_EQ(FaultsOf(inOrder, {0, 2, 1, 3, 4, 5}).size(), 2u);
+}
+
+TEST(ProblemCheck, ALessonWithoutAJudgeAndAQuestionWithoutSenseAreFaults) {
+  EXPECT_EQ(FaultsOf(SumOfFractions(), {0, 1, 2, 3, 4, 5}, nullptr),
+            Faults{"no judge reads this lesson"});
+  Problem problem = SumOfFractions();
+  problem.question = {"What is it?"};
+  EXPECT_EQ(FaultsOf(problem), Faults{"cannot be read: the question has no expression"});
+  EXPECT_EQ(JudgeOf("A Lesson That Is Not There"), nullptr);
+}
+
+// --- Lessons -------------------------------------------------------------------------------------
+
+// 2 + N, with the faults that a test asks for.
+class FaultyLesson final : public course::LessonScript {
+ public:
+  struct Faults {
+    int extraDraws = 0;            // random numbers thrown away
+    bool remembers = false;        // the draw depends on the one before
+    bool endsElsewhere = false;    // the explanation ends at another number
+    bool explainsAnother = false;  // or at another problem
+    bool hidesQuestion = false;
+    bool stops = false;
+  };
+  explicit FaultyLesson(Faults faults) : LessonScript("Blank Lesson"), faults_(faults) {}
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {[this] {
+      NewScreen();
+      course::Locate(24, 1);
+      course::isPrint("below the grid");
+      PageEnd();
+    }};
+  }
+  void DrawProblem(course::RandomStream& random) override {
+    if (faults_.stops) platform::Stop("FaultyLesson: stopped");
+    for (int i = 0; i < faults_.extraDraws; ++i) random.Rnd();
+    second_ = random.Rand(20, 90) + (faults_.remembers ? ++drawn_ : 0);
+    problem.question = {"What is 2 + " + course::NumStr(second_) + "?"};
+    for (int slot = 2; slot <= 4; ++slot)
+      problem.Wrong(slot, kFiller, course::NumStr(second_ - slot));
+    problem.Right(1, course::NumStr(second_ + 2));
+  }
+  void ShowProblem() override {
+    course::Locate(6, 1);
+    course::isPrint(faults_.hidesQuestion ? "What is it?" : problem.question[0]);
+    answerRow = 11;
+    course::picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
+  }
+  void ExplainProblem() override {
+    course::ProblemBanner();
+    course::Locate(5, 1);
+    const int second = faults_.explainsAnother ? 100 : second_;
+    course::isPrint("2 + " + course::NumStr(second) + " is");
+    PageEnd();
+    course::isPrint(faults_.endsElsewhere ? "1" + problem.choices[1].text
+                                          : problem.choices[1].text);
+  }
+
+  Faults faults_;
+  int second_ = 0;
+  int drawn_ = 0;
+};
+
+class LessonCheckTest : public Test {
+ protected:
+  void TearDown() override { course::session = course::Session{}; }
+
+  static MakeScript Make(FaultyLesson::Faults faults) {
+    return [faults] { return std::make_unique<FaultyLesson>(faults); };
+  }
+  static std::vector<std::string> FaultsIn(const Report& report) {
+    std::vector<std::string> faults;
+    for (const Finding& finding : report.findings) faults.push_back(finding.fault);
+    return faults;
+  }
+};
+
+TEST_F(LessonCheckTest, WithoutAFaultNothingIsFound) {
+  EXPECT_EQ(FaultsIn(CheckDrawing(Make({}), {0, 20})), Faults{});
+  EXPECT_EQ(FaultsIn(CheckPages(Make({}), {0, 4})), Faults{});
+}
+
+TEST_F(LessonCheckTest, ASecondDrawThatDiffersIsFound) {
+  int made = 0;
+  const Report report = CheckDrawing(
+      [&] {
+        return std::make_unique<FaultyLesson>(FaultyLesson::Faults{.remembers = made++ == 0});
+      },
+      {0, 0});
+  EXPECT_EQ(FaultsIn(report), Faults{"a second draw gives another problem"});
+}
+
+TEST_F(LessonCheckTest, TooManyRejectedDrawsAreFound) {
+  Report few = CheckDrawing(Make({.extraDraws = 900}), {0, 9});
+  CheckAcceptance(few);
+  EXPECT_EQ(few.faults, 0);
+  Report many = CheckDrawing(Make({.extraDraws = 1100}), {0, 9});
+  CheckAcceptance(many);
+  ASSERT_EQ(many.faults, 1);
+  EXPECT_EQ(many.findings[0].seed, kNoSeed);
+}
+
+TEST_F(LessonCheckTest, ASlowDrawIsFound) {
+  const Report report = CheckDrawing(Make({.extraDraws = 20'000'000}), {0, 0});
+  ASSERT_EQ(report.faults, 1);
+  EXPECT_EQ(report.findings[0].fault.substr(0, 13), "the draw took");
+}
+
+TEST_F(LessonCheckTest, AnExplanationThatEndsElsewhereIsFound) {
+  const Report report = CheckPages(Make({.endsElsewhere = true}), {1, 1});
+  ASSERT_EQ(report.faults, 1);
+  EXPECT_EQ(report.findings[0].fault.substr(0, 31), "explanation: it does not end at");
+}
+
+TEST_F(LessonCheckTest, AnExplanationOfAnotherProblemIsFound) {
+  const Report report = CheckPages(Make({.explainsAnother = true}), {1, 1});
+  ASSERT_EQ(report.faults, 1);
+  EXPECT_EQ(report.findings[0].fault.substr(0, 35), "explanation: the question's number ");
+}
+
+TEST_F(LessonCheckTest, AQuestionThatIsNotShownIsFound) {
+  const Report report = CheckPages(Make({.hidesQuestion = true}), {1, 1});
+  ASSERT_EQ(report.faults, 1);
+  EXPECT_EQ(report.findings[0].fault.substr(0, 31), "problem: the page does not show");
+}
+
+TEST_F(LessonCheckTest, AReviewOfAnotherProblemIsFound) {
+  const Report report = CheckPages(Make({.remembers = true}), {1, 1});  // its third way is a review
+  const Faults faults = FaultsIn(report);
+  const std::string other = "review in a lesson test: it is not the page of the practice problem";
+  EXPECT_EQ(std::ranges::count(faults, other), 1);
+}
+
+TEST_F(LessonCheckTest, ATeachingPageOutsideTheGridIsFound) {
+  EXPECT_EQ(
+      FaultsIn(CheckTeaching(Make({}))),
+      Faults{
+          "teaching, page 1: text outside the grid: \"below the grid\" at row 24.0, column 1.0"});
+}
+
+TEST_F(LessonCheckTest, AnAuthorsErrorIsAFaultOfItsProblem) {
+  EXPECT_EQ(FaultsIn(CheckDrawing(Make({.stops = true}), {7, 7})),
+            Faults{"the draw stops the program: FaultyLesson: stopped"});
+}
+
+TEST_F(LessonCheckTest, AReportSurvivesItsWayThroughAPipe) {
+  Report report = CheckDrawing(Make({.extraDraws = 1}), {0, 5});
+  report.Add(3, "a fault: \"x\" and more");
+  report.Add(kNoSeed, "another");
+  report.mistakes["a name with blanks"] = {5, 2};
+  const Report read = Report::FromText(report.Text());
+  EXPECT_EQ(read.Text(), report.Text());
+  EXPECT_EQ(read.findings.at(0).fault, "a fault: \"x\" and more");
+  EXPECT_EQ(read.mistakes.at("a name with blanks").derived, 2);
+}
+
+// --- Pages ---------------------------------------------------------------------------------------
+
+class PageLayoutTest : public Test {
+ protected:
+  void SetUp() override { course::ResetScreen(); }
+  void TearDown() override { course::session = course::Session{}; }
+
+  static void Print(double row, double col, const std::string& text) {
+    course::Locate(row, col);
+    course::isPrint(text);
+  }
+  static std::vector<std::string> Found() { return LayoutFaults(*course::frmPR); }
+
+  PageReader reader_;
+};
+
+TEST_F(PageLayoutTest, APageOfLinesFractionsAndColoursHasNoFault) {
+  for (int row = 2; row <= 23; ++row) Print(row, 1, std::string(40, 'x'));
+  course::frmPR->lessonText.Cls();
+  Print(5, 1, "x = ");
+  Print(4.3, 5, "3");
+  Print(5.7, 5, "4");
+  Print(8, 3, "a word in white");
+  course::Locate(8, 5);
+  course::isColorPrint("word", platform::colour::Yellow);
+  EXPECT_EQ(Found(), Faults{});
+}
+
+TEST_F(PageLayoutTest, TextOverTextIsFound) {
+  Print(5, 3, "abc");
+  Print(5, 5, "xyz");
+  EXPECT_EQ(Found(), Faults{"\"x\" over \"c\" at row 5.0, column 5.0"});
+  course::frmPR->lessonText.Cls();
+  Print(5, 3, "a");
+  Print(5.5, 3, "b");
+  EXPECT_EQ(Found(), Faults{"\"b\" over \"a\" at row 5.5, column 3.0"});
+}
+
+TEST_F(PageLayoutTest, BlanksEraseWhatStoodThere) {
+  Print(5, 3, "abc");
+  Print(5, 3, "   ");
+  Print(5, 3, "xyz");
+  EXPECT_EQ(Found(), Faults{});
+}
+
+TEST_F(PageLayoutTest, TextOutsideTheGridIsFound) {
+  Print(24, 1, "too low");
+  course::Locate(3, 39);
+  course::frmPR->lessonText.TextOut("wide");
+  EXPECT_EQ(Found().size(), 2u);
+}
+
+TEST_F(PageLayoutTest, TextUnderABoxIsFound) {
+  Print(5, 1, "under the figure");
+  platform::PictureBox& figure = course::frmPR->picGraph2D[1];
+  const platform::PictureBox& lesson = course::frmPR->pnlLesson;
+  figure.Move(lesson.Left() + 100 * 15, lesson.Top() + 70 * 15, 100 * 15, 60 * 15);
+  EXPECT_EQ(Found(), Faults{});  // hidden
+  figure.SetVisible(true);
+  EXPECT_EQ(Found(), Faults{"text under picGraph2D(1): \"thefi\""});
+}
+
+TEST_F(PageLayoutTest, TextWiderThanItsAnswerBoxIsFound) {
+  Problem problem = SumOfFractions();
+  course::picAnswerSetParameters(2, 14, 1, 21, 0, 16, 50, 27);
+  course::AnswerChoicesShow(problem);
+  EXPECT_EQ(Found(), Faults{});
+  problem.choices[2].text = "2/6 of all there is";
+  problem.kind = choice_kind::FourInOrderAndNone;
+  course::AnswerChoicesShow(problem);
+  EXPECT_EQ(Found(), Faults{"text outside picAnswer(2): \"2/6 of all there is\" at row 1.5, "
+                            "column 4.4"});
+}
+
+TEST_F(PageLayoutTest, AnswerBoxesOverEachOtherAndOutsideThePanelAreFound) {
+  const Problem problem = SumOfFractions();
+  course::picAnswerSetParameters(2, 20, 1, 12, 0, 16, 50, 90);
+  course::AnswerChoicesShow(problem);
+  EXPECT_EQ(Found(), (Faults{"picAnswer(3) reaches out of the lesson panel",
+                             "picAnswer(4) reaches out of the lesson panel",
+                             "picAnswer(1) and picAnswer(2) lie over each other",
+                             "picAnswer(3) and picAnswer(4) lie over each other"}));
+}
+
+TEST(PageText, TheRightTextIsFoundAsAWholeOnly) {
+  EXPECT_TRUE(ContainsAsWords("so x = 5.", "5"));
+  EXPECT_FALSE(ContainsAsWords("so x = 15.", "5"));
+  EXPECT_FALSE(ContainsAsWords("so x = -5.", "5"));
+  EXPECT_FALSE(ContainsAsWords("so x = 5/2.", "5"));
+  EXPECT_FALSE(ContainsAsWords("so x = 5^2^.", "5"));
+  EXPECT_TRUE(ContainsAsWords("15 and 5", "5"));
+  EXPECT_TRUE(ContainsAsWords("(x + 2)(x + 3)", "(x + 2)(x + 3)"));
+}
+
+TEST(PageText, NoneOfTheAboveNeedsTheTrueAnswerAndTheWords) {
+  Problem problem = SumOfFractions();
+  problem.kind = choice_kind::FourShuffledAndNone;
+  problem.Right(5, "3/4");
+  PageText page;
+  page.lesson = {{5, 1, 0, 0, "1/2 + 1/4 = 3/4"}};
+  page.lines = {"1/2 + 1/4 = 3/4"};
+  EXPECT_NE(MissingAtEnd({page}, problem), "");
+  PageText told = page;
+  told.lesson.push_back({7, 1, 0, 0, course::kNoneOfTheAbove});
+  told.lines.push_back(course::kNoneOfTheAbove);
+  EXPECT_EQ(MissingAtEnd({page, told}, problem), "");
+}
+
+}  // namespace
+}  // namespace lesson_check

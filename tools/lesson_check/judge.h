@@ -1,0 +1,35 @@
+// A judge reads a question as a student does, works it out by itself, and says of any text whether
+// it answers the question.  It knows nothing of the generator that drew the problem.
+//
+// A lesson without a judge is a fault: its row in judge_table.cpp is part of the lesson.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "engine/problem.h"
+
+namespace lesson_check {
+
+struct Reading {
+  // The right answer's value in a canonical text.
+  std::string answer;
+  // The value of a choice; equal values are the same answer, however they are written.  Throws
+  // Unreadable.
+  std::function<std::string(const std::string& choice)> value;
+  // What is wrong with the form of the right choice, such as a fraction that can be reduced; ""
+  // when nothing is.  May be absent.
+  std::function<std::string(const std::string& choice)> flaw;
+  // Name of a mistake, and the values to which it can lead here.
+  std::map<std::string, std::vector<std::string>> mistakes;
+};
+
+// Throws Unreadable when the question is not one of the family's.
+using Judge = Reading (*)(const course::Problem& problem);
+
+// The judge of a lesson by its title in any case; nullptr for a title without one.
+Judge JudgeOf(const std::string& title);
+
+}  // namespace lesson_check

@@ -1,0 +1,194 @@
+#include "lesson_check/pages/page_check.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "lesson_check/exact/notation.h"
+#include "lesson_check/pages/page_layout.h"
+#include "mathkit/tutor_codes.h"
+#include "session/session.h"
+
+namespace lesson_check {
+namespace {
+
+using course::frmPR;
+using course::Problem;
+namespace mode = course::mode;
+
+std::string NameOf(int entry) {
+  switch (entry) {
+    case mode::SameProblem:
+      return "problem";
+    case mode::Explanation:
+      return "explanation";
+    case mode::Example:
+      return "example";
+    case mode::Lesson:
+      return "teaching";
+    case mode::LessonTestReview:
+      return "review in a lesson test";
+    case mode::LessonTestExplanation:
+      return "explanation in a lesson test";
+    case mode::UnitTestReview:
+      return "review in a unit test";
+    case mode::UnitTestExplanation:
+      return "explanation in a unit test";
+    default:
+      return "mode " + std::to_string(entry);
+  }
+}
+
+std::string Quoted(const std::string& text) {
+  return "\"" + course::ToUtf8(text) + "\"";
+}
+
+// The banner alone tells a practice problem from its review.
+PageText WithoutBanner(PageText page) {
+  constexpr std::string_view kBanners[] = {"Try the following problem", "Lesson Test Problem",
+                                           "Unit Test Problem"};
+  std::erase_if(page.lines, [&](const std::string& line) {
+    const std::string text = Trimmed(line);
+    return std::ranges::any_of(kBanners,
+                               [&](std::string_view banner) { return text.starts_with(banner); });
+  });
+  return page;
+}
+
+// Fractions and radicals are built up on the screen and leave no line of their own.
+bool IsBuiltUp(const std::string& line) {
+  return line.find_first_of("/`") != std::string::npos;
+}
+
+bool ShowsNumbers(const std::vector<std::string>& shown, const std::string& line,
+                  std::string& missing) {
+  for (const std::string& number : NumbersIn(line)) {
+    if (std::ranges::find(shown, number) != shown.end()) continue;
+    missing = number;
+    return false;
+  }
+  return true;
+}
+
+// What the last page that says something new says.
+std::string LastWords(const std::vector<PageText>& pages) {
+  for (std::size_t i = pages.size(); i-- > 0;) {
+    const PageText added = i == 0 ? pages[0] : NewOn(pages[i], pages[i - 1]);
+    const std::string words = added.Whole();
+    if (!words.empty()) return words;
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& problem) {
+  if (pages.empty()) return "it has no page";
+  const bool none = problem.correct == 5 && course::HasNoneOfTheAbove(problem.kind);
+  const std::string truth =
+      Comparable(problem.choices.at(static_cast<std::size_t>(problem.correct)).text);
+  const std::string last = LastWords(pages);
+  const std::string whole = pages.back().Whole();
+  // With "None of the above" the true answer stands before the last words.
+  if (!ContainsAsWords(none ? whole : last, truth))
+    return "it does not end at " + Quoted(truth) + " but at " + Quoted(last);
+  if (none && last.find(course::kNoneOfTheAbove) == std::string::npos)
+    return "it does not tell that " + Quoted(truth) + " is not among the choices";
+  return "";
+}
+
+std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& complain) {
+  std::vector<PageText> pages;
+  std::vector<std::string> told;  // a fault that stands on several pages is told once
+  const auto look = [&] {
+    ++pagesRead_;
+    pages.push_back(ReadPage(*frmPR));
+    for (const std::string& fault : LayoutFaults(*frmPR)) {
+      if (std::ranges::find(told, fault) != told.end()) continue;
+      told.push_back(fault);
+      complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
+    }
+  };
+  try {
+    reader_.Read(lesson_, entry, seed, look);
+  } catch (const StoppedRun& stopped) {
+    complain(NameOf(entry) + ", page " + std::to_string(pages.size() + 1) +
+             " stops the program: " + stopped.what());
+  }
+  return pages;
+}
+
+void PageChecker::CheckTeaching(const Complain& complain) {
+  if (Read(mode::Lesson, 0, complain).empty()) complain("teaching: there is no page");
+}
+
+void PageChecker::CheckQuestion(const PageText& page, const Complain& complain) {
+  const std::string whole = WithoutBlanks(page.Whole());
+  const std::vector<std::string> numbers = NumbersIn(page.Whole());
+  for (const std::string& line : drawn_.problem.question) {
+    if (whole.find(WithoutBlanks(Comparable(line))) != std::string::npos) continue;
+    std::string missing;
+    if (IsBuiltUp(line) && ShowsNumbers(numbers, line, missing)) continue;
+    complain("problem: the page does not show " + Quoted(line));
+  }
+  const int count = course::ChoiceCountOf(drawn_.problem.kind);
+  if (page.answers.size() != static_cast<std::size_t>(count)) {
+    complain("problem: the page shows " + std::to_string(page.answers.size()) + " boxes");
+    return;
+  }
+  for (int box = 1; box <= count; ++box) {
+    const auto place = static_cast<std::size_t>(box);
+    const std::string text = Comparable(ChoiceText(drawn_.problem, drawn_.order.at(place)));
+    std::string missing;
+    if (page.answers[place - 1] == text) continue;
+    if (IsBuiltUp(text) && ShowsNumbers(NumbersIn(page.answers[place - 1]), text, missing))
+      continue;
+    complain("problem: box " + std::to_string(box) + " shows " + Quoted(page.answers[place - 1]) +
+             " for " + Quoted(text));
+  }
+}
+
+void PageChecker::CheckEnd(const std::vector<PageText>& pages, const Complain& complain) {
+  const std::string missing = MissingAtEnd(pages, drawn_.problem);
+  if (!missing.empty()) complain("explanation: " + missing);
+}
+
+void PageChecker::CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain) {
+  std::vector<std::string> numbers;
+  for (const PageText& page : pages) {
+    const std::vector<std::string> more = NumbersIn(page.Whole());
+    numbers.insert(numbers.end(), more.begin(), more.end());
+  }
+  for (const std::string& line : drawn_.problem.question) {
+    std::string missing;
+    if (!ShowsNumbers(numbers, line, missing))
+      complain("explanation: the question's number " + missing + " does not occur");
+  }
+}
+
+void PageChecker::CheckReview(int entry, int seed, const PageText& practice,
+                              const Complain& complain) {
+  const std::vector<PageText> review = Read(entry, seed, complain);
+  if (review.empty() || WithoutBanner(review[0]).lines != WithoutBanner(practice).lines ||
+      review[0].answers != practice.answers)
+    complain(NameOf(entry) + ": it is not the page of the practice problem");
+}
+
+void PageChecker::CheckProblem(int seed, const Complain& complain) {
+  drawn_ = lesson_.Draw(seed);
+  const std::vector<PageText> problem = Read(mode::SameProblem, seed, complain);
+  if (problem.empty()) return complain("problem: there is no page");
+  CheckQuestion(problem[0], complain);
+  const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
+  CheckEnd(explanation, complain);
+  CheckSameProblem(explanation, complain);
+  // The other ways lead through the same routines; each seed walks one of them.
+  constexpr int kOtherWays[] = {mode::Example, mode::LessonTestReview, mode::LessonTestExplanation,
+                                mode::UnitTestReview, mode::UnitTestExplanation};
+  const int way = kOtherWays[seed % std::size(kOtherWays)];
+  if (way == mode::LessonTestReview || way == mode::UnitTestReview)
+    CheckReview(way, seed, problem[0], complain);
+  else
+    CheckEnd(Read(way, seed, complain), complain);
+}
+
+}  // namespace lesson_check

@@ -1,0 +1,46 @@
+// Checks the pages of one problem: question and boxes, worked explanation and example as the
+// student sees them.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "engine/lesson_script.h"
+#include "lesson_check/pages/page_reader.h"
+#include "lesson_check/pages/page_text.h"
+
+namespace lesson_check {
+
+using Complain = std::function<void(const std::string& fault)>;
+
+class PageChecker {
+ public:
+  explicit PageChecker(course::LessonScript& lesson) : lesson_(lesson) {}
+
+  // The teaching screens, once a lesson.
+  void CheckTeaching(const Complain& complain);
+  // Problem and explanation, and one more of the ways in which a student meets the same problem:
+  // the seed tells which.
+  void CheckProblem(int seed, const Complain& complain);
+
+  long PagesRead() const { return pagesRead_; }
+
+ private:
+  std::vector<PageText> Read(int entry, int seed, const Complain& complain);
+  void CheckQuestion(const PageText& page, const Complain& complain);
+  void CheckEnd(const std::vector<PageText>& pages, const Complain& complain);
+  void CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain);
+  void CheckReview(int entry, int seed, const PageText& practice, const Complain& complain);
+
+  course::LessonScript& lesson_;
+  course::LessonScript::DrawnProblem drawn_;
+  PageReader reader_;
+  long pagesRead_ = 0;
+};
+
+// Whether the last pages end at the right choice's text.  "" when they do, what is missing when
+// not.
+std::string MissingAtEnd(const std::vector<PageText>& pages, const course::Problem& problem);
+
+}  // namespace lesson_check

@@ -1,0 +1,200 @@
+#include "lesson_check/pages/page_layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <map>
+
+#include "engine/answers.h"
+#include "lesson_check/pages/glyph_boxes.h"
+#include "mathkit/tutor_codes.h"
+
+namespace lesson_check {
+namespace {
+
+using course::Fragment;
+using course::LessonWindow;
+using course::TextPanel;
+
+constexpr double kFirstRow = 2;
+constexpr double kLastRow = 23;
+constexpr double kLastColumn = 40;
+constexpr double kTolerance = 0.26;  // of a cell: what shifts in the print of signs may take
+
+std::string Place(double row, double col) {
+  char text[60];
+  std::snprintf(text, sizeof text, " at row %.1f, column %.1f", row, col);
+  return text;
+}
+
+std::string Quoted(const std::string& text) {
+  return "\"" + course::ToUtf8(text) + "\"";
+}
+
+bool IsBlank(const std::string& text) {
+  return std::ranges::all_of(text, [](char c) { return c == ' ' || c == course::tutor::Gap[0]; });
+}
+
+// --- Boxes over the lesson -----------------------------------------------------------------------
+
+struct ShownBox {
+  std::string name;
+  platform::PictureBox* box;
+  const TextPanel* text;  // nullptr for a figure
+};
+
+std::vector<ShownBox> ShownBoxes(LessonWindow& window) {
+  std::vector<ShownBox> boxes;
+  const auto add = [&](platform::PictureBox& box, const TextPanel* text) {
+    if (box.Visible()) boxes.push_back({box.Name(), &box, text});
+  };
+  add(window.picWiperBox, &window.wiperText);
+  add(window.picWiperBox2, &window.wiperText2);
+  add(window.picPrintCellBox, nullptr);
+  for (int i = 1; i <= 5; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    add(window.picCommentBox[i], window.commentText[place].get());
+    add(window.picGalleryImage[i], nullptr);
+    add(window.picGraph2D[i], nullptr);
+    add(window.picAnswer[i], window.answerText[place].get());
+  }
+  return boxes;
+}
+
+// The box's place in pixels of another control's surface.
+InkBox Outline(const platform::Control& box, const platform::Control& on) {
+  const double left = double(box.Left() - on.Left()) / platform::TwipsPerPixelX;
+  const double top = double(box.Top() - on.Top()) / platform::TwipsPerPixelY;
+  return {left, top, left + double(box.Width()) / platform::TwipsPerPixelX,
+          top + double(box.Height()) / platform::TwipsPerPixelY};
+}
+
+void FindTextUnder(const TextPanel& panel, const ShownBox& box, std::vector<std::string>& faults) {
+  const InkBox outline = Outline(*box.box, panel.surface);
+  std::string hidden;
+  for (const Glyph& glyph : StandingGlyphs(panel))
+    if (Overlap(glyph.ink, outline)) hidden += glyph.character;
+  if (!hidden.empty()) faults.push_back("text under " + box.name + ": " + Quoted(hidden));
+}
+
+void FindBoxesOutside(LessonWindow& window, const std::vector<ShownBox>& boxes,
+                      std::vector<std::string>& faults) {
+  for (const ShownBox& box : boxes) {
+    const InkBox outline = Outline(*box.box, window.pnlLesson);
+    if (outline.left < -1 || outline.top < -1 ||
+        outline.right > window.pnlLesson.PixelWidth() + 1 ||
+        outline.bottom > window.pnlLesson.PixelHeight() + 1)
+      faults.push_back(box.name + " reaches out of the lesson panel");
+  }
+}
+
+// Boxes of the same kind never lie over each other.
+void FindAnswersOverEachOther(const std::vector<ShownBox>& boxes,
+                              std::vector<std::string>& faults) {
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    for (std::size_t j = i + 1; j < boxes.size(); ++j) {
+      const bool answer = boxes[j].name.starts_with("picAnswer");
+      const InkBox own{0, 0, double(boxes[j].box->PixelWidth()),
+                       double(boxes[j].box->PixelHeight())};
+      if (answer && Overlap(Outline(*boxes[i].box, *boxes[j].box), own))
+        faults.push_back(boxes[i].name + " and " + boxes[j].name + " lie over each other");
+    }
+  }
+}
+
+// --- Texts inside their panels -------------------------------------------------------------------
+
+void FindOutsideGrid(const TextPanel& panel, std::vector<std::string>& faults) {
+  for (const Fragment& fragment : panel.Transcript()) {
+    if (IsBlank(fragment.text)) continue;
+    const double end = fragment.col + static_cast<double>(fragment.text.size()) - 1;
+    if (fragment.row < kFirstRow - kTolerance || fragment.row > kLastRow + kTolerance ||
+        fragment.col < 1 - kTolerance || end > kLastColumn + kTolerance)
+      faults.push_back("text outside the grid: " + Quoted(fragment.text) +
+                       Place(fragment.row, fragment.col));
+  }
+}
+
+void FindOutsideBox(const ShownBox& box, std::vector<std::string>& faults) {
+  for (const Fragment& fragment : box.text->Transcript()) {
+    for (const Glyph& glyph : GlyphsOf(*box.text, fragment)) {
+      if (glyph.blank) continue;
+      if (glyph.ink.left >= 0 && glyph.ink.top >= 0 && glyph.ink.right <= box.box->PixelWidth() &&
+          glyph.ink.bottom <= box.box->PixelHeight())
+        continue;
+      faults.push_back("text outside " + box.name + ": " + Quoted(fragment.text) +
+                       Place(fragment.row, fragment.col));
+      break;
+    }
+  }
+}
+
+// A face with widths of its own is measured, since its letters keep to no cells.
+double PixelsOf(platform::PictureBox& box, const std::string& text) {
+  const course::AnswerParameters& p = course::answerParameters;
+  const bool none = box.Name() == "picAnswer(5)" && text == course::kNoneOfTheAbove;
+  const std::string face = box.FontName;
+  const double size = box.FontSize;
+  box.FontName = none ? "Times New Roman" : p.fontName;
+  box.FontSize = none ? (p.lastBoxFontSize != 0 ? p.lastBoxFontSize : 18) : p.fontSize;
+  const double width = box.TextWidth(text);
+  box.FontName = face;
+  box.FontSize = size;
+  return width;
+}
+
+void FindOutsideAnswer(const ShownBox& box, std::vector<std::string>& faults) {
+  const bool printFont = course::answerParameters.fontName == "Courier New";
+  const auto& transcript = box.text->Transcript();
+  const bool none = transcript.size() == 1 && transcript[0].text == course::kNoneOfTheAbove;
+  if (printFont && !none) return FindOutsideBox(box, faults);
+  for (const Fragment& fragment : transcript) {
+    const double right = box.text->CellX(fragment.col) + PixelsOf(*box.box, fragment.text);
+    if (right > box.box->PixelWidth())
+      faults.push_back("text outside " + box.name + ": " + Quoted(fragment.text));
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> Overprints(const TextPanel& panel) {
+  std::vector<std::string> faults;
+  const std::vector<Glyph> standing = StandingGlyphs(panel);
+  // Only glyphs of near rows can meet.
+  std::map<long, std::vector<const Glyph*>> rows;
+  for (const Glyph& glyph : standing) {
+    const long row = std::lround(glyph.row);
+    for (long near = row - 2; near <= row + 2; ++near) {
+      const auto found = rows.find(near);
+      if (found == rows.end()) continue;
+      for (const Glyph* earlier : found->second) {
+        if (!Overlap(earlier->ink, glyph.ink)) continue;
+        faults.push_back("\"" + course::ToUtf8(std::string(1, glyph.character)) + "\" over \"" +
+                         course::ToUtf8(std::string(1, earlier->character)) + "\"" +
+                         Place(glyph.row, glyph.col));
+      }
+    }
+    rows[row].push_back(&glyph);
+  }
+  return faults;
+}
+
+std::vector<std::string> LayoutFaults(LessonWindow& window) {
+  std::vector<std::string> faults = Overprints(window.lessonText);
+  const std::vector<ShownBox> boxes = ShownBoxes(window);
+  FindOutsideGrid(window.lessonText, faults);
+  FindBoxesOutside(window, boxes, faults);
+  FindAnswersOverEachOther(boxes, faults);
+  for (const ShownBox& box : boxes) {
+    FindTextUnder(window.lessonText, box, faults);
+    if (box.text == nullptr) continue;
+    for (std::string& fault : Overprints(*box.text)) faults.push_back(box.name + ": " + fault);
+    if (box.name.starts_with("picAnswer"))
+      FindOutsideAnswer(box, faults);
+    else
+      FindOutsideBox(box, faults);
+  }
+  return faults;
+}
+
+}  // namespace lesson_check

@@ -1,0 +1,19 @@
+// Faults of a page that an eye would see: text outside the grid or its box, over another text, or
+// under a box.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "display/lesson_window.h"
+
+namespace lesson_check {
+
+// One complaint a fault of the page that the window shows now.
+std::vector<std::string> LayoutFaults(course::LessonWindow& window);
+
+// Texts of one panel that lie over each other.  A later text may repeat an earlier one in place, in
+// another colour, and blanks erase where the panel erases at all.
+std::vector<std::string> Overprints(const course::TextPanel& panel);
+
+}  // namespace lesson_check

@@ -1,0 +1,30 @@
+// A user who turns the pages of one run after another, looks at each, and answers nothing.
+//
+// Installed as long as it lives; the lesson window stands meanwhile.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "engine/lesson_script.h"
+#include "lesson_check/pages/stop_catcher.h"
+
+namespace lesson_check {
+
+class PageReader : public StopCatcher {
+ public:
+  PageReader();
+  ~PageReader() override;
+
+  // Runs the lesson in a mode, see WantEntry, and calls look at each of its pages.  Throws
+  // StoppedRun.
+  void Read(course::LessonScript& lesson, int entry, int seed, std::function<void()> look);
+
+  void AtWait(const std::string& place) override;
+  platform::Answer AtMessage(const platform::Message& message) override;
+
+ private:
+  std::function<void()> look_;
+};
+
+}  // namespace lesson_check

@@ -1,0 +1,36 @@
+// What stands on a page, as texts that can be compared letter for letter.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "display/lesson_window.h"
+
+namespace lesson_check {
+
+struct PageText {
+  std::vector<course::Fragment> lesson;  // of the lesson panel, then of the boxes that are shown
+  std::vector<std::string> lines;        // of all panels but the answers
+  std::vector<std::string> answers;      // one a visible answer box
+
+  // All lines as one text, single blanks between words.
+  std::string Whole() const;
+};
+
+PageText ReadPage(const course::LessonWindow& window);
+
+// The lines of what a page shows and the page before did not.
+PageText NewOn(const PageText& page, const PageText& before);
+
+// A text in the form in which texts are compared: exponents between carets, gaps as blanks, never
+// two blanks in a row.
+std::string Comparable(const std::string& text);
+
+// Whether the part stands in the whole as words of its own: "5" does not stand in "15", "-5" or
+// "5/2".  Both are Comparable.
+bool ContainsAsWords(const std::string& whole, const std::string& part);
+
+// The numbers of a text, in its order.
+std::vector<std::string> NumbersIn(const std::string& text);
+
+}  // namespace lesson_check

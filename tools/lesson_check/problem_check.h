@@ -1,0 +1,33 @@
+// Checks one drawn problem without a window: its form, its choices as texts and as values, the
+// right answer by the lesson's judge, and what the mistakes' names promise.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "engine/lesson_script.h"
+#include "lesson_check/judge.h"
+
+namespace lesson_check {
+
+// The mistake of a choice at random: nothing can be derived from it.
+inline constexpr const char* kFiller = "filler";
+
+// How often choices of a mistake were met.
+struct MistakeCount {
+  long met = 0;
+  long derived = 0;  // the judge worked out the same value
+};
+using MistakeCounts = std::map<std::string, MistakeCount>;
+
+// Calls complain for each fault.  A judge of nullptr is a fault.
+void CheckProblem(Judge judge, const course::LessonScript::DrawnProblem& drawn,
+                  const std::function<void(const std::string& fault)>& complain,
+                  MistakeCounts& mistakes);
+
+// Everything that a student can see or learn of the problem, as one text: two problems are the same
+// when these are.
+std::string FingerprintText(const course::LessonScript::DrawnProblem& drawn);
+
+}  // namespace lesson_check
