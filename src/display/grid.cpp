@@ -151,11 +151,13 @@ void ResetScreen() {
   for (int i = 1; i <= 5; ++i) {
     window.picGraph2D[i].SetVisible(false);
     window.picCommentBox[i].SetVisible(false);
+    window.picNotes[i].SetVisible(false);
     window.picGalleryImage[i].SetVisible(false);
     window.answerText[i]->RestoreFont();
   }
   HideNavigationButtons();
   window.picPrintCellBox.SetVisible(false);
+  window.picRules1.SetVisible(false);
 }
 
 }  // namespace course

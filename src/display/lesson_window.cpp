@@ -86,14 +86,21 @@ LessonWindow::LessonWindow()
       picScreenBox(form, "picScreenBox"),
       fraAnimSpeed(form, "fraAnimSpeed", "Animation"),
       cmdShowRulesandReminders(form, "cmdShowRulesandReminders"),
+      cmdShowRulesAndHints(form, "cmdShowRulesAndHints", "    Show         Hints"),
+      picRules1(form, "picRules1"),
+      lblRules1(picRules1, "lblRules1"),
+      lstRules1(picRules1, "lstRules1"),
+      cmdHidden(picRules1, "cmdHidden"),
       lblScreenNumber(form, "lblScreenNumber"),
       lblPracticeResults(form, "lblPracticeResults"),
       lblTestProbNo1(form, "lblTestProbNo1"),
       lblTestProbNo2(form, "lblTestProbNo2"),
       lblStudent(form, "lblStudent") {
   PlacePanels();
+  PlaceBoxes();
   PlaceAnswers();
   PlaceNavigation();
+  PlaceRules();
   PlaceStatus();
   MakeMenus();
 }
@@ -116,17 +123,26 @@ void LessonWindow::PlacePanels() {
   picTextWidth.FontName = "Times New Roman";
   picTextWidth.FontSize = 18;
   picTextWidth.FontBold = true;
+}
+
+// Each kind lies over the ones made before it: comments over figures, notes over comments.
+void LessonWindow::PlaceBoxes() {
   picPrintCellBox.SetVisible(false);
-  picCommentBox.Make("picCommentBox", form);
-  picGalleryImage.Make("picGalleryImage", form);
+  picPrintCell.Make("picPrintCell", picPrintCellBox);
+  lblPrintCell.Make("lblPrintCell", picPrintCellBox);
   picGraph2D.Make("picGraph2D", form);
+  picGalleryImage.Make("picGalleryImage", form);
+  picCommentBox.Make("picCommentBox", form);
+  picNotes.Make("picNotes", form);
   for (int i = 1; i <= 5; ++i) {
-    picCommentBox[i].SetVisible(false);
-    picGalleryImage[i].SetVisible(false);
     picGraph2D[i].SetVisible(false);
     picGraph2D[i].SetAccessibleName("Figure " + std::to_string(i));
+    picGalleryImage[i].SetVisible(false);
+    picCommentBox[i].SetVisible(false);
     commentText[static_cast<std::size_t>(i)] =
         std::make_unique<TextPanel>(picCommentBox[i], kCommentLayout);
+    picNotes[i].SetVisible(false);
+    lblNotes.MakeOne(i, "lblNotes", picNotes[i]);
   }
 }
 
@@ -190,7 +206,6 @@ void LessonWindow::PlaceNavigation() {
 
 void LessonWindow::PlaceStatus() {
   MovePixels(lblScreenNumber, 774, 8, 112, 100);
-  MovePixels(cmdShowRulesandReminders, 774, 252, 112, 60);
   MovePixels(lblPracticeResults, 100, 604, 470, 44);
   MovePixels(lblTestProbNo1, 8, 476, 78, 44);
   MovePixels(lblTestProbNo2, 8, 522, 78, 36);
@@ -204,7 +219,19 @@ void LessonWindow::PlaceStatus() {
   for (platform::Label* label : {&lblScreenNumber, &lblTestProbNo1, &lblTestProbNo2})
     label->SetAlignment(platform::Label::Align::Centre);
   SetType(lblTestProbNo2, 18, true);
+}
+
+void LessonWindow::PlaceRules() {
+  MovePixels(cmdShowRulesandReminders, 774, 252, 112, 60);
+  MovePixels(cmdShowRulesAndHints, 774, 520, 112, 60);
+  MovePixels(picRules1, 420, 40, 340, 240);
+  MovePixels(lblRules1, 10, 8, 320, 24);
+  MovePixels(lstRules1, 10, 36, 320, 194);
+  cmdHidden.Move(0, 0, 0, 0);
+  SetType(lblRules1, 11, true);
   cmdShowRulesandReminders.SetVisible(false);
+  cmdShowRulesAndHints.SetVisible(false);
+  picRules1.SetVisible(false);
 }
 
 void LessonWindow::MakeMenus() {

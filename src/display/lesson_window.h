@@ -56,10 +56,16 @@ class LessonWindow {
   platform::PictureBox picWiperBox;
   platform::PictureBox picWiperBox2;
   platform::PictureBox picTextWidth;     // hidden: measures headings
-  platform::PictureBox picPrintCellBox;  // print cell table
-  ControlArray<platform::PictureBox, 1, 5> picCommentBox;
-  ControlArray<platform::PictureBox, 1, 5> picGalleryImage;
+  platform::PictureBox picPrintCellBox;  // print cell table, with cells and labels on it
+  ControlArray<platform::PictureBox, 1, 12> picPrintCell;
+  ControlArray<platform::Label, 1, 6> lblPrintCell;
   ControlArray<platform::PictureBox, 1, 5> picGraph2D;
+  ControlArray<platform::PictureBox, 1, 5> picGalleryImage;
+  ControlArray<platform::PictureBox, 1, 5> picCommentBox;
+  // A note is a label in a picture box of its size, which keeps it from flashing while the panel
+  // moves below.
+  ControlArray<platform::PictureBox, 1, 5> picNotes;
+  ControlArray<platform::Label, 1, 5> lblNotes;
   ControlArray<platform::PictureBox, 1, 5> picAnswer;
 
   // Text on them.
@@ -81,7 +87,14 @@ class LessonWindow {
   ControlArray<platform::PictureBox, 1, 9> picScreenNum;
   platform::Frame fraAnimSpeed;
   ControlArray<platform::OptionButton, 1, 3> optAnimSpeed;
+
+  // Rules and hints.
   platform::Button cmdShowRulesandReminders;
+  platform::Button cmdShowRulesAndHints;
+  platform::PictureBox picRules1;  // a list of rules that a script may fill and show
+  platform::Label lblRules1;
+  platform::ListBox lstRules1;
+  platform::Button cmdHidden;  // where the keyboard goes when it comes to the list
 
   // Status.
   platform::Label lblScreenNumber;
@@ -100,13 +113,22 @@ class LessonWindow {
 
   int ready = 0;  // flag: the window is shown
 
+  // The lesson panel as it was under the last transparent image; empty before the first one.
+  struct PanelCopy {
+    platform::Surface picture;
+    std::vector<Fragment> transcript;
+  };
+  std::unique_ptr<PanelCopy> pnlLessonCopy;
+
   // Gives tab 1 to 4 its selected or its plain look.
   void ShowTab(int index, bool selected);
 
  private:
   void PlacePanels();
   void PlaceAnswers();
+  void PlaceBoxes();
   void PlaceNavigation();
+  void PlaceRules();
   void PlaceStatus();
   void MakeMenus();
 };

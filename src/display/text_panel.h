@@ -7,6 +7,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/picture_box.h"
@@ -32,7 +33,8 @@ class TextPanel {
     int leftMargin = 0;   // pixel X of column 1
     int topMargin = 0;    // pixel Y of firstRow
     int firstRow = 1;
-    double fontSize = 20;  // points, "Courier New" bold
+    double fontSize = 20;   // points, "Courier New" bold
+    int exponentSize = 14;  // points, of the exponents in a wrapped text
     CharacterSet characters = CharacterSet::LessonWindow;
     platform::Colour restoredColour = 0;  // text colour that RestoreFont gives
   };
@@ -84,6 +86,7 @@ class TextPanel {
 
   const std::vector<Fragment>& Transcript() const { return transcript_; }
   void ClearTranscript() { transcript_.clear(); }
+  void SetTranscript(std::vector<Fragment> fragments) { transcript_ = std::move(fragments); }
 
  private:
   platform::PixelPoint CentreOf(const Fragment& fragment, std::size_t i) const;

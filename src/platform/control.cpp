@@ -17,8 +17,8 @@ std::string FromText(const QString& text) {
   return text.toLatin1().toStdString();
 }
 
-QFont ToFont(const std::string& face, double points, bool bold) {
-  return FindTypeface(face, points, bold, false).font;
+QFont ToFont(const std::string& face, double points, bool bold, bool italic) {
+  return FindTypeface(face, points, bold, italic).font;
 }
 
 Control::Control(Control* parent, std::string name) : impl_(std::make_unique<Impl>()) {
@@ -129,8 +129,8 @@ void Control::SetToolTip(const std::string& text) {
   impl_->widget->setToolTip(ToText(text));
 }
 
-void Control::SetFont(const std::string& face, double points, bool bold) {
-  impl_->widget->setFont(ToFont(face, points, bold));
+void Control::SetFont(const std::string& face, double points, bool bold, bool italic) {
+  impl_->widget->setFont(ToFont(face, points, bold, italic));
 }
 
 void Control::SetColours(Colour fore, Colour back) {

@@ -37,6 +37,12 @@ void Label::CentreVertically() {
   label.setAlignment((label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
 }
 
+void Label::SizeToCaption() {
+  const QSize size =
+      QFontMetrics(WidgetOf<QLabel>(*this).font()).size(0, WidgetOf<QLabel>(*this).text());
+  Move(Left(), Top(), size.width() * TwipsPerPixelX, size.height() * TwipsPerPixelY);
+}
+
 Button::Button(Control& parent, std::string name, const std::string& caption)
     : Control(&parent, std::move(name)) {
   FaceButton& button = PutOn(parent, *this, new FaceButton);

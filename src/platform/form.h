@@ -49,7 +49,7 @@ class Control {
   std::string AccessibleText() const;
   void SetToolTip(const std::string& text);
   // The face in points, "MS Sans Serif" 10 when not set.
-  void SetFont(const std::string& face, double points, bool bold = false);
+  void SetFont(const std::string& face, double points, bool bold = false, bool italic = false);
   void SetColours(Colour fore, Colour back);
 
   // What a click by the person does.  It is called between two looks into the event queue and never
@@ -88,6 +88,8 @@ class Label final : public Control {
   void SetAlignment(Align align);
   // The text stands in the middle of the label's height; without it at the top.
   void CentreVertically();
+  // Gives the label the size of its caption, whose lines are not wrapped.
+  void SizeToCaption();
 };
 
 class Button final : public Control {
@@ -136,6 +138,8 @@ class ListBox final : public Control {
   // Twips that a text takes in the list's type.
   int TextWidth(const std::string& text) const;
   std::function<void()> OnDblClick;
+  // The keyboard has come to the list.
+  std::function<void()> OnGotFocus;
   // As the person would; false as Click.
   bool DblClick();
 

@@ -15,7 +15,14 @@ constexpr int kFullText = Qt::UserRole;
 // The toolkit puts its mark for the keyboard on the first row of a list with the focus, selected or
 // not.  Where nothing is selected an arrow key selects that row and does not step past it.
 class Rows final : public QListWidget {
+ public:
+  explicit Rows(ListBox& box) : box_(box) {}
+
  protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QListWidget::focusInEvent(event);
+    CallLater(box_.impl().life, [&box = box_] { CallHandler(box.OnGotFocus); });
+  }
   void keyPressEvent(QKeyEvent* event) override {
     const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (arrow && count() > 0 && selectedItems().isEmpty())
@@ -23,6 +30,9 @@ class Rows final : public QListWidget {
     else
       QListWidget::keyPressEvent(event);
   }
+
+ private:
+  ListBox& box_;
 };
 
 QListWidget& ListOf(const ListBox& box) {
@@ -44,7 +54,7 @@ void SelectQuietly(QListWidget& list, int row) {
 }  // namespace
 
 ListBox::ListBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
-  QListWidget& list = PutOn(parent, *this, new Rows);
+  QListWidget& list = PutOn(parent, *this, new Rows(*this));
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list.setTextElideMode(Qt::ElideNone);
   list.setUniformItemSizes(true);

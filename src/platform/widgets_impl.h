@@ -18,7 +18,7 @@ namespace platform {
 // '\r', "\r\n" and '\n' break the line.
 QString ToText(const std::string& text);
 std::string FromText(const QString& text);
-QFont ToFont(const std::string& face, double points, bool bold);
+QFont ToFont(const std::string& face, double points, bool bold, bool italic = false);
 
 inline QColor ToQColor(Colour colour) {
   return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
@@ -56,7 +56,7 @@ struct Form::FormImpl {
   std::vector<MenuItem*> items;
   Button* neutral = nullptr;
   Button* standard = nullptr;
-  QPointer<QWidget> focusBefore;  // what had the focus when the form was disabled
+  QPointer<QWidget> focusBefore;       // what had the focus when the form was disabled
   const Control* neighbour = nullptr;  // the form stands beside it, not in the middle
   bool shown = false;
 };
