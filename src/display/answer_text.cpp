@@ -45,14 +45,14 @@ Cell CursorCell(int box) {
 void PrintStacked(int box, const std::string& num, const std::string& den, int minWidth,
                   double barShift, double tighten) {
   const Cell at = CursorCell(box);
-  const int numLength = static_cast<int>(StripCarets(num).size());
-  const int denLength = static_cast<int>(StripCarets(den).size());
+  const int numLength = FractionPartLength(num);
+  const int denLength = FractionPartLength(den);
   const int width = std::max({numLength, denLength, minWidth});
   picAnswerDrawBar(box, at.row + kBarDrop + barShift, at.col, at.col + width - 1, kBarThickness);
   picAnswerLocate(box, at.row - 1 + tighten, at.col + (width - numLength) / 2.0);
-  picAnswerPrintExponentExpression(box, num);
+  picAnswerPrintRadicalText(box, num);
   picAnswerLocate(box, at.row + 1 - tighten, at.col + (width - denLength) / 2.0);
-  picAnswerPrintExponentExpression(box, den);
+  picAnswerPrintRadicalText(box, den);
   picAnswerLocate(box, at.row, at.col + width);
 }
 

@@ -22,6 +22,7 @@ void picAnswerisPrints(int box, const std::string& s);
 // Knows only "^"; the cursor stays behind the text.
 void picAnswerPrintExponentExpression(int box, const std::string& s, int size = 14);
 
+// The parts may hold radicals, as for picAnswerPrintRadicalText.
 void picAnswerPrintFraction(int box, const std::string& num, const std::string& den,
                             int minWidth = 0, double barShift = 0, double tighten = 0);
 // "a/b", cut at the first "/"; an empty side ends the program.

@@ -119,6 +119,22 @@ void isPrintRadicalFraction(const std::string& num, const std::string& den, int 
                num, den, minWidth);
 }
 
+void isPrintColouredFraction(const std::string& num, const std::string& den, int minWidth) {
+  PrintStacked({.length = FractionPartLength,
+                .printPart = [](const std::string& s) { isPrintRadicalText(s); },
+                .clearedRows = 0,
+                .clearedCells = 1,
+                .barShift = 0,
+                .tighten = 0},
+               num, den, minWidth);
+}
+
+int FractionPartLength(const std::string& part) {
+  constexpr int kColourCodeLength = 2;  // the backslash and a letter
+  const auto colours = static_cast<int>(std::count(part.begin(), part.end(), '\\'));
+  return LengthWithRadicals(part) - kColourCodeLength * colours;
+}
+
 void isPrintFractionValue(int num, int den, int minWidth, double barShift) {
   PrintValue(PartsOf(num, den), -0.1, 0, minWidth, barShift, 0);
 }

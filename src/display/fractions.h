@@ -12,6 +12,12 @@ void isPrintFraction(const std::string& num, const std::string& den, int minWidt
                      double barShift = 0, double tighten = 0);
 // With marked exponents in the parts, and no clearing of the rows.
 void isPrintFractionExp(const std::string& num, const std::string& den, int minWidth = 0);
+// With radicals and colours in the parts, whose codes take no cell here, and no clearing of the
+// rows but of the blank at the cursor.
+void isPrintColouredFraction(const std::string& num, const std::string& den, int minWidth = 0);
+// Cells of such a part: exponent and colour codes take none, a radicand's two backquotes one, the
+// sign.
+int FractionPartLength(const std::string& part);
 // A reduced signed value, as a whole number or a fraction (improper ones stay so); 0 prints "0".
 void isPrintFractionValue(int num, int den, int minWidth = 0, double barShift = 0);
 // The same with the minus of a fraction 0.1 column to the left; reduces its arguments in place.

@@ -91,7 +91,11 @@ void DrawLetter(int box) {
 
 void PrintChoice(int box, const std::string& text) {
   picAnswerLocatePixels(box, kTextTop, kTextLeft);
-  picAnswerPrintExponentExpression(box, ExponentCharsToCarets(text));
+  const std::string marked = ExponentCharsToCarets(text);
+  if (answerParameters.printChoice != nullptr)
+    answerParameters.printChoice(box, marked);
+  else
+    picAnswerPrintExponentExpression(box, marked);
 }
 
 bool IsBlank(const std::string& text) {

@@ -9,7 +9,7 @@
 
 namespace course {
 
-// The layout record of a problem page.  Header clears the last three fields.
+// The layout record of a problem page.  Header clears the last four fields.
 struct AnswerParameters {
   int layout = 0;        // 1 to 4
   double answerRow = 0;  // grid row of the first box
@@ -25,6 +25,9 @@ struct AnswerParameters {
   int parametersSet = 0;       // flag
   int lastBoxFontSize = 0;     // points; 0 leaves it as it is
   std::string customLastText;  // blank: "None of the above"
+  // Prints a choice at the cursor of its box: fractions as built-up ones, for example.  Null prints
+  // one line with raised exponents.
+  void (*printChoice)(int box, const std::string& text) = nullptr;
 };
 extern AnswerParameters answerParameters;
 

@@ -33,6 +33,7 @@ void ForgetAnswerParameters() {
   answerParameters.parametersSet = 0;
   answerParameters.lastBoxFontSize = 0;
   answerParameters.customLastText.clear();
+  answerParameters.printChoice = nullptr;
 }
 
 void ShowScreenNumber() {

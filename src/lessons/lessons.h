@@ -11,4 +11,7 @@ namespace course {
 // Unit 10, "Inequalities".
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
 
+// Outside the units.
+std::unique_ptr<LessonScript> MakeAddingFractions();
+
 }  // namespace course
