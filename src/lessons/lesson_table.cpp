@@ -17,6 +17,7 @@ struct LessonRow {
 // In the order of the course; those that only the diagnostic test reaches come last.
 constexpr auto kLessons = std::to_array<LessonRow>({
     {"Simple Inequalities", MakeSimpleInequalities},
+    {"Complex Inequalities", MakeComplexInequalities},
     {"Adding Fractions", MakeAddingFractions},
 });
 

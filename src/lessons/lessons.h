@@ -10,6 +10,7 @@ namespace course {
 
 // Unit 10, "Inequalities".
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
+std::unique_ptr<LessonScript> MakeComplexInequalities();
 
 // Outside the units.
 std::unique_ptr<LessonScript> MakeAddingFractions();

@@ -10,7 +10,6 @@
 namespace course {
 namespace {
 
-constexpr int kFigure = 1;       // picGraph2D in use
 constexpr double kColumns = 33;  // width of the figure
 constexpr double kRows = 2.9;
 constexpr double kTickStep = 2;
@@ -66,13 +65,13 @@ int WholeOf(double value) {
   return IntOf(value);
 }
 
-void DrawNumberLine(double row, double col) {
-  picGraph2DPrepare(kFigure, row, col, kColumns, kRows);
-  picGraph2DShowNumberLine(kFigure, "noarrows", kTickStep);
+void DrawNumberLine(double row, double col, int index) {
+  picGraph2DPrepare(index, row, col, kColumns, kRows);
+  picGraph2DShowNumberLine(index, "noarrows", kTickStep);
 }
 
-void DrawGraphOnLine(double start, double end) {
-  platform::PictureBox& box = frmPR->picGraph2D[kFigure];
+void DrawGraphOnLine(double start, double end, int index) {
+  platform::PictureBox& box = frmPR->picGraph2D[index];
   box.ScalePixels();
   box.ForeColor = platform::colour::Black;
   DrawPoint(box, start);
