@@ -15,7 +15,15 @@ struct JudgeRow {
 };
 
 constexpr auto kJudges = std::to_array<JudgeRow>({
+    {"Order of Operations", ReadOrderOfOperations},
+    {"Solving Linear Equations With 2 Operations", ReadLinearEquation},
+    {"Distance-Rate-Time Problems", ReadMotionProblem},
+    {"Multiplying with Exponents", ReadProductOfPowers},
+    {"Trinomials of the Form x\xB2+bx+c", ReadMonicTrinomial},
     {"Simple Inequalities", ReadIntervalFigure},
+    {"Complex Inequalities", ReadIntervalFigure},
+    {"Solving Inequalities", ReadLinearInequality},
+    {"Adding Fractions", ReadSumOfFractions},
     {"Blank Lesson", ReadArithmetic},
 });
 

@@ -40,29 +40,6 @@ bool Touches(const Interval& first, const Interval& second) {
   return first.highClosed || second.lowClosed;
 }
 
-NumberSet RayOf(char relation, const Rational& bound) {
-  switch (relation) {
-    case '=':
-      return NumberSet({bound, bound, true, true});
-    case '<':
-      return NumberSet({{}, bound, false, false});
-    case '>':
-      return NumberSet({bound, {}, false, false});
-    default:
-      if (relation == kAtMost) return NumberSet({{}, bound, false, true});
-      if (relation == kAtLeast) return NumberSet({bound, {}, true, false});
-      return RayOf('<', bound).Or(RayOf('>', bound));
-  }
-}
-
-char Reversed(char relation) {
-  if (relation == '<') return '>';
-  if (relation == '>') return '<';
-  if (relation == kAtMost) return kAtLeast;
-  if (relation == kAtLeast) return kAtMost;
-  return relation;
-}
-
 bool Holds(const Rational& number, char relation) {  // number, relation, 0
   const int sign = sgn(number);
   switch (relation) {
@@ -86,7 +63,7 @@ NumberSet SolutionOfPair(const std::string& left, char relation, const std::stri
   const Rational slope = difference.Coefficient(letter, 1).Number();
   const Rational constant = difference.Coefficient(letter, 0).Number();
   if (slope == 0) return Holds(constant, relation) ? NumberSet::Everything() : NumberSet();
-  return RayOf(slope < 0 ? Reversed(relation) : relation, -constant / slope);
+  return SetOf(slope < 0 ? ReversedRelation(relation) : relation, -constant / slope);
 }
 
 NumberSet SolutionOfChain(const std::string& text, char letter) {
@@ -117,6 +94,29 @@ NumberSet SolutionFor(const std::string& text, char letter) {
 }
 
 }  // namespace
+
+NumberSet SetOf(char relation, const Rational& bound) {
+  switch (relation) {
+    case '=':
+      return NumberSet({bound, bound, true, true});
+    case '<':
+      return NumberSet({{}, bound, false, false});
+    case '>':
+      return NumberSet({bound, {}, false, false});
+    default:
+      if (relation == kAtMost) return NumberSet({{}, bound, false, true});
+      if (relation == kAtLeast) return NumberSet({bound, {}, true, false});
+      return SetOf('<', bound).Or(SetOf('>', bound));
+  }
+}
+
+char ReversedRelation(char relation) {
+  if (relation == '<') return '>';
+  if (relation == '>') return '<';
+  if (relation == kAtMost) return kAtLeast;
+  if (relation == kAtLeast) return kAtMost;
+  return relation;
+}
 
 NumberSet::NumberSet(const Interval& interval) {
   if (!IsEmpty(interval)) intervals_ = {interval};

@@ -32,6 +32,11 @@ class NumberSet {
   std::vector<Interval> intervals_;  // ascending, apart from each other
 };
 
+// The numbers that stand in a relation, such as '<', to a bound: "x < 5".
+NumberSet SetOf(char relation, const Rational& bound);
+// '>' for '<', and so on: what dividing by a negative number makes of a relation.
+char ReversedRelation(char relation);
+
 // A statement cut at its relation signs: "-2 < x" has two sides, "-2 < x < 5" three.
 struct Statement {
   std::vector<std::string> sides;

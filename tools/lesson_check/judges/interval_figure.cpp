@@ -8,13 +8,15 @@
 namespace lesson_check {
 namespace {
 
-int WholeValue(const course::FigureItem& item, const std::string& name) {
+using course::FigureItem;
+
+int WholeValue(const FigureItem& item, const std::string& name) {
   for (const auto& [key, value] : item.values)
     if (key == name) return static_cast<int>(value);
   throw Unreadable("the " + item.shape + " of the figure has no value \"" + name + "\"");
 }
 
-NumberSet CoveredBy(const course::FigureItem& item) {
+NumberSet CoveredBy(const FigureItem& item) {
   const auto value = [&](const std::string& name) { return WholeValue(item, name); };
   if (item.shape == "ray") {
     const Rational from = value("from");
@@ -28,34 +30,90 @@ NumberSet CoveredBy(const course::FigureItem& item) {
   throw Unreadable("the figure has a \"" + item.shape + "\"");
 }
 
+// One arrow: a student can take it, its circle, or both, the wrong way.
+void AddMistakesAtRay(const FigureItem& ray, Reading& reading) {
+  const Rational from = WholeValue(ray, "from");
+  const auto read = [&](bool rightwards, bool closed) {
+    return rightwards ? NumberSet({from, {}, closed, false}).Text()
+                      : NumberSet({{}, from, false, closed}).Text();
+  };
+  const bool rightwards = WholeValue(ray, "direction") > 0;
+  const bool closed = WholeValue(ray, "closed") == 1;
+  reading.mistakes["reads the circle the wrong way"] = {read(rightwards, !closed)};
+  reading.mistakes["reads the arrow the wrong way"] = {read(!rightwards, closed)};
+  reading.mistakes["reads the arrow and the circle the wrong way"] = {read(!rightwards, !closed)};
+}
+
+// Two ends on the line: what lies between them, or outside of them.
+struct TwoEnds {
+  Rational low, high;
+  bool lowClosed = false;
+  bool highClosed = false;
+};
+
+NumberSet Between(const TwoEnds& ends) {
+  return NumberSet({ends.low, ends.high, ends.lowClosed, ends.highClosed});
+}
+NumberSet Outside(const TwoEnds& ends) {
+  return NumberSet({{}, ends.low, false, ends.lowClosed})
+      .Or(NumberSet({ends.high, {}, ends.highClosed, false}));
+}
+
+void AddMistakesAtTwoEnds(const TwoEnds& ends, bool between, Reading& reading) {
+  const auto read = between ? Between : Outside;
+  const auto misread = [&](bool low, bool high) {
+    TwoEnds wrong = ends;
+    if (low) wrong.lowClosed = !wrong.lowClosed;
+    if (high) wrong.highClosed = !wrong.highClosed;
+    return std::vector<std::string>{read(wrong).Text()};
+  };
+  reading.mistakes["reads both circles the wrong way"] = misread(true, true);
+  reading.mistakes["reads the left circle the wrong way"] = misread(true, false);
+  reading.mistakes["reads the right circle the wrong way"] = misread(false, true);
+  if (between) {
+    reading.mistakes["takes the numbers outside the ends"] = {Outside(ends).Text()};
+    // No number is below the lower end and above the higher one.
+    reading.mistakes["turns the symbols around"] = {NumberSet().Text()};
+  } else {
+    reading.mistakes["takes the numbers between the arrows"] = {Between(ends).Text()};
+    // Every number is above the lower end or below the higher one.
+    reading.mistakes["turns the symbols around"] = {NumberSet::Everything().Text()};
+  }
+}
+
+void AddMistakes(const std::vector<FigureItem>& figure, Reading& reading) {
+  const auto closed = [](const FigureItem& item, const char* name) {
+    return WholeValue(item, name) == 1;
+  };
+  if (figure.size() == 1 && figure[0].shape == "ray") {
+    AddMistakesAtRay(figure[0], reading);
+  } else if (figure.size() == 1) {
+    const FigureItem& segment = figure[0];
+    AddMistakesAtTwoEnds({WholeValue(segment, "from"), WholeValue(segment, "to"),
+                          closed(segment, "fromClosed"), closed(segment, "toClosed")},
+                         true, reading);
+  } else if (figure.size() == 2 && figure[0].shape == "ray" && figure[1].shape == "ray") {
+    const bool inOrder = WholeValue(figure[0], "from") < WholeValue(figure[1], "from");
+    const FigureItem& low = figure[inOrder ? 0 : 1];
+    const FigureItem& high = figure[inOrder ? 1 : 0];
+    if (WholeValue(low, "direction") > 0 || WholeValue(high, "direction") < 0)
+      throw Unreadable("the arrows of the figure run into each other");
+    AddMistakesAtTwoEnds({WholeValue(low, "from"), WholeValue(high, "from"), closed(low, "closed"),
+                          closed(high, "closed")},
+                         false, reading);
+  }
+}
+
 }  // namespace
 
 Reading ReadIntervalFigure(const course::Problem& problem) {
   if (problem.figure.empty()) throw Unreadable("there is no figure");
   NumberSet covered;
-  for (const course::FigureItem& item : problem.figure) covered = covered.Or(CoveredBy(item));
+  for (const FigureItem& item : problem.figure) covered = covered.Or(CoveredBy(item));
   Reading reading;
   reading.answer = covered.Text();
   reading.value = [](const std::string& choice) { return SolutionOf(choice).Text(); };
-  if (problem.figure.size() == 1 && problem.figure[0].shape == "ray") {
-    // One arrow: a student can take it, its circle, or both, the wrong way.
-    course::FigureItem ray = problem.figure[0];
-    const auto with = [&](const char* name, double value) {
-      course::FigureItem other = ray;
-      for (auto& [key, number] : other.values)
-        if (key == name) number = value;
-      return other;
-    };
-    const int direction = WholeValue(ray, "direction");
-    const int closed = WholeValue(ray, "closed");
-    course::FigureItem wrongCircle = with("closed", 1 - closed);
-    reading.mistakes["reads the circle the wrong way"] = {CoveredBy(wrongCircle).Text()};
-    reading.mistakes["reads the arrow the wrong way"] = {
-        CoveredBy(with("direction", -direction)).Text()};
-    ray = wrongCircle;
-    reading.mistakes["reads the arrow and the circle the wrong way"] = {
-        CoveredBy(with("direction", -direction)).Text()};
-  }
+  AddMistakes(problem.figure, reading);
   return reading;
 }
 

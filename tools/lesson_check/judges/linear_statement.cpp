@@ -1,0 +1,110 @@
+// Equations and inequalities a x + b = d x + c, and the numbers and statements offered for them.
+#include "lesson_check/exact/notation.h"
+#include "lesson_check/exact/relations.h"
+#include "lesson_check/exact/unreadable.h"
+#include "lesson_check/judges/judges.h"
+#include "lesson_check/judges/number_form.h"
+
+namespace lesson_check {
+namespace {
+
+struct LinearStatement {
+  char letter = 0;
+  char relation = '=';
+  Rational a, b;  // of the left side a x + b
+  Rational d, c;  // of the right side d x + c
+};
+
+// The question's one line with a relation in it.
+std::string StatementLine(const course::Problem& problem) {
+  for (const std::string& line : problem.question)
+    if (!CutAtRelations(line).relations.empty()) return line;
+  throw Unreadable("the question states nothing");
+}
+
+LinearStatement ReadStatement(const std::string& line) {
+  const Statement cut = CutAtRelations(line);
+  if (cut.relations.size() != 1) throw Unreadable("\"" + line + "\" has more than two sides");
+  LinearStatement statement;
+  statement.letter = LetterOf(line);
+  statement.relation = cut.relations[0];
+  const auto read = [&](const std::string& side, Rational& coefficient, Rational& number) {
+    const Polynomial value = ValueOf(side);
+    if (value.Degree(statement.letter) > 1) throw Unreadable("\"" + side + "\" is not linear");
+    coefficient = value.Coefficient(statement.letter, 1).Number();
+    number = value.Coefficient(statement.letter, 0).Number();
+  };
+  read(cut.sides[0], statement.a, statement.b);
+  read(cut.sides[1], statement.d, statement.c);
+  if (statement.a == statement.d) throw Unreadable("\"" + line + "\" has no single solution");
+  return statement;
+}
+
+// The number of a choice, with or without letter and relation in front of it.
+std::string NumberText(const std::string& choice) {
+  const Statement cut = CutAtRelations(choice);
+  return cut.sides.back();
+}
+
+// What the mistakes of adding and dividing make of the numbers, by their names.
+struct WrongNumber {
+  const char* name;
+  Rational value;
+};
+std::vector<WrongNumber> WrongNumbers(const LinearStatement& s) {
+  std::vector<WrongNumber> numbers = {
+      {"moves the right number across with its sign", -(s.b + s.c) / (s.a - s.d)},
+      {"subtracts the numbers the wrong way round", (s.b - s.c) / (s.a - s.d)}};
+  if (s.a + s.d != 0)
+    numbers.push_back(
+        {"moves the whole right side across with its signs", -(s.b + s.c) / (s.a + s.d)});
+  return numbers;
+}
+
+}  // namespace
+
+Reading ReadLinearEquation(const course::Problem& problem) {
+  const LinearStatement statement = ReadStatement(StatementLine(problem));
+  const char letter = statement.letter;
+  Reading reading;
+  reading.answer = Rational((statement.c - statement.b) / (statement.a - statement.d)).get_str();
+  reading.value = [letter](const std::string& choice) {
+    const Statement cut = CutAtRelations(choice);
+    const bool led = cut.sides.size() == 2 && cut.relations[0] == '=' &&
+                     Trimmed(cut.sides[0]) == std::string(1, letter);
+    if (cut.sides.size() != 1 && !led) throw Unreadable("\"" + choice + "\" is no solution");
+    return NumberIn(cut.sides.back()).get_str();
+  };
+  reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
+  for (const WrongNumber& wrong : WrongNumbers(statement))
+    reading.mistakes[wrong.name] = {wrong.value.get_str()};
+  return reading;
+}
+
+Reading ReadLinearInequality(const course::Problem& problem) {
+  const LinearStatement s = ReadStatement(StatementLine(problem));
+  const bool flips = s.a < s.d;
+  const char right = flips ? ReversedRelation(s.relation) : s.relation;
+  const Rational bound = (s.c - s.b) / (s.a - s.d);
+  const char letter = s.letter;
+  Reading reading;
+  reading.answer = SetOf(right, bound).Text();
+  reading.value = [letter](const std::string& choice) {
+    if (LetterOf(choice) != letter) throw Unreadable("another letter in \"" + choice + "\"");
+    NumberIn(NumberText(choice));
+    return SolutionOf(choice).Text();
+  };
+  reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
+  for (const WrongNumber& wrong : WrongNumbers(s))
+    reading.mistakes[wrong.name] = {SetOf(right, wrong.value).Text()};
+  if (s.a + s.d != 0)
+    reading.mistakes["moves the whole right side across, the relation turned wrongly"] = {
+        SetOf(ReversedRelation(right), -(s.b + s.c) / (s.a + s.d)).Text()};
+  // Only where dividing turns the relation can a student forget it, and only elsewhere overdo it.
+  const std::vector<std::string> turned = {SetOf(ReversedRelation(right), bound).Text()};
+  reading.mistakes["keeps the relation"] = flips ? turned : std::vector<std::string>{};
+  reading.mistakes["reverses the relation"] = flips ? std::vector<std::string>{} : turned;
+  return reading;
+}
+
+}  // namespace lesson_check

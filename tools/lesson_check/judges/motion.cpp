@@ -1,0 +1,214 @@
+// Distance, rate and time of something that moves, maybe with or against a wind or a current.
+#include <optional>
+#include <sstream>
+
+#include "lesson_check/exact/notation.h"
+#include "lesson_check/exact/unreadable.h"
+#include "lesson_check/judges/judges.h"
+#include "lesson_check/judges/number_form.h"
+
+namespace lesson_check {
+namespace {
+
+// Words without the punctuation behind them.
+std::vector<std::string> WordsOf(const std::string& text) {
+  std::istringstream stream(Trimmed(text));
+  std::vector<std::string> words;
+  for (std::string word; stream >> word;) {
+    word.erase(word.find_last_not_of(".,?") + 1);
+    words.push_back(word);
+  }
+  return words;
+}
+
+bool IsNumber(const std::string& word) {
+  return !word.empty() && word.find_first_not_of("-0123456789/") == std::string::npos;
+}
+
+enum class Unit { Mile, Mph, Minute };  // an hour is 60 minutes
+
+struct Quantity {
+  Unit unit = Unit::Mile;
+  Rational amount;
+  std::size_t place = 0;  // of its unit among the words
+};
+
+std::optional<Quantity> QuantityOfUnit(const std::string& word) {
+  if (word == "mph") return Quantity{Unit::Mph, 1};
+  if (word == "mile" || word == "miles") return Quantity{Unit::Mile, 1};
+  if (word == "hour" || word == "hours") return Quantity{Unit::Minute, 60};
+  if (word == "minute" || word == "minutes") return Quantity{Unit::Minute, 1};
+  return {};
+}
+
+// Every number with a unit behind it.
+std::vector<Quantity> QuantitiesOf(const std::vector<std::string>& words) {
+  std::vector<Quantity> quantities;
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    std::optional<Quantity> quantity = QuantityOfUnit(words[i]);
+    if (!quantity || !IsNumber(words[i - 1])) continue;
+    const bool mixed =
+        i >= 2 && IsNumber(words[i - 2]) && words[i - 1].find('/') != std::string::npos;
+    quantity->amount *= NumberIn((mixed ? words[i - 2] + " " : "") + words[i - 1]);
+    quantity->place = i;
+    quantities.push_back(*quantity);
+  }
+  return quantities;
+}
+
+struct Motion {
+  std::optional<Rational> distance;  // miles
+  std::optional<Rational> rate;      // mph, in still air or water
+  std::optional<Rational> minutes;
+  Rational drift = 0;  // mph; negative against it
+  Unit asked = Unit::Mile;
+};
+
+Unit AskedBy(const std::string& text) {
+  if (text.find("How far") != std::string::npos) return Unit::Mile;
+  if (text.find("How long") != std::string::npos) return Unit::Minute;
+  if (text.find("What is its rate") != std::string::npos) return Unit::Mph;
+  throw Unreadable("\"" + text + "\" asks for nothing known");
+}
+
+Motion ReadMotion(const course::Problem& problem) {
+  std::string text;
+  for (const std::string& line : problem.question) text += Trimmed(line) + " ";
+  const std::vector<std::string> words = WordsOf(text);
+  Motion motion;
+  motion.asked = AskedBy(text);
+  // "with a current of 5 mph": the rate behind these words is the drift's.
+  std::size_t driftAt = words.size();
+  int direction = 0;
+  for (std::size_t i = 0; i + 2 < words.size(); ++i) {
+    if (words[i + 2] != "wind" && words[i + 2] != "current") continue;
+    driftAt = i;
+    direction = words[i] == "with" ? 1 : words[i] == "against" ? -1 : 0;
+    if (direction == 0) throw Unreadable("a drift neither with nor against: " + text);
+  }
+  for (const Quantity& quantity : QuantitiesOf(words)) {
+    if (quantity.unit == Unit::Mile)
+      motion.distance = quantity.amount;
+    else if (quantity.unit == Unit::Minute)
+      motion.minutes = motion.minutes.value_or(0) + quantity.amount;
+    else if (quantity.place > driftAt)
+      motion.drift = direction * quantity.amount;
+    else
+      motion.rate = quantity.amount;
+  }
+  if (direction != 0 && motion.drift == 0) throw Unreadable("a drift without a rate: " + text);
+  return motion;
+}
+
+std::string ValueText(Unit unit, const Rational& amount) {
+  constexpr const char* kNames[] = {" miles", " mph", " minutes"};
+  return amount.get_str() + kNames[static_cast<int>(unit)];
+}
+
+std::string ValueOfChoice(const std::string& choice) {
+  const std::vector<Quantity> quantities = QuantitiesOf(WordsOf(choice));
+  if (quantities.empty()) throw Unreadable("\"" + choice + "\" has no number with a unit");
+  Rational amount = 0;
+  for (const Quantity& quantity : quantities) {
+    if (quantity.unit != quantities[0].unit) throw Unreadable("\"" + choice + "\" mixes its units");
+    amount += quantity.amount;
+  }
+  return ValueText(quantities[0].unit, amount);
+}
+
+// Collects what the mistakes lead to; what a division by 0 stands in the way of is left out.
+class MistakeList {
+ public:
+  MistakeList(Unit unit, Reading& reading) : unit_(unit), reading_(reading) {}
+  void Add(const char* name, const Rational& value) {
+    reading_.mistakes[name] = {ValueText(unit_, unit_ == Unit::Minute ? value * 60 : value)};
+  }
+  void AddQuotient(const char* name, const Rational& above, const Rational& below,
+                   const Rational& less = 0) {
+    if (below != 0) Add(name, above / below - less);
+  }
+
+ private:
+  Unit unit_;
+  Reading& reading_;
+};
+
+// The minutes beside the full hours of a time, and readings of them.
+struct Hours {
+  explicit Hours(const Rational& minutes) {
+    const mpz_class whole = minutes.get_num() / (minutes.get_den() * 60);
+    full = whole;
+    rest = minutes - full * 60;
+  }
+  Rational full;
+  Rational rest;  // minutes
+  Rational AsHundredths() const { return full + rest / 100; }
+};
+
+void AddMistakesAtDistance(const Motion& m, MistakeList& list) {
+  const Rational time = *m.minutes / 60;
+  const Hours hours(*m.minutes);
+  const Rational real = *m.rate + m.drift;
+  list.Add("ignores the wind or current", *m.rate * time);
+  list.Add("takes the wind or current the wrong way", (*m.rate - m.drift) * time);
+  list.Add("leaves the minutes out", real * hours.full);
+  list.Add("reads the minutes as hundredths of an hour", real * hours.AsHundredths());
+  list.AddQuotient("divides in place of multiplying", real, time);
+  list.Add("adds the rate and the time", real + time);
+}
+
+void AddMistakesAtRate(const Motion& m, MistakeList& list) {
+  const Rational time = *m.minutes / 60;
+  const Hours hours(*m.minutes);
+  const Rational real = *m.distance / time;
+  list.Add("ignores the wind or current", real);
+  list.Add("takes the wind or current the wrong way", real + m.drift);
+  list.Add("multiplies in place of dividing", *m.distance * time);
+  list.AddQuotient("reads the minutes as hundredths of an hour", *m.distance, hours.AsHundredths(),
+                   m.drift);
+  list.AddQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
+}
+
+void AddMistakesAtTime(const Motion& m, MistakeList& list) {
+  const Rational real = *m.rate + m.drift;
+  const Hours hours(*m.distance / real * 60);
+  list.AddQuotient("ignores the wind or current", *m.distance, *m.rate);
+  list.AddQuotient("takes the wind or current the wrong way", *m.distance, *m.rate - m.drift);
+  // 1.25 hours taken for 1 hour and 25 minutes
+  list.Add("reads the hundredths of an hour as minutes", hours.full + hours.rest / 60 * 100 / 60);
+  list.Add("leaves the part of an hour out", hours.full);
+  list.AddQuotient("divides the rate by the distance", real, *m.distance);
+}
+
+Rational AnswerOf(const Motion& m, Reading& reading) {
+  MistakeList list(m.asked, reading);
+  if (m.asked == Unit::Mile && m.rate && m.minutes) {
+    AddMistakesAtDistance(m, list);
+    return (*m.rate + m.drift) * *m.minutes / 60;
+  }
+  if (m.asked == Unit::Mph && m.distance && m.minutes && *m.minutes != 0) {
+    AddMistakesAtRate(m, list);
+    return *m.distance * 60 / *m.minutes - m.drift;
+  }
+  if (m.asked == Unit::Minute && m.distance && m.rate && *m.rate + m.drift > 0) {
+    AddMistakesAtTime(m, list);
+    return *m.distance * 60 / (*m.rate + m.drift);
+  }
+  throw Unreadable("the question does not tell enough");
+}
+
+}  // namespace
+
+Reading ReadMotionProblem(const course::Problem& problem) {
+  const Motion motion = ReadMotion(problem);
+  Reading reading;
+  reading.answer = ValueText(motion.asked, AnswerOf(motion, reading));
+  reading.value = ValueOfChoice;
+  if (motion.drift == 0) {
+    reading.mistakes["ignores the wind or current"].clear();
+    reading.mistakes["takes the wind or current the wrong way"].clear();
+  }
+  return reading;
+}
+
+}  // namespace lesson_check

@@ -1,0 +1,76 @@
+// Two fractions to be added: "13/24 + 13/18", "6/13 + (-2/5)".
+#include "lesson_check/exact/notation.h"
+#include "lesson_check/exact/unreadable.h"
+#include "lesson_check/judges/judges.h"
+#include "lesson_check/judges/number_form.h"
+
+namespace lesson_check {
+namespace {
+
+using Kind = Expression::Kind;
+
+// As it is written: with the sign above, and not reduced.
+struct Fraction {
+  mpz_class above;
+  mpz_class below;
+};
+
+Fraction ReadFraction(const Expression& written) {
+  if (written.kind == Kind::Minus) {
+    Fraction fraction = ReadFraction(written.parts[0]);
+    fraction.above = -fraction.above;
+    return fraction;
+  }
+  if (written.kind != Kind::Quotient) throw Unreadable("not two fractions");
+  return {ValueOf(written.parts[0]).Number().get_num(),
+          ValueOf(written.parts[1]).Number().get_num()};
+}
+
+std::string Quotient(const mpz_class& above, const mpz_class& below) {
+  if (below == 0) throw Unreadable("a division by 0");
+  Rational quotient(above, below);
+  quotient.canonicalize();
+  return quotient.get_str();
+}
+
+void AddMistakes(const Fraction& first, const Fraction& second, Reading& reading) {
+  const mpz_class common = lcm(first.below, second.below);
+  const mpz_class byFirst = common / first.below;
+  const mpz_class bySecond = common / second.below;
+  const auto add = [&](const char* name, const mpz_class& above, const mpz_class& below) {
+    reading.mistakes[name] = {Quotient(above, below)};
+  };
+  add("adds the denominators too", first.above + second.above, first.below + second.below);
+  add("keeps both numerators over the common denominator", first.above + second.above, common);
+  add("renames the first fraction only", first.above * byFirst + second.above, common);
+  add("renames the second fraction only", first.above + second.above * bySecond, common);
+  add("multiplies each numerator by the factor of the other",
+      first.above * bySecond + second.above * byFirst, common);
+  reading.mistakes["leaves out the minus sign"].clear();
+  if (first.above < 0 || second.above < 0)
+    add("leaves out the minus sign", abs(first.above) * byFirst + abs(second.above) * bySecond,
+        common);
+}
+
+Expression SumIn(const course::Problem& problem) {
+  for (const std::string& line : problem.question) {
+    if (line.find('/') == std::string::npos) continue;
+    Expression sum = ParseExpression(line);
+    if (sum.kind == Kind::Sum && sum.parts.size() == 2) return sum;
+  }
+  throw Unreadable("the question has no sum of two fractions");
+}
+
+}  // namespace
+
+Reading ReadSumOfFractions(const course::Problem& problem) {
+  const Expression sum = SumIn(problem);
+  Reading reading;
+  reading.answer = ValueOf(sum).Number().get_str();
+  reading.value = [](const std::string& choice) { return NumberIn(choice).get_str(); };
+  reading.flaw = FlawOfMixedNumber;
+  AddMistakes(ReadFraction(sum.parts[0]), ReadFraction(sum.parts[1]), reading);
+  return reading;
+}
+
+}  // namespace lesson_check
