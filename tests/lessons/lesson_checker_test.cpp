@@ -301,14 +301,19 @@ TEST_F(PageLayoutTest, APageOfLinesFractionsAndColoursHasNoFault) {
   EXPECT_EQ(Found(), Faults{});
 }
 
-TEST_F(PageLayoutTest, TextOverTextIsFound) {
-  Print(5, 3, "abc");
+TEST_F(PageLayoutTest, AWordThatIsPrintedOverInPartIsFound) {
+  Print(5, 3, "abcde fgh");
   Print(5, 5, "xyz");
-  EXPECT_EQ(Found(), Faults{"\"x\" over \"c\" at row 5.0, column 5.0"});
-  course::frmPR->lessonText.Cls();
-  Print(5, 3, "a");
-  Print(5.5, 3, "b");
-  EXPECT_EQ(Found(), Faults{"\"b\" over \"a\" at row 5.5, column 3.0"});
+  EXPECT_EQ(Found(), Faults{"of a word that was printed over there still stands \"ab\" at row 5.0, "
+                            "column 3.0"});
+  Print(5, 1, "a longer line");
+  EXPECT_EQ(Found(), Faults{});
+}
+
+TEST_F(PageLayoutTest, TextBetweenRowsLiesOverTheirs) {
+  Print(5, 3, "abc");
+  Print(5.5, 4, "x yz");
+  EXPECT_EQ(Found(), Faults{"\"x\" over \"b\" at row 5.5, column 4.0"});
 }
 
 TEST_F(PageLayoutTest, BlanksEraseWhatStoodThere) {

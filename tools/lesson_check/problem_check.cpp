@@ -99,7 +99,7 @@ struct JudgedChoice {
 void CheckDifferent(const std::vector<JudgedChoice>& choices, const Complain& complain) {
   for (std::size_t i = 0; i < choices.size(); ++i) {
     for (std::size_t j = i + 1; j < choices.size(); ++j) {
-      if (WithoutBlanks(choices[i].text) == WithoutBlanks(choices[j].text))
+      if (Comparable(choices[i].text) == Comparable(choices[j].text))
         complain("two choices read " + Quoted(choices[i].text));
       else if (choices[i].value == choices[j].value)
         complain(Quoted(choices[i].text) + " and " + Quoted(choices[j].text) + " are equal");

@@ -321,6 +321,17 @@ std::string WithoutBlanks(const std::string& text) {
   return result;
 }
 
+std::string Comparable(const std::string& text) {
+  std::string result;
+  for (const char c : course::ExponentCharsToCarets(text)) {
+    const char plain = c == kGap ? ' ' : c;
+    if (plain != ' ' || (!result.empty() && result.back() != ' ')) result += plain;
+    if (result.ends_with("^^")) result.erase(result.size() - 2);
+  }
+  if (result.ends_with(' ')) result.pop_back();
+  return result;
+}
+
 std::string ExpressionIn(const std::string& sentence) {
   // A word ends at a blank; an expression begins and ends with whole words, punctuation aside.
   std::vector<std::size_t> starts = {0};

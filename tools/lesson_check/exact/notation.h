@@ -38,6 +38,10 @@ std::string Trimmed(const std::string& text);
 // Nothing but the characters that are neither blank nor gap.
 std::string WithoutBlanks(const std::string& text);
 
+// A text in the form in which texts are compared: exponents between carets, gaps as blanks, never
+// two blanks in a row.
+std::string Comparable(const std::string& text);
+
 // The expression that stands in a sentence, such as the one in "What is the value of 3 + 4?": the
 // longest stretch of whole words that can be read and has a digit and no two letters side by side.
 // Unreadable when there is none.

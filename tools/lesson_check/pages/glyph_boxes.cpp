@@ -34,13 +34,73 @@ bool SamePlace(const Glyph& a, const Glyph& b) {
   return std::fabs(a.row - b.row) <= kSamePlace && std::fabs(a.col - b.col) <= kSamePlace;
 }
 
-bool Replaces(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
-  if (later.blank)
-    return panel.erases && std::fabs(later.row - earlier.row) <= kSamePlace &&
-           std::fabs(later.col - earlier.col) < 0.5;
+bool SameText(const Glyph& later, const Glyph& earlier) {
   return later.character == earlier.character && later.level == earlier.level &&
          SamePlace(later, earlier);
 }
+
+// The band behind a later glyph takes away what stood in its cell.
+bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
+  return panel.erases && (later.blank || (later.level == 0 && earlier.level == 0)) &&
+         std::fabs(later.row - earlier.row) <= kSamePlace &&
+         std::fabs(later.col - earlier.col) < 0.5;
+}
+
+// Builds up what stands from the fragments, in the order in which they were printed.
+class Standing {
+ public:
+  explicit Standing(const TextPanel& panel) : panel_(panel) {}
+
+  void Print(const Fragment& fragment) {
+    const std::vector<Glyph> printed = GlyphsOf(panel_, fragment);
+    Replace(fragment, printed);
+    for (Glyph glyph : printed) {
+      if (glyph.blank) continue;
+      const bool goesOn = !glyphs_.empty() && SamePlace(glyph, RightOf(glyphs_.back()));
+      glyph.word = goesOn ? glyphs_.back().word : ++words_;
+      glyphs_.push_back(glyph);
+    }
+  }
+
+  StandingText Take() {
+    StandingText text;
+    for (const Glyph& glyph : glyphs_) {
+      const bool cut = std::ranges::find(replaced_, glyph.word) != replaced_.end();
+      const bool told = !text.cutAt.empty() && text.cutAt.back().word == glyph.word;
+      if (cut && !told) text.cutAt.push_back(glyph);
+    }
+    text.glyphs = std::move(glyphs_);
+    return text;
+  }
+
+ private:
+  static Glyph RightOf(Glyph glyph) {
+    ++glyph.col;
+    return glyph;
+  }
+
+  void Replace(const Fragment& fragment, const std::vector<Glyph>& printed) {
+    std::erase_if(glyphs_, [&](const Glyph& earlier) {
+      if (std::fabs(earlier.row - fragment.row) > kSamePlace) return false;
+      const double place = earlier.col - fragment.col;
+      if (place < -1 || place > static_cast<double>(printed.size())) return false;
+      bool gone = false;
+      for (const Glyph& later : printed) {
+        const bool same = SameText(later, earlier);
+        if (!same && !Erases(panel_, later, earlier)) continue;
+        gone = true;
+        // Blanks clean away on purpose; the same text only gets another colour.
+        if (!same && !later.blank) replaced_.push_back(earlier.word);
+      }
+      return gone;
+    });
+  }
+
+  const TextPanel& panel_;
+  std::vector<Glyph> glyphs_;
+  std::vector<int> replaced_;  // words that lost a glyph to another text
+  int words_ = 0;
+};
 
 }  // namespace
 
@@ -70,21 +130,10 @@ std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   return glyphs;
 }
 
-std::vector<Glyph> StandingGlyphs(const TextPanel& panel) {
-  std::vector<Glyph> standing;
-  for (const Fragment& fragment : panel.Transcript()) {
-    const std::vector<Glyph> printed = GlyphsOf(panel, fragment);
-    std::erase_if(standing, [&](const Glyph& earlier) {
-      if (std::fabs(earlier.row - fragment.row) > kSamePlace) return false;
-      const double first = earlier.col - fragment.col;
-      if (first < -1 || first > static_cast<double>(printed.size())) return false;
-      return std::ranges::any_of(
-          printed, [&](const Glyph& later) { return Replaces(panel, later, earlier); });
-    });
-    std::ranges::copy_if(printed, std::back_inserter(standing),
-                         [](const Glyph& glyph) { return !glyph.blank; });
-  }
-  return standing;
+StandingText StandingTextOf(const TextPanel& panel) {
+  Standing standing(panel);
+  for (const Fragment& fragment : panel.Transcript()) standing.Print(fragment);
+  return standing.Take();
 }
 
 }  // namespace lesson_check

@@ -27,13 +27,20 @@ struct Glyph {
   double row = 0;
   double col = 0;
   InkBox ink;
+  int word = 0;  // glyphs that stand side by side without a blank share a number
 };
 
 // The characters of a fragment, from left to right.
 std::vector<Glyph> GlyphsOf(const course::TextPanel& panel, const course::Fragment& fragment);
 
-// What stands on the panel: without blanks, and without what later blanks or the same text in
-// another colour have replaced.  Overprinted glyphs are both there.
-std::vector<Glyph> StandingGlyphs(const course::TextPanel& panel);
+// What stands on the panel, and the words that a later text has cut.
+struct StandingText {
+  // Without blanks, and without what a later text has replaced.  On a panel that erases, a text
+  // replaces what stood in its cells; elsewhere only the same text does.
+  std::vector<Glyph> glyphs;
+  // Words of which a part was replaced and a part still stands.
+  std::vector<Glyph> cutAt;  // a standing glyph of each
+};
+StandingText StandingTextOf(const course::TextPanel& panel);
 
 }  // namespace lesson_check

@@ -35,6 +35,30 @@ bool IsBlank(const std::string& text) {
   return std::ranges::all_of(text, [](char c) { return c == ' ' || c == course::tutor::Gap[0]; });
 }
 
+// The glyphs of one row that lie over others.
+struct OverlappedRow {
+  std::string earlier;
+  std::string later;
+  double row = 0;
+  double col = 0;
+
+  void Add(const Glyph& under, const Glyph& over) {
+    if (later.empty()) {
+      row = over.row;
+      col = over.col;
+    }
+    earlier += under.character;
+    later += over.character;
+  }
+};
+
+std::string WordOf(const std::vector<Glyph>& glyphs, const Glyph& part) {
+  std::string word;
+  for (const Glyph& glyph : glyphs)
+    if (glyph.word == part.word) word += glyph.character;
+  return word;
+}
+
 // --- Boxes over the lesson -----------------------------------------------------------------------
 
 struct ShownBox {
@@ -72,7 +96,7 @@ InkBox Outline(const platform::Control& box, const platform::Control& on) {
 void FindTextUnder(const TextPanel& panel, const ShownBox& box, std::vector<std::string>& faults) {
   const InkBox outline = Outline(*box.box, panel.surface);
   std::string hidden;
-  for (const Glyph& glyph : StandingGlyphs(panel))
+  for (const Glyph& glyph : StandingTextOf(panel).glyphs)
     if (Overlap(glyph.ink, outline)) hidden += glyph.character;
   if (!hidden.empty()) faults.push_back("text under " + box.name + ": " + Quoted(hidden));
 }
@@ -158,24 +182,27 @@ void FindOutsideAnswer(const ShownBox& box, std::vector<std::string>& faults) {
 }  // namespace
 
 std::vector<std::string> Overprints(const TextPanel& panel) {
+  const StandingText text = StandingTextOf(panel);
   std::vector<std::string> faults;
-  const std::vector<Glyph> standing = StandingGlyphs(panel);
-  // Only glyphs of near rows can meet.
+  for (const Glyph& rest : text.cutAt)
+    faults.push_back("of a word that was printed over there still stands " +
+                     Quoted(WordOf(text.glyphs, rest)) + Place(rest.row, rest.col));
+  // Only glyphs of near rows can meet.  Overlaps of one row are told as one.
   std::map<long, std::vector<const Glyph*>> rows;
-  for (const Glyph& glyph : standing) {
+  std::map<long, OverlappedRow> overlapped;
+  for (const Glyph& glyph : text.glyphs) {
     const long row = std::lround(glyph.row);
     for (long near = row - 2; near <= row + 2; ++near) {
       const auto found = rows.find(near);
       if (found == rows.end()) continue;
-      for (const Glyph* earlier : found->second) {
-        if (!Overlap(earlier->ink, glyph.ink)) continue;
-        faults.push_back("\"" + course::ToUtf8(std::string(1, glyph.character)) + "\" over \"" +
-                         course::ToUtf8(std::string(1, earlier->character)) + "\"" +
-                         Place(glyph.row, glyph.col));
-      }
+      for (const Glyph* earlier : found->second)
+        if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
     }
     rows[row].push_back(&glyph);
   }
+  for (const auto& [row, overlap] : overlapped)
+    faults.push_back(Quoted(overlap.later) + " over " + Quoted(overlap.earlier) +
+                     Place(overlap.row, overlap.col));
   return faults;
 }
 

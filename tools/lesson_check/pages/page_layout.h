@@ -12,8 +12,9 @@ namespace lesson_check {
 // One complaint a fault of the page that the window shows now.
 std::vector<std::string> LayoutFaults(course::LessonWindow& window);
 
-// Texts of one panel that lie over each other.  A later text may repeat an earlier one in place, in
-// another colour, and blanks erase where the panel erases at all.
+// Texts of one panel that lie over each other, and words that were printed over in part.  A later
+// text may replace whole words of an earlier one where the panel erases, and may repeat it in place
+// in another colour.
 std::vector<std::string> Overprints(const course::TextPanel& panel);
 
 }  // namespace lesson_check

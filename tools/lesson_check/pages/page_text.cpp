@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "display/exponents.h"
+#include "lesson_check/exact/notation.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -85,17 +86,6 @@ PageText NewOn(const PageText& page, const PageText& before) {
     added.lesson.push_back(fragment);
   }
   return added;
-}
-
-std::string Comparable(const std::string& text) {
-  std::string result;
-  for (const char c : course::ExponentCharsToCarets(text)) {
-    const char plain = c == course::tutor::Gap[0] ? ' ' : c;
-    if (plain != ' ' || (!result.empty() && result.back() != ' ')) result += plain;
-    if (result.ends_with("^^")) result.erase(result.size() - 2);
-  }
-  if (result.ends_with(' ')) result.pop_back();
-  return result;
 }
 
 bool ContainsAsWords(const std::string& whole, const std::string& part) {

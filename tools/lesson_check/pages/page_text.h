@@ -22,12 +22,9 @@ PageText ReadPage(const course::LessonWindow& window);
 // The lines of what a page shows and the page before did not.
 PageText NewOn(const PageText& page, const PageText& before);
 
-// A text in the form in which texts are compared: exponents between carets, gaps as blanks, never
-// two blanks in a row.
-std::string Comparable(const std::string& text);
-
 // Whether the part stands in the whole as words of its own: "5" does not stand in "15", "-5" or
-// "5/2".  Both are Comparable.
+// "5/2".  Both are texts to be
+// compared, see Comparable.
 bool ContainsAsWords(const std::string& whole, const std::string& part);
 
 // The numbers of a text, in its order.
