@@ -136,7 +136,7 @@ void ComplexInequalities::ReadingTheEnds() {
   DrawGraphOnLine(-3 + kOpenEnd, 4);
   Locate(6.5, 14);
   isPrint("-3 < x " + tutor::LessOrEqual + " 4");
-  Locate(8.5, 1);
+  Locate(8, 1);
   WordWrap(R"(The graph is one piece.  It holds the numbers \ybetween\z -3 and 4.)");
   PageEnd();
   isPrint();
