@@ -3,6 +3,7 @@
 
 #include "display/animation.h"
 #include "display/animation_frame.h"
+#include "display/comment_panel.h"
 #include "display/lesson_window.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
@@ -46,10 +47,8 @@ void MoveBox(const char* routine, platform::PictureBox& box, double rows, double
 
 void picCommentBoxMove(int index, double rows, double cols, const std::string& first,
                        double speed) {
-  auto& boxes = frmPR->picCommentBox;
-  if (index < boxes.First() || index > boxes.Last())
-    platform::Stop("picCommentBoxMove: index = " + std::to_string(index));
-  MoveBox("picCommentBoxMove", boxes[index], rows, cols, first, speed);
+  MoveBox("picCommentBoxMove", CommentPanel(index, "picCommentBoxMove").surface, rows, cols, first,
+          speed);
 }
 
 void picPrintCellBoxMove(double rows, double cols, const std::string& first, double speed) {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "display/comment_panel.h"
 #include "display/drawing_cells.h"
 #include "display/grid.h"
 #include "display/lesson_window.h"
@@ -71,9 +72,7 @@ TextPanel& DrawTarget() {
   const int target = screenState.gDrawTarget;
   if (target == 0) return frmPR->lessonText;
   if (target < 0) return frmPR->wiperText;
-  if (target > frmPR->picCommentBox.Last())
-    platform::Stop("DrawTarget: gDrawTarget = " + std::to_string(target));
-  return *frmPR->commentText[static_cast<std::size_t>(target)];
+  return CommentPanel(target, "gDrawTarget");
 }
 
 void isDrawHorizLine(double rp, double col1, double col2, int thickness) {

@@ -51,10 +51,6 @@ void CheckSize(int size, const char* routine) {
                    ".  Sizes 10 to 15 are allowed.");
 }
 
-double RightColumnOf(const TextPanel& panel) {
-  return &panel == &frmPR->wiperText ? screenState.gWbWidth : screenState.gRightColumn;
-}
-
 std::string WithoutMarks(std::string s, bool subscripts) {
   std::erase_if(s, [=](char c) { return c == kCaret || (subscripts && c == kSubscript); });
   return s;
@@ -94,6 +90,14 @@ void PrintExpressionOn(TextPanel& panel, const std::string& s, double size, doub
   }
 }
 
+void PrintMarkedOn(TextPanel& panel, const std::string& s, double size, double rowShift) {
+  if (!MarksBalanced(s))
+    platform::Stop(
+        "An incorrect number of ^ or Chr$(250) characters appears in the string \r"
+        "supplied to SUB isPrintExponentExpression");
+  PrintExpressionOn(panel, s, size, rowShift);
+}
+
 void isPrintExponent1(const std::string& s, int size, double rowShift) {
   CheckSize(size, "isPrintExponent1");
   PrintScriptOn(frmPR->lessonText, s, size, rowShift, 1);
@@ -106,11 +110,7 @@ void isPrintSubscript1(const std::string& s, int size, double rowShift) {
 
 void isPrintExponentExpression(const std::string& s, int size, double rowShift) {
   CheckSize(size, "isPrintExponentExpression");
-  if (!MarksBalanced(s))
-    platform::Stop(
-        "An incorrect number of ^ or Chr$(250) characters appears in the string \r"
-        "supplied to SUB isPrintExponentExpression");
-  PrintExpressionOn(frmPR->lessonText, s, size, rowShift);
+  PrintMarkedOn(frmPR->lessonText, s, size, rowShift);
 }
 
 void wbisPrintExponent1(const std::string& s, int size, double rowShift) {

@@ -21,6 +21,8 @@ void wbisPrintExponentExpression(const std::string& s, int size, double rowShift
 // The engines behind them.
 void PrintScriptOn(TextPanel& panel, const std::string& s, double size, double rowShift, int level);
 void PrintExpressionOn(TextPanel& panel, const std::string& s, double size, double rowShift);
+// The same; marks that do not pair stop the program.
+void PrintMarkedOn(TextPanel& panel, const std::string& s, double size, double rowShift);
 
 // Replaces the single exponent characters (143 to 157, 130, 179, 180, 220) by marked text, and
 // joins neighbours into one exponent.

@@ -120,6 +120,8 @@ class LessonWindow {
   };
   std::unique_ptr<PanelCopy> pnlLessonCopy;
 
+  std::unique_ptr<platform::Form> frmRulesAndHints;  // empty while it is closed
+
   // Gives tab 1 to 4 its selected or its plain look.
   void ShowTab(int index, bool selected);
 

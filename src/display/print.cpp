@@ -35,6 +35,13 @@ void MoveRows(TextPanel& panel, double rows) {
 
 }  // namespace
 
+double RightColumnOf(const TextPanel& panel) {
+  if (&panel == &frmPR->wiperText) return screenState.gWbWidth;
+  if (panel.layout.characters != CharacterSet::CommentBox) return screenState.gRightColumn;
+  const int inner = panel.surface.PixelWidth() - 2 * panel.layout.leftMargin;
+  return inner / panel.layout.cellWidth;
+}
+
 void NewLineOn(TextPanel& panel) {
   MoveRows(panel, 1);
 }

@@ -30,5 +30,8 @@ void wbisPrintLines();
 // The engine behind them, for any panel: rightColumn is the last one that a text may fill.
 void PrintOn(TextPanel& panel, const std::string& s, double rightColumn);
 void NewLineOn(TextPanel& panel);
+// The last column that a text may fill: of the screen, of the wiper box, or inside the padding of a
+// comment box.
+double RightColumnOf(const TextPanel& panel);
 
 }  // namespace course

@@ -34,7 +34,7 @@ class TextPanel {
     int topMargin = 0;    // pixel Y of firstRow
     int firstRow = 1;
     double fontSize = 20;   // points, "Courier New" bold
-    int exponentSize = 14;  // points, of the exponents in a wrapped text
+    int exponentSize = 14;  // points, in wrapped texts; stands high without a row change
     CharacterSet characters = CharacterSet::LessonWindow;
     platform::Colour restoredColour = 0;  // text colour that RestoreFont gives
   };

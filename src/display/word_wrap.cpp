@@ -1,6 +1,7 @@
 #include "display/word_wrap.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "display/exponents.h"
 #include "display/grid.h"
@@ -16,7 +17,6 @@ WrapState wrapState;
 
 namespace {
 
-constexpr int kExponentSize = 14;  // points; small enough to stand high without a row change
 constexpr double kExplanationWidth = 38;
 
 // Results of WordWrapFindBreak that are no position.
@@ -34,10 +34,11 @@ double CurrentWidth() {
 
 // Prints a stretch word by word from the cursor on; the look-ahead's first word is glued to its
 // end.
-void LayOutWords(std::string s, const std::string& lookahead, int wid) {
-  TextPanel& panel = frmPR->lessonText;
-  const auto print = [](const std::string& t) { isPrintExponentExpression(t, kExponentSize); };
-  const auto newLine = [&] { StartWrappedLine(panel, screenState.gLineGap); };
+void LayOutWords(TextPanel& panel, std::string s, const std::string& lookahead, int wid,
+                 const std::function<void()>& newLine) {
+  const auto print = [&](const std::string& t) {
+    PrintMarkedOn(panel, t, panel.layout.exponentSize, 0);
+  };
   bool freshLine = false;
   for (;;) {
     panel.UpdateCursorCell();
@@ -91,19 +92,23 @@ int WordWrapFindBreak(int col, int wid, const std::string& s, const std::string&
   return best;
 }
 
-void WordWrap(const std::string& s) {
-  const double wid = CurrentWidth();
-  if (wid < 10) platform::Stop("The value of wid is too small");
-  TextPanel& panel = frmPR->lessonText;
+void WrapOn(TextPanel& panel, const std::string& s, int wid, int lineGap) {
+  const auto newLine = [&] { StartWrappedLine(panel, lineGap); };
   PrintParagraph({.current = panel.textColour,
                   .setColour = [&](platform::Colour c) { panel.surface.ForeColor = c; },
-                  .newLine = [&] { StartWrappedLine(panel, screenState.gLineGap); },
+                  .newLine = newLine,
                   .layOut =
                       [&](const std::string& stretch, const std::string& lookahead) {
-                        LayOutWords(stretch, lookahead, IntOf(wid));
+                        LayOutWords(panel, stretch, lookahead, wid, newLine);
                       }},
                  s, screenState.gNoNewline != 0);
   panel.surface.ForeColor = panel.textColour;
+}
+
+void WordWrap(const std::string& s) {
+  const double wid = CurrentWidth();
+  if (wid < 10) platform::Stop("The value of wid is too small");
+  WrapOn(frmPR->lessonText, s, IntOf(wid), screenState.gLineGap);
 }
 
 void WordWraps(const std::string& s) {

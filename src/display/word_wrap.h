@@ -10,6 +10,8 @@
 
 namespace course {
 
+class TextPanel;
+
 void WordWrap(const std::string& s);   // ends with a new line
 void WordWraps(const std::string& s);  // the cursor stays behind the text
 // Lines after the first start at indentCol; the first one starts at the cursor.
@@ -27,6 +29,10 @@ void wbWordWrap(const std::string& s);
 void wbWordWraps(const std::string& s);
 void wbWordWrapIndent(const std::string& s, double indentCol);
 void wbWordWrapNarrow(const std::string& s, double wid);
+
+// The engine behind them, for any panel whose right column is wid: colours, line breaks, exponents,
+// and the indent in force.
+void WrapOn(TextPanel& panel, const std::string& s, int wid, int lineGap = 0);
 
 // Where to break s when it is printed from column col with last column wid, and the text that
 // follows in the next colour starts with the given look-ahead: -1 everything fits, -3 all but a

@@ -4,6 +4,7 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/answers.h"
+#include "engine/rules_and_hints.h"
 #include "platform/events.h"
 #include "session/session.h"
 
@@ -45,18 +46,11 @@ void ShowScreenNumber() {
   frmPR->lblScreenNumber.SetVisible(teaching);
 }
 
-// Rules are a help for practice: neither a test nor an explanation shows them.
-void ShowRulesButton() {
-  frmPR->cmdShowRulesandReminders.SetCaption(
-      session.gRulesShown == kTrue ? "Hide Rules and Reminders" : "Show Rules and Reminders");
-  frmPR->cmdShowRulesandReminders.SetVisible(session.gHasRules == kTrue &&
-                                             session.gMode <= mode::NewProblem);
-}
-
 }  // namespace
 
 void Header(const std::string& title) {
   ResetScreen();
+  UnloadRulesAndHints();
   ForgetAnswerParameters();
   frmPR->fraNav.SetVisible(session.gHideNav != kTrue);
   frmPR->picScreenBox.SetVisible(false);

@@ -15,7 +15,6 @@ struct EngineHooks {
   std::function<void()> ShowProgramOverview;
   std::function<void()> ShowTechSupport;
   std::function<void()> ShowAbout;
-  std::function<void()> ToggleRules;  // the button of the rules panel
 };
 
 extern EngineHooks engineHooks;

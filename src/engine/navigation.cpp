@@ -5,6 +5,7 @@
 #include "display/lesson_window.h"
 #include "engine/hooks.h"
 #include "engine/program_exit.h"
+#include "engine/rules_and_hints.h"
 #include "mathkit/draws.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -122,9 +123,7 @@ void BindHandlers() {
   BindArray(frmPR->picAnswer, picAnswer_Click);
   BindArray(frmPR->cmdAnswer, [](int index) { picAnswer_Click(index + 1); });
   frmPR->pnlLesson.OnClick = pnlLesson_Click;
-  frmPR->cmdShowRulesandReminders.OnClick = [] {
-    if (!InputIgnored()) CallHook(engineHooks.ToggleRules);
-  };
+  BindRules();
   frmPR->form.OnKeyPress = [](int code) { return code == kEsc && LeaveLesson(); };
   frmPR->form.OnCloseBox = [] { LeaveLesson(); };
   BindMenus();

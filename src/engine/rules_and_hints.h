@@ -9,6 +9,9 @@ namespace course {
 // OffersRules returns true.  image is a number of display/images.h.
 void ShowRulesPicture(int image, double row = 6, double col = 23);
 
+// The button that offers them, with the caption that fits: at each new page of a lesson that has
+// rules, in practice alone.
+void ShowRulesButton();
 // Shows or hides the rules: the same problem is drawn anew, as a retry.
 void cmdShowRulesandReminders_Click();
 

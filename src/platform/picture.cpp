@@ -44,6 +44,11 @@ QSize PictureSize(const std::string& name) {
   return Renderer(name).defaultSize();
 }
 
+PixelPoint PictureExtent(const std::string& name) {
+  const QSize size = PictureSize(name);
+  return {size.width(), size.height()};
+}
+
 QImage PictureImage(const std::string& name, const QSize& size) {
   using Key = std::tuple<std::string, int, int>;
   static auto& cache = *new std::map<Key, QImage>;

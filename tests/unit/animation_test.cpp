@@ -349,7 +349,7 @@ TEST_F(AnimationTest, TheOrderMattersForTwoMovesOnly) {
   EXPECT_EQ(box.Left(), 3000 - 16 * 15);
   EXPECT_EQ(box.Top(), 3000 + 25 * 15);
   ExpectStop("picPrintCellBoxMove: first = \"?\"", [] { picPrintCellBoxMove(1, 1, "?", 0); });
-  ExpectStop("picCommentBoxMove: index = 0", [] { picCommentBoxMove(0, 1, 1, "H", 0); });
+  ExpectStop("picCommentBoxMove: comment box 0", [] { picCommentBoxMove(0, 1, 1, "H", 0); });
 }
 
 }  // namespace

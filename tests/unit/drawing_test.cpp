@@ -60,7 +60,7 @@ TEST_F(DrawingTest, ColouredLinesGoToTheTargetInItsOwnCells) {
   EXPECT_EQ(CountOf(colour::Red), 0u);
 
   screenState.gDrawTarget = 6;
-  ExpectStop("DrawTarget: gDrawTarget = 6", [] { isDrawHorizLineWithColor(2, 1, 2, 1, 0); });
+  ExpectStop("gDrawTarget: comment box 6", [] { isDrawHorizLineWithColor(2, 1, 2, 1, 0); });
 }
 
 TEST_F(DrawingTest, BoxesHoldBothCornerCells) {

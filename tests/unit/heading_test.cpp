@@ -89,7 +89,7 @@ TEST_F(HeadingTest, GoesToAnyCommentBox) {
   PrintNiceHeading(3, "Rule", 1, -1, "Arial", true, false, 14, colour::Red, colour::Red, 0);
   EXPECT_GT(ExtentOf(frmPR->picCommentBox[3], colour::Red).width, 0);
   EXPECT_EQ(Ink().width, 0);
-  ExpectStop("PrintNiceHeading: indx = 6",
+  ExpectStop("PrintNiceHeading: comment box 6",
              [] { PrintNiceHeading(6, "Rule", 1, 1, "", true, false, 14, 0, 0, 0); });
 }
 
