@@ -1,6 +1,7 @@
 // The course: brings up the toolkit, then the menu, whose start-up is that of the program.
 #include "platform/program.h"
 #include "shell/diagnostics_binding.h"
+#include "shell/guidance_binding.h"
 #include "shell/login_binding.h"
 #include "shell/menu.h"
 #include "shell/record_hooks.h"
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
   course::BindLogin(startUp);
   course::BindRecordViews(startUp);
   course::BindDiagnostics(startUp);
+  course::BindGuidance(startUp);
   course::BindTests();
   course::LoadMenu(startUp);
   const int status = application.Run();

@@ -79,12 +79,15 @@ QPageLayout LayoutOf(const PrintDocument& document) {
 
 void PaintPage(QPainter& painter, const PrintDocument& document, const Page& page,
                double dotsPerInch) {
-  painter.setFont(FontOf(document, dotsPerInch));
+  QFont font = FontOf(document, dotsPerInch);
   painter.setPen(Qt::black);
-  const double ascent = QFontMetricsF(painter.font()).ascent();
-  for (const PageText& text : page)
+  const double ascent = QFontMetricsF(font).ascent();
+  for (const PageText& text : page) {
+    font.setBold(text.bold);
+    painter.setFont(font);
     painter.drawText(QPointF(text.x * dotsPerInch, text.y * dotsPerInch + ascent),
                      ToUnicode(text.text, document.face));
+  }
 }
 
 Printer& ThePrinter() {

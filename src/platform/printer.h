@@ -21,6 +21,7 @@ struct PageText {
   double x = 0;
   double y = 0;
   std::string text;
+  bool bold = false;
 };
 using Page = std::vector<PageText>;
 

@@ -4,7 +4,7 @@
 
 #include "mathkit/tutor_codes.h"
 #include "platform/look.h"
-#include "shell/course_name.h"
+#include "session/course_name.h"
 
 namespace course {
 namespace {

@@ -6,7 +6,7 @@
 #include "platform/stop.h"
 #include "session/catalogue.h"
 #include "session/session.h"
-#include "shell/course_name.h"
+#include "session/course_name.h"
 #include "shell/menu.h"
 #include "shell/progress_marks.h"
 

@@ -1,6 +1,7 @@
 #include "lesson_lab/form_camera.h"
 
 #include "platform/surface.h"
+#include "platform/tab_control.h"
 
 namespace lesson_lab {
 
@@ -13,6 +14,11 @@ void FormCamera::Take(platform::Form& form, const std::string& name) {
 void FormCamera::AtWait(const std::string&) {
   platform::Form& form = *platform::Form::ModalForm();
   Take(form, nextName);
+  if (auto* tabs = dynamic_cast<platform::TabControl*>(form.Find("sstabHelp")))
+    for (int page = 1; page < tabs->PageCount(); ++page) {
+      tabs->SetPage(page);
+      Take(form, nextName + "_" + std::to_string(page + 1));
+    }
   form.Close();
 }
 

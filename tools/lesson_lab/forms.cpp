@@ -4,6 +4,8 @@
 
 #include "engine/navigation.h"
 #include "engine/result_form.h"
+#include "guidance/dpi_alert_form.h"
+#include "guidance/guidance_forms.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/form_camera.h"
 #include "records/login_form.h"
@@ -76,6 +78,13 @@ void ShowStudentName() {
       .form.ShowModal();
 }
 
+std::function<void()> ShowDpiAlertOf(const std::string& system) {
+  return [system] {
+    session.gWindowsVersionName = system;
+    course::ShowDpiAlert();
+  };
+}
+
 }  // namespace
 
 int WriteForms(const std::string& folder) {
@@ -93,7 +102,12 @@ int WriteForms(const std::string& folder) {
            {"login", ShowLogin},
            {"network_login", ShowNetworkLogin},
            {"password", ShowPassword},
-           {"student_name", ShowStudentName}}) {
+           {"student_name", ShowStudentName},
+           {"help", course::ShowHelp},
+           {"dpi_alert", ShowDpiAlertOf("XP")},
+           {"dpi_alert_unknown", ShowDpiAlertOf("NOTA")},
+           {"tech_support", course::ShowTechSupportForm},
+           {"about", course::ShowAboutForm}}) {
     camera.nextName = name;
     show();
   }
