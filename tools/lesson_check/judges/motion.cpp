@@ -67,7 +67,9 @@ struct Motion {
 Unit AskedBy(const std::string& text) {
   if (text.find("How far") != std::string::npos) return Unit::Mile;
   if (text.find("How long") != std::string::npos) return Unit::Minute;
-  if (text.find("What is its rate") != std::string::npos) return Unit::Mph;
+  if (text.find("What is") != std::string::npos &&
+      text.find("rate", text.find("What is")) != std::string::npos)
+    return Unit::Mph;
   throw Unreadable("\"" + text + "\" asks for nothing known");
 }
 
@@ -153,6 +155,7 @@ void AddMistakesAtDistance(const Motion& m, MistakeList& list) {
   list.Add("takes the wind or current the wrong way", (*m.rate - m.drift) * time);
   list.Add("leaves the minutes out", real * hours.full);
   list.Add("reads the minutes as hundredths of an hour", real * hours.AsHundredths());
+  if (hours.full == 0) list.Add("reads the minutes as hours", real * hours.rest);
   list.AddQuotient("divides in place of multiplying", real, time);
   list.Add("adds the rate and the time", real + time);
 }
@@ -167,6 +170,8 @@ void AddMistakesAtRate(const Motion& m, MistakeList& list) {
   list.AddQuotient("reads the minutes as hundredths of an hour", *m.distance, hours.AsHundredths(),
                    m.drift);
   list.AddQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
+  if (hours.full == 0)
+    list.AddQuotient("reads the minutes as hours", *m.distance, hours.rest, m.drift);
 }
 
 void AddMistakesAtTime(const Motion& m, MistakeList& list) {
