@@ -91,17 +91,6 @@ void BuiltUpFraction(benchmark::State& state) {
 }
 BENCHMARK(BuiltUpFraction);
 
-void DrawnProblem(benchmark::State& state) {
-  const auto lesson = MakeLesson("Simple Inequalities");
-  int seed = 0;
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(lesson->Draw(seed));
-    seed = (seed + 1) % 32767;
-  }
-  state.SetItemsProcessed(state.iterations());
-}
-BENCHMARK(DrawnProblem);
-
 // From the cleared screen to the shown answer boxes.
 void PracticePage(benchmark::State& state) {
   const OpenWindow window;

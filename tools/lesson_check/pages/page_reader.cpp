@@ -28,9 +28,9 @@ bool EndsBeforeResults(int entry) {
 
 }  // namespace
 
-PageReader::PageReader() {
+PageReader::PageReader(WindowLook look) {
   course::LoadLessonWindow();
-  frmPR->form.Hide();  // its surfaces are read: painting them on a screen would cost half the time
+  if (look == WindowLook::Hidden) frmPR->form.Hide();
 }
 
 PageReader::~PageReader() {

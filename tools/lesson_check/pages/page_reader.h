@@ -11,9 +11,13 @@
 
 namespace lesson_check {
 
+// Hidden: the surfaces are drawn and can be read all the same; painting them on a screen would cost
+// half the time.
+enum class WindowLook { Hidden, Shown };
+
 class PageReader : public StopCatcher {
  public:
-  PageReader();
+  explicit PageReader(WindowLook look = WindowLook::Hidden);
   ~PageReader() override;
 
   // Runs the lesson in a mode, see WantEntry, and calls look at each of its pages.  Throws
