@@ -5,16 +5,13 @@
 // neither is a multiple of the other; in the second, with denominators up to 30, they also share a
 // factor, so that the least common denominator is smaller than their product.  Either kind may have
 // a negative second fraction, but the sum is always positive.
-#include <algorithm>
-
 #include "display/grid.h"
-#include "display/print.h"
-#include "display/stacked_text.h"
 #include "display/word_wrap.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
 #include "lessons/outside_units/fraction_steps.h"
+#include "lessons/page_lines.h"
 #include "mathkit/expressions.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
@@ -68,17 +65,6 @@ class AddingFractions final : public LessonScript {
   Fraction second_;  // proper, of either sign
 };
 
-// A line of mathematics through the middle of three rows.
-void PrintLine(double row, const std::string& text, double col = 3) {
-  Locate(row, col);
-  isPrintStackedText(text);
-}
-
-void WrapAt(double row, const std::string& text) {
-  Locate(row, 1);
-  WordWrap(text);
-}
-
 std::string FactorsLine(int n) {
   const std::vector<int> factors = PrimeFactorsOf(n);
   return NumStr(n) + (factors.size() == 1 ? " is a prime number." : " = " + ProductText(factors));
@@ -88,7 +74,7 @@ std::string FactorsLine(int n) {
 
 void AddingFractions::SameDenominator() {
   NewScreen();
-  PrintLine(4, "3/7");
+  PrintStackedRow(4, "3/7");
   Locate(3, 7);
   WordWrap(R"(the \cnumerator\z: how many parts)");
   Locate(5, 7);
@@ -99,7 +85,7 @@ void AddingFractions::SameDenominator() {
             R"(numerators and keep the denominator.)");
   PageEnd();
   DrawStrip(12.5, 3, 35, 7, {{3, Yellow}, {2, Cyan}});
-  PrintLine(15.5, "3/7 + 2/7 = (3 + 2)/7 = 5/7");
+  PrintStackedRow(15.5, "3/7 + 2/7 = (3 + 2)/7 = 5/7");
   PageEnd();
   WrapAt(18, R"(\rDo not add the denominators\z: 5/14 is less than the 3/7 with which we began.)");
   PageEnd();
@@ -111,7 +97,7 @@ void AddingFractions::SameDenominator() {
 
 void AddingFractions::CommonDenominators() {
   NewScreen();
-  PrintLine(4, "1/2 + 1/3");
+  PrintStackedRow(4, "1/2 + 1/3");
   WrapAt(6.5, "Halves and thirds are parts of different sizes: we cannot add them yet.");
   DrawStrip(9, 3, 36, 2, {{1, Yellow}});
   DrawStrip(10.5, 3, 36, 3, {{1, Cyan}});
@@ -120,20 +106,20 @@ void AddingFractions::CommonDenominators() {
   DrawStrip(9, 3, 36, 6, {{3, Yellow}});
   DrawStrip(10.5, 3, 36, 6, {{2, Cyan}});
   PageEnd();
-  PrintLine(15, RenamedLine({1, 2}, 6));
-  PrintLine(15, RenamedLine({1, 3}, 6), 22);
+  PrintStackedRow(15, RenamedLine({1, 2}, 6));
+  PrintStackedRow(15, RenamedLine({1, 3}, 6), 22);
   PageEnd();
   WrapAt(17.5, R"(6 is a \ccommon denominator\z: 2 and 3 both go into it evenly.)");
   PageEnd();
   DrawStrip(19.8, 3, 36, 6, {{3, Yellow}, {2, Cyan}});
-  PrintLine(22.2, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
+  PrintStackedRow(22.2, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
   PageEnd();
   LeastCommonDenominators();
 }
 
 void AddingFractions::LeastCommonDenominators() {
   NewScreen();
-  PrintLine(4, "5/12 + 7/18");
+  PrintStackedRow(4, "5/12 + 7/18");
   WrapAt(6.5, R"(The smallest common denominator is called the \cleast common denominator\z, or )"
               R"(\cLCD\z.  We find it with prime factors.)");
   PageEnd();
@@ -157,21 +143,21 @@ void AddingFractions::LeastCommonDenominators() {
 void AddingFractions::WholeSums() {
   NewScreen();
   WrapAt(3, "Let's add two fractions step by step.");
-  PrintLine(5.5, "5/6 + 7/10");
+  PrintStackedRow(5.5, "5/6 + 7/10");
   PageEnd();
   WrapAt(8,
          "6 = " + ProductText({2, 3}) + " and 10 = " + ProductText({2, 5}) + ", so the LCD is 30.");
-  PrintLine(10.5, RenamedLine({5, 6}, 30));
-  PrintLine(10.5, RenamedLine({7, 10}, 30), 23);
+  PrintStackedRow(10.5, RenamedLine({5, 6}, 30));
+  PrintStackedRow(10.5, RenamedLine({7, 10}, 30), 23);
   PageEnd();
   WrapAt(13, "We add the numerators:");
-  PrintLine(15.5, "25/30 + 21/30 = (25 + 21)/30 = 46/30");
+  PrintStackedRow(15.5, "25/30 + 21/30 = (25 + 21)/30 = 46/30");
   PageEnd();
   WrapAt(18, R"(2 goes into 46 and 30, so we \yreduce\z.)");
-  PrintLine(20.5, "46/30 = 23/15");
+  PrintStackedRow(20.5, "46/30 = 23/15");
   PageEnd();
   WrapAt(22.8, R"(23 is 15 and 8 more: \y1 whole\z, 8 parts.)");
-  PrintLine(20.5, "= 1 8/15", 11);
+  PrintStackedRow(20.5, "= 1 8/15", 11);
   PageEnd();
   NegativeFractions();
 }
@@ -179,13 +165,13 @@ void AddingFractions::WholeSums() {
 void AddingFractions::NegativeFractions() {
   NewScreen();
   WrapAt(3, R"(When a fraction is \ynegative\z, its numerator takes the minus sign along.)");
-  PrintLine(6.5, "5/6 + (-3/4)");
+  PrintStackedRow(6.5, "5/6 + (-3/4)");
   PageEnd();
   WrapAt(9, "The LCD of 6 and 4 is 12.");
-  PrintLine(11.5, "10/12 + (-9/12)");
+  PrintStackedRow(11.5, "10/12 + (-9/12)");
   PageEnd();
   WrapAt(14, "Adding -9 takes 9 parts away.");
-  PrintLine(16.5, "(10 + (-9))/12 = 1/12");
+  PrintStackedRow(16.5, "(10 + (-9))/12 = 1/12");
   PageEnd();
   WrapAt(19, "What is the sum of 1/2 and -1/3?");
   PageEnd();
@@ -248,7 +234,7 @@ std::vector<FractionMistake> AddingFractions::Mistakes() const {
 
 void AddingFractions::ShowProblem() {
   WrapAt(5, problem.question[0]);
-  PrintLine(8, Sum(), 5);
+  PrintStackedRow(8, Sum(), 5);
   WrapAt(11, "Find the sum in lowest terms.  A sum above 1 is written as a mixed number.");
   answerRow = 15;
   SetFractionBoxes(14);
@@ -258,7 +244,7 @@ void AddingFractions::ShowProblem() {
 
 void AddingFractions::ExplainProblem() {
   ProblemBanner();
-  PrintLine(5, Sum());
+  PrintStackedRow(5, Sum());
   ExplainDenominator();
   ExplainRenaming();
   ExplainSum();
@@ -287,13 +273,13 @@ void AddingFractions::ExplainOneRenaming(double row, const Fraction& f) {
   const std::string factor = NumStr(Denominator() / f.den);
   WrapAt(row, NumStr(f.den) + " goes into " + NumStr(Denominator()) + R"( \y)" + factor +
                   R"( times\z.  Multiplying both parts by )" + factor + " keeps the value:");
-  PrintLine(row + 3.5, RenamedLine(f, Denominator()));
+  PrintStackedRow(row + 3.5, RenamedLine(f, Denominator()));
   PageEnd();
 }
 
 void AddingFractions::ExplainRenaming() {
   NewScreen();
-  PrintLine(3, Sum());
+  PrintStackedRow(3, Sum());
   Locate(3, 22);
   WordWrap("LCD = " + NumStr(Denominator()));
   ExplainOneRenaming(5.5, first_);
@@ -305,20 +291,20 @@ void AddingFractions::ExplainSum() {
   const std::string second = NumStr(SecondNumerator());
   const std::string den = NumStr(Denominator());
   WrapAt(17.5, "Now both count parts of the same size.  We add the numerators:");
-  PrintLine(21, SumText(first + "/" + den, second + "/" + den) + " = (" + SumText(first, second) +
-                    ")/" + den + " = " + UnreducedSum());
+  PrintStackedRow(21, SumText(first + "/" + den, second + "/" + den) + " = (" +
+                          SumText(first, second) + ")/" + den + " = " + UnreducedSum());
   PageEnd();
 }
 
 void AddingFractions::ExplainLowestTerms() {
   const Fraction sum = first_ + second_;
   NewScreen();
-  PrintLine(4, Sum() + " = " + UnreducedSum());
+  PrintStackedRow(4, Sum() + " = " + UnreducedSum());
   double row = ExplainReduction(6.5);
   if (sum.num > sum.den) {
     WrapAt(row, NumStr(sum.den) + " goes into " + NumStr(sum.num) + " once, and " +
                     NumStr(sum.num - sum.den) + R"( is left.  We write a \ymixed number\z.)");
-    PrintLine(row + 3.5, ValueText(sum) + " = " + MixedText(sum));
+    PrintStackedRow(row + 3.5, ValueText(sum) + " = " + MixedText(sum));
     PageEnd();
     row += 6;
   }
@@ -338,7 +324,7 @@ double AddingFractions::ExplainReduction(double row) {
   }
   WrapAt(row, R"(\y)" + NumStr(common) + R"(\z goes into )" + NumStr(numerator) + " and " +
                   NumStr(Denominator()) + R"(.  We divide both by it to \yreduce\z the fraction.)");
-  PrintLine(row + 3.5, UnreducedSum() + " = " + ValueText(first_ + second_));
+  PrintStackedRow(row + 3.5, UnreducedSum() + " = " + ValueText(first_ + second_));
   PageEnd();
   return row + 6;
 }

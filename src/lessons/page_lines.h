@@ -1,0 +1,17 @@
+// A page of a lesson, line by line: each routine puts its text where the page wants it.
+#pragma once
+
+#include <string>
+
+namespace course {
+
+// A paragraph from column 1 of the row on.
+void WrapAt(double row, const std::string& text);
+// A line of mathematics on one row, or with built-up fractions on three of which row is the middle
+// one: x^2^ - 1, or what display/stacked_text.h takes.  The cursor stays behind it.
+void PrintRow(double row, const std::string& text, double col = 3);
+void PrintStackedRow(double row, const std::string& text, double col = 3);
+// So many rows from the first on, margins aside.
+void ClearRows(int first, int count);
+
+}  // namespace course
