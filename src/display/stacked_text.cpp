@@ -53,15 +53,15 @@ std::size_t EndOfPart(const std::string& s, std::size_t start) {
   return end;
 }
 
-// Columns by which a fraction keeps off a minus sign, which would run into its bar.
-constexpr double kGapBehindMinus = 0.25;
+// Columns by which a fraction keeps off its sign, which would run into the bar.
+constexpr double kGapBehindSign = 0.25;
 
-bool EndsInMinus(const std::string& text) {
-  return !text.empty() && text.back() == '-';
+bool EndsInSign(const std::string& text) {
+  return !text.empty() && (text.back() == '-' || text.back() == tutor::PlusOrMinus[0]);
 }
 
-void MoveBehindMinus(TextPanel& panel) {
-  panel.SetCursor(panel.cursorX + kGapBehindMinus * panel.layout.cellWidth, panel.cursorY);
+void MoveBehindSign(TextPanel& panel) {
+  panel.SetCursor(panel.cursorX + kGapBehindSign * panel.layout.cellWidth, panel.cursorY);
 }
 
 std::string WithoutParentheses(const std::string& part) {
@@ -111,7 +111,7 @@ void isPrintStackedText(const std::string& s) {
     const std::string text = RadicalsMarked(piece.text);
     if (piece.den.empty()) {
       isPrintRadicalText(text);
-      if (EndsInMinus(text)) MoveBehindMinus(frmPR->lessonText);
+      if (EndsInSign(text)) MoveBehindSign(frmPR->lessonText);
     } else {
       isPrintColouredFraction(text, RadicalsMarked(piece.den));
     }
@@ -128,7 +128,7 @@ void picAnswerPrintStackedText(int box, const std::string& s) {
     const std::string text = RadicalsMarked(piece.text);
     if (piece.den.empty()) {
       picAnswerPrintRadicalText(box, text);
-      if (EndsInMinus(text)) MoveBehindMinus(panel);
+      if (EndsInSign(text)) MoveBehindSign(panel);
     } else {
       picAnswerPrintFraction(box, text, RadicalsMarked(piece.den), 0, 0, kTightened);
     }
