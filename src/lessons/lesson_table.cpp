@@ -18,6 +18,7 @@ struct LessonRow {
 constexpr auto kLessons = std::to_array<LessonRow>({
     {"Simple Inequalities", MakeSimpleInequalities},
     {"Complex Inequalities", MakeComplexInequalities},
+    {"The Quadratic Formula", MakeTheQuadraticFormula},
     {"Adding Fractions", MakeAddingFractions},
 });
 

@@ -12,6 +12,9 @@ namespace course {
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
 std::unique_ptr<LessonScript> MakeComplexInequalities();
 
+// Unit 12, "Quadratic Equations".
+std::unique_ptr<LessonScript> MakeTheQuadraticFormula();
+
 // Outside the units.
 std::unique_ptr<LessonScript> MakeAddingFractions();
 

@@ -1,7 +1,7 @@
 #include "lessons/page_lines.h"
 
+#include "display/drawing.h"
 #include "display/grid.h"
-#include "display/print.h"
 #include "display/stacked_text.h"
 #include "display/word_wrap.h"
 
@@ -22,11 +22,14 @@ void PrintStackedRow(double row, const std::string& text, double col) {
   isPrintStackedText(text);
 }
 
-void ClearRows(int first, int count) {
-  for (int i = 0; i < count; ++i) {
-    Locate(first + i, 1);
-    isPrints(std::string(static_cast<std::size_t>(screenState.gRightColumn), ' '));
-  }
+void ClearCells(double row, double col, double wd, double ht) {
+  constexpr double kBandTop = 4.0 / gCellHeight;  // letters begin below the top of their cells
+  isDrawBoxFilled(row + kBandTop, col, row + kBandTop + ht - 1, col + wd - 1,
+                  screenState.gBackColor);
+}
+
+void ClearRows(double row, double ht) {
+  ClearCells(row, 1, screenState.gRightColumn, ht);
 }
 
 }  // namespace course

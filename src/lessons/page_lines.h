@@ -11,7 +11,8 @@ void WrapAt(double row, const std::string& text);
 // one: x^2^ - 1, or what display/stacked_text.h takes.  The cursor stays behind it.
 void PrintRow(double row, const std::string& text, double col = 3);
 void PrintStackedRow(double row, const std::string& text, double col = 3);
-// So many rows from the first on, margins aside.
-void ClearRows(int first, int count);
+// Empties wd columns of ht rows from the cell on, the rectangle that Anim would move.
+void ClearCells(double row, double col, double wd, double ht);
+void ClearRows(double row, double ht);
 
 }  // namespace course
