@@ -100,7 +100,7 @@ constexpr SizedStroke kCommentStrokes[] = {
 constexpr int kDrawnCodes[] = {127, 129, 130, 131, 132, 133, 134, 135, 136, 141, 157, 161, 162,
                                163, 164, 165, 166, 167, 168, 169, 170, 171, 173, 174, 176, 177,
                                191, 216, 217, 218, 219, 221, 226, 230, 231, 248, 249, 253, 255};
-constexpr int kCommentCodes[] = {130, 141, 248, 249};
+constexpr int kCommentCodes[] = {130, 141, 248, 249, 255};
 
 bool Holds(std::span<const int> codes, int code) {
   return std::find(codes.begin(), codes.end(), code) != codes.end();
