@@ -20,10 +20,19 @@ int UnitOf(const std::string& title) {
   return 0;
 }
 
+// A command line is UTF-8, and a title such as "... x^2+bx+c" with its raised 2 is not.
+std::string AsListed(const std::string& title) {
+  for (const std::string_view each : course::LessonTitles()) {
+    const std::string listed(each);
+    if (course::UpperCase(course::ToUtf8(listed)) == course::UpperCase(title)) return listed;
+  }
+  return title;
+}
+
 }  // namespace
 
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
-  auto lesson = course::MakeLesson(title);
+  auto lesson = course::MakeLesson(AsListed(title));
   if (!lesson && course::UpperCase(title) == "BLANK LESSON") lesson = course::MakeBlankLesson();
   if (!lesson) std::fprintf(stderr, "No lesson has the title \"%s\".\n", title.c_str());
   return lesson;
