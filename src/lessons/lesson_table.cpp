@@ -16,6 +16,8 @@ struct LessonRow {
 
 // In the order of the course; those that only the diagnostic test reaches come last.
 constexpr auto kLessons = std::to_array<LessonRow>({
+    {"Multiplying with Exponents", MakeMultiplyingWithExponents},
+    {"Trinomials of the Form x\xB2+bx+c", MakeTrinomialsX2BxC},
     {"Simple Inequalities", MakeSimpleInequalities},
     {"Complex Inequalities", MakeComplexInequalities},
     {"The Quadratic Formula", MakeTheQuadraticFormula},

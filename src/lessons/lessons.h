@@ -8,6 +8,12 @@
 
 namespace course {
 
+// Unit 5, "Exponents and Powers".
+std::unique_ptr<LessonScript> MakeMultiplyingWithExponents();
+
+// Unit 7, "Factoring".
+std::unique_ptr<LessonScript> MakeTrinomialsX2BxC();
+
 // Unit 10, "Inequalities".
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
 std::unique_ptr<LessonScript> MakeComplexInequalities();
