@@ -16,6 +16,7 @@ struct LessonRow {
 
 // In the order of the course; those that only the diagnostic test reaches come last.
 constexpr auto kLessons = std::to_array<LessonRow>({
+    {"Order of Operations", MakeOrderOfOperations},
     {"Multiplying with Exponents", MakeMultiplyingWithExponents},
     {"Trinomials of the Form x\xB2+bx+c", MakeTrinomialsX2BxC},
     {"Simple Inequalities", MakeSimpleInequalities},

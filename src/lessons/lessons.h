@@ -8,6 +8,9 @@
 
 namespace course {
 
+// Unit 1, "Review of Arithmetic".
+std::unique_ptr<LessonScript> MakeOrderOfOperations();
+
 // Unit 5, "Exponents and Powers".
 std::unique_ptr<LessonScript> MakeMultiplyingWithExponents();
 

@@ -1,0 +1,427 @@
+// The student can work out an expression of several operations in the agreed order: what stands in
+// parentheses and brackets first, the innermost pair first of all; then multiplication and division
+// from left to right; then addition and subtraction from left to right.
+//
+// Four kinds of expressions, five shapes each: multiplication or division beside addition or
+// subtraction; operations of the same rank, where the direction decides; parentheses; parentheses
+// inside brackets.  All numbers on the way are whole and above zero.
+#include <optional>
+
+#include "display/animation.h"
+#include "display/grid.h"
+#include "display/print.h"
+#include "display/word_wrap.h"
+#include "engine/answers.h"
+#include "engine/header.h"
+#include "engine/lesson_script.h"
+#include "lessons/lessons.h"
+#include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
+#include "lessons/unit01_review_of_arithmetic/evaluation.h"
+#include "lessons/unit01_review_of_arithmetic/stepping_display.h"
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course {
+namespace {
+
+constexpr int kKinds = 4;
+constexpr int kShapesOfKind = 5;
+// n 1 to 9; f 2 to 8; m 2 to 5; L 11 to 49; Q a multiple, 2 to 8 times, of the m that follows;
+// d and D drawn as n and L, then raised until the division behind them comes out.
+constexpr std::string_view kShapes[kKinds][kShapesOfKind] = {
+    {"n+f*m-n", "L-f*m+n", "f*m+Q/m", "L-Q/m-n", "f*m-n+Q/m"},
+    {"L-n+n-n", "Q/m*m+n", "L-n+f*m", "L-Q/m*m+n", "f*m-Q/m+n"},
+    {"m*(n+n)-n", "(D-n)/m+f", "L-m*(n-n)", "(n+n)*(n-n)", "Q/m+m*(n+n)"},
+    {"m*[L-(n+n)]", "[d+m*(n-n)]/m", "L-[n+m*(n-n)]", "m*[(d+n)/m+n]", "[D-(n+n)]/m*m"},
+};
+
+// The usual mistakes, the most telling ones first.
+constexpr WorkingOrder kMistakes[] = {
+    {.mistake = "works from left to right", .times = 1, .divided = 1},
+    {.mistake = "forgets the parentheses", .heedsParentheses = false},
+    {.mistake = "forgets the brackets", .heedsBrackets = false},
+    {.mistake = "adds and subtracts first", .plus = 3, .minus = 3},
+    {.mistake = "adds before subtracting", .plus = 2, .times = 3, .divided = 3},
+    {.mistake = "multiplies before dividing", .times = 3},
+    {.mistake = "forgets parentheses and brackets",
+     .heedsParentheses = false,
+     .heedsBrackets = false},
+    {.mistake = "works from left to right without the parentheses",
+     .heedsParentheses = false,
+     .heedsBrackets = false,
+     .times = 1,
+     .divided = 1},
+    {.mistake = "works from right to left", .fromTheRight = true, .times = 1, .divided = 1},
+    {.mistake = "stops before the last operation", .stopsEarly = true},
+};
+
+constexpr int kLargestNumber = 150;  // on the way to the value, which is found in the head
+constexpr int kChoices = 5;
+constexpr int kFewestMistakes = 2;  // one of order, and to stop early, which is always possible
+
+// Rows for the reasons below an evaluation.
+constexpr double kReasonRow = 15;
+constexpr double kLastRow = 23;
+constexpr double kWipeSpeed = 10;
+
+class OrderOfOperations final : public LessonScript {
+ public:
+  OrderOfOperations() : LessonScript("Order of Operations") {}
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {[this] { WhyThereIsAnOrder(); }, [this] { FromLeftToRight(); },
+            [this] { ParenthesesFirst(); }, [this] { AllRulesTogether(); }};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+  bool OffersRules() const override { return true; }
+
+  void WhyThereIsAnOrder();
+  void SuzyAndPaul();
+  void FromLeftToRight();
+  void ParenthesesFirst();
+  void AllRulesTogether();
+  void WorkOut(std::string_view text, double row);
+  void Ask(std::string_view text, double row);
+  void WorkOutAloud(const ArithmeticExpression& expression, double row);
+
+  void DrawNumbers(std::string_view shape, RandomStream& random);
+  bool IsWorthSolving() const;
+  int MakeMistakes();
+  int SlotOf(const std::string& text, int slots) const;
+
+  ArithmeticExpression expression_;  // two to four operations
+};
+
+// As it stands in a sentence, which does not break inside.
+std::string InSentence(std::string_view text) {
+  return WithoutBreaks(ExpressionText(ExpressionOf(text)));
+}
+
+// Wipes the reason of the step before away, and tells what that step has given, if there was one.
+void StartReason(const std::string& given) {
+  if (!given.empty()) WipeAndErase("U", kLastRow + 1, kLastRow + 1 - kReasonRow, kWipeSpeed);
+  Locate(kReasonRow, 1);
+  if (given.empty()) return;
+  isPrint(given + ".");
+  isPrint();
+}
+
+// --- Teaching screens --------------------------------------------------------
+
+// An evaluation in the middle of the window, a step a page; the last page is the caller's.
+void OrderOfOperations::WorkOut(std::string_view text, double row) {
+  Evaluation evaluation(ExpressionOf(text), row);
+  while (!evaluation.Done()) {
+    evaluation.PickOut();
+    PageEnd();
+    evaluation.ShowResult();
+  }
+}
+
+// The same for the student to try first.
+void OrderOfOperations::Ask(std::string_view text, double row) {
+  Evaluation evaluation(ExpressionOf(text), row);
+  PageEnd();
+  WorkOut(text, row);
+}
+
+// The same with the reasons told below; ends with the last result.
+void OrderOfOperations::WorkOutAloud(const ArithmeticExpression& expression, double row) {
+  Evaluation evaluation(expression, row);
+  std::string given;
+  while (!evaluation.Done()) {
+    evaluation.PickOut();
+    StartReason(given);
+    WordWrap(evaluation.Reason() + R"(What is \y)" + evaluation.OperationText() + R"(\z?)");
+    PageEnd();
+    evaluation.ShowResult();
+    given = evaluation.ResultText();
+  }
+  StartReason(given);
+}
+
+void OrderOfOperations::WhyThereIsAnOrder() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("What is the value of " + InSentence("3+4*2") +
+           "?  Suzy adds first.  Paul multiplies first.");
+  SuzyAndPaul();
+  Locate(14, 1);
+  WordWrap("Both can add and multiply.  Who has found the value of the expression?");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(An expression has only one value.  So we all follow one \corder of operations\z:)");
+  WordWrap(R"(\yMultiply and divide before you add and subtract.\z)");
+  PageEnd();
+  isPrint();
+  WordWrap("Paul is right.  The value is 11.");
+  PageEnd();
+
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("Why do we multiply first?  Think of a shop:");
+  PageEnd();
+  isPrint();
+  WordWrap("You buy a pen for 3 dollars and 4 notebooks for 2 dollars each.  Together they cost " +
+           InSentence("3+4*2") + " dollars.");
+  PageEnd();
+  isPrint();
+  WordWrap(
+      "You pay for 4 notebooks and not for 7 things.  So we need the price of the notebooks, " +
+      InSentence("4*2") + " = 8, before we add:  " + InSentence("3+8") + " = 11 dollars.");
+  PageEnd();
+  isPrint();
+  WordWrap("Now you.  Which operation comes first here, and what is the value?");
+  Ask("20-6/2", 18);
+  PageEnd();
+}
+
+// Two evaluations side by side, each in its own order.
+void OrderOfOperations::SuzyAndPaul() {
+  const std::string text = ExpressionText(ExpressionOf("3+4*2"));
+  Locate(6, 6);
+  isPrint("Suzy:");
+  Locate(6, 27);
+  isPrint("Paul:");
+  SteppingDisplay suzy(text, 7.2, 6);
+  SteppingDisplay paul(text, 7.2, 27);
+  PageEnd();
+  suzy.PickOut(0, 2);
+  paul.PickOut(2, 4);
+  PageEnd();
+  suzy.ShowResult("7");
+  paul.ShowResult("8");
+  suzy.PickOut(0, 2);
+  paul.PickOut(0, 2);
+  PageEnd();
+  suzy.ShowResult("14");
+  paul.ShowResult("11");
+}
+
+void OrderOfOperations::FromLeftToRight() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("Addition and subtraction have the same rank.  Neither comes before the other.");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(When the ranks are the same, we work \cfrom left to right\z, as we read.)");
+  WorkOut("12-5+4", 9);
+  PageEnd();
+  Locate(14.5, 1);
+  WordWrap("Why?  You have 12 dollars, you give away 5, and you get 4.  Then you have 11.");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(\rDo not add 5 + 4 first.\z  That would take 9 away from 12, but only 5 are taken.)");
+  PageEnd();
+
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("Multiplication and division have the same rank too.");
+  WorkOut("24/4*2", 6);
+  PageEnd();
+  Locate(11.5, 1);
+  WordWrap(R"(\rDo not multiply 4 )" + tutor::Times +
+           R"( 2 first,\z although the word multiplication comes first in the rule.)");
+  PageEnd();
+  Locate(15.5, 1);
+  WordWrap("Now you.  Which two operations come before the subtraction, and in which order?");
+  Ask("30-12/3*2", 18);
+  PageEnd();
+}
+
+void OrderOfOperations::ParenthesesFirst() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("Can we write an expression in which Suzy is right and the addition comes first?");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(Yes.  \cParentheses\z ( ) say: work out what is inside before anything else.)");
+  WorkOut("(3+4)*2", 9);
+  PageEnd();
+  Locate(14.5, 1);
+  WordWrap("Inside parentheses the order is the same as ever:  multiply and divide first.");
+  WorkOut("20-(2+3*4)", 17);
+  PageEnd();
+
+  NewScreen();
+  Locate(3, 1);
+  WordWrap(R"(Parentheses can stand inside other ones.  The outer pair is then written as )"
+           R"(\cbrackets\z [ ].)");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(We begin with the \yinnermost\z pair and work our way out.)");
+  WorkOut("2*[9-(1+4)]", 10);
+  PageEnd();
+  Locate(18, 1);
+  WordWrap("Now you.  What is the value of " + InSentence("(8-2)*[10-(3+4)]") + "?");
+  PageEnd();
+  isPrint();
+  WordWrap("8 - 2 = 6, and 3 + 4 = 7.  Then 10 - 7 = 3, and at last " + InSentence("6*3") +
+           " = 18.");
+  PageEnd();
+}
+
+void OrderOfOperations::AllRulesTogether() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap(R"(The \corder of operations\z:)");
+  Locate(5, 1);
+  WordWrapIndent(R"(1. Work inside parentheses and brackets, the innermost pair first.)", 4);
+  PageEnd();
+  Locate(8, 1);
+  WordWrapIndent("2. Multiply and divide, from left to right.", 4);
+  PageEnd();
+  Locate(11, 1);
+  WordWrapIndent("3. Add and subtract, from left to right.", 4);
+  PageEnd();
+  Locate(14, 1);
+  WordWrap(
+      "In practice the button \"Show Rules and Reminders\" puts the rules beside the problem.");
+  PageEnd();
+  isPrint();
+  WordWrap("On the next page we use all three rules.  Try to be faster than the page:");
+  const ArithmeticExpression longOne = ExpressionOf("30-[4+6*(5-2)]/2");
+  const SteppingDisplay preview(ExpressionText(longOne), 21, 8);
+  PageEnd();
+
+  NewScreen();
+  WorkOutAloud(longOne, 4);
+  WordWrap("The value of the expression is 19.");
+  PageEnd();
+}
+
+// --- Generator ---------------------------------------------------------------
+
+// The shape stays, so that all are met equally often; its numbers are drawn until they are worth
+// it.
+void OrderOfOperations::DrawProblem(RandomStream& random) {
+  const int kind = random.Rand(1, kKinds);
+  const int shape = random.Rand(1, kShapesOfKind);
+  int slot = 0;
+  do {
+    DrawNumbers(kShapes[kind - 1][shape - 1], random);
+    if (!IsWorthSolving()) continue;
+    problem.Right(1, NumStr(ValueOf(expression_).value()));
+    slot = MakeMistakes();
+  } while (slot < 2 + kFewestMistakes);  // with fewer it does not test the order
+  for (; slot <= kChoices; ++slot) {
+    // At most about 50 away from the value, as a slip of the pen would be.
+    int filler = 0;
+    do {
+      filler = ValueOf(expression_).value() - random.Rand(0, 101) + 50;
+    } while (filler < 1 ||
+             SlotOf(NumStr(filler), slot - 1) > 0);  // no such number, or there already
+    problem.Wrong(slot, "filler", NumStr(filler));
+  }
+  problem.kind = choice_kind::FiveShuffled;
+  problem.question = {"What is the value of this expression?", ExpressionText(expression_)};
+}
+
+void OrderOfOperations::DrawNumbers(std::string_view shape, RandomStream& random) {
+  expression_.clear();
+  std::optional<std::size_t> multiple;
+  std::optional<std::size_t> raised;
+  for (const char c : shape) {
+    const std::size_t place = expression_.size();
+    expression_.push_back({'n', 0});
+    int& value = expression_.back().value;
+    switch (c) {
+      case 'd':
+        raised = place;
+        [[fallthrough]];
+      case 'n':
+        value = random.Rand(1, 9);
+        break;
+      case 'D':
+        raised = place;
+        [[fallthrough]];
+      case 'L':
+        value = 10 * random.Rand(1, 4);
+        value += random.Rand(1, 9);
+        break;
+      case 'Q':
+        multiple = place;
+        [[fallthrough]];
+      case 'f':
+        value = random.Rand(2, 8);
+        break;
+      case 'm':
+        value = random.Rand(2, 5);
+        if (multiple) expression_[*multiple].value *= value;
+        multiple.reset();
+        break;
+      default:
+        expression_.back().kind = c;
+    }
+  }
+  while (raised && !ValueOf(expression_)) ++expression_[*raised].value;
+}
+
+bool OrderOfOperations::IsWorthSolving() const {
+  ArithmeticExpression left = expression_;
+  while (left.size() > 1) {
+    const ExpressionStep step = NextStep(left);
+    const int a = left[step.operation - 1].value;
+    const int b = left[step.operation + 1].value;
+    if (*step.value < 1) return false;  // negative numbers come later, and a 0 makes the rest easy
+    if (*step.value > kLargestNumber) return false;
+    if (left[step.operation].kind == '*' && (a == 1 || b == 1)) return false;  // no work
+    TakeStep(left, step);
+  }
+  return true;
+}
+
+// Fills the choices from 2 on; returns the first slot that is left.
+int OrderOfOperations::MakeMistakes() {
+  int slot = 2;
+  for (const WorkingOrder& order : kMistakes) {
+    const std::optional<int> value = ValueOf(expression_, order);
+    if (!value || *value < 1) continue;  // the student would see that something is wrong
+    if (SlotOf(NumStr(*value), slot - 1) > 0) continue;
+    problem.Wrong(slot, std::string(order.mistake), NumStr(*value));
+    if (++slot > kChoices) break;
+  }
+  return slot;
+}
+
+// The slot among the first so many that has this text; 0 for none.
+int OrderOfOperations::SlotOf(const std::string& text, int slots) const {
+  for (int slot = 1; slot <= slots; ++slot)
+    if (problem.choices.at(static_cast<std::size_t>(slot)).text == text) return slot;
+  return 0;
+}
+
+// --- Problem page ------------------------------------------------------------
+
+void OrderOfOperations::ShowProblem() {
+  Locate(4, 1);
+  isPrint(problem.question[0]);
+  SteppingDisplay(problem.question[1], 8, 2);
+  answerRow = 15.5;
+  picAnswerSetParameters(4, answerRow, 1, 15, 29, 12, 50, 27);
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+void OrderOfOperations::ExplainProblem() {
+  ProblemBanner();
+  Locate(4, 1);
+  isPrint(problem.question[0]);
+  WorkOutAloud(expression_, 5.5);
+  WordWrap(R"(\rA usual mistake:\z  someone who )" + problem.choices[2].mistake + " gets " +
+           problem.choices[2].text + ".");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(The value of the expression is \y)" + problem.choices[1].text + R"(\z.)");
+}
+
+}  // namespace
+
+std::unique_ptr<LessonScript> MakeOrderOfOperations() {
+  return std::make_unique<OrderOfOperations>();
+}
+
+}  // namespace course
