@@ -17,6 +17,7 @@ struct LessonRow {
 // In the order of the course; those that only the diagnostic test reaches come last.
 constexpr auto kLessons = std::to_array<LessonRow>({
     {"Order of Operations", MakeOrderOfOperations},
+    {"Distance-Rate-Time Problems", MakeDistanceRateTimeProblems},
     {"Multiplying with Exponents", MakeMultiplyingWithExponents},
     {"Trinomials of the Form x\xB2+bx+c", MakeTrinomialsX2BxC},
     {"Simple Inequalities", MakeSimpleInequalities},

@@ -11,6 +11,9 @@ namespace course {
 // Unit 1, "Review of Arithmetic".
 std::unique_ptr<LessonScript> MakeOrderOfOperations();
 
+// Unit 4, "Solving Word Problems".
+std::unique_ptr<LessonScript> MakeDistanceRateTimeProblems();
+
 // Unit 5, "Exponents and Powers".
 std::unique_ptr<LessonScript> MakeMultiplyingWithExponents();
 

@@ -1,0 +1,437 @@
+// The student can find the distance, the rate or the time of something that moves, maybe with or
+// against a wind or a current, when the other two are known: d = r t and its two other forms.
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "display/animation.h"
+#include "display/drawing.h"
+#include "display/grid.h"
+#include "display/print.h"
+#include "display/wiper_box.h"
+#include "display/word_wrap.h"
+#include "engine/answers.h"
+#include "engine/choice_pass.h"
+#include "engine/header.h"
+#include "engine/lesson_script.h"
+#include "lessons/lessons.h"
+#include "lessons/unit04_solving_word_problems/durations.h"
+#include "lessons/unit04_solving_word_problems/motion.h"
+#include "mathkit/expressions.h"
+#include "mathkit/fraction.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course {
+namespace {
+
+const std::string kDot = " " + tutor::Dot + " ";
+const std::string kDivided = " " + tutor::Divided + " ";
+
+constexpr int kChoices = 5;
+constexpr int kLargestDenominator = 20;  // of a choice; a stranger fraction gives itself away
+constexpr int kLargestRateShare = 10;    // of a wrong rate to the right one
+constexpr int kMinutesOfHour = 60;
+constexpr int kLongestTime = 24;  // hours, of a choice
+constexpr double kNoneOfTheAboveShare = 0.2;
+
+constexpr int kBoxWidth = 38;  // columns of the white box
+constexpr double kWipeSpeed = 10;
+constexpr double kFactColumn = 21;
+constexpr double kFactsRow = 8.6;   // of an explanation, below the question
+constexpr double kStepsRow = 14.2;  // of the white box below the facts
+constexpr double kStepsRows = 9;
+
+class DistanceRateTimeProblems final : public LessonScript {
+ public:
+  DistanceRateTimeProblems() : LessonScript("Distance-Rate-Time Problems") {}
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {[this] { DistanceRateAndTime(); }};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void DistanceRateAndTime();
+  void TheFormula();
+  void OtherForms();
+  void HoursAndMinutes();
+  void WindAndCurrent();
+
+  void StartBox(double row, double rows);
+  void NextBoxPage();
+  void Ask();
+  int MakeMistakes();
+  bool CanBeChoice(const Fraction& value) const;
+  Choice Filler(RandomStream& random) const;
+  void ShowFacts();
+  void ShowFact(const std::string& name, const std::string& value);
+  void ExplainDrift();
+  void ExplainHours();
+  void ExplainFormula();
+  void Simplify();
+  void ExplainMinutes();
+  void ExplainStillRate();
+  void Check();
+  void TellAnswer();
+
+  std::string Question() const { return problem.question[0] + "  " + problem.question[1]; }
+  std::string Vehicle() const { return "the " + motion_.vehicle; }
+  Choice& ChoiceAt(int slot) { return problem.choices.at(static_cast<std::size_t>(slot)); }
+
+  Motion motion_;
+  double factRow_ = 0;     // where the next fact is printed
+  double unknownRow_ = 0;  // where the fact that is asked for stands
+};
+
+// --- Teaching screen ---------------------------------------------------------
+
+void DistanceRateTimeProblems::DistanceRateAndTime() {
+  TheFormula();
+  OtherForms();
+  HoursAndMinutes();
+  WindAndCurrent();
+}
+
+void DistanceRateTimeProblems::TheFormula() {
+  NewScreen();
+  Locate(3, 1);
+  isPrint("Three numbers tell of a motion:");
+  WordWrap(R"(  the \cdistance\z d that something goes,)");
+  WordWrap(R"(  the \crate\z r at which it goes,)");
+  WordWrap(R"(  and the \ctime\z t that it takes.)");
+  PageEnd();
+  isPrint();
+  WordWrap(
+      R"(A rate tells how far it goes in \yone\z hour.  50 miles in an hour is written as 50)" +
+      tutor::Gap + "mph.");
+  PageEnd();
+  isPrint();
+  WordWrap("A car goes at a rate of 50" + tutor::Gap +
+           "mph.  How far does it go in 3 hours?  Think before you go on.");
+  PageEnd();
+  isPrint();
+  isPrint("  in 1 hour     50" + kDot + "1 =  50 miles");
+  isPrint("  in 2 hours    50" + kDot + "2 = 100 miles");
+  isPrint("  in 3 hours    50" + kDot + "3 = 150 miles");
+  PageEnd();
+  isPrint();
+  isPrint("The distance is the rate times the time:");
+  WordWrap(R"(  \yd = r)" + kDot + R"(t\z)");
+  PageEnd();
+}
+
+// A white box from a row on, for what is worked out beside the text.
+void DistanceRateTimeProblems::StartBox(double row, double rows) {
+  wbPrepare(row, kBoxWidth, rows, platform::colour::White, platform::colour::Black);
+  wbShow();
+}
+
+void DistanceRateTimeProblems::NextBoxPage() {
+  wbWipeAndErase(kWipeSpeed);
+}
+
+// The two other forms and an example of each, in the box.
+void DistanceRateTimeProblems::OtherForms() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("The same formula finds the rate, when we know the distance and the time.");
+  StartBox(6, 10);
+  wbWordWrap("A jogger runs 12 miles in 2 hours.  What is his rate?");
+  PageEnd();
+  wbisPrint();
+  wbWordWrap(R"(We divide both sides of \rd = r)" + kDot + R"(t\z by t:)");
+  wbisPrint("  r = d" + kDivided + "t");
+  PageEnd();
+  wbisPrint("  r = 12" + kDivided + "2 = 6");
+  wbisPrint("His rate is 6" + tutor::Gap + "mph.");
+  PageEnd();
+  Locate(3, 1);
+  WordWrap("The same formula finds the time, when we know the distance and the rate.");
+  NextBoxPage();
+  wbWordWrap("A skater goes 20 miles at a rate of 8" + tutor::Gap + "mph.  How long does it take?");
+  PageEnd();
+  wbisPrint();
+  wbWordWrap(R"(We divide both sides of \rd = r)" + kDot + R"(t\z by r:)");
+  wbisPrint("  t = d" + kDivided + "r");
+  PageEnd();
+  wbisPrint("  t = 20" + kDivided + "8 = 5/2 = 2 1/2");
+  wbisPrint("It takes 2 1/2 hours.");
+  PageEnd();
+}
+
+void DistanceRateTimeProblems::HoursAndMinutes() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
+  PageEnd();
+  isPrint();
+  isPrint("  15 minutes = 15/60 = 1/4 of an hour");
+  isPrint("  30 minutes = 30/60 = 1/2 of an hour");
+  isPrint("  45 minutes = 45/60 = 3/4 of an hour");
+  PageEnd();
+  isPrint();
+  WordWrap("How many hours are 3 hours & 15 minutes?");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(They are \y3 1/4\z hours.)");
+  WordWrap(R"(\rThey are not 3.15 hours.\z  That would be 15 hundredths of an hour.)");
+  PageEnd();
+  isPrint();
+  WordWrap("Back from hours to minutes we multiply:");
+  isPrint("  3/4 of an hour = 3/4" + kDot + "60 = 45 minutes");
+  PageEnd();
+}
+
+void DistanceRateTimeProblems::WindAndCurrent() {
+  NewScreen();
+  Locate(3, 1);
+  WordWrap(R"(A boat sails at 10 mph in still water.  A \ccurrent\z of 2 mph moves the water, and )"
+           R"(the boat in it.)");
+  PageEnd();
+}
+
+// --- Generator ---------------------------------------------------------------
+
+void DistanceRateTimeProblems::DrawProblem(RandomStream& random) {
+  motion_ = Motion::Draw(random);
+  Ask();
+  problem.Right(1, motion_.ValueText(motion_.Answer()));
+  for (int slot = MakeMistakes(); slot <= kChoices; ++slot) ChoiceAt(slot) = Filler(random);
+  ReplaceRepeated(
+      kChoices, [this](int i, int j) { return ChoiceAt(i).text == ChoiceAt(j).text; },
+      [&](int slot) { ChoiceAt(slot) = Filler(random); });
+  problem.kind = choice_kind::FourShuffledAndNone;
+  if (random.Rnd() < kNoneOfTheAboveShare) {
+    std::swap(ChoiceAt(1), ChoiceAt(kChoices));
+    problem.correct = kChoices;
+  }
+}
+
+void DistanceRateTimeProblems::Ask() {
+  const std::string start = "A " + motion_.vehicle + " " + motion_.verb;
+  const std::string distance = QuantityText(motion_.Distance(), "mile");
+  const std::string atRate =
+      start + " at a rate of " + RateText({motion_.rate, 1}) + motion_.StillText() + ".";
+  const std::string inTime = " in " + DurationText(motion_.minutes) + motion_.DriftText();
+  switch (motion_.asked) {
+    case MotionPart::Distance:
+      problem.question = {atRate, "How far does " + Vehicle() + " go" + inTime + "?"};
+      break;
+    case MotionPart::Rate:
+      problem.question = {start + " " + distance + inTime + ".",
+                          "What is the rate of " + Vehicle() + motion_.StillText() + "?"};
+      break;
+    case MotionPart::Time:
+      problem.question = {atRate, "How long does " + Vehicle() + " take to go " + distance +
+                                      motion_.DriftText() + "?"};
+      break;
+  }
+}
+
+// Fills the choices from 2 on with mistakes; returns the first slot that is left.
+int DistanceRateTimeProblems::MakeMistakes() {
+  int slot = 2;
+  for (const auto& [mistake, value] : MistakesAt(motion_)) {
+    if (slot > kChoices || !CanBeChoice(value)) continue;
+    const std::string text = motion_.ValueText(value);
+    bool known = false;
+    for (int i = 1; i < slot; ++i) known = known || ChoiceAt(i).text == text;
+    if (!known) problem.Wrong(slot++, mistake, text);
+  }
+  return slot;
+}
+
+bool DistanceRateTimeProblems::CanBeChoice(const Fraction& value) const {
+  if (value.num <= 0 || value.den > kLargestDenominator) return false;
+  if (motion_.asked == MotionPart::Rate)
+    return !(value < Fraction{1, 1}) && value < Fraction{kLargestRateShare * motion_.rate, 1};
+  if (motion_.asked == MotionPart::Distance) return true;
+  return kMinutesOfHour % value.den == 0 && value < Fraction{kLongestTime, 1};
+}
+
+// A value of the same kind at random; nothing lasts or goes 0.
+Choice DistanceRateTimeProblems::Filler(RandomStream& random) const {
+  const Fraction answer = motion_.Answer();
+  Fraction value;
+  do {
+    if (motion_.asked == MotionPart::Time) {
+      const int hours = random.Rand(0, 9);
+      const int quarters = random.Rand(0, 3);
+      value = motion_.withinAnHour ? Reduced(hours, 4) : Reduced(4 * hours + quarters, 4);
+      continue;
+    }
+    value = {random.Rand(0, answer.num / answer.den + 19), 1};
+    if (motion_.asked == MotionPart::Rate) continue;
+    const int twentieths = random.Rand(0, 19);
+    if (answer.den > 1) value = value + Reduced(twentieths, 20);  // or it stands out
+  } while (value.num == 0);
+  return {motion_.ValueText(value), "filler"};
+}
+
+// --- Problem page ------------------------------------------------------------
+
+void DistanceRateTimeProblems::ShowProblem() {
+  Locate(4, 1);
+  WordWrap(Question());
+  answerRow = 13;
+  // Hours and minutes are long.
+  const double fontSize = motion_.asked == MotionPart::Time ? 15 : 20;
+  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, 0, "", fontSize);
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+void DistanceRateTimeProblems::ExplainProblem() {
+  ProblemBanner();
+  Locate(4, 1);
+  WordWrap(Question());
+  PageEnd();
+  ShowFacts();
+  PageEnd();
+  StartBox(kStepsRow, kStepsRows);
+  ExplainDrift();
+  ExplainHours();
+  ExplainFormula();
+  Simplify();
+  ExplainMinutes();
+  ExplainStillRate();
+  Check();
+  TellAnswer();
+}
+
+void DistanceRateTimeProblems::ShowFacts() {
+  const auto known = [this](MotionPart part, const std::string& text) {
+    return part == motion_.asked ? "?" : text;
+  };
+  factRow_ = kFactsRow + 1.1;
+  Locate(kFactsRow, 1);
+  isPrint("Let's summarize what we know.");
+  const std::string still = motion_.StillText();
+  ShowFact("Rate" + still, known(MotionPart::Rate, RateText({motion_.rate, 1})));
+  if (motion_.direction != 0)
+    ShowFact(motion_.inWater ? "Current" : "Wind",
+             RateText({motion_.drift, 1}) + (motion_.direction > 0 ? ", with us" : ", against us"));
+  ShowFact("Time", known(MotionPart::Time, DurationText(motion_.minutes)));
+  ShowFact("Distance", known(MotionPart::Distance, QuantityText(motion_.Distance(), "mile")));
+}
+
+void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::string& value) {
+  Locate(factRow_, 2);
+  isPrint(name);
+  Locate(factRow_, kFactColumn);
+  if (value == "?") unknownRow_ = factRow_;
+  isColorPrint(value, value == "?" ? platform::colour::Yellow : platform::colour::White);
+  ++factRow_;
+}
+
+// The rate over the ground; when a rate is asked for, the wind or current has its turn at the end.
+void DistanceRateTimeProblems::ExplainDrift() {
+  if (motion_.direction == 0 || motion_.asked == MotionPart::Rate) return;
+  const bool helps = motion_.direction > 0;
+  wbWordWrap("The " + motion_.DriftName() + (helps ? " helps " : " slows ") + Vehicle() +
+             (helps ? ".  We add" : " down.  We subtract") + " to find how fast " + Vehicle() +
+             " really goes:");
+  wbisPrint("  r = " + NumStr(motion_.rate) + (helps ? " + " : " - ") + NumStr(motion_.drift) +
+            " = " + NumStr(motion_.RealRate()));
+  PageEnd();
+  NextBoxPage();
+}
+
+void DistanceRateTimeProblems::ExplainHours() {
+  const int minutes = motion_.minutes % kMinutesOfHour;
+  if (minutes == 0 || motion_.asked == MotionPart::Time) return;
+  wbWordWrap("A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
+  wbisPrint("  " + DurationText(minutes) + " = " + NumStr(minutes) +
+            "/60 = " + MixedText(HoursOf(minutes)) + " of an hour");
+  wbisPrint("  t = " + MixedText(motion_.Hours()));
+  PageEnd();
+  NextBoxPage();
+}
+
+void DistanceRateTimeProblems::ExplainFormula() {
+  const std::string formula = R"(the formula \rd = r)" + kDot + R"(t\z)";
+  const std::string wanted = "Since we want to find the " + NameOf(motion_.asked);
+  if (motion_.asked == MotionPart::Distance) {
+    wbWordWrap(wanted + ", we use " + formula + ".");
+    return;
+  }
+  const std::string other =
+      LetterOf(motion_.asked == MotionPart::Rate ? MotionPart::Time : MotionPart::Rate);
+  wbWordWrap(wanted + ", we should rewrite " + formula + ".  We divide both sides by " + other +
+             ":");
+  wbisPrint("  " + LetterOf(motion_.asked) + " = d" + kDivided + other);
+  PageEnd();
+}
+
+// The numbers in the formula, then line under line what they give.
+void DistanceRateTimeProblems::Simplify() {
+  const std::vector<std::string> lines = WorkingLines(motion_);
+  if (motion_.asked != MotionPart::Distance) NextBoxPage();
+  wbWordWrap("We put in the numbers:");
+  wbisPrint("  " + LetterOf(motion_.asked) + " = " + lines.front());
+  PageEnd();
+  wbWordWrap("Simplify the expression to find the " + NameOf(motion_.asked) + ":");
+  for (std::size_t i = 1; i < lines.size(); ++i) wbisPrint("    = " + lines[i]);
+  PageEnd();
+  NextBoxPage();
+}
+
+void DistanceRateTimeProblems::ExplainMinutes() {
+  const int minutes = motion_.minutes % kMinutesOfHour;
+  if (motion_.asked != MotionPart::Time || minutes == 0) return;
+  wbWordWrap("The time is " + HoursText(motion_.Hours()) +
+             ".  We turn the part of an hour into minutes:");
+  wbisPrint("  " + MixedText(HoursOf(minutes)) + kDot + "60 = " + NumStr(minutes));
+  PageEnd();
+  NextBoxPage();
+}
+
+void DistanceRateTimeProblems::ExplainStillRate() {
+  if (motion_.asked != MotionPart::Rate || motion_.direction == 0) return;
+  const bool helps = motion_.direction > 0;
+  wbWordWrap("So fast " + Vehicle() + " really goes.  The " + motion_.DriftName() +
+             (helps ? " helps by " : " takes away ") + RateText({motion_.drift, 1}) + ", so" +
+             motion_.StillText() + " it is " + (helps ? "slower:" : "faster:"));
+  wbisPrint("  " + NumStr(motion_.RealRate()) + (helps ? " - " : " + ") + NumStr(motion_.drift) +
+            " = " + NumStr(motion_.rate));
+  PageEnd();
+  NextBoxPage();
+}
+
+// The answer put back into the formula; a distance is compared with that of whole hours.
+void DistanceRateTimeProblems::Check() {
+  if (motion_.asked == MotionPart::Distance) return;
+  wbWordWrap(R"(Check in \rd = r)" + kDot + R"(t\z:)");
+  if (motion_.direction != 0)
+    wbisPrint("  r = " + NumStr(motion_.rate) + (motion_.direction > 0 ? " + " : " - ") +
+              NumStr(motion_.drift) + " = " + NumStr(motion_.RealRate()));
+  wbisPrint("  d = " + NumStr(motion_.RealRate()) + kDot + MixedText(motion_.Hours()) + " = " +
+            MixedText(motion_.Distance()));
+  PageEnd();
+  wbisPrint();
+}
+
+void DistanceRateTimeProblems::TellAnswer() {
+  const std::string text = motion_.ValueText(motion_.Answer());
+  Locate(unknownRow_, kFactColumn);
+  isColorPrint(text, platform::colour::Yellow);
+  wbWordWraps("The answer is:  ");
+  wbWordWrap(R"(\r)" + text);
+  if (problem.correct == kChoices) {
+    PageEnd();
+    wbWordWrap("It is not among the choices, so we take:");
+    wbWordWrap(std::string(R"(\b)") + kNoneOfTheAbove);
+    return;
+  }
+  wbWordWrap("We have found what we were looking for.");
+}
+
+}  // namespace
+
+std::unique_ptr<LessonScript> MakeDistanceRateTimeProblems() {
+  return std::make_unique<DistanceRateTimeProblems>();
+}
+
+}  // namespace course
