@@ -20,6 +20,18 @@ Fraction operator+(const Fraction& a, const Fraction& b) {
   return Reduced(a.num * b.den + b.num * a.den, a.den * b.den);
 }
 
+Fraction operator-(const Fraction& a, const Fraction& b) {
+  return a + Fraction{-b.num, b.den};
+}
+
+Fraction operator*(const Fraction& a, const Fraction& b) {
+  return Reduced(a.num * b.num, a.den * b.den);
+}
+
+Fraction operator/(const Fraction& a, const Fraction& b) {
+  return Reduced(a.num * b.den, a.den * b.num);
+}
+
 bool operator<(const Fraction& a, const Fraction& b) {
   return a.num * b.den < b.num * a.den;
 }

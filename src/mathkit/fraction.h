@@ -15,6 +15,9 @@ struct Fraction {
 // n/d in lowest terms, with a zero numerator kept as 0.  d of 0 stops the program.
 Fraction Reduced(int n, int d);
 Fraction operator+(const Fraction& a, const Fraction& b);
+Fraction operator-(const Fraction& a, const Fraction& b);
+Fraction operator*(const Fraction& a, const Fraction& b);
+Fraction operator/(const Fraction& a, const Fraction& b);  // b of 0 stops the program
 bool operator<(const Fraction& a, const Fraction& b);
 
 // "5", "-3/4", "0": improper fractions stay so.

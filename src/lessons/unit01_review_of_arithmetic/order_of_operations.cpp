@@ -5,13 +5,16 @@
 // Four kinds of expressions, five shapes each: multiplication or division beside addition or
 // subtraction; operations of the same rank, where the direction decides; parentheses; parentheses
 // inside brackets.  All numbers on the way are whole and above zero.
+#include <cmath>
 #include <optional>
 
 #include "display/animation.h"
 #include "display/grid.h"
+#include "display/images.h"
 #include "display/print.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
+#include "engine/choice_pass.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
@@ -20,6 +23,7 @@
 #include "lessons/unit01_review_of_arithmetic/stepping_display.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
+#include "session/session.h"
 
 namespace course {
 namespace {
@@ -59,6 +63,8 @@ constexpr int kLargestNumber = 150;  // on the way to the value, which is found 
 constexpr int kChoices = 5;
 constexpr int kFewestMistakes = 2;  // one of order, and to stop early, which is always possible
 
+constexpr double kRulesColumn = 23;  // of the picture beside a problem
+
 // Rows for the reasons below an evaluation.
 constexpr double kReasonRow = 15;
 constexpr double kLastRow = 23;
@@ -90,6 +96,7 @@ class OrderOfOperations final : public LessonScript {
   void DrawNumbers(std::string_view shape, RandomStream& random);
   bool IsWorthSolving() const;
   int MakeMistakes();
+  void DrawFiller(int slot, RandomStream& random);
   int SlotOf(const std::string& text, int slots) const;
 
   ArithmeticExpression expression_;  // two to four operations
@@ -307,17 +314,19 @@ void OrderOfOperations::DrawProblem(RandomStream& random) {
     problem.Right(1, NumStr(ValueOf(expression_).value()));
     slot = MakeMistakes();
   } while (slot < 2 + kFewestMistakes);  // with fewer it does not test the order
-  for (; slot <= kChoices; ++slot) {
-    // At most about 50 away from the value, as a slip of the pen would be.
-    int filler = 0;
-    do {
-      filler = ValueOf(expression_).value() - random.Rand(0, 101) + 50;
-    } while (filler < 1 ||
-             SlotOf(NumStr(filler), slot - 1) > 0);  // no such number, or there already
-    problem.Wrong(slot, "filler", NumStr(filler));
-  }
   problem.kind = choice_kind::FiveShuffled;
+  for (; slot <= kChoices; ++slot) DrawFiller(slot, random);
+  ReplaceRepeatedTexts(problem, [&](int repeated) { DrawFiller(repeated, random); });
   problem.question = {"What is the value of this expression?", ExpressionText(expression_)};
+}
+
+// A number at most about 50 away from the value.
+void OrderOfOperations::DrawFiller(int slot, RandomStream& random) {
+  int filler = 0;
+  do {
+    filler = ValueOf(expression_).value() - random.Rand(0, 101) + 50;
+  } while (filler < 1);  // no number that the student knows
+  problem.Wrong(slot, "filler", NumStr(filler));
 }
 
 void OrderOfOperations::DrawNumbers(std::string_view shape, RandomStream& random) {
@@ -397,9 +406,19 @@ int OrderOfOperations::SlotOf(const std::string& text, int slots) const {
 // --- Problem page ------------------------------------------------------------
 
 void OrderOfOperations::ShowProblem() {
+  const bool withRules = session.gRulesShown == kTrue && session.gMode <= mode::NewProblem;
   Locate(4, 1);
   isPrint(problem.question[0]);
-  SteppingDisplay(problem.question[1], 8, 2);
+  const std::string& text = problem.question[1];
+  const double columns = withRules ? kRulesColumn - 1 : 40;
+  Locate(8, std::floor((columns - static_cast<double>(text.size())) / 2) + 1);
+  isPrint(text);
+  if (withRules) {
+    picGalleryImagePrepare(1, gallery::OrderOfOperations, 6, kRulesColumn);
+    picGalleryImageShow(1);
+  } else {
+    picGalleryImageHide(1);
+  }
   answerRow = 15.5;
   picAnswerSetParameters(4, answerRow, 1, 15, 29, 12, 50, 27);
 }

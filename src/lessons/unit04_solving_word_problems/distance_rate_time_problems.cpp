@@ -1,7 +1,7 @@
 // The student can find the distance, the rate or the time of something that moves, maybe with or
 // against a wind or a current, when the other two are known: d = r t and its two other forms.
-#include <algorithm>
-#include <utility>
+#include <cmath>
+#include <string>
 #include <vector>
 
 #include "display/animation.h"
@@ -11,12 +11,12 @@
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
-#include "engine/choice_pass.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
 #include "lessons/unit04_solving_word_problems/durations.h"
 #include "lessons/unit04_solving_word_problems/motion.h"
+#include "lessons/unit04_solving_word_problems/motion_choices.h"
 #include "mathkit/expressions.h"
 #include "mathkit/fraction.h"
 #include "mathkit/tutor_codes.h"
@@ -27,12 +27,7 @@ namespace {
 const std::string kDot = " " + tutor::Dot + " ";
 const std::string kDivided = " " + tutor::Divided + " ";
 
-constexpr int kChoices = 5;
-constexpr int kLargestDenominator = 20;  // of a choice; a stranger fraction gives itself away
-constexpr int kLargestRateShare = 10;    // of a wrong rate to the right one
 constexpr int kMinutesOfHour = 60;
-constexpr int kLongestTime = 24;  // hours, of a choice
-constexpr double kNoneOfTheAboveShare = 0.2;
 
 constexpr int kBoxWidth = 38;  // columns of the white box
 constexpr double kWipeSpeed = 10;
@@ -58,13 +53,11 @@ class DistanceRateTimeProblems final : public LessonScript {
   void OtherForms();
   void HoursAndMinutes();
   void WindAndCurrent();
+  void ShowArrow(double row, double from, double to, const std::string& name,
+                 platform::Colour colour);
 
   void StartBox(double row, double rows);
   void NextBoxPage();
-  void Ask();
-  int MakeMistakes();
-  bool CanBeChoice(const Fraction& value) const;
-  Choice Filler(RandomStream& random) const;
   void ShowFacts();
   void ShowFact(const std::string& name, const std::string& value);
   void ExplainDrift();
@@ -74,12 +67,10 @@ class DistanceRateTimeProblems final : public LessonScript {
   void ExplainMinutes();
   void ExplainStillRate();
   void Check();
+  void CheckDistance();
   void TellAnswer();
 
   std::string Question() const { return problem.question[0] + "  " + problem.question[1]; }
-  std::string Vehicle() const { return "the " + motion_.vehicle; }
-  Choice& ChoiceAt(int slot) { return problem.choices.at(static_cast<std::size_t>(slot)); }
-
   Motion motion_;
   double factRow_ = 0;     // where the next fact is printed
   double unknownRow_ = 0;  // where the fact that is asked for stands
@@ -184,101 +175,65 @@ void DistanceRateTimeProblems::HoursAndMinutes() {
   PageEnd();
 }
 
+// Arrows of two columns for a mile an hour, tip to tail.
 void DistanceRateTimeProblems::WindAndCurrent() {
   NewScreen();
   Locate(3, 1);
-  WordWrap(R"(A boat sails at 10 mph in still water.  A \ccurrent\z of 2 mph moves the water, and )"
-           R"(the boat in it.)");
+  WordWrap("A boat sails at 10" + tutor::Gap + R"(mph in still water.  A \ccurrent\z of 2)" +
+           tutor::Gap + "mph moves the water, and the boat in it.");
   PageEnd();
+  Locate(6.6, 1);
+  isPrint("With the current we add:");
+  ShowArrow(7.8, 1, 20, "boat", platform::colour::White);
+  ShowArrow(8.9, 21, 24, "current", platform::colour::Cyan);
+  ShowArrow(10, 1, 24, "10 + 2 = 12", platform::colour::Yellow);
+  PageEnd();
+  Locate(11.6, 1);
+  isPrint("Against the current we subtract:");
+  ShowArrow(12.8, 1, 20, "boat", platform::colour::White);
+  ShowArrow(13.9, 20, 17, "current", platform::colour::Cyan);
+  ShowArrow(15, 1, 16, "10 - 2 = 8", platform::colour::Yellow);
+  PageEnd();
+  Locate(16.6, 1);
+  WordWrap("A wind does to a plane what a current does to a boat.");
+  PageEnd();
+  isPrint();
+  WordWrap("Now you.  How long does the boat take to go 24 miles against the current?");
+  PageEnd();
+  isPrint("  t = 24" + kDivided + "8 = 3");
+  isPrint("It takes 3 hours.");
+  PageEnd();
+}
+
+// From one column to another, with its name behind all of them.
+void DistanceRateTimeProblems::ShowArrow(double row, double from, double to,
+                                         const std::string& name, platform::Colour colour) {
+  const double length = std::abs(to - from) + 1;
+  if (from < to)
+    isDrawArrowPointingRightWithColor(row, to, colour, length);
+  else
+    isDrawArrowPointingLeftWithColor(row, to, colour, length);
+  Locate(row, 27);
+  isColorPrint(name, colour);
 }
 
 // --- Generator ---------------------------------------------------------------
 
 void DistanceRateTimeProblems::DrawProblem(RandomStream& random) {
   motion_ = Motion::Draw(random);
-  Ask();
-  problem.Right(1, motion_.ValueText(motion_.Answer()));
-  for (int slot = MakeMistakes(); slot <= kChoices; ++slot) ChoiceAt(slot) = Filler(random);
-  ReplaceRepeated(
-      kChoices, [this](int i, int j) { return ChoiceAt(i).text == ChoiceAt(j).text; },
-      [&](int slot) { ChoiceAt(slot) = Filler(random); });
-  problem.kind = choice_kind::FourShuffledAndNone;
-  if (random.Rnd() < kNoneOfTheAboveShare) {
-    std::swap(ChoiceAt(1), ChoiceAt(kChoices));
-    problem.correct = kChoices;
-  }
-}
-
-void DistanceRateTimeProblems::Ask() {
-  const std::string start = "A " + motion_.vehicle + " " + motion_.verb;
-  const std::string distance = QuantityText(motion_.Distance(), "mile");
-  const std::string atRate =
-      start + " at a rate of " + RateText({motion_.rate, 1}) + motion_.StillText() + ".";
-  const std::string inTime = " in " + DurationText(motion_.minutes) + motion_.DriftText();
-  switch (motion_.asked) {
-    case MotionPart::Distance:
-      problem.question = {atRate, "How far does " + Vehicle() + " go" + inTime + "?"};
-      break;
-    case MotionPart::Rate:
-      problem.question = {start + " " + distance + inTime + ".",
-                          "What is the rate of " + Vehicle() + motion_.StillText() + "?"};
-      break;
-    case MotionPart::Time:
-      problem.question = {atRate, "How long does " + Vehicle() + " take to go " + distance +
-                                      motion_.DriftText() + "?"};
-      break;
-  }
-}
-
-// Fills the choices from 2 on with mistakes; returns the first slot that is left.
-int DistanceRateTimeProblems::MakeMistakes() {
-  int slot = 2;
-  for (const auto& [mistake, value] : MistakesAt(motion_)) {
-    if (slot > kChoices || !CanBeChoice(value)) continue;
-    const std::string text = motion_.ValueText(value);
-    bool known = false;
-    for (int i = 1; i < slot; ++i) known = known || ChoiceAt(i).text == text;
-    if (!known) problem.Wrong(slot++, mistake, text);
-  }
-  return slot;
-}
-
-bool DistanceRateTimeProblems::CanBeChoice(const Fraction& value) const {
-  if (value.num <= 0 || value.den > kLargestDenominator) return false;
-  if (motion_.asked == MotionPart::Rate)
-    return !(value < Fraction{1, 1}) && value < Fraction{kLargestRateShare * motion_.rate, 1};
-  if (motion_.asked == MotionPart::Distance) return true;
-  return kMinutesOfHour % value.den == 0 && value < Fraction{kLongestTime, 1};
-}
-
-// A value of the same kind at random; nothing lasts or goes 0.
-Choice DistanceRateTimeProblems::Filler(RandomStream& random) const {
-  const Fraction answer = motion_.Answer();
-  Fraction value;
-  do {
-    if (motion_.asked == MotionPart::Time) {
-      const int hours = random.Rand(0, 9);
-      const int quarters = random.Rand(0, 3);
-      value = motion_.withinAnHour ? Reduced(hours, 4) : Reduced(4 * hours + quarters, 4);
-      continue;
-    }
-    value = {random.Rand(0, answer.num / answer.den + 19), 1};
-    if (motion_.asked == MotionPart::Rate) continue;
-    const int twentieths = random.Rand(0, 19);
-    if (answer.den > 1) value = value + Reduced(twentieths, 20);  // or it stands out
-  } while (value.num == 0);
-  return {motion_.ValueText(value), "filler"};
+  problem.question = motion_.Question();
+  FillChoices(motion_, problem, random);
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void DistanceRateTimeProblems::ShowProblem() {
-  Locate(4, 1);
+  Locate(5, 1);
   WordWrap(Question());
-  answerRow = 13;
-  // Hours and minutes are long.
-  const double fontSize = motion_.asked == MotionPart::Time ? 15 : 20;
-  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, 0, "", fontSize);
+  answerRow = 12;
+  const bool longTexts = motion_.asked == MotionPart::Time;  // hours and minutes
+  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, longTexts ? 3 : 0, "",
+                         longTexts ? 15 : 20);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -312,13 +267,13 @@ void DistanceRateTimeProblems::ShowFacts() {
   ShowFact("Rate" + still, known(MotionPart::Rate, RateText({motion_.rate, 1})));
   if (motion_.direction != 0)
     ShowFact(motion_.inWater ? "Current" : "Wind",
-             RateText({motion_.drift, 1}) + (motion_.direction > 0 ? ", with us" : ", against us"));
+             RateText({motion_.drift, 1}) + (motion_.direction > 0 ? " (with)" : " (against)"));
   ShowFact("Time", known(MotionPart::Time, DurationText(motion_.minutes)));
   ShowFact("Distance", known(MotionPart::Distance, QuantityText(motion_.Distance(), "mile")));
 }
 
 void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::string& value) {
-  Locate(factRow_, 2);
+  Locate(factRow_, 1);
   isPrint(name);
   Locate(factRow_, kFactColumn);
   if (value == "?") unknownRow_ = factRow_;
@@ -330,9 +285,9 @@ void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::stri
 void DistanceRateTimeProblems::ExplainDrift() {
   if (motion_.direction == 0 || motion_.asked == MotionPart::Rate) return;
   const bool helps = motion_.direction > 0;
-  wbWordWrap("The " + motion_.DriftName() + (helps ? " helps " : " slows ") + Vehicle() +
-             (helps ? ".  We add" : " down.  We subtract") + " to find how fast " + Vehicle() +
-             " really goes:");
+  wbWordWrap("The " + motion_.DriftName() + (helps ? " helps " : " slows ") + motion_.TheVehicle() +
+             (helps ? ".  We add" : " down.  We subtract") + " to find how fast " +
+             motion_.TheVehicle() + " really goes:");
   wbisPrint("  r = " + NumStr(motion_.rate) + (helps ? " + " : " - ") + NumStr(motion_.drift) +
             " = " + NumStr(motion_.RealRate()));
   PageEnd();
@@ -345,7 +300,7 @@ void DistanceRateTimeProblems::ExplainHours() {
   wbWordWrap("A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
   wbisPrint("  " + DurationText(minutes) + " = " + NumStr(minutes) +
             "/60 = " + MixedText(HoursOf(minutes)) + " of an hour");
-  wbisPrint("  t = " + MixedText(motion_.Hours()));
+  wbisPrint("  t = " + HoursText(motion_.Hours()));
   PageEnd();
   NextBoxPage();
 }
@@ -391,7 +346,7 @@ void DistanceRateTimeProblems::ExplainMinutes() {
 void DistanceRateTimeProblems::ExplainStillRate() {
   if (motion_.asked != MotionPart::Rate || motion_.direction == 0) return;
   const bool helps = motion_.direction > 0;
-  wbWordWrap("So fast " + Vehicle() + " really goes.  The " + motion_.DriftName() +
+  wbWordWrap("So fast " + motion_.TheVehicle() + " really goes.  The " + motion_.DriftName() +
              (helps ? " helps by " : " takes away ") + RateText({motion_.drift, 1}) + ", so" +
              motion_.StillText() + " it is " + (helps ? "slower:" : "faster:"));
   wbisPrint("  " + NumStr(motion_.RealRate()) + (helps ? " - " : " + ") + NumStr(motion_.drift) +
@@ -400,17 +355,38 @@ void DistanceRateTimeProblems::ExplainStillRate() {
   NextBoxPage();
 }
 
-// The answer put back into the formula; a distance is compared with that of whole hours.
+// The answer put back into the formula; a distance is compared with those of whole hours.
 void DistanceRateTimeProblems::Check() {
-  if (motion_.asked == MotionPart::Distance) return;
-  wbWordWrap(R"(Check in \rd = r)" + kDot + R"(t\z:)");
-  if (motion_.direction != 0)
-    wbisPrint("  r = " + NumStr(motion_.rate) + (motion_.direction > 0 ? " + " : " - ") +
-              NumStr(motion_.drift) + " = " + NumStr(motion_.RealRate()));
-  wbisPrint("  d = " + NumStr(motion_.RealRate()) + kDot + MixedText(motion_.Hours()) + " = " +
-            MixedText(motion_.Distance()));
+  if (motion_.asked == MotionPart::Distance) {
+    CheckDistance();
+  } else {
+    wbWordWrap(R"(Check in \rd = r)" + kDot + R"(t\z:)");
+    if (motion_.direction != 0)
+      wbisPrint("  r = " + NumStr(motion_.rate) + (motion_.direction > 0 ? " + " : " - ") +
+                NumStr(motion_.drift) + " = " + NumStr(motion_.RealRate()));
+    wbisPrint("  d = " + NumStr(motion_.RealRate()) + kDot + MixedText(motion_.Hours()) + " = " +
+              MixedText(motion_.Distance()));
+  }
   PageEnd();
   wbisPrint();
+}
+
+void DistanceRateTimeProblems::CheckDistance() {
+  const Fraction hours = motion_.Hours();
+  const int full = hours.num / hours.den;
+  const auto distanceIn = [this](int wholeHours) {
+    return NumStr(motion_.RealRate() * wholeHours) + " in " + HoursText({wholeHours, 1});
+  };
+  const std::string distance = MixedText(motion_.Distance());
+  if (hours.den == 1)
+    wbWordWrap("Check:  " + distance + kDivided + NumStr(full) + " = " +
+               NumStr(motion_.RealRate()) + ", the rate.");
+  else if (full == 0)
+    wbWordWrap("Check:  the rate is " + distanceIn(1) + ".  In less time it must be less, and " +
+               distance + " is less.");
+  else
+    wbWordWrap("Check:  the rate makes " + distanceIn(full) + " and " + distanceIn(full + 1) +
+               ".  " + distance + " lies between.");
 }
 
 void DistanceRateTimeProblems::TellAnswer() {
@@ -419,7 +395,7 @@ void DistanceRateTimeProblems::TellAnswer() {
   isColorPrint(text, platform::colour::Yellow);
   wbWordWraps("The answer is:  ");
   wbWordWrap(R"(\r)" + text);
-  if (problem.correct == kChoices) {
+  if (problem.correct == 5) {
     PageEnd();
     wbWordWrap("It is not among the choices, so we take:");
     wbWordWrap(std::string(R"(\b)") + kNoneOfTheAbove);

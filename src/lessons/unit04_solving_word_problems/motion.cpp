@@ -127,45 +127,21 @@ std::string Motion::DriftText() const {
   return (direction > 0 ? " with a " : " against a ") + DriftName() + " of " + RateText({drift, 1});
 }
 
-std::vector<MotionMistake> MistakesAt(const Motion& motion) {
-  const Fraction d = motion.Distance();
-  const Fraction t = motion.Hours();
-  const Fraction still{motion.rate, 1};
-  const Fraction drift{motion.direction * motion.drift, 1};
-  const Fraction real = still + drift;
-  const Fraction wrongWay = still - drift;
-  const Fraction fullHours{motion.minutes / kMinutesOfHour, 1};
-  const Fraction minutes{motion.minutes % kMinutesOfHour, 1};
-  const Fraction asHundredths = fullHours + minutes / Fraction{100, 1};
-  std::vector<MotionMistake> mistakes;
-  switch (motion.asked) {
+std::vector<std::string> Motion::Question() const {
+  const std::string start = "A " + vehicle + " " + verb;
+  const std::string way = QuantityText(Distance(), "mile");
+  const std::string atRate = start + " at a rate of " + RateText({rate, 1}) + StillText() + ".";
+  const std::string inTime = " in " + DurationText(minutes) + DriftText();
+  switch (asked) {
     case MotionPart::Distance:
-      return {{"ignores the wind or current", still * t},
-              {"takes the wind or current the wrong way", wrongWay * t},
-              {"leaves the minutes out", real * fullHours},
-              {"reads the minutes as hundredths of an hour", real * asHundredths},
-              {"reads the minutes as hours", fullHours.num == 0 ? real * minutes : Fraction{}},
-              {"divides in place of multiplying", real / t},
-              {"adds the rate and the time", real + t}};
+      return {atRate, "How far does " + TheVehicle() + " go" + inTime + "?"};
     case MotionPart::Rate:
-      mistakes = {{"ignores the wind or current", real},
-                  {"takes the wind or current the wrong way", real + drift},
-                  {"multiplies in place of dividing", d * t},
-                  {"reads the minutes as hundredths of an hour", d / asHundredths - drift}};
-      if (fullHours.num > 0) mistakes.push_back({"leaves the minutes out", d / fullHours - drift});
-      return mistakes;
+      return {start + " " + way + inTime + ".",
+              "What is the rate of " + TheVehicle() + StillText() + "?"};
     case MotionPart::Time:
-      mistakes = {{"ignores the wind or current", d / still}};
-      if (wrongWay.num > 0)
-        mistakes.push_back({"takes the wind or current the wrong way", d / wrongWay});
-      if (minutes.num * 100 < kMinutesOfHour * kMinutesOfHour)
-        mistakes.push_back({"reads the hundredths of an hour as minutes",
-                            fullHours + minutes * Fraction{100, kMinutesOfHour * kMinutesOfHour}});
-      mistakes.push_back({"leaves the part of an hour out", fullHours});
-      mistakes.push_back({"divides the rate by the distance", real / d});
-      return mistakes;
+      return {atRate, "How long does " + TheVehicle() + " take to go " + way + DriftText() + "?"};
   }
-  return mistakes;
+  return {};
 }
 
 std::vector<std::string> WorkingLines(const Motion& motion) {

@@ -38,20 +38,15 @@ struct Motion {
   // The same for such a value of the asked part, as the choices print it.
   std::string ValueText(const Fraction& value) const;
 
+  // Two sentences, the second one asks.
+  std::vector<std::string> Question() const;
+  std::string TheVehicle() const { return "the " + vehicle; }
   std::string DriftName() const { return inWater ? "current" : "wind"; }
   // " in still water", "" where nothing drifts.
   std::string StillText() const;
   // " against a current of 5 mph", "" where nothing drifts.
   std::string DriftText() const;
 };
-
-// What a usual mistake gives in place of the answer, in the unit of what is asked for.
-struct MotionMistake {
-  std::string name;
-  Fraction value;
-};
-// The most telling ones first; among them values that are right by chance or cannot be.
-std::vector<MotionMistake> MistakesAt(const Motion& motion);
 
 // What the asked part is equal to: first the numbers in its formula, with the rate over the ground,
 // then line by line what they give.
