@@ -30,7 +30,7 @@ std::string OperationSign(char operation);
 // Who works in which order.  The higher rank comes first; equal ranks come from left to right, or
 // from right to left.
 struct WorkingOrder {
-  std::string_view mistake;  // empty for the right order
+  std::string_view mistake = "";  // none for the right order
   bool heedsParentheses = true;
   bool heedsBrackets = true;
   bool fromTheRight = false;
