@@ -215,7 +215,7 @@ void OrderOfOperations::FromLeftToRight() {
   PageEnd();
   isPrint();
   WordWrap(R"(When the ranks are the same, we work \cfrom left to right\z, as we read.)");
-  WorkOut("12-5+4", 9);
+  WorkOut("12-5+4", 9.5);
   PageEnd();
   Locate(14.5, 1);
   WordWrap("Why?  You have 12 dollars, you give away 5, and you get 4.  Then you have 11.");
@@ -233,9 +233,9 @@ void OrderOfOperations::FromLeftToRight() {
   WordWrap(R"(\rDo not multiply 4 )" + tutor::Times +
            R"( 2 first,\z although the word multiplication comes first in the rule.)");
   PageEnd();
-  Locate(15.5, 1);
-  WordWrap("Now you.  Which two operations come before the subtraction, and in which order?");
-  Ask("30-12/3*2", 18);
+  Locate(15, 1);
+  WordWrap("Now you.  Which operation comes first, and which one second?");
+  Ask("30-12/3*2", 17.4);
   PageEnd();
 }
 
@@ -250,7 +250,7 @@ void OrderOfOperations::ParenthesesFirst() {
   PageEnd();
   Locate(14.5, 1);
   WordWrap("Inside parentheses the order is the same as ever:  multiply and divide first.");
-  WorkOut("20-(2+3*4)", 17);
+  WorkOut("20-(2+3*4)", 17.2);
   PageEnd();
 
   NewScreen();

@@ -231,9 +231,9 @@ void DistanceRateTimeProblems::ShowProblem() {
   Locate(5, 1);
   WordWrap(Question());
   answerRow = 12;
-  const bool longTexts = motion_.asked == MotionPart::Time;  // hours and minutes
-  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, longTexts ? 3 : 0, "",
-                         longTexts ? 15 : 20);
+  // "1055 19/20 miles" and "4 hours & 30 minutes" are long.
+  const double fontSize = motion_.asked == MotionPart::Time ? 15 : 18;
+  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, (20 - fontSize) / 2, "", fontSize);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -310,6 +310,7 @@ void DistanceRateTimeProblems::ExplainFormula() {
   const std::string wanted = "Since we want to find the " + NameOf(motion_.asked);
   if (motion_.asked == MotionPart::Distance) {
     wbWordWrap(wanted + ", we use " + formula + ".");
+    PageEnd();
     return;
   }
   const std::string other =
@@ -323,7 +324,7 @@ void DistanceRateTimeProblems::ExplainFormula() {
 // The numbers in the formula, then line under line what they give.
 void DistanceRateTimeProblems::Simplify() {
   const std::vector<std::string> lines = WorkingLines(motion_);
-  if (motion_.asked != MotionPart::Distance) NextBoxPage();
+  NextBoxPage();
   wbWordWrap("We put in the numbers:");
   wbisPrint("  " + LetterOf(motion_.asked) + " = " + lines.front());
   PageEnd();

@@ -10,7 +10,7 @@ namespace {
 constexpr int kChoices = 5;
 constexpr int kLargestDenominator = 20;  // of a choice; a stranger fraction gives itself away
 constexpr int kLargestRateShare = 10;    // of a wrong rate to the right one
-constexpr int kLongestTime = 24;         // hours, of a choice
+constexpr int kLongestTime = 10;         // hours, of a choice; no motion lasts longer
 constexpr double kNoneOfTheAboveShare = 0.2;
 constexpr int kMinutesOfHour = 60;
 
