@@ -1,5 +1,7 @@
 #include <QFocusEvent>
 #include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 #include "platform/face_button_impl.h"
 #include "platform/picture_impl.h"
@@ -11,6 +13,7 @@ namespace {
 constexpr double kFaded = 0.4;
 constexpr double kRingInset = 2;  // pixels inside the face
 constexpr double kRingCorner = 5;
+constexpr int kCaptionMargin = 4;  // pixels at either side
 
 }  // namespace
 
@@ -20,7 +23,7 @@ void FaceButton::SetPicture(const std::string& name) {
 }
 
 void FaceButton::paintEvent(QPaintEvent* event) {
-  if (picture_.empty()) return QPushButton::paintEvent(event);
+  if (picture_.empty()) return PaintCaption(event);
   QPainter painter(this);
   const QRect face = rect().translated(0, isDown() ? 1 : 0);
   if (!isEnabled()) painter.setOpacity(kFaded);
@@ -32,6 +35,20 @@ void FaceButton::paintEvent(QPaintEvent* event) {
   const double inset = kRingInset + (ringed ? 1 : 0.5);
   painter.drawRoundedRect(QRectF(face).adjusted(inset, inset, -inset, -inset), kRingCorner,
                           kRingCorner);
+}
+
+// The toolkit cuts a caption that is too wide; here it takes more lines.
+void FaceButton::PaintCaption(QPaintEvent* event) {
+  const QRect inside = rect().adjusted(kCaptionMargin, 0, -kCaptionMargin, 0);
+  if (fontMetrics().size(Qt::TextShowMnemonic, text()).width() <= inside.width())
+    return QPushButton::paintEvent(event);
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  painter.drawControl(QStyle::CE_PushButton, option);
+  painter.drawItemText(inside, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
+                       isEnabled(), text(), QPalette::ButtonText);
 }
 
 void FaceButton::enterEvent(QEnterEvent* event) {

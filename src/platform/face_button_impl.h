@@ -19,6 +19,8 @@ class FaceButton final : public QPushButton {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void PaintCaption(QPaintEvent* event);
+
   std::string picture_;
   bool focusedByKey_ = false;
 };
