@@ -11,19 +11,20 @@
 #include "display/animation.h"
 #include "display/grid.h"
 #include "display/images.h"
+#include "display/lesson_window.h"
 #include "display/print.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/choice_pass.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
+#include "engine/rules_and_hints.h"
 #include "lessons/lessons.h"
 #include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
 #include "lessons/unit01_review_of_arithmetic/evaluation.h"
 #include "lessons/unit01_review_of_arithmetic/stepping_display.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
-#include "session/session.h"
 
 namespace course {
 namespace {
@@ -63,7 +64,8 @@ constexpr int kLargestNumber = 150;  // on the way to the value, which is found 
 constexpr int kChoices = 5;
 constexpr int kFewestMistakes = 2;  // one of order, and to stop early, which is always possible
 
-constexpr double kRulesColumn = 23;  // of the picture beside a problem
+constexpr double kRulesRow = 6;  // of the picture beside a problem
+constexpr double kRulesColumn = 23;
 
 // Rows for the reasons below an evaluation.
 constexpr double kReasonRow = 15;
@@ -284,18 +286,22 @@ void OrderOfOperations::AllRulesTogether() {
   Locate(11, 1);
   WordWrapIndent("3. Add and subtract, from left to right.", 4);
   PageEnd();
-  Locate(14, 1);
-  WordWrap(
-      "In practice the button \"Show Rules and Reminders\" puts the rules beside the problem.");
+
+  NewScreen();
+  Locate(3, 1);
+  WordWrap("In practice the button ~Show Rules and Reminders~ puts this card beside the problem:");
+  picGalleryImagePrepare(1, gallery::OrderOfOperations, 6.5, 12);
+  picGalleryImageShow(1);
+  PageEnd();
+  Locate(17.5, 1);
+  WordWrap("You meet exponents, its second line, in the next lesson.");
   PageEnd();
   isPrint();
-  WordWrap("On the next page we use all three rules.  Try to be faster than the page:");
-  const ArithmeticExpression longOne = ExpressionOf("30-[4+6*(5-2)]/2");
-  const SteppingDisplay preview(ExpressionText(longOne), 21, 8);
+  WordWrap("Now we use all the rules.  Try to be faster than the page.");
   PageEnd();
 
   NewScreen();
-  WorkOutAloud(longOne, 4);
+  WorkOutAloud(ExpressionOf("30-[4+6*(5-2)]/2"), 4);
   WordWrap("The value of the expression is 19.");
   PageEnd();
 }
@@ -406,20 +412,15 @@ int OrderOfOperations::SlotOf(const std::string& text, int slots) const {
 // --- Problem page ------------------------------------------------------------
 
 void OrderOfOperations::ShowProblem() {
-  const bool withRules = session.gRulesShown == kTrue && session.gMode <= mode::NewProblem;
   Locate(4, 1);
   isPrint(problem.question[0]);
   const std::string& text = problem.question[1];
-  const double columns = withRules ? kRulesColumn - 1 : 40;
+  ShowRulesPicture(gallery::OrderOfOperations, kRulesRow, kRulesColumn);
+  const bool besideRules = frmPR->picGalleryImage[1].Visible();
+  const double columns = besideRules ? kRulesColumn - 1 : 40;
   Locate(8, std::floor((columns - static_cast<double>(text.size())) / 2) + 1);
   isPrint(text);
-  if (withRules) {
-    picGalleryImagePrepare(1, gallery::OrderOfOperations, 6, kRulesColumn);
-    picGalleryImageShow(1);
-  } else {
-    picGalleryImageHide(1);
-  }
-  answerRow = 15.5;
+  answerRow = 16.5;
   picAnswerSetParameters(4, answerRow, 1, 15, 29, 12, 50, 27);
 }
 
