@@ -21,8 +21,8 @@ struct TutorSize {
   int cellHeight;
   int exponentSize;
 };
-constexpr TutorSize kTutorSizes[] = {{9, 7, 11, 8},    {10, 8, 12, 8},   {11, 9, 13, 8},
-                                     {12, 10, 14, 10}, {13, 10, 15, 8},  {14, 11, 17, 10},
+constexpr TutorSize kTutorSizes[] = {{9, 7, 11, 8},    {10, 8, 12, 8},  {11, 9, 13, 8},
+                                     {12, 10, 14, 10}, {13, 10, 15, 8}, {14, 11, 17, 10},
                                      {15, 12, 18, 10}, {20, 16, 25, 14}};
 
 TutorSize CellsOfSize(int size) {
@@ -119,8 +119,7 @@ void picCommentBoxWithNiceHeadingPrepare(int box, const std::string& text, doubl
   TextPanel& panel = CommentPanel(box, "picCommentBoxWithNiceHeadingPrepare");
   const HeadingStyle style{font, bold, italic, size, foreColor, shadowColor, shadowThickness};
   SetHeadingFont(panel.surface, style);
-  const double width =
-      PlainWidth(panel.surface, InPlainFace(text)) + shadowThickness + 2 * hPad;
+  const double width = PlainWidth(panel.surface, InPlainFace(text)) + shadowThickness + 2 * hPad;
   const double height = panel.surface.TextHeight(text) + shadowThickness + 2 * vPad;
   Place(panel, {row, col, std::ceil(width) / gCellWidth, std::ceil(height) / gCellHeight},
         backColor, ScreenCells(foreColor));

@@ -45,6 +45,16 @@ Shift SubscriptShift(int size, char c) {
   return shift;
 }
 
+// Rows by which exponents in a comment box stand higher still: those of a small print would
+// hardly be raised.
+double CommentLift(const TextPanel& panel, int size) {
+  if (panel.layout.characters != CharacterSet::CommentBox) return 0;
+  constexpr double kBaseline = 1.11;   // pixels below the top, a point of size
+  constexpr double kLeastRise = 0.34;  // pixels a point of the print's size
+  const double rise = kBaseline * (panel.layout.fontSize - size);
+  return std::max(0.0, kLeastRise * panel.layout.fontSize - rise) / panel.layout.cellHeight;
+}
+
 void CheckSize(int size, const char* routine) {
   if (size < 10 || size > 15)
     platform::Stop(std::string(routine) + ": size " + std::to_string(size) +
@@ -68,6 +78,7 @@ void PrintScriptOn(TextPanel& panel, const std::string& s, double size, double r
   const ScopedValue keepLevel(panel.scriptLevel, level);
   const ScopedValue keepRow(panel.scriptBaseRow, baseRow);
   const int wholeSize = static_cast<int>(size);
+  if (level > 0) rowShift -= CommentLift(panel, wholeSize);
   for (std::size_t i = 0; i < s.size(); ++i) {
     const Shift shift =
         level > 0 ? ExponentShift(wholeSize, s[i]) : SubscriptShift(wholeSize, s[i]);

@@ -33,6 +33,7 @@ constexpr StoredPicture kPicGallery[] = {
      "Order of operations.  1: what is in parentheses, the innermost first.  2: exponents.  3: "
      "multiplication and division, from left to right.  4: addition and subtraction, from left to "
      "right."},
+    {gallery::CheckMark, "gallery_check_mark", "A check mark."},
 };
 
 const StoredPicture& PicGallery(int image, const char* routine) {

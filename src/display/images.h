@@ -12,6 +12,7 @@ inline constexpr int LawsOfExponents = 1;
 inline constexpr int QuadraticFormula = 2;
 inline constexpr int InequalityFlip = 3;
 inline constexpr int OrderOfOperations = 4;
+inline constexpr int CheckMark = 5;  // 64 by 50 pixels, on white: for a transparent image
 }  // namespace gallery
 
 enum class ImageBorder { Keep, None, Thin };

@@ -127,9 +127,13 @@ void LessonWindow::PlacePanels() {
 
 // Each kind lies over the ones made before it: comments over figures, notes over comments.
 void LessonWindow::PlaceBoxes() {
+  picWiperBox.SetAccessibleName("Explanation");
   picPrintCellBox.SetVisible(false);
+  picPrintCellBox.SetAccessibleName("Table");
   picPrintCell.Make("picPrintCell", picPrintCellBox);
   lblPrintCell.Make("lblPrintCell", picPrintCellBox);
+  for (int i = 1; i <= picPrintCell.Last(); ++i)
+    picPrintCell[i].SetAccessibleName("Cell " + std::to_string(i));
   picGraph2D.Make("picGraph2D", form);
   picGalleryImage.Make("picGalleryImage", form);
   picCommentBox.Make("picCommentBox", form);
@@ -138,7 +142,9 @@ void LessonWindow::PlaceBoxes() {
     picGraph2D[i].SetVisible(false);
     picGraph2D[i].SetAccessibleName("Figure " + std::to_string(i));
     picGalleryImage[i].SetVisible(false);
+    picGalleryImage[i].SetAccessibleName("Picture");
     picCommentBox[i].SetVisible(false);
+    picCommentBox[i].SetAccessibleName("Comment");
     commentText[static_cast<std::size_t>(i)] =
         std::make_unique<TextPanel>(picCommentBox[i], kCommentLayout);
     picNotes[i].SetVisible(false);
@@ -151,6 +157,7 @@ void LessonWindow::PlaceAnswers() {
   for (int i = 1; i <= 5; ++i) {
     picAnswer[i].BackColor = AnswerBox;
     picAnswer[i].SetVisible(false);
+    picAnswer[i].SetTabStop(true);
     answerText[static_cast<std::size_t>(i)] =
         std::make_unique<TextPanel>(picAnswer[i], kAnswerLayout);
   }
@@ -174,6 +181,7 @@ void LessonWindow::PlaceNavigation() {
     MovePixels(picNav[i], 0, (i - 1) * 112, 84, 100);
     picNav[i].BackColor = platform::colour::FormGrey;
     picNav[i].SetAccessibleName(kTabNames[i]);
+    picNav[i].SetTabStop(true);
   }
   cmdNavigate.Make("cmdNavigate", form);
   for (int i = 0; i <= 10; ++i) {
@@ -194,6 +202,7 @@ void LessonWindow::PlaceNavigation() {
   for (int i = 1; i <= 9; ++i) {
     MovePixels(picScreenNum[i], 0, 8, 27, 27);
     picScreenNum[i].SetVisible(false);
+    picScreenNum[i].SetTabStop(true);
   }
   MovePixels(fraAnimSpeed, 780, 124, 104, 112);
   fraAnimSpeed.SetAccessibleName("Animation");

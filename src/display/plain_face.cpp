@@ -31,9 +31,8 @@ bool HasExponents(const std::string& text) {
 }  // namespace
 
 std::string InPlainFace(std::string text) {
-  static const std::string kCodes =
-      "~" + tutor::Gap + tutor::Times + tutor::Dot + tutor::Divided + tutor::RaisedMinus +
-      tutor::PlusOrMinus + tutor::Degree;
+  static const std::string kCodes = "~" + tutor::Gap + tutor::Times + tutor::Dot + tutor::Divided +
+                                    tutor::RaisedMinus + tutor::PlusOrMinus + tutor::Degree;
   static const std::string kLetters = "\" \xD7\xB7\xF7-\xB1\xB0";
   for (char& c : text) {
     const std::size_t at = kCodes.find(c);
@@ -57,8 +56,7 @@ void PrintPlain(platform::Surface& surface, const std::string& text, double x, d
 double PlainWidth(platform::Surface& surface, const std::string& text) {
   if (!HasExponents(text)) return surface.TextWidth(text);
   double width = 0;
-  ForEachCharacter(surface, text,
-                   [&](char c) { width += surface.TextWidth(std::string(1, c)); });
+  ForEachCharacter(surface, text, [&](char c) { width += surface.TextWidth(std::string(1, c)); });
   return width;
 }
 

@@ -1,5 +1,7 @@
 #include "display/print_cells.h"
 
+#include <algorithm>
+
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/plain_face.h"
@@ -31,12 +33,12 @@ const PrintCellTable& MixtureTable() {
                 {16, 75, 23, 20},
                 {44, 75, 23, 20},
                 {72, 75, 23, 20}},
-      .labels = {{16, 2, 23, 25, "Percent\rof acid", kColumnLabelSize, Red},
-                 {44, 1, 23, 25, "Quantity", kColumnLabelSize, Red},
-                 {72, 2, 23, 25, "Amount\rof acid", kColumnLabelSize, Red},
-                 {1, 29, 14, 22, "Original", 10, Black},
-                 {1, 54, 14, 22, "Additive", 10, Black},
-                 {1, 79, 14, 22, "Final", 10, Black}},
+      .labels = {{16, 2, 23, 25, "Percent\rof acid", kColumnLabelSize, Red, true},
+                 {44, 1, 23, 25, "Quantity", kColumnLabelSize, Red, true},
+                 {72, 2, 23, 25, "Amount\rof acid", kColumnLabelSize, Red, true},
+                 {1, 29, 14, 22, "Original", 10, Black, false},
+                 {1, 54, 14, 22, "Additive", 10, Black, false},
+                 {1, 79, 14, 22, "Final", 10, Black, false}},
       .marks = {}};
   return table;
 }
@@ -50,11 +52,11 @@ const PrintCellTable& DistanceTable() {
                                                  {16, 60, 25, 30},
                                                  {44, 60, 25, 30},
                                                  {72, 60, 25, 30}},
-                                       .labels = {{19, 1, 20, 20, "Rate", 14, Red},
-                                                  {47, 1, 20, 20, "Time", 14, Red},
-                                                  {75, 1, 20, 20, "Distance", 14, Red},
-                                                  {1, 30, 13, 30, "Train A", 14, Black},
-                                                  {1, 65, 13, 30, "Train B", 14, Black}},
+                                       .labels = {{19, 1, 20, 20, "Rate", 14, Red, true},
+                                                  {47, 1, 20, 20, "Time", 14, Red, true},
+                                                  {75, 1, 20, 20, "Distance", 14, Red, true},
+                                                  {1, 30, 13, 30, "Train A", 14, Black, false},
+                                                  {1, 65, 13, 30, "Train B", 14, Black, false}},
                                        .marks = {{42, 0, "x", 14}, {69, 0, "=", 14}}};
   return table;
 }
@@ -80,8 +82,8 @@ void HideAll() {
 
 void PlaceBox(double row, const PrintCellTable& table) {
   platform::PictureBox& box = frmPR->picPrintCellBox;
-  box.Move(frmPR->pnlLesson.Left() + Twips(kLeftColumns * gCellWidth),
-           RowOrColumnInTwips("R", row), Twips(table.widthPixels), Twips(table.heightPixels));
+  box.Move(frmPR->pnlLesson.Left() + Twips(kLeftColumns * gCellWidth), RowOrColumnInTwips("R", row),
+           Twips(table.widthPixels), Twips(table.heightPixels));
   box.BackColor = kGround;
   box.SetBorder(true);
   box.Cls();
@@ -94,12 +96,16 @@ void PlaceCell(int index, const PrintCellTable::Cell& place) {
   cell.BackColor = White;
   cell.SetBorder(true);
   picPrintCellCls(index);
+  cell.BringToFront();  // the headings reach a little over the first row
   cell.SetVisible(true);
 }
 
 void PlaceLabel(int index, const PrintCellTable::Label& place) {
   platform::Label& label = frmPR->lblPrintCell[index];
-  MoveInside(label, place.left, place.top, place.width, place.height);
+  // Clear of the panel's border.
+  const double height = std::min(place.height, kHundred - 1 - place.top);
+  MoveInside(label, place.left, place.top, place.width, height);
+  label.SetAlignment(place.centred ? platform::Label::Align::Centre : platform::Label::Align::Left);
   label.SetCaption(InPlainFace(place.caption));
   label.SetFont("MS Sans Serif", place.fontSize, true);
   label.SetColours(place.colour, kGround);
@@ -171,7 +177,7 @@ void picPrintCellPrint(int cell, const std::string& s, platform::Colour colour, 
   PrintPlain(box, text, (box.ScaleWidth() - PlainWidth(box, text)) / 2,
              (box.ScaleHeight() - box.TextHeight(text)) / 2);
   box.Refresh();
-  box.SetAccessibleText(text);
+  box.SetAccessibleText(s);
 }
 
 void picPrintCellCls(int cell) {

@@ -22,6 +22,7 @@ struct PrintCellTable {
     std::string caption;  // Chr(13) breaks the line
     double fontSize = 10;
     platform::Colour colour = platform::colour::Black;
+    bool centred = false;  // the text stands in the middle of the width
   };
   int widthPixels = 608;
   int heightPixels = 200;

@@ -27,9 +27,8 @@ bool InputIgnored() {
 }
 
 // The stored pictures of the window of hints; it shows the second.
-constexpr const char* kPicRulesGallery[] = {"", "gallery_laws_of_exponents",
-                                            "gallery_order_of_operations",
-                                            "gallery_inequality_flip"};
+constexpr const char* kPicRulesGallery[] = {
+    "", "gallery_laws_of_exponents", "gallery_order_of_operations", "gallery_inequality_flip"};
 constexpr const char* kHints = kPicRulesGallery[2];
 
 constexpr int kBelowPicture = 900;  // twips

@@ -95,11 +95,16 @@ std::string SpokenText(const std::string& text) {
 
 void UpdateAccessibleTexts() {
   frmPR->pnlLesson.SetAccessibleText(Joined(frmPR->lessonText, "\n"));
+  frmPR->picWiperBox.SetAccessibleText(Joined(frmPR->wiperText, "\n"));
   for (int i = 1; i <= 5; ++i) {
+    frmPR->picCommentBox[i].SetAccessibleText(
+        Joined(*frmPR->commentText[static_cast<std::size_t>(i)], "\n"));
     const std::string letter(1, static_cast<char>('A' + i - 1));
     const std::string text = Joined(*frmPR->answerText[static_cast<std::size_t>(i)], " ");
     if (frmPR->picAnswer[i].Visible()) frmPR->picAnswer[i].SetAccessibleText(letter + ": " + text);
   }
+  for (int i = 1; i <= frmPR->picPrintCell.Last(); ++i)
+    frmPR->picPrintCell[i].SetAccessibleText(SpokenText(frmPR->picPrintCell[i].AccessibleText()));
 }
 
 }  // namespace course

@@ -38,9 +38,11 @@ void Label::CentreVertically() {
 }
 
 void Label::SizeToCaption() {
-  const QSize size =
-      QFontMetrics(WidgetOf<QLabel>(*this).font()).size(0, WidgetOf<QLabel>(*this).text());
-  Move(Left(), Top(), size.width() * TwipsPerPixelX, size.height() * TwipsPerPixelY);
+  constexpr int kSide = 4;  // pixels of ground beside the text; above and below the font's own do
+  QLabel& label = WidgetOf<QLabel>(*this);
+  const QSize size = QFontMetrics(label.font()).size(0, label.text());
+  label.setContentsMargins(kSide, 0, kSide, 0);
+  Move(Left(), Top(), (size.width() + 2 * kSide) * TwipsPerPixelX, size.height() * TwipsPerPixelY);
 }
 
 Button::Button(Control& parent, std::string name, const std::string& caption)

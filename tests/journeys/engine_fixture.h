@@ -28,6 +28,7 @@ struct TestLessonPlan {
   int kind = choice_kind::FourShuffledAndNone;
   int correct = 1;
   bool setsParameters = true;
+  bool offersRules = false;
   std::function<void()> onScreen;       // as a teaching screen begins
   std::function<void()> onProblemPage;  // before the answers are set out
   std::function<void()> onLastPage;     // behind the explanation's last page
@@ -51,6 +52,7 @@ class TestLesson final : public LessonScript {
     for (int i = 1; i <= 5; ++i) problem.Wrong(i, "a mistake", std::to_string(number_ + i));
     problem.correct = plan_.correct;
   }
+  bool OffersRules() const override { return plan_.offersRules; }
   void ShowProblem() override {
     Log();
     Locate(5, 1);
