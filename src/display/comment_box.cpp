@@ -1,9 +1,9 @@
 #include "display/comment_box.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "display/comment_panel.h"
+#include "display/drawing_cells.h"
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/plain_face.h"
@@ -32,8 +32,7 @@ TutorSize CellsOfSize(int size) {
   for (const TutorSize& row : kTutorSizes)
     if (row.size == size) return row;
   // Sizes between 15 and 20 keep the proportions of both.
-  return {size, static_cast<int>(std::lround(0.8 * size)),
-          static_cast<int>(std::lround(1.25 * size)), 10};
+  return {size, RoundedPixel(0.8 * size), RoundedPixel(1.25 * size), 10};
 }
 
 int Twips(double pixels) {

@@ -21,6 +21,7 @@ class Rows final : public QListWidget {
  protected:
   void focusInEvent(QFocusEvent* event) override {
     QListWidget::focusInEvent(event);
+    if (!box_.OnGotFocus) return;
     CallLater(box_.impl().life, [&box = box_] { CallHandler(box.OnGotFocus); });
   }
   void keyPressEvent(QKeyEvent* event) override {
