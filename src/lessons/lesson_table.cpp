@@ -17,11 +17,13 @@ struct LessonRow {
 // In the order of the course; those that only the diagnostic test reaches come last.
 constexpr auto kLessons = std::to_array<LessonRow>({
     {"Order of Operations", MakeOrderOfOperations},
+    {"Solving Linear Equations With 2 Operations", MakeTwoOperations},
     {"Distance-Rate-Time Problems", MakeDistanceRateTimeProblems},
     {"Multiplying with Exponents", MakeMultiplyingWithExponents},
     {"Trinomials of the Form x\xB2+bx+c", MakeTrinomialsX2BxC},
     {"Simple Inequalities", MakeSimpleInequalities},
     {"Complex Inequalities", MakeComplexInequalities},
+    {"Solving Inequalities", MakeSolvingInequalities},
     {"The Quadratic Formula", MakeTheQuadraticFormula},
     {"Adding Fractions", MakeAddingFractions},
 });

@@ -11,6 +11,9 @@ namespace course {
 // Unit 1, "Review of Arithmetic".
 std::unique_ptr<LessonScript> MakeOrderOfOperations();
 
+// Unit 3, "Equations".
+std::unique_ptr<LessonScript> MakeTwoOperations();
+
 // Unit 4, "Solving Word Problems".
 std::unique_ptr<LessonScript> MakeDistanceRateTimeProblems();
 
@@ -23,6 +26,7 @@ std::unique_ptr<LessonScript> MakeTrinomialsX2BxC();
 // Unit 10, "Inequalities".
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
 std::unique_ptr<LessonScript> MakeComplexInequalities();
+std::unique_ptr<LessonScript> MakeSolvingInequalities();
 
 // Unit 12, "Quadratic Equations".
 std::unique_ptr<LessonScript> MakeTheQuadraticFormula();

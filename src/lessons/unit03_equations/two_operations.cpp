@@ -1,0 +1,230 @@
+// The student can solve an equation in which the letter was multiplied and then something was
+// added, such as 3x + 4 = 19: he removes the number first, then the coefficient, and checks.
+#include <algorithm>
+
+#include "display/drawing.h"
+#include "display/grid.h"
+#include "display/print.h"
+#include "display/stacked_text.h"
+#include "display/word_wrap.h"
+#include "engine/answers.h"
+#include "engine/lesson_script.h"
+#include "lessons/equation_explanation.h"
+#include "lessons/equation_machine.h"
+#include "lessons/lessons.h"
+#include "lessons/page_lines.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course {
+namespace {
+
+class TwoOperations final : public LessonScript {
+ public:
+  TwoOperations() : LessonScript("Solving Linear Equations with 2 Operations") {}
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {[this] { ReverseOrder(); }, [this] { RowUnderRow(); }};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void ReverseOrder();
+  void RowUnderRow();
+  void DividingFirst();
+  void TryIt();
+
+  LinearStatement equation_;  // a x + b = c
+};
+
+// --- Teaching screens --------------------------------------------------------
+
+// What was done to x, and under it the way back, in three boxes each.
+constexpr double kThereRow = 10;
+constexpr double kBackRow = 13;
+struct Station {
+  int col;    // of the box's text
+  int width;  // of its longest text
+};
+constexpr Station kStations[] = {{4, 2}, {16, 2}, {29, 6}};
+
+void DrawStation(double row, int index, const std::string& text) {
+  const Station& station = kStations[index];
+  const int width = station.width;
+  Locate(row, station.col + (width - static_cast<int>(text.size())) / 2.0);
+  isPrints(text);
+  isDrawRoundRect(row - 0.2, station.col - 1, row + 0.3, station.col + width, 2,
+                  platform::colour::Cyan);
+}
+
+// The arrow from one box to its neighbour, with what it stands for over it.
+void DrawWay(double row, int from, int to, const std::string& operation) {
+  const Station& left = kStations[std::min(from, to)];
+  const Station& right = kStations[std::max(from, to)];
+  const double start = left.col + left.width + 1;
+  const double end = right.col - 2;
+  const bool there = from < to;
+  Locate(row - 0.9, (start + end - static_cast<double>(operation.size()) + 1) / 2);
+  isColorPrints(operation, platform::colour::Yellow);
+  isDrawArrow1Segment(row + 0.05, start, row + 0.05, end, platform::colour::White,
+                      there ? "NA" : "A", there ? "A" : "NA");
+}
+
+void TwoOperations::ReverseOrder() {
+  NewScreen();
+  WrapAt(3, R"(These equations need \yone\z operation:)");
+  isPrint("   x + 4 = 19     3x = 15");
+  PageEnd();
+  isPrint();
+  WordWrap("In  " + OnOneLine("3x + 4 = 19") +
+           R"(  there are \ytwo\z.  This is what was done to x:)");
+  DrawStation(kThereRow, 0, "x");
+  DrawWay(kThereRow, 0, 1, tutor::Dot + " 3");
+  DrawStation(kThereRow, 1, "3x");
+  DrawWay(kThereRow, 1, 2, "+ 4");
+  DrawStation(kThereRow, 2, "3x + 4");
+  PageEnd();
+  DrawStation(kBackRow, 2, "19");
+  WrapAt(15, "3x + 4 is 19, and from there we go back to x.  Which operation do we undo first?");
+  PageEnd();
+  DrawWay(kBackRow, 2, 1, "- 4");
+  DrawStation(kBackRow, 1, "15");
+  WrapAt(18, R"(We undo the \ylast\z one first, as shoes come off before socks:  )" +
+                 OnOneLine("19 - 4 = 15."));
+  PageEnd();
+  DrawWay(kBackRow, 1, 0, tutor::Divided + " 3");
+  DrawStation(kBackRow, 0, "5");
+  WrapAt(20, "Then we undo the first:  " + OnOneLine("15 " + tutor::Divided + " 3 = 5."));
+  PageEnd();
+  WrapAt(22, R"(Operations that undo each other are called \cinverse operations\z.)");
+  PageEnd();
+}
+
+void TwoOperations::RowUnderRow() {
+  const LinearStatement equation = {"x", {3, 4}, "=", {0, 19}};
+  const Addition addition = AdditionsOf(equation)[0];
+  EquationSheet sheet = SheetFor(equation);
+  NewScreen();
+  WrapAt(3, "We solve the same equation on paper.");
+  sheet.Write(RowOf(equation), "=");
+  OpenWordBox();
+  SayAnew(
+      "We write each step under the one before, and do the same to both sides.  So they stay "
+      "equal.");
+  SayMore("4 was added last.  What do we add to both sides to remove it?");
+  PageEnd();
+  SayAnew(R"(We add \b-4\z to both sides.)");
+  SayMore("That is the same as subtracting 4.");
+  sheet.AddUnder(AddendRow(addition.term, "x"));
+  PageEnd();
+  sheet.WriteSum(RowOf(addition.after), "=");
+  SayAnew("On the left-hand side +4 and -4 add up to 0, and only 3x is left.");
+  SayMore("Which operation still has to be undone, and how?");
+  PageEnd();
+  sheet.WriteQuotients({"3x", "15", "3"}, "=");
+  SayAnew(R"(x is multiplied by 3, so we divide both sides by \b3\z.)");
+  SayMore(R"(The number in front of the letter is its \bcoefficient\z.)");
+  PageEnd();
+  sheet.WriteSolved("x", "=", "5");
+  sheet.MarkSolution();
+  SayAnew("");
+  SayBullet("3" + tutor::Dot + "5 = 15.");
+  SayBullet("We know that 1x is equal to just x.");
+  SayMore(R"(x stands alone:  we have \bisolated the variable\z, and 5 is the solution.)");
+  PageEnd();
+  SayAnew("A solution can be checked.  Put 5 in place of x in the first equation:");
+  SaySubstituted(equation, 5);
+  SayMore("Both sides are the same number.");
+  PageEnd();
+  DividingFirst();
+  TryIt();
+}
+
+void TwoOperations::DividingFirst() {
+  NewScreen();
+  WrapAt(3, "Could we divide  " + OnOneLine("3x + 4 = 19") + "  by 3 before we remove the 4?");
+  PageEnd();
+  isPrint();
+  WordWrap(R"(We may, but then \yevery\z term must be divided by 3, and fractions come up:)");
+  Locate(9.5, 10);
+  isPrintStackedText("3x/3 + 4/3  =  19/3");
+  Locate(13, 10);
+  isPrintStackedText(" x + 4/3  =  19/3");
+  PageEnd();
+  WrapAt(16, R"(\rThe usual mistake\z is to divide 3x and 19, and to forget the 4.)");
+  PageEnd();
+  WrapAt(19, R"(It is simpler to remove \yfirst the number\z, \ythen the coefficient\z.)");
+  PageEnd();
+}
+
+void TwoOperations::TryIt() {
+  const LinearStatement equation = {"x", {-2, -5}, "=", {0, 7}};
+  const Addition addition = AdditionsOf(equation)[0];
+  EquationSheet sheet = SheetFor(equation);
+  NewScreen();
+  WrapAt(3, "Now solve this equation yourself:");
+  sheet.Write(RowOf(equation), "=");
+  WrapAt(17, "What do we add to both sides?  What do we divide both sides by?");
+  PageEnd();
+  sheet.AddUnder(AddendRow(addition.term, "x"));
+  sheet.WriteSum(RowOf(addition.after), "=");
+  WrapAt(19.5, R"(To remove \y-5\z we add \y+5\z.)");
+  PageEnd();
+  sheet.WriteQuotients({"-2x", "12", "-2"}, "=");
+  sheet.WriteSolved("x", "=", "-6");
+  sheet.MarkSolution();
+  WrapAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
+  PageEnd();
+  WrapAt(22, "Check:  " + OnOneLine("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
+  PageEnd();
+}
+
+// --- Generator ---------------------------------------------------------------
+
+// A fifth of the draws is accepted: most answers are not whole.
+void TwoOperations::DrawProblem(RandomStream& random) {
+  equation_ = {};
+  equation_.letter = random.OneOf("mnrtxy");
+  const auto fits = [this] {
+    const auto [a, b] = equation_.left;
+    const int c = equation_.right.number;
+    return a != 0 && a != 1 &&           // nothing to divide by
+           b != 0 && c != 0 &&           // nothing to add, or an answer at sight
+           SizesDiffer(equation_) &&     // mistakes that agree
+           HasWholeSolution(equation_);  // solved by hand
+  };
+  do {
+    equation_.left.coef = DrawCoefficient(random);
+    equation_.left.number = DrawNumber(random);
+    equation_.right.number = DrawNumber(random);
+  } while (!fits());
+
+  problem.question = {"Solve the following equation for " + equation_.letter + ".",
+                      StatementText(equation_, "  ")};
+  SetLinearChoices(problem, equation_, random);
+}
+
+// --- Problem page ------------------------------------------------------------
+
+void TwoOperations::ShowProblem() {
+  WrapAt(6, problem.question[0]);
+  EquationSheet(9, 9, {RowOf(equation_)}).Write(RowOf(equation_), equation_.relation);
+  answerRow = 16.5;
+  picAnswerSetParameters(4, 16.5, 1, 14, 27, 12.5, 50, 27);
+  answerParameters.lastBoxFontSize = 13;  // three boxes a row are narrow
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+void TwoOperations::ExplainProblem() {
+  ExplainLinear(equation_, problem, [this] { PageEnd(); });
+}
+
+}  // namespace
+
+std::unique_ptr<LessonScript> MakeTwoOperations() {
+  return std::make_unique<TwoOperations>();
+}
+
+}  // namespace course
