@@ -17,6 +17,7 @@
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
+#include "lessons/page_lines.h"
 #include "lessons/paper_box.h"
 #include "lessons/unit05_exponents/power_display.h"
 #include "mathkit/expressions.h"
@@ -114,8 +115,7 @@ class MultiplyingWithExponents final : public LessonScript {
 
 void MultiplyingWithExponents::MeaningOfAPower() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(A \cpower\z is a short way to write a product of equal factors:)");
+  WrapAt(3, R"(A \cpower\z is a short way to write a product of equal factors:)");
   Locate(8, 13);
   WordWrap("b^4^ = " + WrittenOut({"b", 4}));
   PageEnd();
@@ -123,8 +123,7 @@ void MultiplyingWithExponents::MeaningOfAPower() {
   isDrawArrow1Segment(7, 14, 7.5, 14, platform::colour::Yellow, "NA", "A");
   ShowNote(2, 10.2, 8, " the base: what is multiplied ");
   isDrawArrow1Segment(10, 13, 9, 13, platform::colour::Yellow, "NA", "A");
-  Locate(12, 1);
-  WordWrap(R"(The \cbase\z is the factor.  The \cexponent\z counts how often it stands there.)");
+  WrapAt(12, R"(The \cbase\z is the factor.  The \cexponent\z counts how often it stands there.)");
   PageEnd();
   isPrint();
   WordWrap("A letter without an exponent stands there once:  b = b^1^.");
@@ -138,12 +137,10 @@ void MultiplyingWithExponents::MeaningOfAPower() {
 
 void MultiplyingWithExponents::CountingFactors() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("What is b^3^ times b^4^?  Let's write both powers out:");
+  WrapAt(3, "What is b^3^ times b^4^?  Let's write both powers out:");
   UnfoldPowers({"b", 3}, {"b", 4}, 5.5);
   PageEnd();
-  Locate(9.5, 1);
-  WordWrap("The first power brings 3 factors, the second one 4.  Together there are 7:");
+  WrapAt(9.5, "The first power brings 3 factors, the second one 4.  Together there are 7:");
   isPrintLines(0.4);
   WordWrap("   b^3^" + tutor::Dot + "b^4^ = b^7^");
   PageEnd();
@@ -161,8 +158,7 @@ void MultiplyingWithExponents::CompareBasesAndExponents() {
   picPrintCellPrint(kFirstExponent, "3", Black, kTableSize);
   picPrintCellPrint(kSecondExponent, "4", Black, kTableSize);
   picPrintCellBoxShow();
-  Locate(20.5, 1);
-  WordWrap("What belongs in the last column?");
+  WrapAt(20.5, "What belongs in the last column?");
   PageEnd();
   picPrintCellPrint(kProductBase, "b", Red, kTableSize);
   picPrintCellPrint(kSum, "7", Red, kTableSize);
@@ -173,13 +169,11 @@ void MultiplyingWithExponents::CompareBasesAndExponents() {
 void MultiplyingWithExponents::TheRule() {
   NewScreen();
   ShowRuleBox(kRuleBox, 3, kRuleWidth, kRuleHeading, {kRule});
-  Locate(6.5, 1);
-  WordWrap("To multiply powers of the same base, we keep the base and add the exponents.");
+  WrapAt(6.5, "To multiply powers of the same base, we keep the base and add the exponents.");
   PageEnd();
   SlideExponentsTogether({"x", 2}, {"x", 6}, 9.5);
   PageEnd();
-  Locate(13.5, 1);
-  WordWrap("The base may be a number.  It stays:");
+  WrapAt(13.5, "The base may be a number.  It stays:");
   ShowPaperBox(kRemarkBox, 15, {"5^2^" + tutor::Dot + R"(5^4^ = 5^6^,  \rnot 25^6^\z)"});
   PageEnd();
   wbPrepare(18, 34, 4, platform::colour::White, platform::colour::Blue);
@@ -198,8 +192,7 @@ void MultiplyingWithExponents::TheRule() {
 
 void MultiplyingWithExponents::OtherFactors() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("A number in front stays as it is:");
+  WrapAt(3, "A number in front stays as it is:");
   WordWrap("   6b^2^" + tutor::Dot + "b^5^ = 6b^7^");
   PageEnd();
   isPrint();
@@ -208,13 +201,11 @@ void MultiplyingWithExponents::OtherFactors() {
                {"a^2^" + tutor::Dot + "b^3^ = " + JoinedByDots({"a", "a", "b", "b", "b"}) +
                 R"(,  \rnot ab^5^\z)"});
   PageEnd();
-  Locate(10.8, 1);
-  WordWrap("The order of factors does not matter.  So we may bring equal letters together:");
+  WrapAt(10.8, "The order of factors does not matter.  So we may bring equal letters together:");
   BringLetterForward(13.2);
   PageEnd();
-  Locate(16.5, 1);
-  WordWrap("A letter without an exponent has the exponent 1:  c^4^" + tutor::Dot + "c = c^4^" +
-           tutor::Dot + "c^1^ = c^5^.");
+  WrapAt(16.5, "A letter without an exponent has the exponent 1:  c^4^" + tutor::Dot + "c = c^4^" +
+                   tutor::Dot + "c^1^ = c^5^.");
   PageEnd();
   isPrint();
   WordWrap("Simplify 3n^2^" + tutor::Dot + "d" + tutor::Dot + "n before you go on.");
@@ -333,8 +324,7 @@ void MultiplyingWithExponents::ShowExpression(double row) {
 }
 
 void MultiplyingWithExponents::ShowProblem() {
-  Locate(5, 1);
-  isPrint(problem.question[0]);
+  WrapAt(5, problem.question[0]);
   ShowExpression(7);
   answerRow = 11;
   picAnswerSetParameters(2, 11, 1, 21, 0, 16, 50, 27);
@@ -344,8 +334,7 @@ void MultiplyingWithExponents::ShowProblem() {
 
 void MultiplyingWithExponents::ExplainProblem() {
   ProblemBanner();
-  Locate(4.6, 1);
-  isPrint(problem.question[0]);
+  WrapAt(4.6, problem.question[0]);
   ShowExpression(6);
   PageEnd();
   ShowRule();
@@ -385,20 +374,17 @@ void MultiplyingWithExponents::BringTogether() {
 void MultiplyingWithExponents::WriteOutFactors() {
   // One base needs no lines to bring its powers together.
   const double row = form_ == Form::OneBase ? 13 : 16;
-  Locate(row, 1);
-  isPrint("Each power is a row of equal factors:");
+  WrapAt(row, "Each power is a row of equal factors:");
   UnfoldPowers(First(), Second(), row + 1.5);
   PageEnd();
-  Locate(row + 5, 1);
-  WordWrap("There are " + SumText() + " factors " + base_ + ".");
+  WrapAt(row + 5, "There are " + SumText() + " factors " + base_ + ".");
   PageEnd();
 }
 
 void MultiplyingWithExponents::AddExponents() {
   NewScreen();
   ProblemBanner();
-  Locate(5, 1);
-  WordWrap("We keep the base and add the exponents:");
+  WrapAt(5, "We keep the base and add the exponents:");
   ShowRule();
   SlideExponentsTogether(First(), Second(), 11);
   PageEnd();

@@ -14,6 +14,7 @@
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
+#include "lessons/page_lines.h"
 #include "lessons/paper_box.h"
 #include "lessons/unit07_factoring/factor_moves.h"
 #include "lessons/unit07_factoring/trinomial.h"
@@ -92,9 +93,8 @@ class TrinomialsX2BxC final : public LessonScript {
 void TrinomialsX2BxC::ProductOfTwoFactors() {
   const std::string d = tutor::Dot;
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(A \ctrinomial\z is an expression with three terms, such as )" +
-           TrinomialText({1, 5, 6}) + ".");
+  WrapAt(3, R"(A \ctrinomial\z is an expression with three terms, such as )" +
+                TrinomialText({1, 5, 6}) + ".");
   PageEnd();
   isPrint();
   WordWrap(R"(Many trinomials are the product of two factors.  Let's multiply \y)" +
@@ -104,8 +104,7 @@ void TrinomialsX2BxC::ProductOfTwoFactors() {
                {"first terms:  x" + d + "x = x^2^", "outer terms:  x" + d + "3 = 3x",
                 "inner terms:  2" + d + "x = 2x", "last terms:   2" + d + "3 = 6"});
   PageEnd();
-  Locate(14, 1);
-  WordWrap("Sum:  x^2^ + 3x + 2x + 6 = " + TrinomialText({1, 5, 6}));
+  WrapAt(14, "Sum:  x^2^ + 3x + 2x + 6 = " + TrinomialText({1, 5, 6}));
   PageEnd();
   isPrint();
   WordWrap("How do the 5 and the 6 come from the numbers 2 and 3?");
@@ -118,15 +117,13 @@ void TrinomialsX2BxC::ProductOfTwoFactors() {
 void TrinomialsX2BxC::ProductAndSum() {
   const std::string d = tutor::Dot;
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(To \cfactor\z a trinomial means to go the way back, from )" +
-           TrinomialText({1, 5, 6}) + " to " + FactorsText(kTwoAndThree) + ".");
+  WrapAt(3, R"(To \cfactor\z a trinomial means to go the way back, from )" +
+                TrinomialText({1, 5, 6}) + " to " + FactorsText(kTwoAndThree) + ".");
   PageEnd();
   ShowRuleBox(kBox, 6.5, 27, "Factoring x^2^ + bx + c",
               {"Find two numbers whose", "product is c and whose sum is b."});
   PageEnd();
-  Locate(11, 1);
-  WordWrap("Let's factor " + TrinomialText({1, 7, 10}) + ".  The product of the numbers is 10:");
+  WrapAt(11, "Let's factor " + TrinomialText({1, 7, 10}) + ".  The product of the numbers is 10:");
   isPrint("   1" + d + "10 = 10     1 + 10 = 11");
   WordWrap("   2" + d + R"(5 = 10      \y2 + 5 = 7\z)");
   PageEnd();
@@ -147,13 +144,11 @@ void TrinomialsX2BxC::ProductAndSum() {
 void TrinomialsX2BxC::LastNumberPositive() {
   const std::string d = tutor::Dot;
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(When the last number is \cpositive\z, the two numbers have the same sign.  )"
-           R"(Only equal signs give a positive product.)");
+  WrapAt(3, R"(When the last number is \cpositive\z, the two numbers have the same sign.  )"
+            R"(Only equal signs give a positive product.)");
   PageEnd();
   ShowPaperBox(kBox, 6.6, {Identity({{1, 2}, {1, 6}}), Identity({{1, -2}, {1, -6}})});
-  Locate(9.5, 1);
-  WordWrap("The sign of the middle term tells us which sign that is.");
+  WrapAt(9.5, "The sign of the middle term tells us which sign that is.");
   PageEnd();
   isPrint();
   WordWrap("Let's factor " + TrinomialText({1, -9, 14}) + ".  Both numbers are negative:");
@@ -164,8 +159,7 @@ void TrinomialsX2BxC::LastNumberPositive() {
   ShowPaperBox(kWarningBox, 18,
                {"\\r" + FactorsText({{1, 2}, {1, 7}}) + "\\z gives the middle term +9x"});
   PageEnd();
-  Locate(20.5, 1);
-  WordWrap("What are the factors of " + TrinomialText({1, -11, 24}) + "?");
+  WrapAt(20.5, "What are the factors of " + TrinomialText({1, -11, 24}) + "?");
   PageEnd();
   WordWrap("-3 and -8:  " + FactorsText({{1, -3}, {1, -8}}));
   PageEnd();
@@ -174,13 +168,11 @@ void TrinomialsX2BxC::LastNumberPositive() {
 void TrinomialsX2BxC::LastNumberNegative() {
   const std::string d = tutor::Dot;
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(When the last number is \cnegative\z, one number is positive and the other )"
-           R"(is negative.)");
+  WrapAt(3, R"(When the last number is \cnegative\z, one number is positive and the other )"
+            R"(is negative.)");
   PageEnd();
   ShowPaperBox(kBox, 6.6, {Identity({{1, 6}, {1, -2}}), Identity({{1, -6}, {1, 2}})});
-  Locate(9.5, 1);
-  WordWrap("The number farther from 0 has the sign of the middle term.");
+  WrapAt(9.5, "The number farther from 0 has the sign of the middle term.");
   PageEnd();
   isPrint();
   WordWrap("Let's factor " + TrinomialText({1, 3, -10}) +
@@ -257,8 +249,7 @@ void TrinomialsX2BxC::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void TrinomialsX2BxC::ShowProblem() {
-  Locate(5, 1);
-  isPrint(problem.question[0]);
+  WrapAt(5, problem.question[0]);
   Locate(7, 4);
   WordWrap(problem.question[1]);
   answerRow = 11;
@@ -289,8 +280,7 @@ void TrinomialsX2BxC::ExplainProblem() {
 
 void TrinomialsX2BxC::BeginPage() {
   ProblemBanner();
-  Locate(4.6, 1);
-  isPrint(problem.question[0]);
+  WrapAt(4.6, problem.question[0]);
   Locate(6, 4);
   WordWrap(problem.question[1]);
 }
@@ -322,9 +312,8 @@ std::string TrinomialsX2BxC::SignSentence() const {
 void TrinomialsX2BxC::ListPairs() {
   NewScreen();
   BeginPage();
-  Locate(8, 1);
-  WordWrap("We try one pair with the product " + NumStr(Asked().constant) +
-           " after the other, until the sum is " + NumStr(Asked().middle) + ":");
+  WrapAt(8, "We try one pair with the product " + NumStr(Asked().constant) +
+                " after the other, until the sum is " + NumStr(Asked().middle) + ":");
   const std::vector<NumberPair> pairs = PairsWithProduct(Asked().constant, Sgn(Asked().middle));
   std::size_t count = 1;
   while (pairs[count - 1].Sum() != Asked().middle) ++count;
@@ -335,24 +324,21 @@ void TrinomialsX2BxC::ListPairs() {
     PrintOnPaper(kBox, static_cast<int>(i) + 1, (found ? R"(\b)" : "") + PairLine(pairs[i]));
   }
   PageEnd();
-  Locate(below + 0.5, 1);
-  WordWrap(R"(The numbers are \y)" + NumStr(First()) + R"(\z and \y)" + NumStr(Second()) +
-           R"(\z.)");
+  WrapAt(below + 0.5,
+         R"(The numbers are \y)" + NumStr(First()) + R"(\z and \y)" + NumStr(Second()) + R"(\z.)");
   PageEnd();
 }
 
 void TrinomialsX2BxC::FillIn() {
   NewScreen();
   BeginPage();
-  Locate(8, 1);
-  isPrint("We put the numbers into the factors:");
+  WrapAt(8, "We put the numbers into the factors:");
   RaiseConstants(9.5, 4, factors_[1]);
   PageEnd();
 }
 
 void TrinomialsX2BxC::Check() {
-  Locate(11.5, 1);
-  isPrint("We check it by multiplying out:");
+  WrapAt(11.5, "We check it by multiplying out:");
   isPrintLines(0.3);
   WordWrap("     x^2^" + SignedCoefText(Second()) + "x" + SignedCoefText(First()) + "x" +
            tutor::Gap + SignedNumberText(Asked().constant));
