@@ -234,6 +234,8 @@ void LessonWindow::PlaceRules() {
   MovePixels(cmdShowRulesandReminders, 774, 252, 112, 60);
   MovePixels(cmdShowRulesAndHints, 774, 520, 112, 60);
   MovePixels(picRules1, 420, 40, 340, 240);
+  picRules1.BackColor = platform::colour::FormGrey;
+  picRules1.Cls();
   MovePixels(lblRules1, 10, 8, 320, 24);
   MovePixels(lstRules1, 10, 36, 320, 194);
   cmdHidden.Move(0, 0, 0, 0);

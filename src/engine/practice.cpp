@@ -119,6 +119,8 @@ int AnswerWait(int kind) {
   session.gRunAgain = 0;
   session.gLeaveLesson = 0;
   UpdateAccessibleTexts();
+  // From the panel the Tab key goes to the answers; the blank and Enter do nothing there.
+  frmPR->pnlLesson.SetFocus();
   if (session.gTestingCounter > 0) PressNextProblem();
   while (!WaitIsOver()) platform::WaitEvents("AnswerWait");
   return session.gAnswerPicked;

@@ -24,7 +24,13 @@ class SurfaceWidget final : public Pressable<QWidget> {
     const QRect changed = event->rect();
     painter.drawImage(changed, image_, changed);
     if (box_.Border()) DrawFrame(painter, 1, Qt::black);
-    if (hasFocus()) DrawFrame(painter, 2, kAccent);
+    if (hasFocus() && byKeyboard_) DrawFrame(painter, 2, kAccent);
+  }
+  // Only a person who goes by the keyboard has to be shown where he is.
+  void focusInEvent(QFocusEvent* event) override {
+    const Qt::FocusReason reason = event->reason();
+    byKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    Pressable<QWidget>::focusInEvent(event);
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Space) return Pressable<QWidget>::keyPressEvent(event);
@@ -40,6 +46,7 @@ class SurfaceWidget final : public Pressable<QWidget> {
   }
   PictureBox& box_;
   const QImage& image_;
+  bool byKeyboard_ = false;
 };
 
 // What a screen reader makes of a box: a text, or a button when a click does something.

@@ -3,6 +3,7 @@
 #include "journeys/engine_fixture.h"
 #include "mathkit/draws.h"
 #include "platform/picture_box.h"
+#include "platform/robot.h"
 
 namespace course::testing {
 namespace {
@@ -129,6 +130,21 @@ TEST_F(Practice, EscEndsAnUnattendedRun) {
   user.OnPause = [](double) { FindControl("pnlLesson").OwnForm()->Press(27); };
   Run(activity::Practice);
   EXPECT_EQ(runs.size(), 1u);
+}
+
+TEST_F(Practice, TheKeyboardAloneReachesTheAnswers) {
+  Check("AnswerWait", [] {
+    platform::robot::Type(frmPR->form, ' ');  // on the panel, as behind a CONTINUE: nothing
+    platform::robot::Type(frmPR->form, 13);
+  });
+  Check("AnswerWait", [] {
+    EXPECT_EQ(session.gAnswerPicked, 0);
+    for (int i = 1; i <= 2; ++i) platform::robot::Type(frmPR->form, platform::robot::Key::Tab);
+    platform::robot::Type(frmPR->form, ' ');
+  });
+  Check("frmCorrect", [] { EXPECT_EQ(session.gAnswerPicked, 2); });
+  Click("frmCorrect", kLeave);
+  Run(activity::Practice);
 }
 
 TEST_F(Practice, RulesAreOfferedInPracticeOnly) {
