@@ -20,6 +20,7 @@
 #include "engine/lesson_script.h"
 #include "engine/rules_and_hints.h"
 #include "lessons/lessons.h"
+#include "lessons/page_lines.h"
 #include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
 #include "lessons/unit01_review_of_arithmetic/evaluation.h"
 #include "lessons/unit01_review_of_arithmetic/stepping_display.h"
@@ -109,6 +110,12 @@ std::string InSentence(std::string_view text) {
   return WithoutBreaks(ExpressionText(ExpressionOf(text)));
 }
 
+// The same with its value: "8 - 2 = 6".
+std::string Worked(std::string_view text) {
+  return WithoutBreaks(ExpressionText(ExpressionOf(text)) + " = " +
+                       NumStr(ValueOf(ExpressionOf(text)).value()));
+}
+
 // Wipes the reason of the step before away, and tells what that step has given, if there was one.
 void StartReason(const std::string& given) {
   if (!given.empty()) WipeAndErase("U", kLastRow + 1, kLastRow + 1 - kReasonRow, kWipeSpeed);
@@ -154,12 +161,10 @@ void OrderOfOperations::WorkOutAloud(const ArithmeticExpression& expression, dou
 
 void OrderOfOperations::WhyThereIsAnOrder() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("What is the value of " + InSentence("3+4*2") +
-           "?  Suzy adds first.  Paul multiplies first.");
+  WrapAt(3, "What is the value of " + InSentence("3+4*2") +
+                "?  Suzy adds first.  Paul multiplies first.");
   SuzyAndPaul();
-  Locate(14, 1);
-  WordWrap("Both can add and multiply.  Who has found the value of the expression?");
+  WrapAt(14, "Both can add and multiply.  Who has found the value of the expression?");
   PageEnd();
   isPrint();
   WordWrap(R"(An expression has only one value.  So we all follow one \corder of operations\z:)");
@@ -170,9 +175,7 @@ void OrderOfOperations::WhyThereIsAnOrder() {
   PageEnd();
 
   NewScreen();
-  Locate(3, 1);
-  WordWrap("Why do we multiply first?  Think of a shop:");
-  PageEnd();
+  WrapAt(3, "Why do we multiply first?  Think of a shop:");
   isPrint();
   WordWrap("You buy a pen for 3 dollars and 4 notebooks for 2 dollars each.  Together they cost " +
            InSentence("3+4*2") + " dollars.");
@@ -180,7 +183,7 @@ void OrderOfOperations::WhyThereIsAnOrder() {
   isPrint();
   WordWrap(
       "You pay for 4 notebooks and not for 7 things.  So we need the price of the notebooks, " +
-      InSentence("4*2") + " = 8, before we add:  " + InSentence("3+8") + " = 11 dollars.");
+      Worked("4*2") + ", before we add:  " + Worked("3+8") + " dollars.");
   PageEnd();
   isPrint();
   WordWrap("Now you.  Which operation comes first here, and what is the value?");
@@ -212,71 +215,61 @@ void OrderOfOperations::SuzyAndPaul() {
 
 void OrderOfOperations::FromLeftToRight() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("Addition and subtraction have the same rank.  Neither comes before the other.");
+  WrapAt(3, R"(Addition and subtraction have the same \crank\z.  Neither comes before the other.)");
   PageEnd();
   isPrint();
   WordWrap(R"(When the ranks are the same, we work \cfrom left to right\z, as we read.)");
   WorkOut("12-5+4", 9.5);
   PageEnd();
-  Locate(14.5, 1);
-  WordWrap("Why?  You have 12 dollars, you give away 5, and you get 4.  Then you have 11.");
+  WrapAt(15, "Why?  You have 12 dollars, you give away 5, and you get 4.  Then you have 11.");
   PageEnd();
   isPrint();
   WordWrap(R"(\rDo not add 5 + 4 first.\z  That would take 9 away from 12, but only 5 are taken.)");
   PageEnd();
 
   NewScreen();
-  Locate(3, 1);
-  WordWrap("Multiplication and division have the same rank too.");
+  WrapAt(3, "Multiplication and division have the same rank too.");
   WorkOut("24/4*2", 6);
   PageEnd();
-  Locate(11.5, 1);
-  WordWrap(R"(\rDo not multiply 4 )" + tutor::Times +
-           R"( 2 first,\z although the word multiplication comes first in the rule.)");
+  WrapAt(11.5, R"(\rDo not multiply 4 )" + tutor::Times +
+                   R"( 2 first,\z although the word multiplication comes first in the rule.)");
   PageEnd();
-  Locate(15, 1);
-  WordWrap("Now you.  Which operation comes first, and which one second?");
+  WrapAt(15, "Now you.  Which operation comes first, and which one second?");
   Ask("30-12/3*2", 17.4);
   PageEnd();
 }
 
 void OrderOfOperations::ParenthesesFirst() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("Can we write an expression in which Suzy is right and the addition comes first?");
+  WrapAt(3, "Can we write an expression in which Suzy is right and the addition comes first?");
   PageEnd();
   isPrint();
   WordWrap(R"(Yes.  \cParentheses\z ( ) say: work out what is inside before anything else.)");
   WorkOut("(3+4)*2", 9);
   PageEnd();
-  Locate(14.5, 1);
-  WordWrap("Inside parentheses the order is the same as ever:  multiply and divide first.");
+  WrapAt(14.5, "Inside parentheses the order is the same as ever:  multiply and divide first.");
   WorkOut("20-(2+3*4)", 17.2);
   PageEnd();
 
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(Parentheses can stand inside other ones.  The outer pair is then written as )"
-           R"(\cbrackets\z [ ].)");
+  WrapAt(3, R"(Parentheses can stand inside other ones.  The outer pair is then written as )"
+            R"(\cbrackets\z [ ].)");
   PageEnd();
   isPrint();
   WordWrap(R"(We begin with the \yinnermost\z pair and work our way out.)");
   WorkOut("2*[9-(1+4)]", 10);
   PageEnd();
-  Locate(18, 1);
-  WordWrap("Now you.  What is the value of " + InSentence("(8-2)*[10-(3+4)]") + "?");
+  WrapAt(18, "Now you.  What is the value of " + InSentence("(8-2)*[10-(3+4)]") + "?");
   PageEnd();
   isPrint();
-  WordWrap("8 - 2 = 6, and 3 + 4 = 7.  Then 10 - 7 = 3, and at last " + InSentence("6*3") +
-           " = 18.");
+  WordWrap(Worked("8-2") + ", and " + Worked("3+4") + ".  Then " + Worked("10-7") +
+           ", and at last " + Worked("6*3") + ".");
   PageEnd();
 }
 
 void OrderOfOperations::AllRulesTogether() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(The \corder of operations\z:)");
+  WrapAt(3, R"(The \corder of operations\z:)");
   Locate(5, 1);
   WordWrapIndent(R"(1. Work inside parentheses and brackets, the innermost pair first.)", 4);
   PageEnd();
@@ -288,13 +281,11 @@ void OrderOfOperations::AllRulesTogether() {
   PageEnd();
 
   NewScreen();
-  Locate(3, 1);
-  WordWrap("In practice the button ~Show Rules and Reminders~ puts this card beside the problem:");
+  WrapAt(3, "In practice the button ~Show Rules and Reminders~ puts this card beside the problem:");
   picGalleryImagePrepare(1, gallery::OrderOfOperations, 6.5, 12);
   picGalleryImageShow(1);
   PageEnd();
-  Locate(17.5, 1);
-  WordWrap("You meet exponents, its second line, in the next lesson.");
+  WrapAt(17.5, "You meet exponents, its second line, in the next lesson.");
   PageEnd();
   isPrint();
   WordWrap("Now we use all the rules.  Try to be faster than the page.");

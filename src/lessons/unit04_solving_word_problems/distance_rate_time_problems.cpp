@@ -14,6 +14,7 @@
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "lessons/lessons.h"
+#include "lessons/page_lines.h"
 #include "lessons/unit04_solving_word_problems/durations.h"
 #include "lessons/unit04_solving_word_problems/motion.h"
 #include "lessons/unit04_solving_word_problems/motion_choices.h"
@@ -126,25 +127,25 @@ void DistanceRateTimeProblems::NextBoxPage() {
 // The two other forms and an example of each, in the box.
 void DistanceRateTimeProblems::OtherForms() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("The same formula finds the rate, when we know the distance and the time.");
+  WrapAt(3, "The same formula finds the rate, when we know the distance and the time.");
   StartBox(6, 10);
   wbWordWrap("A jogger runs 12 miles in 2 hours.  What is his rate?");
   PageEnd();
   wbisPrint();
-  wbWordWrap(R"(We divide both sides of \rd = r)" + kDot + R"(t\z by t:)");
+  wbWordWrap(R"(  \rd = r)" + kDot + "t");
+  wbisPrint("We divide both sides by t:");
   wbisPrint("  r = d" + kDivided + "t");
   PageEnd();
   wbisPrint("  r = 12" + kDivided + "2 = 6");
   wbisPrint("His rate is 6" + tutor::Gap + "mph.");
   PageEnd();
-  Locate(3, 1);
-  WordWrap("The same formula finds the time, when we know the distance and the rate.");
+  WrapAt(3, "The same formula finds the time, when we know the distance and the rate.");
   NextBoxPage();
   wbWordWrap("A skater goes 20 miles at a rate of 8" + tutor::Gap + "mph.  How long does it take?");
   PageEnd();
   wbisPrint();
-  wbWordWrap(R"(We divide both sides of \rd = r)" + kDot + R"(t\z by r:)");
+  wbWordWrap(R"(  \rd = r)" + kDot + "t");
+  wbisPrint("We divide both sides by r:");
   wbisPrint("  t = d" + kDivided + "r");
   PageEnd();
   wbisPrint("  t = 20" + kDivided + "8 = 5/2 = 2 1/2");
@@ -154,8 +155,7 @@ void DistanceRateTimeProblems::OtherForms() {
 
 void DistanceRateTimeProblems::HoursAndMinutes() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
+  WrapAt(3, "A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
   PageEnd();
   isPrint();
   isPrint("  15 minutes = 15/60 = 1/4 of an hour");
@@ -178,9 +178,8 @@ void DistanceRateTimeProblems::HoursAndMinutes() {
 // Arrows of two columns for a mile an hour, tip to tail.
 void DistanceRateTimeProblems::WindAndCurrent() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("A boat sails at 10" + tutor::Gap + R"(mph in still water.  A \ccurrent\z of 2)" +
-           tutor::Gap + "mph moves the water, and the boat in it.");
+  WrapAt(3, "A boat sails at 10" + tutor::Gap + R"(mph in still water.  A \ccurrent\z of 2)" +
+                tutor::Gap + "mph moves the water, and the boat in it.");
   PageEnd();
   Locate(6.6, 1);
   isPrint("With the current we add:");
@@ -194,8 +193,7 @@ void DistanceRateTimeProblems::WindAndCurrent() {
   ShowArrow(13.9, 20, 17, "current", platform::colour::Cyan);
   ShowArrow(15, 1, 16, "10 - 2 = 8", platform::colour::Yellow);
   PageEnd();
-  Locate(16.6, 1);
-  WordWrap("A wind does to a plane what a current does to a boat.");
+  WrapAt(16.6, "A wind does to a plane what a current does to a boat.");
   PageEnd();
   isPrint();
   WordWrap("Now you.  How long does the boat take to go 24 miles against the current?");
@@ -228,8 +226,7 @@ void DistanceRateTimeProblems::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void DistanceRateTimeProblems::ShowProblem() {
-  Locate(5, 1);
-  WordWrap(Question());
+  WrapAt(5, Question());
   answerRow = 12;
   // "1055 19/20 miles" and "4 hours & 30 minutes" are long.
   const double fontSize = motion_.asked == MotionPart::Time ? 15 : 18;
@@ -240,8 +237,7 @@ void DistanceRateTimeProblems::ShowProblem() {
 
 void DistanceRateTimeProblems::ExplainProblem() {
   ProblemBanner();
-  Locate(4, 1);
-  WordWrap(Question());
+  WrapAt(4, Question());
   PageEnd();
   ShowFacts();
   PageEnd();
@@ -315,8 +311,8 @@ void DistanceRateTimeProblems::ExplainFormula() {
   }
   const std::string other =
       LetterOf(motion_.asked == MotionPart::Rate ? MotionPart::Time : MotionPart::Rate);
-  wbWordWrap(wanted + ", we should rewrite " + formula + ".  We divide both sides by " + other +
-             ":");
+  wbWordWrap(wanted + ", we should rewrite " + formula + ".");
+  wbisPrint("We divide both sides by " + other + ":");
   wbisPrint("  " + LetterOf(motion_.asked) + " = d" + kDivided + other);
   PageEnd();
 }
@@ -347,9 +343,10 @@ void DistanceRateTimeProblems::ExplainMinutes() {
 void DistanceRateTimeProblems::ExplainStillRate() {
   if (motion_.asked != MotionPart::Rate || motion_.direction == 0) return;
   const bool helps = motion_.direction > 0;
-  wbWordWrap("So fast " + motion_.TheVehicle() + " really goes.  The " + motion_.DriftName() +
-             (helps ? " helps by " : " takes away ") + RateText({motion_.drift, 1}) + ", so" +
-             motion_.StillText() + " it is " + (helps ? "slower:" : "faster:"));
+  wbWordWrap(RateText({motion_.RealRate(), 1}) + " is the rate " +
+             (helps ? "with the " : "against the ") + motion_.DriftName() + ".  Without it " +
+             motion_.TheVehicle() + " is " + RateText({motion_.drift, 1}) +
+             (helps ? " slower:" : " faster:"));
   wbisPrint("  " + NumStr(motion_.RealRate()) + (helps ? " - " : " + ") + NumStr(motion_.drift) +
             " = " + NumStr(motion_.rate));
   PageEnd();
@@ -376,18 +373,18 @@ void DistanceRateTimeProblems::CheckDistance() {
   const Fraction hours = motion_.Hours();
   const int full = hours.num / hours.den;
   const auto distanceIn = [this](int wholeHours) {
-    return NumStr(motion_.RealRate() * wholeHours) + " in " + HoursText({wholeHours, 1});
+    return QuantityText({motion_.RealRate() * wholeHours, 1}, "mile") + " in " +
+           HoursText({wholeHours, 1});
   };
   const std::string distance = MixedText(motion_.Distance());
   if (hours.den == 1)
     wbWordWrap("Check:  " + distance + kDivided + NumStr(full) + " = " +
                NumStr(motion_.RealRate()) + ", the rate.");
   else if (full == 0)
-    wbWordWrap("Check:  the rate is " + distanceIn(1) + ".  In less time it must be less, and " +
-               distance + " is less.");
+    wbWordWrap("Check:  it is " + distanceIn(1) + ", so in less time it is less.");
   else
-    wbWordWrap("Check:  the rate makes " + distanceIn(full) + " and " + distanceIn(full + 1) +
-               ".  " + distance + " lies between.");
+    wbWordWrap("Check:  it is " + distanceIn(full) + " and " + distanceIn(full + 1) + ".  " +
+               distance + " lies between.");
 }
 
 void DistanceRateTimeProblems::TellAnswer() {
