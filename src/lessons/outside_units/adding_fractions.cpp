@@ -187,13 +187,15 @@ Fraction AddingFractions::DrawFraction(RandomStream& random, int kind) {
   return Reduced(numerator, denominator);
 }
 
+// The cheap questions come first: most fractions of the second kind are thrown away.
 bool AddingFractions::Unsuitable(int kind) const {
-  const int a = first_.den;
-  const int b = second_.den;
-  return !NeitherDivides(a, b)  // one of the denominators would do as it is
-         || (kind == 2 && CommonPrimeFactors(a, b) == 0) ||
-         Denominator() > kLargestCommonDenominator      // too much to multiply by hand
-         || FirstNumerator() + SecondNumerator() <= 0;  // the sum is a positive number
+  const int common = Gcf(first_.den, second_.den);
+  if (kind == 2 && common == 1) return true;
+  const int lcd = first_.den / common * second_.den;
+  return lcd == first_.den || lcd == second_.den  // one of the denominators would do as it is
+         || lcd > kLargestCommonDenominator       // too much to multiply by hand
+         ||
+         RenamedNumerator(first_, lcd) + RenamedNumerator(second_, lcd) <= 0;  // sums are positive
 }
 
 // The kind is drawn once, so that both are as many.  Of what is drawn then, 57 % of the first kind
@@ -262,8 +264,7 @@ void AddingFractions::ExplainDenominator() {
   if (CommonPrimeFactors(first_.den, second_.den) == 0)
     WrapAt(15, "They share no prime, so the LCD needs all of them:");
   else
-    WrapAt(15, R"(Each prime goes into the LCD as often as it stands in the line that has )"
-               R"(\ymost of it\z:)");
+    WrapAt(15, R"(The LCD takes each prime as often as the line that has \ymost of it\z:)");
   WrapAt(18,
          "  LCD = " + ProductText(PrimeFactorsOf(Denominator())) + " = " + NumStr(Denominator()));
   PageEnd();
