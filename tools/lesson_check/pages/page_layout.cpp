@@ -79,6 +79,7 @@ std::vector<ShownBox> ShownBoxes(LessonWindow& window) {
     const auto place = static_cast<std::size_t>(i);
     add(window.picCommentBox[i], window.commentText[place].get());
     add(window.picGalleryImage[i], nullptr);
+    add(window.picNotes[i], nullptr);
     add(window.picGraph2D[i], nullptr);
     add(window.picAnswer[i], window.answerText[place].get());
   }
