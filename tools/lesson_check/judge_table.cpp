@@ -20,9 +20,11 @@ constexpr auto kJudges = std::to_array<JudgeRow>({
     {"Distance-Rate-Time Problems", ReadMotionProblem},
     {"Multiplying with Exponents", ReadProductOfPowers},
     {"Trinomials of the Form x\xB2+bx+c", ReadMonicTrinomial},
+    {"Solving Systems by Graphing", ReadLinearSystem},
     {"Simple Inequalities", ReadIntervalFigure},
     {"Complex Inequalities", ReadIntervalFigure},
     {"Solving Inequalities", ReadLinearInequality},
+    {"The Quadratic Formula", ReadQuadraticEquation},
     {"Adding Fractions", ReadSumOfFractions},
     {"Blank Lesson", ReadArithmetic},
 });

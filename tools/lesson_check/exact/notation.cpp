@@ -332,6 +332,21 @@ std::string Comparable(const std::string& text) {
   return result;
 }
 
+std::vector<std::string> NumbersIn(const std::string& text) {
+  std::vector<std::string> numbers;
+  bool open = false;
+  for (const char c : course::ExponentCharsToCarets(text)) {
+    if (!IsDigit(c)) {
+      open = false;
+      continue;
+    }
+    if (!open) numbers.emplace_back();
+    numbers.back() += c;
+    open = true;
+  }
+  return numbers;
+}
+
 std::string ExpressionIn(const std::string& sentence) {
   // A word ends at a blank; an expression begins and ends with whole words, punctuation aside.
   std::vector<std::size_t> starts = {0};

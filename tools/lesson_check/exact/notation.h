@@ -42,6 +42,9 @@ std::string WithoutBlanks(const std::string& text);
 // two blanks in a row.
 std::string Comparable(const std::string& text);
 
+// The whole numbers of a text, in its order.
+std::vector<std::string> NumbersIn(const std::string& text);
+
 // The expression that stands in a sentence, such as the one in "What is the value of 3 + 4?": the
 // longest stretch of whole words that can be read and has a digit and no two letters side by side.
 // Unreadable when there is none.

@@ -22,5 +22,9 @@ Reading ReadProductOfPowers(const course::Problem& problem);
 Reading ReadMonicTrinomial(const course::Problem& problem);
 // Two fractions to be added; subtracting is adding a negative one.
 Reading ReadSumOfFractions(const course::Problem& problem);
+// Two lines in x and y, and the point on both.
+Reading ReadLinearSystem(const course::Problem& problem);
+// The real roots of a quadratic equation.
+Reading ReadQuadraticEquation(const course::Problem& problem);
 
 }  // namespace lesson_check

@@ -98,19 +98,4 @@ bool ContainsAsWords(const std::string& whole, const std::string& part) {
   return false;
 }
 
-std::vector<std::string> NumbersIn(const std::string& text) {
-  std::vector<std::string> numbers;
-  bool open = false;
-  for (const char c : course::ExponentCharsToCarets(text)) {
-    if (!IsDigit(c)) {
-      open = false;
-      continue;
-    }
-    if (!open) numbers.emplace_back();
-    numbers.back() += c;
-    open = true;
-  }
-  return numbers;
-}
-
 }  // namespace lesson_check

@@ -27,7 +27,4 @@ PageText NewOn(const PageText& page, const PageText& before);
 // compared, see Comparable.
 bool ContainsAsWords(const std::string& whole, const std::string& part);
 
-// The numbers of a text, in its order.
-std::vector<std::string> NumbersIn(const std::string& text);
-
 }  // namespace lesson_check
