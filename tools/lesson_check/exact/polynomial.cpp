@@ -33,6 +33,7 @@ Powers Product(const Powers& a, const Powers& b, Rational& coefficient) {
   Powers product = a;
   for (const auto& [letter, halves] : b.halves)
     if ((product.halves[letter] += halves) == 0) product.halves.erase(letter);
+  if (a.radicand == 1 && b.radicand == 1) return product;
   const SquareParts parts = TakeSquaresOut(a.radicand * b.radicand);
   coefficient *= parts.outside;
   product.radicand = parts.inside;
@@ -142,6 +143,7 @@ Polynomial Polynomial::operator/(const Polynomial& other) const {
 
 Polynomial Polynomial::Power(int exponent) const {
   if (exponent < 0) return Polynomial(Rational(1)) / Power(-exponent);
+  if (exponent == 1) return *this;
   Polynomial result(Rational(1));
   for (int i = 0; i < exponent; ++i) result = result * *this;
   return result;

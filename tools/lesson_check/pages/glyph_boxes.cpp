@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "display/lesson_window.h"
+#include "engine/header.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -44,6 +46,14 @@ bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
   return panel.erases && (later.blank || (later.level == 0 && earlier.level == 0)) &&
          std::fabs(later.row - earlier.row) <= kSamePlace &&
          std::fabs(later.col - earlier.col) < 0.5;
+}
+
+// Columns that a letter takes: one, but fewer in the banner, whose face has widths of its own.
+double ColumnsOf(const Fragment& fragment) {
+  const std::string banner = course::BannerText();
+  if (banner.empty() || fragment.text.find(banner) == std::string::npos) return 1;
+  return course::frmPR->picTextWidth.TextWidth(fragment.text) / course::gCellWidth /
+         static_cast<double>(fragment.text.size());
 }
 
 // Builds up what stands from the fragments, in the order in which they were printed.
@@ -114,6 +124,7 @@ std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   const double width = panel.layout.cellWidth;
   const double height = panel.layout.cellHeight;
   std::vector<Glyph> glyphs;
+  const double advance = ColumnsOf(fragment);
   double col = fragment.col;
   for (const char c : fragment.text) {
     const double x = panel.CellX(col);
@@ -125,7 +136,7 @@ std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
                       col,
                       {x + parts.side * width, y + parts.top * height, x + (1 - parts.side) * width,
                        y + parts.bottom * height}});
-    ++col;
+    col += advance;
   }
   return glyphs;
 }
