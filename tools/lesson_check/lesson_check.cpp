@@ -82,6 +82,16 @@ Report CheckDrawing(const MakeScript& make, const SeedRange& seeds,
   return check.Take();
 }
 
+Report CountDraws(const MakeScript& make, const SeedRange& seeds) {
+  const auto lesson = make();
+  Report report;
+  for (int seed = seeds.first; seed <= seeds.last; seed += seeds.step) {
+    ++report.problems;
+    report.draws += lesson->Draw(seed).draws;
+  }
+  return report;
+}
+
 Report CheckPages(const MakeScript& make, const SeedRange& seeds,
                   const std::function<void()>& tick) {
   const auto lesson = make();

@@ -24,6 +24,9 @@ using MakeScript = std::function<std::unique_ptr<course::LessonScript>()>;
 Report CheckDrawing(const MakeScript& make, const SeedRange& seeds,
                     const std::function<void()>& tick = {});
 
+// Draws each problem once and only counts: enough for CheckAcceptance.
+Report CountDraws(const MakeScript& make, const SeedRange& seeds);
+
 // Shows and explains each problem in a lesson window of its own.
 Report CheckPages(const MakeScript& make, const SeedRange& seeds,
                   const std::function<void()>& tick = {});

@@ -32,6 +32,14 @@ const InkParts& PartsOf(int level) {
 constexpr double kBrush = 3;         // pixels of ink that two boxes may share
 constexpr double kSamePlace = 0.25;  // cells
 
+// Columns that a letter takes: one, but fewer in the banner, whose face has widths of its own.
+double ColumnsOf(const Fragment& fragment) {
+  const std::string banner = course::BannerText();
+  if (banner.empty() || fragment.text.find(banner) == std::string::npos) return 1;
+  return course::frmPR->picTextWidth.TextWidth(fragment.text) / course::gCellWidth /
+         static_cast<double>(fragment.text.size());
+}
+
 bool SamePlace(const Glyph& a, const Glyph& b) {
   return std::fabs(a.row - b.row) <= kSamePlace && std::fabs(a.col - b.col) <= kSamePlace;
 }
@@ -46,14 +54,6 @@ bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
   return panel.erases && (later.blank || (later.level == 0 && earlier.level == 0)) &&
          std::fabs(later.row - earlier.row) <= kSamePlace &&
          std::fabs(later.col - earlier.col) < 0.5;
-}
-
-// Columns that a letter takes: one, but fewer in the banner, whose face has widths of its own.
-double ColumnsOf(const Fragment& fragment) {
-  const std::string banner = course::BannerText();
-  if (banner.empty() || fragment.text.find(banner) == std::string::npos) return 1;
-  return course::frmPR->picTextWidth.TextWidth(fragment.text) / course::gCellWidth /
-         static_cast<double>(fragment.text.size());
 }
 
 // Builds up what stands from the fragments, in the order in which they were printed.
@@ -121,10 +121,10 @@ bool Overlap(const InkBox& a, const InkBox& b) {
 
 std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   const InkParts& parts = PartsOf(fragment.level);
-  const double width = panel.layout.cellWidth;
+  const double advance = ColumnsOf(fragment);
+  const double width = panel.layout.cellWidth * advance;
   const double height = panel.layout.cellHeight;
   std::vector<Glyph> glyphs;
-  const double advance = ColumnsOf(fragment);
   double col = fragment.col;
   for (const char c : fragment.text) {
     const double x = panel.CellX(col);
