@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QProxyStyle>
 #include <algorithm>
 #include <cmath>
 
@@ -36,6 +38,24 @@ class Rows final : public QListWidget {
   ListBox& box_;
 };
 
+// Keeps a row's text clear of the list's edge.
+class RowStyle final : public QProxyStyle {
+ public:
+  RowStyle() : QProxyStyle("Fusion") { setParent(qApp); }
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    constexpr int kMorePadding = 3;
+    const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_FocusFrameHMargin ? pixels + kMorePadding : pixels;
+  }
+};
+
+QStyle* SharedRowStyle() {
+  static QPointer<RowStyle> style;
+  if (!style) style = new RowStyle;
+  return style;
+}
+
 QListWidget& ListOf(const ListBox& box) {
   return WidgetOf<QListWidget>(box);
 }
@@ -56,6 +76,7 @@ void SelectQuietly(QListWidget& list, int row) {
 
 ListBox::ListBox(Control& parent, std::string name) : Control(&parent, std::move(name)) {
   QListWidget& list = PutOn(parent, *this, new Rows(*this));
+  list.setStyle(SharedRowStyle());
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list.setTextElideMode(Qt::ElideNone);
   list.setUniformItemSizes(true);

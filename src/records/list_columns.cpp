@@ -8,7 +8,7 @@ namespace {
 constexpr int kPixel = platform::TwipsPerPixelX;
 
 // Pixels.
-constexpr int kTextLeft = 4;  // from the list's left edge to a row's first character
+constexpr int kTextLeft = 7;  // from the list's left edge to a row's first character
 constexpr int kGap = 4;       // between headings and list
 
 int TwipsOf(const platform::ListBox& list, int characters) {
