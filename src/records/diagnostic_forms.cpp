@@ -1,11 +1,11 @@
 #include "records/diagnostic_forms.h"
 
-#include "platform/dialogs.h"
 #include "platform/look.h"
 #include "platform/printer.h"
 #include "platform/stop.h"
 #include "records/diagnostic_file.h"
 #include "records/diagnostic_report_paper.h"
+#include "records/form_parts.h"
 #include "records/record_text.h"
 #include "records/rosters.h"
 
@@ -13,36 +13,30 @@ namespace course {
 namespace {
 
 using platform::look::MovePixels;
-using platform::look::SetType;
+using namespace grid;
 
-constexpr int kPixel = platform::TwipsPerPixelX;
+constexpr const char* kTitle = "Diagnostic Test Results";
 constexpr int kNameColumn = 50;  // characters of an item in front of the record
 constexpr std::size_t kNumberPlace = 4;
 
-// The grid, in pixels.
-constexpr int kMargin = 24;
-constexpr int kGap = 12;
-constexpr int kHeadingHeight = 32;
-constexpr int kListTop = kMargin + kHeadingHeight + 34;
+// In pixels: the list on the left, two boxes of buttons on the right.
 constexpr int kListWidth = 300;  // the record, 50 characters to the right, stays out of sight
 constexpr int kListRows = 14;
 constexpr int kButtonWidth = 124;
-constexpr int kButtonHeight = 46;
-constexpr int kFrameTitle = 18;
-constexpr int kFramePadding = 16;
-constexpr int kFrameWidth = 3 * kButtonWidth + 2 * kGap + 2 * kFramePadding;
-constexpr int kFrameHeight = kFrameTitle + kButtonHeight + 2 * kFramePadding;
+constexpr int kFrameHeading = 30;
+constexpr int kFrameMargin = 16;
+constexpr int kFrameWidth = 3 * kButtonWidth + 2 * kGap + 2 * kFrameMargin;
+constexpr int kFrameHeight = kFrameHeading + kButtonHeight + kFrameMargin;
 constexpr int kFrameLeft = kMargin + kListWidth + kMargin;
 constexpr int kWidth = kFrameLeft + kFrameWidth + kMargin;
-constexpr int kListHeight = kListRows * 27 + 4;
-constexpr int kHeight = kListTop + kListHeight + kMargin;
+constexpr int kHeight = kListTop + ListHeight(kListRows) + kMargin;
+constexpr int kMenuWidth = 200;
 
-// The report's lines are up to 94 characters wide.
-constexpr int kReportWidth = 94 * 8 + 32;
-constexpr int kReportRow = 18;
-constexpr int kReportRows = 28;
-constexpr int kReportTop = kMargin + kHeadingHeight + kGap;
-constexpr int kReportHeight = kReportRows * kReportRow + 4;
+constexpr ListView::Layout kReport = {.name = "frmDisplayDiagnostics",
+                                      .width = 784,  // 94 characters and a scroll bar
+                                      .rows = 28,
+                                      .rowHeight = 18,
+                                      .points = 10};
 
 std::string ItemOf(const std::string& record) {
   const int number = ParseNumber(record.substr(kNumberPlace, 2));
@@ -53,27 +47,12 @@ DiagnosticResult ResultOf(const std::string& item) {
   return {item.substr(kNameColumn, kDiagnosticRecordLength), Trimmed(item.substr(0, kNameColumn))};
 }
 
-bool Confirmed(const std::string& question) {
-  return platform::MessageBox({.text = question,
-                               .title = "Diagnostic Test Results",
-                               .buttons = platform::Buttons::YesNo,
-                               .icon = platform::Icon::Warning}) == platform::Answer::Yes;
-}
-
-void Display(const std::string& whose, const std::vector<DiagnosticResult>& results) {
-  DisplayDiagnosticsForm display;
-  display.lblHeading.SetCaption("Diagnostic Test Results: " + whose);
-  display.ShowDiagnosticReport(results);
-  display.form.ShowModal();
-}
-
 void PlaceChoice(platform::Frame& frame, std::array<platform::Button, 3>& buttons) {
-  frame.SetFont("MS Sans Serif", 10, true);
-  int left = kFramePadding;
-  for (platform::Button& button : buttons) {
-    button.SetFont("MS Sans Serif", 11, true);
-    button.SetAccessibleName(button.Caption() + " " + frame.AccessibleName());
-    MovePixels(button, left, kFrameTitle + kFramePadding, kButtonWidth, kButtonHeight);
+  constexpr const char* kCommands[] = {"Display ", "Print ", "Erase "};
+  int left = kFrameMargin;
+  for (std::size_t i = 0; i < buttons.size(); ++i) {
+    PlaceButton(buttons[i], left, kFrameHeading, kButtonWidth);
+    buttons[i].SetAccessibleName(kCommands[i] + frame.AccessibleName());
     left += kButtonWidth + kGap;
   }
 }
@@ -82,18 +61,18 @@ void PlaceChoice(platform::Frame& frame, std::array<platform::Button, 3>& button
 
 DiagnosticsForm::DiagnosticsForm()
     : form("frmDiagnostics", kWidth * kPixel, kHeight * kPixel),
-      lblHeading(form, "lblHeading", "Diagnostic Test Results"),
+      lblHeading(form, "lblHeading", kTitle),
       lblStudents(form, "lblStudents", "Students"),
       lstStudents(form, "lstStudents"),
       fraAll(form, "fraAll", "for All Students Shown In List"),
-      cmdAll{platform::Button(fraAll, "cmdAll(0)", "Display"),
-             platform::Button(fraAll, "cmdAll(1)", "Print"),
-             platform::Button(fraAll, "cmdAll(2)", "Erase")},
+      cmdAll{platform::Button(fraAll, "cmdAll(0)", "&Display"),
+             platform::Button(fraAll, "cmdAll(1)", "&Print"),
+             platform::Button(fraAll, "cmdAll(2)", "&Erase")},
       fraSelected(form, "fraSelected", "for Selected Student"),
-      cmdSelected{platform::Button(fraSelected, "cmdSelected(0)", "Display"),
-                  platform::Button(fraSelected, "cmdSelected(1)", "Print"),
-                  platform::Button(fraSelected, "cmdSelected(2)", "Erase")},
-      cmdMenu(form, "cmdMenu", "&Return to Menu") {
+      cmdSelected{platform::Button(fraSelected, "cmdSelected(0)", "D&isplay"),
+                  platform::Button(fraSelected, "cmdSelected(1)", "P&rint"),
+                  platform::Button(fraSelected, "cmdSelected(2)", "Er&ase")},
+      cmdMenu(form, "cmdMenu", "Return to &Menu") {
   form.SetCaption("Manage Diagnostic Test Results");
   PlaceControls();
   BindControls();
@@ -101,22 +80,18 @@ DiagnosticsForm::DiagnosticsForm()
 }
 
 void DiagnosticsForm::PlaceControls() {
-  MovePixels(lblHeading, kMargin, kMargin, kWidth - 2 * kMargin, kHeadingHeight);
-  SetType(lblHeading, 18, true);
-  MovePixels(lblStudents, kMargin, kListTop - 24, kListWidth, 20);
-  SetType(lblStudents, 10);
+  PlaceHeading(lblHeading, kWidth);
+  PlaceNames(lblStudents, lstStudents, kMargin, kListWidth, kListRows);
   lstStudents.SetFont("Courier New", 11);
   lstStudents.SetAccessibleName("Students");
-  MovePixels(lstStudents, kMargin, kListTop, kListWidth, kListHeight);
   fraAll.SetAccessibleName("for All Students Shown In List");
   MovePixels(fraAll, kFrameLeft, kListTop, kFrameWidth, kFrameHeight);
   PlaceChoice(fraAll, cmdAll);
   fraSelected.SetAccessibleName("for Selected Student");
-  MovePixels(fraSelected, kFrameLeft, kListTop + kFrameHeight + kMargin, kFrameWidth, kFrameHeight);
+  MovePixels(fraSelected, kFrameLeft, kListTop + kFrameHeight + 16, kFrameWidth, kFrameHeight);
   PlaceChoice(fraSelected, cmdSelected);
-  MovePixels(cmdMenu, kWidth - kMargin - 200, kHeight - kMargin - kButtonHeight, 200,
-             kButtonHeight);
-  cmdMenu.SetFont("MS Sans Serif", 11, true);
+  PlaceButton(cmdMenu, kWidth - kMargin - kMenuWidth, kHeight - kMargin - kButtonHeight,
+              kMenuWidth);
 }
 
 void DiagnosticsForm::BindControls() {
@@ -161,12 +136,12 @@ DiagnosticResult DiagnosticsForm::SelectedResult() const {
 }
 
 void DiagnosticsForm::DisplayDiagnosticDataAll() {
-  Display("All Students", AllResults());
+  ShowDiagnosticReport("All Students", AllResults());
 }
 
 void DiagnosticsForm::DisplayDiagnosticData() {
   const DiagnosticResult result = SelectedResult();
-  Display(result.studentName, {result});
+  ShowDiagnosticReport(result.studentName, {result});
 }
 
 void DiagnosticsForm::PrintDiagnosticDataAll() {
@@ -178,7 +153,8 @@ void DiagnosticsForm::PrintDiagnosticData() {
 }
 
 void DiagnosticsForm::EraseDiagnosticDataAll() {
-  if (!Confirmed("Are you sure you want to erase the Diagnostic Test results for ALL students?"))
+  if (!IsSure(kTitle,
+              "Are you sure you want to erase the Diagnostic Test results for ALL students?"))
     return;
   EraseDiagnosticResults(-1);
   UpdateStudentList();
@@ -186,37 +162,20 @@ void DiagnosticsForm::EraseDiagnosticDataAll() {
 
 void DiagnosticsForm::EraseDiagnosticData() {
   const DiagnosticResult result = SelectedResult();
-  if (!Confirmed(result.studentName +
-                 "\n\nAre you sure you want to erase this student's Diagnostic Test results?"))
+  if (!IsSure(kTitle,
+              result.studentName +
+                  "\n\nAre you sure you want to erase this student's Diagnostic Test results?"))
     return;
   EraseDiagnosticResults(ParseNumber(result.record.substr(kNumberPlace, 2)));
   UpdateStudentList();
 }
 
-DisplayDiagnosticsForm::DisplayDiagnosticsForm()
-    : form("frmDisplayDiagnostics", (kReportWidth + 2 * kMargin) * kPixel,
-           (kReportTop + kReportHeight + kGap + kButtonHeight + kMargin) * kPixel),
-      lblHeading(form, "lblHeading"),
-      lstRecords(form, "lstRecords"),
-      cmdOK(form, "cmdOK", "Close") {
-  form.SetCaption("Diagnostic Test Results");
-  MovePixels(lblHeading, kMargin, kMargin, kReportWidth, kHeadingHeight);
-  SetType(lblHeading, 18, true);
-  lstRecords.SetFont("Courier New", 10);
-  lstRecords.SetRowHeight(kReportRow * kPixel);
-  lstRecords.SetAccessibleName("Diagnostic Test Results");
-  MovePixels(lstRecords, kMargin, kReportTop, kReportWidth, kReportHeight);
-  MovePixels(cmdOK, kMargin + kReportWidth - 140, kReportTop + kReportHeight + kGap, 140,
-             kButtonHeight);
-  cmdOK.SetFont("MS Sans Serif", 11, true);
-  cmdOK.OnClick = [this] { form.Close(); };
-  form.SetDefaultButton(cmdOK);
-  form.SetNeutralButton(cmdOK);
-}
-
-void DisplayDiagnosticsForm::ShowDiagnosticReport(const std::vector<DiagnosticResult>& results) {
-  lstRecords.Clear();
-  for (const std::string& line : DiagnosticReports(results)) lstRecords.AddItem(line);
+void ShowDiagnosticReport(const std::string& whose, const std::vector<DiagnosticResult>& results) {
+  ListView view(kReport, kTitle, kTitle + (": " + whose));
+  view.lstRecords.SetAccessibleName(kTitle);
+  view.MakeClose("Close");
+  view.Show(DiagnosticReports(results));
+  view.form.ShowModal();
 }
 
 void ShowDiagnostics() {

@@ -45,19 +45,9 @@ class DiagnosticsForm {
   std::string record_;  // of the selected student
 };
 
-class DisplayDiagnosticsForm {
- public:
-  DisplayDiagnosticsForm();
-
-  platform::Form form;  // frmDisplayDiagnostics
-  platform::Label lblHeading;
-  platform::ListBox lstRecords;
-  platform::Button cmdOK;
-
-  // Fills lstRecords with the reports of these students.  A result of an unknown program code stops
-  // the program.
-  void ShowDiagnosticReport(const std::vector<DiagnosticResult>& results);
-};
+// Shows the reports of these students in frmDisplayDiagnostics, modally, under the name of one or
+// "All Students".  A result of an unknown program code stops the program.
+void ShowDiagnosticReport(const std::string& whose, const std::vector<DiagnosticResult>& results);
 
 // Shows frmDiagnostics modally.
 void ShowDiagnostics();

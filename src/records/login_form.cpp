@@ -2,7 +2,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/look.h"
-#include "records/name_order.h"
+#include "records/form_parts.h"
 #include "records/rosters.h"
 #include "session/session.h"
 
@@ -10,22 +10,18 @@ namespace course {
 namespace {
 
 using platform::look::MovePixels;
-using platform::look::SetType;
+using namespace grid;
 
-constexpr int kPixel = platform::TwipsPerPixelX;
 constexpr int kLocalClass = 99;
 
-// All in pixels: the list, and under it the two buttons.
-constexpr int kMargin = 24;
+// In pixels: the list, and under it the two buttons.
 constexpr int kTextWidth = 416;
-constexpr int kHeadingHeight = 30;
-constexpr int kInstructionTop = kMargin + kHeadingHeight + 8;
+constexpr int kInstructionTop = kHeadingBottom + 8;
 constexpr int kInstructionHeight = 44;
-constexpr int kListTop = kInstructionTop + kInstructionHeight + 8;
-constexpr int kListHeight = 10 * 27 + 4;
-constexpr int kButtonTop = kListTop + kListHeight + 20;
-constexpr int kButtonWidth = 200;
-constexpr int kButtonHeight = 46;
+constexpr int kNamesTop = kInstructionTop + kInstructionHeight + 8;
+constexpr int kNamesHeight = ListHeight(10);
+constexpr int kButtonTop = kNamesTop + kNamesHeight + 20;
+constexpr int kButtonWidth = (kTextWidth - kGap) / 2;
 constexpr int kWidth = kTextWidth + 2 * kMargin;
 constexpr int kHeight = kButtonTop + kButtonHeight + kMargin;
 
@@ -42,8 +38,7 @@ LoginForm::LoginForm(const std::vector<std::string>& studentItems)
       cmdSkip_(form, "cmdSkip", "&Skip Login") {
   form.SetCaption("Student Login");
   Place();
-  for (const std::string& item : InAlphabeticalOrder(studentItems)) lstStudents_.AddItem(item);
-  lstStudents_.SetListIndex(-1);
+  ListNames(lstStudents_, studentItems);
   cmdLogin_.OnClick = [this] { cmdLogin_Click(); };
   cmdSkip_.OnClick = [this] { cmdSkip_Click(); };
   form.SetDefaultButton(cmdLogin_);
@@ -52,17 +47,14 @@ LoginForm::LoginForm(const std::vector<std::string>& studentItems)
 }
 
 void LoginForm::Place() {
-  MovePixels(lblHeading_, kMargin, kMargin, kTextWidth, kHeadingHeight);
-  SetType(lblHeading_, 16, true);
+  PlaceHeading(lblHeading_, kWidth);
   MovePixels(lblInstruction_, kMargin, kInstructionTop, kTextWidth, kInstructionHeight);
-  SetType(lblInstruction_, 12);
-  MovePixels(lstStudents_, kMargin, kListTop, kTextWidth, kListHeight);
+  platform::look::SetType(lblInstruction_, 12);
+  MovePixels(lstStudents_, kMargin, kNamesTop, kTextWidth, kNamesHeight);
   lstStudents_.SetFont("MS Sans Serif", 11);
   lstStudents_.SetAccessibleName("Students");
-  MovePixels(cmdLogin_, kMargin, kButtonTop, kButtonWidth, kButtonHeight);
-  MovePixels(cmdSkip_, kWidth - kMargin - kButtonWidth, kButtonTop, kButtonWidth, kButtonHeight);
-  for (platform::Button* button : {&cmdLogin_, &cmdSkip_})
-    button->SetFont("MS Sans Serif", 11, true);
+  PlaceButton(cmdLogin_, kMargin, kButtonTop, kButtonWidth);
+  PlaceButton(cmdSkip_, kWidth - kMargin - kButtonWidth, kButtonTop, kButtonWidth);
 }
 
 // The button is enabled without a selection, too: it tells what is missing.

@@ -2,42 +2,28 @@
 
 #include "platform/dialogs.h"
 #include "platform/look.h"
+#include "records/form_parts.h"
 #include "records/login_form_password.h"
-#include "records/name_order.h"
 #include "records/rosters.h"
 #include "session/session.h"
 
 namespace course {
 namespace {
 
-using platform::look::MovePixels;
-using platform::look::SetType;
+using namespace grid;
 
-constexpr int kPixel = platform::TwipsPerPixelX;
 constexpr int kUsualPercent = 60;
 
-// All in pixels: two lists side by side, each with its heading above and what to do below.
-constexpr int kMargin = 24;
+// In pixels: two lists side by side, each with its heading above and what to do below.
 constexpr int kColumnWidth = 384;
-constexpr int kColumnGap = 24;
-constexpr int kRightColumn = kMargin + kColumnWidth + kColumnGap;
-constexpr int kHeadingHeight = 30;
-constexpr int kCaptionTop = kMargin + kHeadingHeight + 14;
-constexpr int kListTop = kCaptionTop + 24;
-constexpr int kListHeight = 11 * 27 + 4;
-constexpr int kAdviceTop = kListTop + kListHeight + 8;
+constexpr int kRightColumn = kMargin + kColumnWidth + kMargin;
+constexpr int kListRows = 11;
+constexpr int kAdviceTop = kListTop + ListHeight(kListRows) + 8;
 constexpr int kAdviceHeight = 22;
 constexpr int kButtonTop = kAdviceTop + kAdviceHeight + 20;
-constexpr int kButtonWidth = 200;
-constexpr int kButtonHeight = 46;
+constexpr int kButtonWidth = (kColumnWidth - kGap) / 2;
 constexpr int kWidth = kRightColumn + kColumnWidth + kMargin;
 constexpr int kHeight = kButtonTop + kButtonHeight + kMargin;
-
-void Fill(platform::ListBox& list, const std::vector<std::string>& items) {
-  list.Clear();
-  for (const std::string& item : InAlphabeticalOrder(items)) list.AddItem(item);
-  list.SetListIndex(-1);
-}
 
 }  // namespace
 
@@ -55,8 +41,7 @@ NetworkLoginForm::NetworkLoginForm(const std::vector<std::string>& classItems)
       cmdSkip_(form, "cmdSkip", "&Skip Login") {
   form.SetCaption("Student Login");
   Place();
-  PlaceButtons();
-  Fill(lstClasses_, classItems);
+  ListNames(lstClasses_, classItems);
   lstClasses_.OnClick = [this] { lstClasses_Click(); };
   cmdLogin_.OnClick = [this] { cmdLogin_Click(); };
   cmdSkip_.OnClick = [this] { cmdSkip_Click(); };
@@ -66,35 +51,25 @@ NetworkLoginForm::NetworkLoginForm(const std::vector<std::string>& classItems)
 }
 
 void NetworkLoginForm::Place() {
-  MovePixels(lblHeading_, kMargin, kMargin, kWidth - 2 * kMargin, kHeadingHeight);
-  SetType(lblHeading_, 16, true);
-  const auto placeColumn = [](int left, platform::Label& heading, platform::ListBox& list,
+  PlaceHeading(lblHeading_, kWidth);
+  const auto placeColumn = [](int left, platform::Label& caption, platform::ListBox& list,
                               platform::Label& advice) {
-    MovePixels(heading, left, kCaptionTop, kColumnWidth, 20);
-    SetType(heading, 10);
-    MovePixels(list, left, kListTop, kColumnWidth, kListHeight);
-    list.SetFont("MS Sans Serif", 11);
-    MovePixels(advice, left, kAdviceTop, kColumnWidth, kAdviceHeight);
-    SetType(advice, 11);
+    PlaceNames(caption, list, left, kColumnWidth, kListRows);
+    platform::look::MovePixels(advice, left, kAdviceTop, kColumnWidth, kAdviceHeight);
+    platform::look::SetType(advice, 11);
   };
   placeColumn(kMargin, lblClasses_, lstClasses_, lblSelectClass_);
   placeColumn(kRightColumn, lblStudents_, lstStudents_, lblSelectStudent_);
   lstClasses_.SetAccessibleName("Classes");
   lstStudents_.SetAccessibleName("Students");
-}
-
-void NetworkLoginForm::PlaceButtons() {
-  const int left = kWidth - kMargin - 2 * kButtonWidth - 12;
-  MovePixels(cmdLogin_, left, kButtonTop, kButtonWidth, kButtonHeight);
-  MovePixels(cmdSkip_, left + kButtonWidth + 12, kButtonTop, kButtonWidth, kButtonHeight);
-  for (platform::Button* button : {&cmdLogin_, &cmdSkip_})
-    button->SetFont("MS Sans Serif", 11, true);
+  PlaceButton(cmdLogin_, kRightColumn, kButtonTop, kButtonWidth);
+  PlaceButton(cmdSkip_, kWidth - kMargin - kButtonWidth, kButtonTop, kButtonWidth);
 }
 
 void NetworkLoginForm::lstClasses_Click() {
   session.gClassNum = ClassNumberOf(lstClasses_.Text());
   session.gTestPassPercent = ClassPercentOf(lstClasses_.Text());
-  Fill(lstStudents_, ReadStudents(session.gClassNum));
+  ListNames(lstStudents_, ReadStudents(session.gClassNum));
 }
 
 // The button is enabled without a selection, too: it tells what is missing.

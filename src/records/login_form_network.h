@@ -17,7 +17,6 @@ class NetworkLoginForm {
 
  private:
   void Place();
-  void PlaceButtons();
   void lstClasses_Click();
   void cmdLogin_Click();
   void cmdSkip_Click();

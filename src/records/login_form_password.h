@@ -3,8 +3,7 @@
 
 #include <string>
 
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "records/form_parts.h"
 
 namespace course {
 
@@ -16,19 +15,14 @@ extern std::string gStudentPassword;
 class PasswordForm {
  public:
   PasswordForm();
-  platform::Form form;  // frmPassword
+  void ShowModal() { dialog_.form.ShowModal(); }
 
  private:
-  void Place();
   int txtPassword_KeyPress(int code);
   void cmdOK_Click();
-  void cmdCancel_Click();
 
   int attempts_ = 0;
-  platform::Label Label1_;
-  platform::TextBox txtPassword_;
-  platform::Button cmdOK_;
-  platform::Button cmdCancel_;
+  TextDialog dialog_;  // frmPassword
 };
 
 // Whether session.gStudentName types the password that was stored for him; without one he does.

@@ -2,10 +2,9 @@
 
 #include <string>
 
-#include "platform/dialogs.h"
 #include "platform/look.h"
 #include "records/activity_records.h"
-#include "records/name_order.h"
+#include "records/form_parts.h"
 #include "records/record_forms_print.h"
 #include "records/record_forms_view.h"
 #include "records/record_load.h"
@@ -17,27 +16,19 @@ namespace course {
 namespace {
 
 using platform::look::MovePixels;
-using platform::look::SetType;
-
-constexpr int kPixel = platform::TwipsPerPixelX;
+using namespace grid;
 
 constexpr const char* kTitle = "Manage Student Records";
 constexpr int kPercents[] = {60, 70, 80, 90, 100};
 
-// All in pixels: the list on the left, two boxes of buttons and the percents on the right.
-constexpr int kMargin = 24;
-constexpr int kHeadingHeight = 30;
-constexpr int kCaptionTop = kMargin + kHeadingHeight + 14;
-constexpr int kListTop = kCaptionTop + 24;
-constexpr int kListWidth = 300;
-constexpr int kListHeight = 14 * 27 + 4;
+// In pixels: the list on the left, two boxes of buttons and the percents on the right.
+constexpr int kListWidth = 320;
+constexpr int kListRows = 14;
 constexpr int kButtonWidth = 200;
-constexpr int kButtonHeight = 46;
-constexpr int kButtonGap = 12;
 constexpr int kFrameMargin = 16;
 constexpr int kFrameHeading = 30;
 constexpr int kFrameWidth = kButtonWidth + 2 * kFrameMargin;
-constexpr int kFrameHeight = kFrameHeading + 3 * kButtonHeight + 2 * kButtonGap + kFrameMargin;
+constexpr int kFrameHeight = kFrameHeading + 3 * kButtonHeight + 2 * kGap + kFrameMargin;
 constexpr int kFramesLeft = kMargin + kListWidth + kMargin;
 constexpr int kFrameGap = 16;
 constexpr int kFramesWidth = 2 * kFrameWidth + kFrameGap;
@@ -45,14 +36,7 @@ constexpr int kPercentsTop = kListTop + kFrameHeight + 16;
 constexpr int kPercentsHeight = 64;
 constexpr int kPercentStep = (kFramesWidth - 2 * kFrameMargin) / 5;
 constexpr int kWidth = kFramesLeft + kFramesWidth + kMargin;
-constexpr int kHeight = kListTop + kListHeight + kMargin;
-
-bool IsSure(const std::string& question) {
-  return platform::MessageBox({.text = question,
-                               .title = kTitle,
-                               .buttons = platform::Buttons::YesNo,
-                               .icon = platform::Icon::Warning}) == platform::Answer::Yes;
-}
+constexpr int kHeight = kListTop + ListHeight(kListRows) + kMargin;
 
 }  // namespace
 
@@ -64,8 +48,7 @@ RecordsForm::RecordsForm(std::function<void()> showPassPercent)
       lstStudents_(form, "lstStudents"),
       fraAll_(form, "fraAll", "All Students"),
       fraSelected_(form, "fraSelected", "Selected Student"),
-      fraTestPassingPercent_(form, "fraTestPassingPercent", "Test Passing Percent"),
-      cmdMenu_(form, "cmdMenu", "Return to &Menu") {
+      fraTestPassingPercent_(form, "fraTestPassingPercent", "Test Passing Percent") {
   form.SetCaption(kTitle);
   PlaceList();
   MovePixels(fraAll_, kFramesLeft, kListTop, kFrameWidth, kFrameHeight);
@@ -77,6 +60,7 @@ RecordsForm::RecordsForm(std::function<void()> showPassPercent)
                {"D&isplay Records", "P&rint Records", "Er&ase Records"},
                " of the selected student");
   PlacePercents();
+  PlaceMenu();
   Bind();
   gRecordsSortOrder = SortOrder::Name;
   gRecordsSortDirection = SortDirection::Increasing;
@@ -86,16 +70,9 @@ RecordsForm::RecordsForm(std::function<void()> showPassPercent)
 }
 
 void RecordsForm::PlaceList() {
-  MovePixels(lblHeading_, kMargin, kMargin, kWidth - 2 * kMargin, kHeadingHeight);
-  SetType(lblHeading_, 16, true);
-  MovePixels(lblStudents_, kMargin, kCaptionTop, kListWidth, 20);
-  SetType(lblStudents_, 10);
-  MovePixels(lstStudents_, kMargin, kListTop, kListWidth, kListHeight);
-  lstStudents_.SetFont("MS Sans Serif", 11);
+  PlaceHeading(lblHeading_, kWidth);
+  PlaceNames(lblStudents_, lstStudents_, kMargin, kListWidth, kListRows);
   lstStudents_.SetAccessibleName("Students");
-  MovePixels(cmdMenu_, kWidth - kMargin - kFrameWidth, kListTop + kListHeight - kButtonHeight,
-             kFrameWidth, kButtonHeight);
-  cmdMenu_.SetFont("MS Sans Serif", 11, true);
 }
 
 void RecordsForm::PlaceButtons(platform::Frame& frame, Buttons& buttons, const char* name,
@@ -105,10 +82,9 @@ void RecordsForm::PlaceButtons(platform::Frame& frame, Buttons& buttons, const c
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     buttons[i] = std::make_unique<platform::Button>(
         frame, std::string(name) + "(" + std::to_string(i) + ")", captions[i]);
-    MovePixels(*buttons[i], kFrameMargin, top, kButtonWidth, kButtonHeight);
-    buttons[i]->SetFont("MS Sans Serif", 11, true);
+    PlaceButton(*buttons[i], kFrameMargin, top, kButtonWidth);
     buttons[i]->SetAccessibleName(std::string(kCommands[i]) + " records" + whose);
-    top += kButtonHeight + kButtonGap;
+    top += kButtonHeight + kGap;
   }
 }
 
@@ -125,6 +101,13 @@ void RecordsForm::PlacePercents() {
   }
 }
 
+// Made last: Tab comes to it last.
+void RecordsForm::PlaceMenu() {
+  cmdMenu_ = std::make_unique<platform::Button>(form, "cmdMenu", "Return to &Menu");
+  PlaceButton(*cmdMenu_, kWidth - kMargin - kFrameWidth, kHeight - kMargin - kButtonHeight,
+              kFrameWidth);
+}
+
 void RecordsForm::Bind() {
   lstStudents_.OnClick = [this] { OfferSelected(true); };
   cmdAll_[Display]->OnClick = [this] { DisplayAll(); };
@@ -133,9 +116,9 @@ void RecordsForm::Bind() {
   cmdSelected_[Display]->OnClick = [this] { DisplayRecords(); };
   cmdSelected_[Print]->OnClick = [this] { PrintRecords(); };
   cmdSelected_[Erase]->OnClick = [this] { EraseRecords(); };
-  cmdMenu_.OnClick = [this] { form.Close(); };
+  cmdMenu_->OnClick = [this] { form.Close(); };
   form.SetDefaultButton(*cmdAll_[Display]);
-  form.SetNeutralButton(cmdMenu_);
+  form.SetNeutralButton(*cmdMenu_);
 }
 
 void RecordsForm::DisplayAll() {
@@ -148,14 +131,14 @@ void RecordsForm::DisplayRecords() {
 }
 
 void RecordsForm::EraseAll() {
-  if (IsSure("Are you sure you want to erase the records for ALL students?"))
+  if (IsSure(kTitle, "Are you sure you want to erase the records for ALL students?"))
     EraseStudentRecords(0, EraseMode::All);
 }
 
 void RecordsForm::EraseRecords() {
   const std::string item = lstStudents_.Text();
-  if (IsSure(Trimmed(StudentNameOf(item)) +
-             "\n\nAre you sure you want to erase this student's records?"))
+  if (IsSure(kTitle, Trimmed(StudentNameOf(item)) +
+                         "\n\nAre you sure you want to erase this student's records?"))
     EraseStudentRecords(StudentNumberOf(item), EraseMode::OneStudent);
 }
 
@@ -173,10 +156,7 @@ void RecordsForm::optTestPassingPercent_Click(int index) {
 }
 
 void RecordsForm::ListStudents() {
-  lstStudents_.Clear();
-  for (const std::string& item : InAlphabeticalOrder(StudentListItems()))
-    lstStudents_.AddItem(item);
-  lstStudents_.SetListIndex(-1);
+  ListNames(lstStudents_, StudentListItems());
   OfferSelected(false);
 }
 

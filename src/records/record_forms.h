@@ -25,6 +25,7 @@ class RecordsForm {
   void PlaceButtons(platform::Frame& frame, Buttons& buttons, const char* name,
                     const std::array<const char*, 3>& captions, const char* whose);
   void PlacePercents();
+  void PlaceMenu();
   void Bind();
 
   void DisplayAll();
@@ -47,7 +48,7 @@ class RecordsForm {
   Buttons cmdSelected_;
   platform::Frame fraTestPassingPercent_;
   std::array<std::unique_ptr<platform::OptionButton>, 5> optTestPassingPercent_;
-  platform::Button cmdMenu_;
+  std::unique_ptr<platform::Button> cmdMenu_;
 };
 
 // Modal.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/look.h"
+#include "records/form_parts.h"
 #include "records/list_columns.h"
 #include "records/record_load.h"
 #include "records/record_report.h"
@@ -16,28 +17,25 @@ namespace {
 
 using platform::Label;
 using platform::look::MovePixels;
-using platform::look::SetType;
+using namespace grid;
 
-constexpr int kPixel = platform::TwipsPerPixelX;
-
-// All in pixels.
-constexpr int kMargin = 24;
-constexpr int kListWidth = 800;  // 98 characters and a scroll bar
-constexpr int kWidth = kListWidth + 2 * kMargin;
-constexpr int kHeadingHeight = 30;
-constexpr int kLabelHeight = 34;
-constexpr int kListTop = kMargin + kHeadingHeight + 14 + kLabelHeight + 4;
-constexpr int kRowHeight = 20;
-constexpr int kListHeight = 17 * kRowHeight + 4;
-constexpr int kCommentTop = kListTop + kListHeight + 10;
+// In pixels.  Under the list two lines of comments, the frames of options, and beside them the
+// button.
 constexpr int kCommentHeight = 20;
-constexpr int kFrameTop = kCommentTop + 2 * kCommentHeight + 14;
+constexpr int kCommentsTop = 10;  // below the list, as the frames
+constexpr int kFramesTop = kCommentsTop + 2 * kCommentHeight + 14;
 constexpr int kFrameHeight = 64;
 constexpr int kSortByWidth = 400;
 constexpr int kDirectionWidth = 232;
-constexpr int kButtonWidth = 120;
-constexpr int kButtonHeight = 46;
-constexpr int kHeight = kFrameTop + kFrameHeight + kMargin;
+constexpr int kFrameGap = 16;
+
+constexpr ListView::Layout kLayout = {.name = "frmDisplay",
+                                      .width = 806,  // 98 characters and a scroll bar
+                                      .labelHeight = 34,
+                                      .rows = 17,
+                                      .rowHeight = 20,
+                                      .points = 10,
+                                      .below = kFramesTop + kFrameHeight - kButtonHeight};
 
 using enum Label::Align;
 // A grade and a verdict stand in one place: a record is either practice or a test.
@@ -60,52 +58,38 @@ constexpr const char* kDirectionNames[] = {"Increasing", "Decreasing"};
 class RecordView {
  public:
   RecordView(const std::string& caption, const std::vector<ExpandedRecord>& records)
-      : form("frmDisplay", kWidth * kPixel, kHeight * kPixel),
-        lblHeading_(form, "lblHeading", caption),
-        lstRecords_(form, "lstRecords"),
+      : view_(kLayout, caption, caption),
+        columns_(MakeColumnLabels(view_.lstRecords, kColumns, kLayout.labelHeight)),
         lblPracticeGradeComment_(
-            form, "lblPracticeGradeComment",
+            view_.form, "lblPracticeGradeComment",
             " * - Practice grades are given when 5 or more problems are attempted "),
-        lblTestPassingGradeComment_(form, "lblTestPassingGradeComment",
+        lblTestPassingGradeComment_(view_.form, "lblTestPassingGradeComment",
                                     " ** - The passing grade for a test is " +
                                         std::to_string(session.gTestPassPercent) + " percent "),
-        fraSortBy_(form, "fraSortBy", "Sort By:"),
-        fraSortDirection_(form, "fraSortDirection", "Sort Direction:"),
-        cmdOK_(form, "cmdOK", "Close") {
-    form.SetCaption(caption);
-    PlaceList();
+        fraSortBy_(view_.form, "fraSortBy", "Sort By:"),
+        fraSortDirection_(view_.form, "fraSortDirection", "Sort Direction:") {
+    view_.lstRecords.SetAccessibleName("Records");
+    PlaceComments();
     PlaceOrders();
     PlaceDirections();
-    MovePixels(cmdOK_, kWidth - kMargin - kButtonWidth, kFrameTop + kFrameHeight - kButtonHeight,
-               kButtonWidth, kButtonHeight);
-    cmdOK_.SetFont("MS Sans Serif", 11, true);
-    cmdOK_.OnClick = [this] { form.Close(); };
-    form.SetDefaultButton(cmdOK_);
-    form.SetNeutralButton(cmdOK_);
+    view_.MakeClose("Close");
     ShowRecords(records);
   }
 
-  platform::Form form;
+  void ShowModal() { view_.form.ShowModal(); }
 
  private:
-  void PlaceList() {
-    MovePixels(lblHeading_, kMargin, kMargin, kListWidth, kHeadingHeight);
-    SetType(lblHeading_, 16, true);
-    MovePixels(lstRecords_, kMargin, kListTop, kListWidth, kListHeight);
-    lstRecords_.SetFont("Courier New", 10);
-    lstRecords_.SetRowHeight(kRowHeight * kPixel);
-    columns_ = MakeColumnLabels(lstRecords_, kColumns, kLabelHeight);
-    lstRecords_.SetAccessibleName("Records");
-    int top = kCommentTop;
+  void PlaceComments() {
+    int top = view_.ListBottom() + kCommentsTop;
     for (Label* comment : {&lblPracticeGradeComment_, &lblTestPassingGradeComment_}) {
-      MovePixels(*comment, kMargin, top, kListWidth, kCommentHeight);
-      SetType(*comment, 10);
+      MovePixels(*comment, kMargin, top, kLayout.width, kCommentHeight);
+      platform::look::SetType(*comment, 10);
       top += kCommentHeight;
     }
   }
 
   void PlaceOrders() {
-    MovePixels(fraSortBy_, kMargin, kFrameTop, kSortByWidth, kFrameHeight);
+    MovePixels(fraSortBy_, kMargin, view_.ListBottom() + kFramesTop, kSortByWidth, kFrameHeight);
     for (int i = 0; i < 4; ++i) {
       auto& option = optSort_[static_cast<std::size_t>(i)];
       option = std::make_unique<platform::OptionButton>(
@@ -118,8 +102,8 @@ class RecordView {
   }
 
   void PlaceDirections() {
-    MovePixels(fraSortDirection_, kMargin + kSortByWidth + 16, kFrameTop, kDirectionWidth,
-               kFrameHeight);
+    MovePixels(fraSortDirection_, kMargin + kSortByWidth + kFrameGap,
+               view_.ListBottom() + kFramesTop, kDirectionWidth, kFrameHeight);
     for (int i = 0; i < 2; ++i) {
       auto& option = optSortDir_[static_cast<std::size_t>(i)];
       option = std::make_unique<platform::OptionButton>(
@@ -144,20 +128,19 @@ class RecordView {
   }
 
   void ShowRecords(const std::vector<ExpandedRecord>& records) {
-    lstRecords_.Clear();
-    for (const ExpandedRecord& record : records) lstRecords_.AddItem(DisplayLine(record));
+    std::vector<std::string> lines;
+    for (const ExpandedRecord& record : records) lines.push_back(DisplayLine(record));
+    view_.Show(lines);
   }
 
-  Label lblHeading_;
+  ListView view_;
   ColumnLabels columns_;
-  platform::ListBox lstRecords_;
   Label lblPracticeGradeComment_;
   Label lblTestPassingGradeComment_;
   platform::Frame fraSortBy_;
   platform::Frame fraSortDirection_;
   std::array<std::unique_ptr<platform::OptionButton>, 4> optSort_;
   std::array<std::unique_ptr<platform::OptionButton>, 2> optSortDir_;
-  platform::Button cmdOK_;
 };
 
 }  // namespace
@@ -167,7 +150,7 @@ void ShowRecordView(int student, const std::string& caption) {
   if (student != kAllStudents && gRecordsSortOrder == SortOrder::Name)
     gRecordsSortOrder = SortOrder::Date;
   const std::vector<ExpandedRecord> records = LoadRecords(student);
-  if (!records.empty()) RecordView(caption, records).form.ShowModal();
+  if (!records.empty()) RecordView(caption, records).ShowModal();
 }
 
 }  // namespace course

@@ -1,10 +1,10 @@
 #include "records/session_form.h"
 
 #include <string>
+#include <vector>
 
 #include "platform/dialogs.h"
-#include "platform/form.h"
-#include "platform/look.h"
+#include "records/form_parts.h"
 #include "records/list_columns.h"
 #include "records/record_report.h"
 #include "session/session.h"
@@ -13,25 +13,16 @@ namespace course {
 namespace {
 
 using platform::Label;
-using platform::look::MovePixels;
-using platform::look::SetType;
 
-constexpr int kPixel = platform::TwipsPerPixelX;
+constexpr const char* kTitle = "Session Results";
 constexpr int kSessionPercent = 70;
 
-// All in pixels.
-constexpr int kMargin = 24;
-constexpr int kListWidth = 564;  // 63 characters and a scroll bar
-constexpr int kWidth = kListWidth + 2 * kMargin;
-constexpr int kHeadingHeight = 30;
-constexpr int kLabelHeight = 50;
-constexpr int kListTop = kMargin + kHeadingHeight + 14 + kLabelHeight + 4;
-constexpr int kRowHeight = 22;
-constexpr int kListHeight = 15 * kRowHeight + 4;
-constexpr int kButtonTop = kListTop + kListHeight + 20;
-constexpr int kButtonWidth = 140;
-constexpr int kButtonHeight = 46;
-constexpr int kHeight = kButtonTop + kButtonHeight + kMargin;
+constexpr ListView::Layout kLayout = {.name = "frmDisplaySession",
+                                      .width = 564,  // 63 characters and a scroll bar
+                                      .labelHeight = 50,
+                                      .rows = 15,
+                                      .rowHeight = 22,
+                                      .points = 11};
 
 using enum Label::Align;
 constexpr ColumnLabel kColumns[] = {
@@ -42,60 +33,30 @@ constexpr ColumnLabel kColumns[] = {
     {"lblPercent", "\nPercent\nCorrect", 55, 63, Right},
 };
 
-class SessionForm {
- public:
-  SessionForm()
-      : form("frmDisplaySession", kWidth * kPixel, kHeight * kPixel),
-        lblHeading_(form, "lblHeading", "Session Results"),
-        lstRecords_(form, "lstRecords"),
-        cmdOK_(form, "cmdOK", "Close") {
-    form.SetCaption("Session Results");
-    Place();
-    cmdOK_.OnClick = [this] { form.Close(); };
-    form.SetDefaultButton(cmdOK_);
-    form.SetNeutralButton(cmdOK_);
-    Activate();
-  }
-
-  platform::Form form;
-
- private:
-  void Place() {
-    MovePixels(lblHeading_, kMargin, kMargin, kListWidth, kHeadingHeight);
-    SetType(lblHeading_, 16, true);
-    MovePixels(lstRecords_, kMargin, kListTop, kListWidth, kListHeight);
-    lstRecords_.SetFont("Courier New", 11);
-    lstRecords_.SetRowHeight(kRowHeight * kPixel);
-    columns_ = MakeColumnLabels(lstRecords_, kColumns, kLabelHeight);
-    lstRecords_.SetAccessibleName("Session Results");
-    MovePixels(cmdOK_, kWidth - kMargin - kButtonWidth, kButtonTop, kButtonWidth, kButtonHeight);
-    cmdOK_.SetFont("MS Sans Serif", 11, true);
-  }
-
-  void Activate() {
-    session.gTestPassPercent = kSessionPercent;
-    lstRecords_.Clear();
-    if (session.gSessionRecordCount == 0) lstRecords_.AddItem("No records found");
-    for (const std::string& entry : session.gSessionRecords)
-      lstRecords_.AddItem(SessionLine(ExpandRecord(entry, "")));
-  }
-
-  Label lblHeading_;
-  ColumnLabels columns_;
-  platform::ListBox lstRecords_;
-  platform::Button cmdOK_;
-};
+std::vector<std::string> SessionLines() {
+  if (session.gSessionRecordCount == 0) return {"No records found"};
+  std::vector<std::string> lines;
+  for (const std::string& entry : session.gSessionRecords)
+    lines.push_back(SessionLine(ExpandRecord(entry, "")));
+  return lines;
+}
 
 }  // namespace
 
 void ShowSession() {
-  SessionForm().form.ShowModal();
+  session.gTestPassPercent = kSessionPercent;
+  ListView view(kLayout, kTitle, kTitle);
+  const ColumnLabels columns = MakeColumnLabels(view.lstRecords, kColumns, kLayout.labelHeight);
+  view.lstRecords.SetAccessibleName(kTitle);
+  view.MakeClose("Close");
+  view.Show(SessionLines());
+  view.form.ShowModal();
 }
 
 void ClearSession() {
   const platform::Message question = {
       .text = "Are you sure you want to clear this session's records?",
-      .title = "Session Results",
+      .title = kTitle,
       .buttons = platform::Buttons::YesNo,
       .icon = platform::Icon::Question};
   if (platform::MessageBox(question) != platform::Answer::Yes) return;

@@ -1,9 +1,8 @@
 #include "records/student_form.h"
 
 #include "platform/dialogs.h"
-#include "platform/look.h"
 #include "records/activity_records.h"
-#include "records/name_order.h"
+#include "records/form_parts.h"
 #include "records/record_text.h"
 #include "records/rosters.h"
 #include "records/student_form_add.h"
@@ -12,37 +11,20 @@
 namespace course {
 namespace {
 
-using platform::look::MovePixels;
-using platform::look::SetType;
-
-constexpr int kPixel = platform::TwipsPerPixelX;
+using namespace grid;
 
 constexpr const char* kTitle = "Manage Student Names";
 
-// All in pixels: the list on the left, a column of buttons on the right.
-constexpr int kMargin = 24;
-constexpr int kHeadingHeight = 30;
-constexpr int kCaptionTop = kMargin + kHeadingHeight + 14;
-constexpr int kListTop = kCaptionTop + 24;
+// In pixels: the list on the left, a column of buttons on the right.
 constexpr int kListWidth = 336;
 constexpr int kListRows = 12;
 constexpr int kButtonLeft = kMargin + kListWidth + kMargin;
 constexpr int kButtonWidth = 220;
-constexpr int kButtonHeight = 46;
-constexpr int kButtonGap = 12;
 constexpr int kWidth = kButtonLeft + kButtonWidth + kMargin;
-constexpr int kListHeight = kListRows * 27 + 4;
-constexpr int kHeight = kListTop + kListHeight + kMargin;
+constexpr int kHeight = kListTop + ListHeight(kListRows) + kMargin;
 
 void Tell(const std::string& text) {
   platform::MessageBox({.text = text, .title = kTitle});
-}
-
-bool IsSure(const std::string& question) {
-  return platform::MessageBox({.text = question,
-                               .title = kTitle,
-                               .buttons = platform::Buttons::YesNo,
-                               .icon = platform::Icon::Warning}) == platform::Answer::Yes;
 }
 
 }  // namespace
@@ -64,20 +46,15 @@ StudentsForm::StudentsForm()
 }
 
 void StudentsForm::Place() {
-  MovePixels(lblHeading_, kMargin, kMargin, kWidth - 2 * kMargin, kHeadingHeight);
-  SetType(lblHeading_, 16, true);
-  MovePixels(lblStudents_, kMargin, kCaptionTop, kListWidth, 20);
-  SetType(lblStudents_, 10);
-  MovePixels(lstStudents_, kMargin, kListTop, kListWidth, kListHeight);
-  lstStudents_.SetFont("MS Sans Serif", 11);
+  PlaceHeading(lblHeading_, kWidth);
+  PlaceNames(lblStudents_, lstStudents_, kMargin, kListWidth, kListRows);
   lstStudents_.SetAccessibleName("Students");
   int top = kListTop;
-  for (platform::Button* button : {&cmdAdd_, &cmdEdit_, &cmdDelete_, &cmdEraseAll_, &cmdMenu_}) {
-    if (button == &cmdMenu_) top = kListTop + kListHeight - kButtonHeight;
-    MovePixels(*button, kButtonLeft, top, kButtonWidth, kButtonHeight);
-    button->SetFont("MS Sans Serif", 11, true);
-    top += kButtonHeight + kButtonGap;
+  for (platform::Button* button : {&cmdAdd_, &cmdEdit_, &cmdDelete_, &cmdEraseAll_}) {
+    PlaceButton(*button, kButtonLeft, top, kButtonWidth);
+    top += kButtonHeight + kGap;
   }
+  PlaceButton(cmdMenu_, kButtonLeft, kHeight - kMargin - kButtonHeight, kButtonWidth);
 }
 
 void StudentsForm::Bind() {
@@ -94,7 +71,7 @@ void StudentsForm::Bind() {
 void StudentsForm::AddStudent() {
   AddStudentForm dialog("Add Student", "In the box below, enter name of student to add", "",
                         AllItems());
-  dialog.form.ShowModal();
+  dialog.ShowModal();
   if (session.gDialogResult != kTrue || gNewStudentName.empty()) return;
   FileAddStudent(gNewStudentName);
   UpdateStudentList();
@@ -107,7 +84,7 @@ void StudentsForm::EditStudent() {
   AddStudentForm dialog("Edit Student Name",
                         "In the box below, enter new name of student: " + oldName, oldName,
                         AllItems());
-  dialog.form.ShowModal();
+  dialog.ShowModal();
   if (session.gDialogResult != kTrue || gNewStudentName.empty()) return;
   FileEditStudent(number, gNewStudentName);
   UpdateStudentList();
@@ -117,7 +94,7 @@ void StudentsForm::DeleteStudent() {
   if (lstStudents_.ListIndex() < 0)
     return Tell("You must select a student to delete from the class roster.");
   const int number = SelectedNumber();
-  if (!IsSure(SelectedName() + "\n\nAre you sure you want to delete this student?")) {
+  if (!IsSure(kTitle, SelectedName() + "\n\nAre you sure you want to delete this student?")) {
     lstStudents_.SetListIndex(-1);
     return OfferWithoutSelection();
   }
@@ -127,7 +104,7 @@ void StudentsForm::DeleteStudent() {
 }
 
 void StudentsForm::EraseAllStudents() {
-  if (!IsSure("Are you sure you want to clear ALL student names?")) return;
+  if (!IsSure(kTitle, "Are you sure you want to clear ALL student names?")) return;
   EraseStudentRecords(0, EraseMode::All);
   FileDeleteStudent(0, DeleteMode::All);
   UpdateStudentList();
@@ -138,10 +115,7 @@ void StudentsForm::Menu() {
 }
 
 void StudentsForm::UpdateStudentList() {
-  lstStudents_.Clear();
-  for (const std::string& item : InAlphabeticalOrder(StudentListItems()))
-    lstStudents_.AddItem(item);
-  lstStudents_.SetListIndex(-1);
+  ListNames(lstStudents_, StudentListItems());
   OfferWithoutSelection();
 }
 

@@ -15,7 +15,6 @@ class StudentsForm {
 
  private:
   void Place();
-  void PlaceButtons();
   void Bind();
 
   void AddStudent();

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "records/form_parts.h"
 
 namespace course {
 
@@ -19,18 +18,14 @@ class AddStudentForm {
   // that are taken.
   AddStudentForm(const std::string& caption, const std::string& prompt, const std::string& name,
                  std::vector<std::string> takenItems);
-  platform::Form form;  // frmAddStudent
+  void ShowModal() { dialog_.form.ShowModal(); }
 
  private:
-  void Place();
   void cmdOK_Click();
   void cmdCancel_Click();
 
   std::vector<std::string> takenItems_;
-  platform::Label Label1_;
-  platform::TextBox txtName_;
-  platform::Button cmdOK_;
-  platform::Button cmdCancel_;
+  TextDialog dialog_;  // frmAddStudent
 };
 
 // Whether a student of these items bears the name, outer blanks and case aside.  The name counts at

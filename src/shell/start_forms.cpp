@@ -46,6 +46,7 @@ LogoForm::LogoForm()
   SetType(lblRelease_, 12);
   lblRelease_.SetAlignment(platform::Label::Align::Centre);
   MovePixels(Command1_, kMargin + (kLogoWidth - 140) / 2, kLogoHeight + kMargin + 52, 140, 40);
+  Command1_.SetFont("MS Sans Serif", 11, true);
   Command1_.OnClick = [this] { form.Close(); };
   form.SetDefaultButton(Command1_);
   form.SetNeutralButton(Command1_);
@@ -62,6 +63,7 @@ WelcomeForm::WelcomeForm()
   MovePixels(lblText_, kMargin, kMargin + 52, kTextWidth, kTextHeight);
   SetType(lblText_, 12);
   MovePixels(cmdOK_, kMargin + kTextWidth - 140, kMargin + 52 + kTextHeight + 12, 140, 40);
+  cmdOK_.SetFont("MS Sans Serif", 11, true);
   cmdOK_.OnClick = [this] { form.Close(); };
   form.SetDefaultButton(cmdOK_);
   form.SetNeutralButton(cmdOK_);
