@@ -50,7 +50,7 @@ class LessonTestResults {
  public:
   LessonTestResults()
       : form_("frmLessonTestResults", kWidth * kPixel, kHeight * kPixel),
-        band_(form_, kWidth, "lblTitle", "lblLessonName"),
+        band_(form_, kWidth, "lblTitle", "lblLessonName", kPictureWidth),
         picture1_(form_, "Picture1"),
         picRows_(form_, "picRows"),
         lblPercent_(form_, "lblPercent"),

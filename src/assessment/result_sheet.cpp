@@ -29,7 +29,7 @@ std::string ArrayName(const std::string& name, int index) {
 }
 
 HeadingBand::HeadingBand(platform::Form& form, int width, const std::string& titleName,
-                         const std::string& subjectName)
+                         const std::string& subjectName, int keptFree)
     : lblBand_(form, "lblBand"),
       lblBandEdge_(form, "lblBandEdge"),
       lblTitle_(form, titleName),
@@ -39,9 +39,10 @@ HeadingBand::HeadingBand(platform::Form& form, int width, const std::string& tit
   lblBand_.SetColours(kPaper, kNavy);
   MovePixels(lblBandEdge_, 0, kBand, width, kBandEdge);
   lblBandEdge_.SetColours(kAmber, kAmber);
-  MovePixels(lblTitle_, kMargin, 16, width - 2 * kMargin, 36);
+  const int textWidth = width - 2 * kMargin - keptFree;
+  MovePixels(lblTitle_, kMargin, 16, textWidth, 36);
   SetType(lblTitle_, 18, true, kPaper, kNavy);
-  MovePixels(lblSubject_, kMargin, 56, width - 2 * kMargin, 28);
+  MovePixels(lblSubject_, kMargin, 56, textWidth, 28);
   SetType(lblSubject_, 13, true, kAmber, kNavy);
 }
 

@@ -15,9 +15,10 @@ class HeadingBand {
  public:
   static constexpr int kHeight = 100;  // pixels, its lower edge included
 
-  // Names are those of the two labels.  The width is that of the form, in pixels.
+  // Names are those of the two labels.  The width is that of the form, in pixels; so many of them
+  // are kept free at the right margin.
   HeadingBand(platform::Form& form, int width, const std::string& titleName,
-              const std::string& subjectName);
+              const std::string& subjectName, int keptFree = 0);
   void Show(const std::string& title, const std::string& subject);
 
  private:

@@ -38,7 +38,7 @@ constexpr int kSheetTop = kHeadingTop + kHeadingHeight + 6;
 constexpr int kRowHeight = 40;
 constexpr int kRowsTop = 11;  // of the first row on a sheet
 constexpr int kSheetHeight = kRowsTop + kRowsPerSheet * kRowHeight + 11;
-constexpr int kFootTop = kSheetTop + kSheetHeight + 28;
+constexpr int kSheetBottom = kSheetTop + kSheetHeight;
 constexpr int kFootBlank = 6;  // the line of the percent begins with a blank, so wide
 constexpr int kButtonWidth = 180;
 constexpr int kButtonHeight = 48;
@@ -135,10 +135,11 @@ class UnitTestResults {
 
   void PlaceFoot() {
     const int buttonLeft = width_ - kMargin - kButtonWidth;
-    MovePixels(lblPercent_, kMargin - kFootBlank, kFootTop, buttonLeft - kMargin, kButtonHeight);
+    const int top = (kSheetBottom + form_.Height() / kPixel - kButtonHeight) / 2;
+    MovePixels(lblPercent_, kMargin - kFootBlank, top, buttonLeft - kMargin, kButtonHeight);
     SetType(lblPercent_, 15, true);
     lblPercent_.CentreVertically();
-    MovePixels(cmdContinue_, buttonLeft, kFootTop, kButtonWidth, kButtonHeight);
+    MovePixels(cmdContinue_, buttonLeft, top, kButtonWidth, kButtonHeight);
     cmdContinue_.SetFont("MS Sans Serif", 12, true);
     cmdContinue_.OnClick = [this] { Continue(); };
     form_.SetDefaultButton(cmdContinue_);

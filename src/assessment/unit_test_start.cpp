@@ -96,10 +96,10 @@ class UnitTestStart {
   }
 
   void PlaceButtons() {
-    const int startLeft = kWidth - kMargin - kStartWidth;
-    MovePixels(cmdStart_, startLeft, kButtonsTop, kStartWidth, kButtonHeight);
-    MovePixels(cmdCancel_, startLeft - kButtonGap - kCancelWidth, kButtonsTop, kCancelWidth,
+    const int cancelLeft = kWidth - kMargin - kCancelWidth;
+    MovePixels(cmdStart_, cancelLeft - kButtonGap - kStartWidth, kButtonsTop, kStartWidth,
                kButtonHeight);
+    MovePixels(cmdCancel_, cancelLeft, kButtonsTop, kCancelWidth, kButtonHeight);
     cmdStart_.SetFont("MS Sans Serif", 11, true);
     cmdCancel_.SetFont("MS Sans Serif", 11, true);
     cmdStart_.OnClick = [this] { Start(); };

@@ -75,7 +75,13 @@ OptionButton::OptionButton(Control& parent, std::string name, const std::string&
 }
 
 void OptionButton::SetValue(bool chosen) {
-  WidgetOf<QRadioButton>(*this).setChecked(chosen);
+  QRadioButton& option = WidgetOf<QRadioButton>(*this);
+  option.setChecked(chosen);
+  if (!chosen) return;
+  // Tab comes to the chosen one; the toolkit sees to that for clicks and keys alone.
+  for (QRadioButton* other :
+       option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+    other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 bool OptionButton::Value() const {

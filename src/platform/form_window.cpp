@@ -46,13 +46,6 @@ int CodeOf(const QKeyEvent& event) {
   return text[0].unicode();
 }
 
-Control* FocusedControl(const Form& form) {
-  const QWidget* focused = form.formImpl().window->focusWidget();
-  for (Control* control : form.formImpl().controls)
-    if (control->impl().widget == focused) return control;
-  return nullptr;
-}
-
 bool PressEnter(const Form& form) {
   Control* focused = FocusedControl(form);
   if (dynamic_cast<Button*>(focused) || dynamic_cast<PictureBox*>(focused)) return focused->Click();
@@ -119,6 +112,15 @@ int ToolkitKey(int code) {
 }
 
 }  // namespace
+
+Control* FocusedControl(const Form& form) {
+  const QWidget* focused = form.formImpl().window->focusWidget();
+  for (Control* control : form.formImpl().controls)
+    if (const QWidget* widget = control->impl().widget;
+        widget == focused || (focused != nullptr && widget->focusProxy() == focused))
+      return control;
+  return nullptr;
+}
 
 FormWindow::FormWindow(Form& form) : form_(form) {
   setCentralWidget(new Client(form));

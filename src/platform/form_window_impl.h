@@ -32,4 +32,7 @@ QKeyEvent KeyEventOf(QEvent::Type type, int code);
 // Keys reach a form before its controls from now on.
 void InstallKeyFilter();
 
+// The control that a key goes to, nullptr for none.
+Control* FocusedControl(const Form& form);
+
 }  // namespace platform

@@ -1,4 +1,5 @@
 // The preview of a document: the form before every print.
+#include <QGraphicsView>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <algorithm>
@@ -23,6 +24,7 @@ class PreviewPane final : public Control {
     sheets_.setOutputFormat(QPrinter::PdfFormat);
     sheets_.setPageLayout(LayoutOf(document));
     view_ = &PutOn(parent, *this, new QPrintPreviewWidget(&sheets_));
+    LetKeysScroll();
     QObject::connect(view_, &QPrintPreviewWidget::paintRequested,
                      [this](QPrinter* printer) { PaintAll(*printer); });
     QObject::connect(view_, &QPrintPreviewWidget::previewChanged, [this] {
@@ -41,6 +43,14 @@ class PreviewPane final : public Control {
   void ZoomOut() { view_->zoomOut(1.25); }
 
  private:
+  // The keyboard is the pages', which are a widget inside the toolkit's own.
+  void LetKeysScroll() {
+    auto* pages = view_->findChild<QGraphicsView*>();
+    pages->setAccessibleName("Pages to print");
+    view_->setFocusPolicy(Qt::StrongFocus);
+    view_->setFocusProxy(pages);
+  }
+
   void PaintAll(QPrinter& printer) {
     QPainter painter(&printer);
     bool first = true;
@@ -101,7 +111,7 @@ class PreviewForm {
     put(cmdZoomIn_, 84, 8);
     put(cmdZoomOut_, 84, 8);
     MovePixels(cmdCancel_, kWidth - kMargin - 96, kMargin, 96, kButtonHeight);
-    lblPage_.SetTop((kMargin + 9) * TwipsPerPixelY);
+    lblPage_.CentreVertically();
     lblPage_.SetAlignment(Label::Align::Centre);
     look::SetType(lblPage_, 10);
     MovePixels(pane_, kMargin, kPaneTop, kWidth - 2 * kMargin, kHeight - kPaneTop - kMargin);

@@ -1,5 +1,6 @@
 #include "lesson_lab/form_camera.h"
 
+#include "platform/form_inspection.h"
 #include "platform/surface.h"
 #include "platform/tab_control.h"
 
@@ -19,6 +20,14 @@ void FormCamera::AtWait(const std::string&) {
       tabs->SetPage(page);
       Take(form, nextName + "_" + std::to_string(page + 1));
     }
+  // Where something can be selected, the form with a selection, too.
+  bool selected = false;
+  for (platform::Control* control : platform::inspection::Controls(form))
+    if (auto* list = dynamic_cast<platform::ListBox*>(control); list && list->OnClick) {
+      list->SetListIndex(0);
+      selected = true;
+    }
+  if (selected) Take(form, nextName + "_selected");
   form.Close();
 }
 

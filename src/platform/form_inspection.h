@@ -1,0 +1,36 @@
+// What a form is like for the person before it: where the keyboard is, what Enter and Esc press,
+// whether all of a text can be seen.  For tests and tools; the course itself never asks.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/form.h"
+
+namespace platform::inspection {
+
+// All controls on the form, those in its frames and boxes included, in the order of their making.
+std::vector<Control*> Controls(const Form& form);
+// Shown, as all of its parents are.
+bool IsSeen(const Control& control);
+// The control that a key goes to, nullptr for none.
+Control* Focused(const Form& form);
+// The buttons that Enter and Esc press, nullptr for none.
+Button* DefaultButton(const Form& form);
+Button* NeutralButton(const Form& form);
+// Whether Tab stops at the control when it can be used.
+bool TakesTab(const Control& control);
+
+// Left, top, right and bottom edge in pixels of the form; right and bottom lie outside.
+struct Edges {
+  int left, top, right, bottom;
+};
+Edges EdgesOf(const Control& control);
+// How far the texts of a label, button, option, frame or list do not fit into the control, in
+// pixels to the right and below: 0 and 0 when all can be read.  Of a list only the width counts.
+struct Excess {
+  int right, below;
+};
+Excess ExcessOfText(const Control& control);
+
+}  // namespace platform::inspection

@@ -1,0 +1,187 @@
+// What all forms have in common: nothing is cut or covered, the keyboard reaches everything in the
+// order of reading, Enter and Esc have their buttons.
+#include <algorithm>
+#include <set>
+
+#include "lesson_lab/form_gallery.h"
+#include "platform/events.h"
+#include "platform/form_inspection.h"
+#include "platform/robot.h"
+#include "support/course_fixture.h"
+#include "support/record_fixture.h"
+
+namespace course::testing {
+namespace {
+
+namespace inspection = platform::inspection;
+namespace robot = platform::robot;
+using inspection::Edges;
+using platform::Control;
+using platform::Form;
+using platform::Label;
+
+class AllFormsTest : public CourseTest {
+ protected:
+  // Shows every form; the person looks at it, and closes it.
+  void LookAtAll(const std::function<void(Form&)>& look, const std::function<void(Form&)>& close) {
+    for (const lesson_lab::GalleryForm& form : lesson_lab::ModalForms(folder_.Path())) {
+      SCOPED_TRACE(form.name);
+      user.Do("look at " + form.name, [&] {
+        platform::PumpEvents();
+        look(*Form::ModalForm());
+      });
+      user.Do("close " + form.name, [&] { close(*Form::ModalForm()); });
+      form.Show();
+    }
+  }
+  // By its neutral button; where there is none the last button leaves.
+  static void CloseByButton(Form& form) {
+    platform::Button* neutral = inspection::NeutralButton(form);
+    (neutral != nullptr ? *neutral : FindControl("cmdOption(4)")).Click();
+  }
+  static std::vector<Control*> SeenControls(const Form& form) {
+    std::vector<Control*> seen = inspection::Controls(form);
+    std::erase_if(seen, [](const Control* control) { return !inspection::IsSeen(*control); });
+    return seen;
+  }
+  static bool IsLabel(const Control& control) { return dynamic_cast<const Label*>(&control); }
+
+ private:
+  ScratchFolder folder_;
+};
+
+bool Contains(const Edges& outer, const Edges& inner) {
+  return outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right &&
+         outer.bottom >= inner.bottom;
+}
+
+bool Meet(const Edges& a, const Edges& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+TEST_F(AllFormsTest, ShowAllOfTheLongestTexts) {
+  const auto look = [](const Form& form) {
+    for (const Control* control : SeenControls(form)) {
+      // Its items are records, of which only the name is to be seen.
+      if (form.Name() == "frmDiagnostics" && control->Name() == "lstStudents") continue;
+      const auto [right, below] = inspection::ExcessOfText(*control);
+      EXPECT_EQ(right, 0) << control->Name();
+      EXPECT_EQ(below, 0) << control->Name();
+    }
+  };
+  LookAtAll(look, CloseByButton);
+}
+
+TEST_F(AllFormsTest, CoverNothingAndHaveEvenMargins) {
+  constexpr int kPixel = platform::TwipsPerPixelX;
+  static constexpr int kLeast = 8;      // pixels between a control and the edge
+  static constexpr int kTolerance = 6;  // a text that begins with a blank stands out by that
+  const auto look = [](const Form& form) {
+    const std::vector<Control*> seen = SeenControls(form);
+    const int width = form.Width() / kPixel;
+    const int height = form.Height() / kPixel;
+    int left = width;
+    int right = width;
+    for (const Control* a : seen) {
+      const Edges edges = inspection::EdgesOf(*a);
+      if (edges.right - edges.left == width) continue;  // a band
+      left = std::min(left, edges.left);
+      right = std::min(right, width - edges.right);
+      EXPECT_GE(edges.top, 4) << a->Name();
+      EXPECT_GE(height - edges.bottom, kLeast) << a->Name();
+      for (const Control* b : seen) {
+        const Edges other = inspection::EdgesOf(*b);
+        const bool nested = Contains(edges, other) || Contains(other, edges);
+        if (a == b || nested || (IsLabel(*a) && IsLabel(*b))) continue;
+        EXPECT_FALSE(Meet(edges, other)) << a->Name() << " and " << b->Name();
+      }
+    }
+    EXPECT_GE(left, kLeast);
+    EXPECT_NEAR(left, right, kTolerance);
+  };
+  LookAtAll(look, CloseByButton);
+}
+
+// The controls at which Tab stops, from the first one on, until it comes round.
+std::vector<Control*> WalkByTab(Form& form) {
+  std::vector<Control*> stops;
+  for (int i = 0; i < 100; ++i) {
+    robot::Type(form, robot::Key::Tab);
+    platform::PumpEvents();
+    Control* focused = inspection::Focused(form);
+    if (!stops.empty() && focused == stops.front()) break;
+    stops.push_back(focused);
+  }
+  return stops;
+}
+
+// Of options that exclude each other Tab stops at the chosen one, or at all when there is none.
+bool IsPassedOver(const Control* control, const std::vector<Control*>& all) {
+  const auto* option = dynamic_cast<const platform::OptionButton*>(control);
+  if (option == nullptr || option->Value()) return false;
+  const std::string name = option->Name().substr(0, option->Name().find('('));
+  return std::any_of(all.begin(), all.end(), [&name](const Control* other) {
+    const auto* chosen = dynamic_cast<const platform::OptionButton*>(other);
+    return chosen != nullptr && chosen->Value() && chosen->Name().starts_with(name + "(");
+  });
+}
+
+std::string NamesOf(const std::vector<Control*>& controls) {
+  std::string names;
+  for (const Control* control : controls) names += (control ? control->Name() : "nothing") + " ";
+  return names;
+}
+
+TEST_F(AllFormsTest, AreWalkedByTabInTheOrderOfReading) {
+  const auto look = [](Form& form) {
+    const std::vector<Control*> seen = SeenControls(form);
+    std::vector<Control*> expected = seen;
+    std::erase_if(expected, [&seen](const Control* control) {
+      return !inspection::TakesTab(*control) || !control->CanBeClicked() ||
+             IsPassedOver(control, seen);
+    });
+    const std::vector<Control*> stops = WalkByTab(form);
+    EXPECT_TRUE(std::is_permutation(stops.begin(), stops.end(), expected.begin(), expected.end()))
+        << NamesOf(stops) << "not " << NamesOf(expected);
+    int upwards = 0;
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+      ASSERT_NE(stops[i], nullptr);
+      EXPECT_NE(robot::Spoken(*stops[i]), "") << stops[i]->Name();
+      const Edges here = inspection::EdgesOf(*stops[i]);
+      const Edges next = inspection::EdgesOf(*stops[(i + 1) % stops.size()]);
+      if (next.top < here.bottom && next.left < here.right) ++upwards;
+    }
+    EXPECT_EQ(upwards, 1) << "from the last to the first, and nowhere else";
+  };
+  LookAtAll(look, CloseByButton);
+}
+
+TEST_F(AllFormsTest, EnterAndEscHaveButtonsAndShortcutsAreUnique) {
+  const auto look = [](const Form& form) {
+    if (form.Name() != "frmCorrect") {  // there the student has to choose
+      const platform::Button* standard = inspection::DefaultButton(form);
+      ASSERT_NE(standard, nullptr);
+      EXPECT_TRUE(inspection::IsSeen(*standard));
+      // Enter is not another button's when the form comes up.
+      Control* focused = inspection::Focused(form);
+      EXPECT_TRUE(focused == standard || dynamic_cast<platform::Button*>(focused) == nullptr);
+    }
+    std::set<char> shortcuts;
+    for (const Control* control : SeenControls(form)) {
+      const auto* button = dynamic_cast<const platform::Button*>(control);
+      const std::size_t mark = button ? button->Caption().find('&') : std::string::npos;
+      if (mark == std::string::npos) continue;
+      const char letter = static_cast<char>(std::toupper(button->Caption()[mark + 1]));
+      EXPECT_TRUE(shortcuts.insert(letter).second) << button->Name();
+    }
+  };
+  const auto pressEsc = [](Form& form) {
+    EXPECT_TRUE(form.Press(27));
+    EXPECT_EQ(form.Shown(), form.Name() == "frmCorrect");
+    if (form.Shown()) CloseByButton(form);
+  };
+  LookAtAll(look, pressEsc);
+}
+
+}  // namespace
+}  // namespace course::testing
