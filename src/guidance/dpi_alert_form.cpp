@@ -41,6 +41,7 @@ class DpiAlertForm {
     PlaceFormButton(cmdPrint_, kTextLeft, kHeight - kFormMargin - kFormButtonHeight, kPrintWidth);
     cmdPrint_.OnClick = [this] { cmdPrint_Click(); };
     MakeClosingButton(form, cmdClose_);
+    cmdClose_.SetFocus();
     Choose(DpiVersionOf(session.gWindowsVersionName));
   }
 
