@@ -68,6 +68,9 @@ void InstallPrinter(Printer* printer);
 
 // Writes a PDF file of this path, which is there as a whole after EndDocument or not at all.
 std::unique_ptr<Printer> MakePdfPrinter(const std::string& path);
+// The way to paper, without the dialog, and with the sheets in a PDF file, which the system's own
+// "Print to File" leaves: for checks of what a printer gets.
+std::unique_ptr<Printer> MakePaperPrinter(const std::string& path);
 
 // Prints what Choose was given, step after step.  At a timeout or without paper the person is asked
 // to help and the step is tried again, or the print is given up if he cancels; at any other error

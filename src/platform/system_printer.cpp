@@ -50,7 +50,11 @@ class PagedPrinter : public Printer {
 // A printer of the system.  What goes wrong behind its queue is the queue's to tell.
 class PaperPrinter final : public PagedPrinter {
  public:
-  PaperPrinter() : printer_(QPrinter::HighResolution) {}
+  // The pages are made for this paper; the dialog offers others.
+  PaperPrinter() : printer_(QPrinter::HighResolution) {
+    printer_.setPageSize(QPageSize(QPageSize::Letter));
+  }
+  explicit PaperPrinter(const QString& path) : PaperPrinter() { printer_.setOutputFileName(path); }
   ~PaperPrinter() override { EndPainting(); }
 
   bool Choose(PrintTarget, const PrintDocument& document) override {
@@ -58,12 +62,11 @@ class PaperPrinter final : public PagedPrinter {
     QPrintDialog dialog(&printer_, QApplication::activeWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
-    if (dialog.exec() != QDialog::Accepted) return false;
-    Prepare(document);
-    return true;
+    return dialog.exec() == QDialog::Accepted;
   }
 
-  PrintError StartDocument(const PrintDocument&) override {
+  PrintError StartDocument(const PrintDocument& document) override {
+    Prepare(document);
     const QPrinterInfo info(printer_);
     if (!info.isNull() && info.state() == QPrinter::Error) return Failure();
     return BeginPainting();
@@ -86,7 +89,6 @@ class PaperPrinter final : public PagedPrinter {
                                                : PrintError::CannotWriteFile;
   }
 
-  // The pages are laid out for one orientation; the paper's size is the person's to choose.
   void Prepare(const PrintDocument& document) {
     printer_.setDocName(ToText(document.title));
     printer_.setFullPage(true);
@@ -181,6 +183,10 @@ class MachinePrinter final : public Printer {
 
 std::unique_ptr<Printer> MakePdfPrinter(const std::string& path) {
   return std::make_unique<PdfPrinter>(QFile::decodeName(QByteArray::fromStdString(path)));
+}
+
+std::unique_ptr<Printer> MakePaperPrinter(const std::string& path) {
+  return std::make_unique<PaperPrinter>(QFile::decodeName(QByteArray::fromStdString(path)));
 }
 
 Printer& SystemPrinter() {

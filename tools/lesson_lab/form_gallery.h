@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/printer.h"
+
 namespace lesson_lab {
 
 struct GalleryForm {
@@ -16,5 +18,13 @@ struct GalleryForm {
 // The forms that are shown modally.  The installed user closes each; the session is set as each
 // wants it.  The folder holds the record files of which they tell, and is filled here.
 std::vector<GalleryForm> ModalForms(const std::string& folder);
+
+// What is printed, of the same record files: activity records and diagnostic results.  After
+// ModalForms.
+struct GalleryDocument {
+  std::string name;
+  platform::PrintDocument document;
+};
+std::vector<GalleryDocument> Documents(const std::string& folder);
 
 }  // namespace lesson_lab

@@ -36,6 +36,10 @@ int WriteForms(const std::string& folder) {
     camera.nextName = form.name;
     form.Show();
   }
+  for (const GalleryDocument& paper : Documents(records + "/")) {
+    const auto printer = platform::MakePaperPrinter(folder + "/" + paper.name + ".pdf");
+    camera.written = platform::PrintOut(*printer, paper.document) && camera.written;
+  }
   std::filesystem::remove_all(records, error);
   if (!camera.written) std::fprintf(stderr, "Cannot write the forms to \"%s\".\n", folder.c_str());
   return camera.written ? 0 : 1;
