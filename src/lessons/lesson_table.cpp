@@ -21,6 +21,7 @@ constexpr auto kLessons = std::to_array<LessonRow>({
     {"Distance-Rate-Time Problems", MakeDistanceRateTimeProblems},
     {"Multiplying with Exponents", MakeMultiplyingWithExponents},
     {"Trinomials of the Form x\xB2+bx+c", MakeTrinomialsX2BxC},
+    {"Solving Systems by Graphing", MakeSystemsByGraphing},
     {"Simple Inequalities", MakeSimpleInequalities},
     {"Complex Inequalities", MakeComplexInequalities},
     {"Solving Inequalities", MakeSolvingInequalities},

@@ -23,6 +23,9 @@ std::unique_ptr<LessonScript> MakeMultiplyingWithExponents();
 // Unit 7, "Factoring".
 std::unique_ptr<LessonScript> MakeTrinomialsX2BxC();
 
+// Unit 9, "Systems of Linear Equations".
+std::unique_ptr<LessonScript> MakeSystemsByGraphing();
+
 // Unit 10, "Inequalities".
 std::unique_ptr<LessonScript> MakeSimpleInequalities();
 std::unique_ptr<LessonScript> MakeComplexInequalities();
