@@ -288,6 +288,7 @@ bool IsHardToRead(const LinearSystem& system) {
          std::abs(system.second.Intercept()) > kHighest;
 }
 
+// One try in fifty is accepted.
 void SystemsByGraphing::DrawProblem(RandomStream& random) {
   system_ = DrawSystem(random, IsHardToRead);
   AskForSolution(problem, system_, random);
