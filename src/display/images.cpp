@@ -79,6 +79,14 @@ platform::PixelPoint GalleryImageSize(int image) {
   return platform::PictureExtent(PicGallery(image, "GalleryImageSize").picture);
 }
 
+std::unique_ptr<platform::Surface> GalleryImage(int image) {
+  const char* picture = PicGallery(image, "GalleryImage").picture;
+  const platform::PixelPoint size = platform::PictureExtent(picture);
+  auto surface = std::make_unique<platform::Surface>(size.x, size.y);
+  surface->DrawPicture(picture, 0, 0);
+  return surface;
+}
+
 void picGalleryImagePrepare(int slot, int image, double row, double col, ImageBorder border) {
   platform::PictureBox& box = ImageBox(slot, "picGalleryImagePrepare");
   const StoredPicture& stored = PicGallery(image, "picGalleryImagePrepare");

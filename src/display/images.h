@@ -2,7 +2,10 @@
 // images with a transparent ground.
 #pragma once
 
+#include <memory>
+
 #include "platform/geometry.h"
+#include "platform/surface.h"
 
 namespace course {
 
@@ -13,6 +16,7 @@ inline constexpr int QuadraticFormula = 2;
 inline constexpr int InequalityFlip = 3;
 inline constexpr int OrderOfOperations = 4;
 inline constexpr int CheckMark = 5;  // 64 by 50 pixels, on white: for a transparent image
+inline constexpr int Count = 5;
 }  // namespace gallery
 
 enum class ImageBorder { Keep, None, Thin };
@@ -28,6 +32,8 @@ void picGalleryImageShow(int slot);
 void picGalleryImageHide(int slot);
 // The picture's size in pixels.
 platform::PixelPoint GalleryImageSize(int image);
+// The picture itself, on white.
+std::unique_ptr<platform::Surface> GalleryImage(int image);
 
 // Draws a stored picture on the lesson panel; where it is white the panel shows through.
 void DisplayTransparentImage(int image, double row, double col);

@@ -2,6 +2,7 @@
 
 #include "assessment/unit_test.h"
 #include "engine/program_exit.h"
+#include "lessons/docs/docs.h"
 #include "platform/stop.h"
 #include "session/session.h"
 #include "shell/dispatcher.h"
@@ -80,7 +81,7 @@ void MainMenu::RunSelectedLesson() {
                      .RefreshProgress = [] { DrawProgressMarks(); },
                      .RunScript = RunScriptOf,
                      .Chapter_Test = Chapter_Test,
-                     .Docs = {}});
+                     .Docs = [] { Docs(); }});
 }
 
 void MainMenu::mnuRecordsProgress_Click() {

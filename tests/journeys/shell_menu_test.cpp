@@ -222,6 +222,7 @@ TEST_F(MenuTest, OpensTheWritersGuideByItsHiddenKeyOnly) {
   Load();
   EXPECT_FALSE(frmMenu->Form_KeyPress('x'));
   EXPECT_EQ(session.gChosenTitle, "");
+  user.At("frmDocs").Click("cmdClose");
   EXPECT_TRUE(frmMenu->Form_KeyPress(254));
   EXPECT_EQ(session.gChosenTitle, "OurDocumentation");
   EXPECT_EQ(session.gShowDocumentation, kFalse);

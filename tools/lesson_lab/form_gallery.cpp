@@ -11,6 +11,11 @@
 #include "engine/result_form.h"
 #include "guidance/dpi_alert_form.h"
 #include "guidance/guidance_forms.h"
+#include "lessons/docs/docs_form.h"
+#include "lessons/docs/docs_topics.h"
+#include "lessons/docs/gallery_form.h"
+#include "lessons/docs/layout_form.h"
+#include "lessons/docs/tutor_chars_form.h"
 #include "platform/printer.h"
 #include "records/activity_records.h"
 #include "records/diagnostic_file.h"
@@ -195,6 +200,12 @@ void ShowVerdict(course::Verdict verdict) {
   InLesson([verdict] { course::ShowResultForm(verdict); });
 }
 
+std::vector<std::string> TopicNames() {
+  std::vector<std::string> names;
+  for (const course::Topic& topic : course::DocsTopics()) names.push_back(topic.module);
+  return names;
+}
+
 }  // namespace
 
 std::vector<GalleryForm> ModalForms(const std::string& folder) {
@@ -232,6 +243,10 @@ std::vector<GalleryForm> ModalForms(const std::string& folder) {
       {"dpi_alert_unknown", [] { ShowDpiAlertOf("NOTA"); }},
       {"tech_support", ShowTechSupportForm},
       {"about", ShowAboutForm},
+      {"docs", [] { ShowDocsMenu(TopicNames(), 0, {}); }},
+      {"characters", ShowTutorCharsDisplay},
+      {"gallery", [] { ShowGallery({}); }},
+      {"layout", ShowGeoUtility},
       {"unit_test_review", [] { InUnitTest(kLongUnit, 20, 20, ShowTestProbReviewForm); }},
   };
   for (GalleryForm& form : forms)

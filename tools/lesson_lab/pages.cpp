@@ -9,6 +9,8 @@
 #include "lesson_check/pages/entry.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/page_turner.h"
+#include "lessons/docs/docs.h"
+#include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
 namespace lesson_lab {
@@ -74,18 +76,25 @@ int WriteAll(const std::vector<Page>& pages, const std::string& folder) {
 }  // namespace
 
 int WritePages(const PagesRequest& request) {
-  const auto lesson = FindLesson(request.title);
-  if (!lesson) return 1;
-  const int entry = ModeOf(request.mode);
+  const bool docs = course::UpperCase(request.title) == "DOCUMENTATION";
+  std::vector<std::unique_ptr<course::LessonScript>> scripts;
+  if (docs)
+    scripts = course::MakeDocsScripts();
+  else
+    scripts.push_back(FindLesson(request.title));
+  if (!scripts.front()) return 1;
+  const int entry = docs ? mode::Lesson : ModeOf(request.mode);
   if (entry == 0) {
     std::fprintf(stderr, "There is no entry mode \"%s\".\n", request.mode.c_str());
     return 1;
   }
   PageTurner reader;
-  course::LoadLessonWindow();
-  lesson_check::WantEntry(entry, request.seed);
-  lesson->Run();
-  course::UnloadLessonWindow();
+  for (const auto& script : scripts) {
+    course::LoadLessonWindow();
+    lesson_check::WantEntry(entry, request.seed);
+    script->Run();
+    course::UnloadLessonWindow();
+  }
   return WriteAll(reader.pages, request.folder);
 }
 
