@@ -48,6 +48,7 @@ class SystemsByGraphing final : public LessonScript {
   void CrossingPoint();
   void LinesThatDoNotCross();
   void FourSteps();
+  void GraphReadAndCheck(const LinearSystem& system);
 
   void ShowSystem() const;
   void SolveForY(int line);
@@ -214,18 +215,19 @@ void SystemsByGraphing::LinesThatDoNotCross() {
   PageEnd();
 }
 
+void WriteStep(double row, const std::string& text) {
+  Locate(row, 1);
+  board::Write(text);
+}
+
 void SystemsByGraphing::FourSteps() {
   const LinearSystem& system = kStepsExample;
-  const auto step = [](double row, const std::string& text) {
-    Locate(row, 1);
-    board::Write(text);
-  };
   NewScreen();
   board::ShowTable(system);
   board::ShowEmptyPlane();
-  step(3, "Four steps lead to the solution of a system.");
+  WriteStep(3, "Four steps lead to the solution of a system.");
   PageEnd();
-  step(5.5, R"(\y1.\z Solve for y.)");
+  WriteStep(5.5, R"(\y1.\z Solve for y.)");
   board::ShowWiper(board::kBelowRow);
   wbisPrint("Line 1:  subtract 2x on both sides,");
   wbLocate(2.2, 10);
@@ -239,17 +241,23 @@ void SystemsByGraphing::FourSteps() {
   board::FillTable(system, 2);
   PageEnd();
   wbHide();
-  step(7, R"(\y2.\z Graph the lines.)");
+  GraphReadAndCheck(system);
+}
+
+// The last three steps.
+void SystemsByGraphing::GraphReadAndCheck(const LinearSystem& system) {
+  WriteStep(7, R"(\y2.\z Graph the lines.)");
   for (const int line : {1, 2}) {
-    board::PlotTwoPoints(EquationOf(system, line), line);
-    board::DrawLine(EquationOf(system, line), line, SlopeInterceptText(EquationOf(system, line)));
+    const LinearEquation& equation = EquationOf(system, line);
+    board::PlotTwoPoints(equation, line);
+    board::DrawLine(equation, line, SlopeInterceptText(equation));
     PageEnd();
   }
-  step(8.5, R"(\y3.\z Read the point.)");
+  WriteStep(8.5, R"(\y3.\z Read the point.)");
   board::ShowBothLines(system);
   board::MarkCrossing(system.x, system.y);
   PageEnd();
-  step(10, R"(\y4.\z Check it.)");
+  WriteStep(10, R"(\y4.\z Check it.)");
   board::ShowWiper(board::kBelowRow);
   CheckLine(system, 1);
   wbWipeAndErase();

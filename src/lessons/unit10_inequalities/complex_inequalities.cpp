@@ -36,6 +36,7 @@ class ComplexInequalities final : public LessonScript {
       BothAtOnce();
       ReadingTheEnds();
       OneOrTheOther();
+      TryNumbers();
       WriteOneYourself();
     }};
   }
@@ -46,6 +47,7 @@ class ComplexInequalities final : public LessonScript {
   void BothAtOnce();
   void ReadingTheEnds();
   void OneOrTheOther();
+  void TryNumbers();
   void WriteOneYourself();
 
   void DrawEnds(RandomStream& random);
@@ -99,7 +101,7 @@ double Flipped(double end) {
   return IsOpen(end) ? WholeOf(end) : end + kOpenEnd;
 }
 
-// --- Teaching screen, in four parts ------------------------------------------
+// --- Teaching screen, in five parts ------------------------------------------
 
 void ComplexInequalities::BothAtOnce() {
   NewScreen();
@@ -157,15 +159,17 @@ void ComplexInequalities::ReadingTheEnds() {
   PageEnd();
 }
 
+// x <= -2 or x > 3.
+void ShowTwoArrows() {
+  DrawNumberLine(3, kGraphCol);
+  DrawGraphOnLine(-2, kFarLeft);
+  DrawGraphOnLine(3 + kOpenEnd, kFarRight);
+}
+
 void ComplexInequalities::OneOrTheOther() {
-  const auto showGraph = [] {
-    DrawNumberLine(3, kGraphCol);
-    DrawGraphOnLine(-2, kFarLeft);
-    DrawGraphOnLine(3 + kOpenEnd, kFarRight);
-  };
   const std::string left = "x " + tutor::LessOrEqual + " -2";
   NewScreen();
-  showGraph();
+  ShowTwoArrows();
   Locate(6.5, 1);
   WordWrap(R"(This graph is in \ytwo pieces\z.  What does each arrow say?)");
   PageEnd();
@@ -180,9 +184,12 @@ void ComplexInequalities::OneOrTheOther() {
   Locate(17, 13);
   WordWrap(R"(\y)" + left + R"( or x > 3\z)");
   PageEnd();
+}
 
+void ComplexInequalities::TryNumbers() {
+  const std::string left = "x " + tutor::LessOrEqual + " -2";
   NewScreen();
-  showGraph();
+  ShowTwoArrows();
   Locate(6.5, 13);
   isPrint(left + " or x > 3");
   Locate(8.5, 1);
@@ -209,18 +216,18 @@ void ComplexInequalities::WriteOneYourself() {
   WordWrap("Which inequality has this graph?");
   PageEnd();
   isPrint();
-  WordWrap("One piece, so x is in the middle.  -5 is taken in and 1 is left out:");
+  WordWrap("x is in the middle of one piece.  -5 is taken in and 1 is left out:");
   isPrint();
   isPrint("              -5 " + tutor::LessOrEqual + " x < 1");
   PageEnd();
-  DrawNumberLine(13, kGraphCol, 2);
+  DrawNumberLine(13.4, kGraphCol, 2);
   DrawGraphOnLine(kOpenEnd, kFarLeft, 2);
   DrawGraphOnLine(6, kFarRight, 2);
-  Locate(16.5, 1);
+  Locate(17, 1);
   WordWrap("And which inequality has this one?");
   PageEnd();
   isPrint();
-  WordWrap(R"(Two pieces, so we need the word "or".  0 is left out and 6 is taken in:)");
+  WordWrap(R"(Two pieces need the word "or".  0 is left out and 6 is taken in:)");
   isPrint();
   isPrint("            x < 0 or x " + tutor::GreaterOrEqual + " 6");
   PageEnd();
