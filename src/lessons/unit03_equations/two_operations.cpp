@@ -1,5 +1,5 @@
 // The student can solve an equation in which the letter was multiplied and then something was
-// added, such as 3x + 4 = 19: he removes the number first, then the coefficient, and checks.
+// added, such as 3x + 4 = 19: remove the number first, then the coefficient, and check.
 #include <algorithm>
 
 #include "display/drawing.h"

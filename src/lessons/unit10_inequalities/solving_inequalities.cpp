@@ -1,5 +1,8 @@
 // The student can solve an inequality such as -2x + 3 < 11 in the steps of an equation, and knows
 // when its relation turns around.
+//
+// Two of the choices carry the reversed relation, one of them with the right number, so that the
+// turn is always part of the question.  Answers that are not whole are mixed numbers.
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
