@@ -133,29 +133,6 @@ TEST_F(DamageTest, FolderThatCannotBeWrittenIsReadAllTheSame) {
   EXPECT_EQ(folder.Bytes("RECORDS.DAT"), kAda);
 }
 
-TEST_F(DamageTest, NonsenseInAFileHarmsNobodyElse) {
-  // Letters for digits, a record of blanks, one of zero bytes, all codes there are, a torn tail.
-  std::string codes;
-  for (int code = 0; code < 25; ++code) codes += static_cast<char>(code * 10);
-  const std::string others = "C2xxzzmmddyyUULLaaacccmmm" + std::string(25, ' ') +
-                             std::string(25, '\0') + codes + "C299 8999999999999xxxxxxx";
-  folder.Put("RECORDS.DAT", others + kAda + "C2990701");
-  ReadStudentProgress(99, 7);
-  EXPECT_EQ(session.gProgressCodes[1][1], "W");
-  EXPECT_EQ(ReadActivityRecords().size(), 6U);
-  SaveActivityRecord(kBen);
-  EraseStudentRecords(7, EraseMode::OneStudent);
-  EXPECT_EQ(folder.Bytes("RECORDS.DAT"), others + kBen);
-  // A unit of letters is no unit: the student's own reading says so.
-  folder.Put("RECORDS.DAT", "C29907011526UU01005005001");
-  ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(99, 7); });
-
-  folder.Put("STUDENTS.DAT", std::string(25, '\0') + MakeStudentRecord("Ada", 1) + codes);
-  EXPECT_EQ(StudentNameFromNumber(1).substr(0, 3), "Ada");
-  FileAddStudent("Ben");
-  EXPECT_EQ(folder.Bytes("STUDENTS.DAT").substr(75), MakeStudentRecord("Ben", 2));
-}
-
 TEST_F(DamageTest, FolderInThePlaceOfAFileIsAnError) {
   std::filesystem::create_directory(folder.Path() + "RECORDS.DAT");
   ExpectStop(kSaveFailed, [] { SaveActivityRecord(kAda); });

@@ -138,9 +138,11 @@ TEST_F(LocksTest, SaveGivesUpAfterFortyFive) {
   folder.Put("RECORDS.DAT", kAda);
   Holder holder(folder.Path() + "RECORDS.DAT", Sharing::Exclusive);
   LetGoAfter(holder, 46);
+  session.gUnitNum = session.gLessonNum = session.gProblemsAttempted = 1;
   ExpectStop("We have tried to save your data, \nbut after 45 seconds it is still not possible.",
-             [] { SaveActivityRecord(kBen); });
+             records::SavePracticeRecord);
   EXPECT_NEAR(clock.counter, 45, 0.1);
+  EXPECT_EQ(session.gSessionRecordCount, 1);
   holder.LetGo();
   EXPECT_EQ(folder.Bytes("RECORDS.DAT"), kAda);
 }
@@ -177,13 +179,14 @@ TEST_F(LocksTest, DiagnosticResultTellsTheReason) {
   EXPECT_EQ(folder.Bytes("Diag.dat"), result);
 }
 
-TEST_F(LocksTest, NetworkReadingOfTheProgressDoesNotWait) {
+TEST_F(LocksTest, ReadingDoesNotWait) {
   session.gversion = 3;
-  folder.Put("RECORDS.DAT", kAda);
-  const Holder holder(folder.Path() + "RECORDS.DAT", Sharing::Exclusive);
+  const Holder records(folder.Path() + "RECORDS.DAT", Sharing::Exclusive);
+  const Holder results(folder.Path() + "Diag.dat", Sharing::Exclusive);
   ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(12, 7); });
   ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(99, 7); });
   ExpectStop("ReadActivityRecords: ", [] { ReadActivityRecords(); });
+  ExpectStop("ReadDiagnosticRecords: ", [] { ReadDiagnosticRecords(); });
   EXPECT_EQ(user.pauses, 0);
 }
 

@@ -158,20 +158,6 @@ TEST_F(LessonTest, CloseBoxAndEscContinue) {
   EXPECT_TRUE(user.messages.empty());
 }
 
-TEST_F(LessonTest, EnterContinuesAndTheKeyboardReachesEveryReview) {
-  TakeTest("AAAAA");
-  Check(kResults, [] {
-    for (int i = 1; i <= 5; ++i) {
-      platform::Control& review = FindControl("cmdReview(" + std::to_string(i) + ")");
-      EXPECT_EQ(review.AccessibleName(), "Review problem " + std::to_string(i));
-      EXPECT_TRUE(review.CanBeClicked());
-    }
-  });
-  user.At(kResults).Press(13);
-  Leave("PageEnd");
-  RunRow(kUnit, kRow);
-}
-
 TEST_F(LessonTest, EndedEarlyLeavesNothingBehind) {
   TakeTest("AAAA");
   user.Answer(Answer::No).Answer(Answer::Yes);

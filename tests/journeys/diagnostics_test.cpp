@@ -198,14 +198,6 @@ TEST_F(DiagnosticsTest, WhatIsPrintedStaysWithinTheMargins) {
   }
 }
 
-TEST_F(DiagnosticsTest, ACancelledPreviewPrintsNothing) {
-  user.Select("lstStudents", 0).Click("cmdSelected(1)");
-  user.At("frmPrintPreview").Press(27);
-  user.At("frmDiagnostics").Click("cmdMenu");
-  ShowDiagnostics();
-  EXPECT_TRUE(printer.printed.pages.empty());
-}
-
 TEST_F(DiagnosticsTest, BrokenFilesStopWithAMessage) {
   folder.Put("Diag.dat", Record("03", 0, "C399") + Record("XY", 0));
   user.Select("lstStudents", 0).Click("cmdSelected(0)");

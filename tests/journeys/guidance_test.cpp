@@ -37,18 +37,6 @@ TEST_F(GuidanceTest, TheOverviewHasATextOnEachOfItsFourTabs) {
   ShowHelp();
 }
 
-TEST_F(GuidanceTest, TheFormsCloseByEscAndByTheirButton) {
-  for (const auto& [form, show] : std::initializer_list<std::pair<const char*, void (*)()>>{
-           {"frmHelp", ShowHelp},
-           {"frmTechSupport", ShowTechSupportForm},
-           {"frmAbout", ShowAboutForm}}) {
-    user.At(form).Press(27);
-    show();
-    user.At(form).Click("cmdOK");
-    show();
-  }
-}
-
 TEST_F(GuidanceTest, AnUnknownSystemMustBeChosenBeforeItsStepsArePrinted) {
   session.gWindowsVersionName = "NOTA";
   user.At("frmDPIAlert").Do("choose Vista", [] {

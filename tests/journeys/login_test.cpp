@@ -6,8 +6,12 @@ namespace {
 
 TEST_F(LoginTest, AFirstUserIsWelcomedEntersNamesAndPicksHimself) {
   PassLogo();
-  user.At("frmWelcome").Click("cmdOK");
-  user.At("frmStudents").Do("look", [] { EXPECT_EQ(Names("lstStudents"), Strings{}); });
+  user.At("frmWelcome").Do("read", [] {
+    EXPECT_EQ(LabelText("lblWelcome"), "Welcome to ALGEBRA 1");
+  });
+  user.Click("cmdOK").At("frmStudents").Do("look", [] {
+    EXPECT_EQ(Names("lstStudents"), Strings{});
+  });
   AddStudent("Zoe");
   AddStudent("  Ada Byron ");
   user.At("frmStudents").Click("cmdMenu");

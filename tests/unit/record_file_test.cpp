@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 #include "platform/file_calls.h"
@@ -95,29 +94,6 @@ TEST_F(RecordFileTest, OnlyReadingDoesNotMakeAFile) {
   EXPECT_EQ(folder.Bytes("A.DAT"), "");
   EXPECT_THROW(RecordFile("/no/such/folder/A.DAT", 4, Access::Write, Sharing::Exclusive),
                FileError);
-}
-
-TEST_F(RecordFileTest, WhoMayOpenWhatIsOpen) {
-  struct Case {
-    Sharing first, second;
-    bool both;
-  };
-  for (const Case& c : std::vector<Case>{{Sharing::Exclusive, Sharing::Exclusive, false},
-                                         {Sharing::Exclusive, Sharing::Shared, false},
-                                         {Sharing::Exclusive, Sharing::Plain, false},
-                                         {Sharing::Shared, Sharing::Exclusive, false},
-                                         {Sharing::Shared, Sharing::Shared, true},
-                                         {Sharing::Shared, Sharing::Plain, true},
-                                         {Sharing::Plain, Sharing::Exclusive, true},
-                                         {Sharing::Plain, Sharing::Shared, true},
-                                         {Sharing::Plain, Sharing::Plain, true}}) {
-    std::optional<RecordFile> first;
-    first.emplace(folder.Path() + "A.DAT", 4, Access::ReadWrite, c.first);
-    EXPECT_EQ(OpenError("a.dat", Access::ReadWrite, c.second), c.both ? 0 : EAGAIN)
-        << static_cast<int>(c.first) << " then " << static_cast<int>(c.second);
-    first.reset();
-    EXPECT_EQ(OpenError("a.dat", Access::ReadWrite, c.second), 0);
-  }
 }
 
 TEST_F(RecordFileTest, ReplacementKeepsTheRightsAndTheReaders) {

@@ -91,16 +91,6 @@ TEST_F(RostersTest, LargerHalfOfATailIsAStudentForTheLocalLogin) {
   EXPECT_EQ(File(), Local("Ada", "1") + Local("Cleo", "2"));
 }
 
-TEST_F(RostersTest, NinetyNineStudentsAreTheLimitOfTheLogin) {
-  for (int i = 1; i <= 99; ++i) FileAddStudent("S" + std::to_string(i));
-  EXPECT_EQ(ReadStudents(99).size(), 99U);
-  EXPECT_EQ(File().substr(98 * 25), Local("S99", "99"));
-  FileAddStudent("One more");  // the field has no place for three digits
-  EXPECT_EQ(File().substr(99 * 25), Local("One more", "10"));
-  EXPECT_EQ(StudentListItems().size(), 100U);
-  ExpectStop("Failed in attempt to read file STUDENTS.DAT", [] { ReadStudents(99); });
-}
-
 TEST_F(RostersTest, NetworkStudentsComeByClassWithTheirPassword) {
   session.gversion = 3;
   folder.Put("students.dat", Filled("Ada", 21) + "7 12" + "KL;   " +       //
