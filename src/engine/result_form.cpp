@@ -5,6 +5,7 @@
 
 #include "display/lesson_window.h"
 #include "platform/form.h"
+#include "platform/look.h"
 #include "platform/picture_box.h"
 #include "session/session.h"
 
@@ -13,9 +14,10 @@ namespace {
 
 using platform::Rgb;
 using platform::colour::FormGrey;
+using platform::look::kNavy;
+using platform::look::MovePixels;
 
 constexpr int kPixel = platform::TwipsPerPixelX;
-constexpr platform::Colour kNavy = Rgb(22, 40, 79);
 
 // All in pixels: the verdict on the left, four equal buttons in a column on the right.
 constexpr int kWidth = 560;
@@ -41,10 +43,6 @@ constexpr Option kOptions[] = {
     {2, "See Explanation of Problem", "See Explanation of Problem"},
     {4, "Leave Lesson", "Leave Lesson"},
 };
-
-void MovePixels(platform::Control& control, int left, int top, int width, int height) {
-  control.Move(left * kPixel, top * kPixel, width * kPixel, height * kPixel);
-}
 
 class ResultForm {
  public:
