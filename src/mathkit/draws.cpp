@@ -33,11 +33,6 @@ void CheckCount(const char* routine, int n, const std::vector<std::string>& stri
   }
 }
 
-std::string_view WithoutLeadingBlanks(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(' ');
-  return start == std::string_view::npos ? std::string_view() : text.substr(start);
-}
-
 }  // namespace
 
 RandomStream& ProblemStream() {
@@ -102,16 +97,6 @@ bool AllDistinct(int n, const std::vector<std::string>& strings) {
     }
   }
   return true;
-}
-
-std::optional<int> RepeatedAt(int n, const std::vector<std::string>& strings) {
-  CheckCount("RepeatedAt", n, strings);
-  for (int i = 0; i < n; ++i) {
-    for (int j = i + 1; j < n; ++j) {
-      if (WithoutLeadingBlanks(strings[i]) == WithoutLeadingBlanks(strings[j])) return j;
-    }
-  }
-  return std::nullopt;
 }
 
 }  // namespace course

@@ -1,7 +1,6 @@
 // The course's one random stream, and the seeds that let a problem be drawn again.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,10 +31,6 @@ std::vector<int> RandSeq(int poolSize, int count);
 
 // Whether the first n strings (from element 0) are pairwise different.
 bool AllDistinct(int n, const std::vector<std::string>& strings);
-// The later place (from 0) of the first pair among the first n strings that reads the same, leading
-// blanks aside; nothing when all differ.  A generator draws that choice again and asks once more,
-// which starts the comparison at the first pair again.
-std::optional<int> RepeatedAt(int n, const std::vector<std::string>& strings);
 
 template <class T>
 void SwapVariant(T& a, T& b) {

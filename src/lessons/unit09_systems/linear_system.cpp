@@ -1,9 +1,8 @@
 #include "lessons/unit09_systems/linear_system.h"
 
 #include <cstdlib>
-#include <vector>
 
-#include "mathkit/draws.h"
+#include "engine/choice_pass.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -13,7 +12,6 @@ namespace {
 constexpr int kLargest = 4;           // of x, y and the coefficients of y
 constexpr int kSteepest = 3;          // of the slopes
 constexpr int kHighestIntercept = 5;  // what the figure of a plane shows
-constexpr int kPairSlots = 4;
 
 struct Pair {
   int x = 0;
@@ -114,17 +112,11 @@ void AskForSolution(Problem& problem, const LinearSystem& system, RandomStream& 
   problem.Wrong(2, "exchanges the coordinates", PairText(system.y, system.x));
   problem.Wrong(3, "filler", PairText(wrong.x, wrong.y));
   problem.Wrong(4, "filler", PairText(wrong.y, wrong.x));
-  const auto texts = [&] {
-    std::vector<std::string> pairs;
-    for (std::size_t slot = 1; slot <= kPairSlots; ++slot)
-      pairs.push_back(problem.choices[slot].text);
-    return pairs;
-  };
   // A pair of equal numbers is its own reverse.
-  while (const auto repeated = RepeatedAt(kPairSlots, texts())) {
+  ReplaceRepeatedTexts(problem, [&](int slot) {
     const Pair other = DrawWrongPair(random, system);
-    problem.Wrong(*repeated + 1, "filler", PairText(other.x, other.y));
-  }
+    problem.Wrong(slot, "filler", PairText(other.x, other.y));
+  });
 
   if (system.Class() == SystemClass::OneSolution) return;
   problem.Wrong(1, "takes one point for the whole answer", problem.choices[1].text);
