@@ -40,10 +40,11 @@ LinearStatement ReadStatement(const std::string& line) {
   return statement;
 }
 
-// The number of a choice, with or without letter and relation in front of it.
+// The number of a choice: alone, or beside a letter and a relation.
 std::string NumberText(const std::string& choice) {
   const Statement cut = CutAtRelations(choice);
-  return cut.sides.back();
+  const bool digits = cut.sides.back().find_first_of("0123456789") != std::string::npos;
+  return digits ? cut.sides.back() : cut.sides.front();
 }
 
 // What the mistakes of adding and dividing make of the numbers, by their names.
