@@ -7,15 +7,16 @@ namespace {
 
 // n = outside^2 * inside, inside without a square factor.
 struct SquareParts {
-  mpz_class outside = 1;
-  mpz_class inside = 1;
+  long outside = 1;
+  long inside = 1;
 };
 
-SquareParts TakeSquaresOut(mpz_class n) {
-  constexpr int kLargestSearched = 100000;
+SquareParts TakeSquaresOut(const mpz_class& number) {
+  constexpr long kLargest = 1'000'000'000;  // of a radicand that a student can be asked for
+  if (number > kLargest) throw Unreadable("the radicand " + number.get_str() + " is too large");
+  long n = number.get_si();
   SquareParts parts;
-  for (mpz_class prime = 2; prime * prime <= n; ++prime) {
-    if (prime > kLargestSearched) throw Unreadable("the radicand " + n.get_str() + " is too large");
+  for (long prime = 2; prime * prime <= n; ++prime) {
     while (n % (prime * prime) == 0) {
       n /= prime * prime;
       parts.outside *= prime;
@@ -34,7 +35,7 @@ Powers Product(const Powers& a, const Powers& b, Rational& coefficient) {
   for (const auto& [letter, halves] : b.halves)
     if ((product.halves[letter] += halves) == 0) product.halves.erase(letter);
   if (a.radicand == 1 && b.radicand == 1) return product;
-  const SquareParts parts = TakeSquaresOut(a.radicand * b.radicand);
+  const SquareParts parts = TakeSquaresOut(mpz_class(a.radicand) * b.radicand);
   coefficient *= parts.outside;
   product.radicand = parts.inside;
   return product;
@@ -79,7 +80,7 @@ Polynomial Polynomial::Root(const Polynomial& radicand) {
     rooted.halves[letter] = halves / 2;
   }
   Polynomial result;
-  Rational outside(parts.outside, coefficient.get_den());
+  Rational outside(mpz_class(parts.outside), coefficient.get_den());
   outside.canonicalize();
   result.Add(rooted, outside);
   return result;
@@ -144,8 +145,21 @@ Polynomial Polynomial::operator/(const Polynomial& other) const {
 Polynomial Polynomial::Power(int exponent) const {
   if (exponent < 0) return Polynomial(Rational(1)) / Power(-exponent);
   if (exponent == 1) return *this;
+  if (TermCount() == 1 && terms_.begin()->first.radicand == 1) return PowerOfTerm(exponent);
   Polynomial result(Rational(1));
   for (int i = 0; i < exponent; ++i) result = result * *this;
+  return result;
+}
+
+// Of one term without a root, which needs no multiplying out.
+Polynomial Polynomial::PowerOfTerm(int exponent) const {
+  Powers powers;
+  Rational coefficient = 1;
+  if (exponent > 0) powers = terms_.begin()->first;
+  for (auto& [letter, halves] : powers.halves) halves *= exponent;
+  for (int i = 0; i < exponent; ++i) coefficient *= terms_.begin()->second;
+  Polynomial result;
+  result.Add(powers, coefficient);
   return result;
 }
 
@@ -209,7 +223,7 @@ std::string Polynomial::Text() const {
     if (!text.empty()) text += " + ";
     text += coefficient.get_str();
     for (const auto& [letter, halves] : powers.halves) text += letter + ExponentText(halves);
-    if (powers.radicand != 1) text += "r" + powers.radicand.get_str();
+    if (powers.radicand != 1) text += "r" + std::to_string(powers.radicand);
   }
   return text;
 }

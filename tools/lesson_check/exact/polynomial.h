@@ -17,7 +17,7 @@ using Rational = mpq_class;
 // What stands beside the coefficient of a term.
 struct Powers {
   std::map<char, int> halves;  // letter to twice its exponent; no zeros
-  mpz_class radicand = 1;      // under the square root, without a square factor
+  long radicand = 1;           // under the square root, without a square factor
 
   bool operator<(const Powers& other) const;
 };
@@ -57,6 +57,7 @@ class Polynomial {
  private:
   void Add(const Powers& powers, const Rational& coefficient);
   Polynomial Inverse() const;
+  Polynomial PowerOfTerm(int exponent) const;
 
   std::map<Powers, Rational> terms_;  // no zero coefficients
 };
