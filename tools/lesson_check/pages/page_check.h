@@ -20,8 +20,8 @@ class PageChecker {
 
   // The teaching screens, once a lesson.
   void CheckTeaching(const Complain& complain);
-  // Problem and explanation, and one more of the ways in which a student meets the same problem:
-  // the seed tells which.
+  // Problem and explanation, and for most seeds one more of the ways in which a student meets the
+  // same problem: the seed tells which.
   void CheckProblem(int seed, const Complain& complain);
 
   long PagesRead() const { return pagesRead_; }
