@@ -9,6 +9,7 @@
 
 #include "platform/events.h"
 #include "platform/form_window_impl.h"
+#include "platform/off_screen.h"
 #include "platform/surface.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
@@ -23,6 +24,10 @@ void KeepInFrontOf(QMainWindow& window, const QWidget* below) {
   if (below == nullptr || below == &window) return;
   window.winId();
   window.windowHandle()->setTransientParent(below->windowHandle());
+}
+
+void TakeKeyboard(QWidget& window) {
+  if (!window.testAttribute(Qt::WA_DontShowOnScreen)) window.activateWindow();
 }
 
 // A form that is modal from here on until the end of its life, whichever way that comes: a test's
@@ -119,8 +124,9 @@ void Form::Show() {
   formImpl_->shown = true;
   shownForms.push_back(this);
   static_cast<FormWindow&>(*formImpl_->window).ExpectFirstPainting();
+  formImpl_->window->setAttribute(Qt::WA_DontShowOnScreen, OffScreen::Active());
   formImpl_->window->show();
-  formImpl_->window->activateWindow();
+  TakeKeyboard(*formImpl_->window);
 }
 
 void Form::Hide() {
@@ -129,7 +135,7 @@ void Form::Hide() {
   std::erase(shownForms, this);
   formImpl_->window->hide();
   // Not every screen has a window manager that passes the keyboard on.
-  if (QWidget* below = FrontWindow()) below->activateWindow();
+  if (QWidget* below = FrontWindow()) TakeKeyboard(*below);
 }
 
 void Form::ShowModal() {

@@ -1,5 +1,6 @@
 // What a form is like for the person before it: where the keyboard is, what Enter and Esc press,
-// whether all of a text can be seen.  For tests and tools; the course itself never asks.
+// whether all of a text can be seen.  For tests and tools, and for the tour, which points at
+// controls.
 #pragma once
 
 #include <string>

@@ -7,6 +7,7 @@
 #include "session/session.h"
 #include "shell/dispatcher.h"
 #include "shell/progress_marks.h"
+#include "shell/tour_steps.h"
 
 namespace course {
 
@@ -81,7 +82,7 @@ void MainMenu::RunSelectedLesson() {
                      .RefreshProgress = [] { DrawProgressMarks(); },
                      .RunScript = RunScriptOf,
                      .Chapter_Test = Chapter_Test,
-                     .Docs = [] { Docs(); }});
+                     .Docs = [] { Docs(TourHolders()); }});
 }
 
 void MainMenu::mnuRecordsProgress_Click() {

@@ -20,6 +20,9 @@ void FormCamera::AtWait(const std::string&) {
       tabs->SetPage(page);
       Take(form, nextName + "_" + std::to_string(page + 1));
     }
+  // The steps of the tour.
+  if (platform::Control* next = form.Find("cmdNav(2)"))
+    for (int step = 2; next->Click(); ++step) Take(form, nextName + "_" + std::to_string(step));
   // Where something can be selected, the form with a selection, too.
   bool selected = false;
   for (platform::Control* control : platform::inspection::Controls(form))

@@ -36,6 +36,7 @@
 #include "session/catalogue.h"
 #include "session/session.h"
 #include "shell/start_forms.h"
+#include "shell/tour_steps.h"
 
 namespace lesson_lab {
 namespace {
@@ -243,6 +244,7 @@ std::vector<GalleryForm> ModalForms(const std::string& folder) {
       {"dpi_alert_unknown", [] { ShowDpiAlertOf("NOTA"); }},
       {"tech_support", ShowTechSupportForm},
       {"about", ShowAboutForm},
+      {"tour", [] { ShowTour(TourSteps()); }},
       {"docs", [] { ShowDocsMenu(TopicNames(), 0, {}); }},
       {"characters", ShowTutorCharsDisplay},
       {"gallery", [] { ShowGallery({}); }},
