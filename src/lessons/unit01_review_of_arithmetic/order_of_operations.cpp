@@ -300,7 +300,7 @@ void OrderOfOperations::AllRulesTogether() {
 // --- Generator ---------------------------------------------------------------
 
 // The shape stays, so that all are met equally often; its numbers are drawn until they are worth
-// it.
+// it, which is a quarter of the draws at "L-[n+m*(n-n)]" and more at all others.
 void OrderOfOperations::DrawProblem(RandomStream& random) {
   const int kind = random.Rand(1, kKinds);
   const int shape = random.Rand(1, kShapesOfKind);
