@@ -247,7 +247,7 @@ std::vector<GalleryForm> ModalForms(const std::string& folder) {
       {"tour", [] { ShowTour(TourSteps()); }},
       {"docs", [] { ShowDocsMenu(TopicNames(), 0, {}); }},
       {"characters", ShowTutorCharsDisplay},
-      {"gallery", [] { ShowGallery({}); }},
+      {"gallery", [] { ShowGallery(TourHolders()); }},
       {"layout", ShowGeoUtility},
       {"unit_test_review", [] { InUnitTest(kLongUnit, 20, 20, ShowTestProbReviewForm); }},
   };
