@@ -95,7 +95,7 @@ TourForm::TourForm(std::vector<TourStep> steps)
       picTourNavBoxOuter_(picTourBkgd_, "picTourNavBoxOuter"),
       picTourNavBoxInner_(picTourNavBoxOuter_, "picTourNavBoxInner"),
       lblStep_(form, "lblStep"),
-      cmdRestart_(form, "cmdNav(1)", "Restart\nTour"),
+      cmdRestart_(form, "cmdNav(1)", "Restart Tour"),
       cmdNext_(form, "cmdNav(2)", "Next"),
       cmdEnd_(form, "cmdNav(3)", "End Tour") {
   form.SetCaption("Program Tour");
@@ -120,7 +120,6 @@ void TourForm::Place(int width, int height) {
     button->SetFont("MS Sans Serif", 10, true);
     top += kButtonHeight + kButtonGap;
   }
-  cmdRestart_.SetAccessibleName("Restart Tour");
 }
 
 void TourForm::Bind() {
