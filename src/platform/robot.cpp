@@ -70,6 +70,11 @@ void Type(const Form& form, Key key) {
   TypeKey(form, kKeys.at(key), key == Key::Tab ? "\t" : "");
 }
 
+void TypeWithAlt(const Form& form, char letter) {
+  const QKeyEvent event = KeyEventOf(QEvent::KeyPress, letter);
+  TypeKey(form, event.key(), event.text(), Qt::AltModifier);
+}
+
 void Paste(const Form& form, const std::string& text) {
   QGuiApplication::clipboard()->setText(QString::fromStdString(text));
   TypeKey(form, Qt::Key_V, "\x16", Qt::ControlModifier);

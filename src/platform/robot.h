@@ -15,6 +15,8 @@ void DoubleClickAt(const Control& control, int x, int y);
 enum class Key { Up, Down, Left, Right, Tab, BackTab };
 void Type(const Form& form, int code);
 void Type(const Form& form, Key key);
+// The key of a letter, held with Alt.
+void TypeWithAlt(const Form& form, char letter);
 
 // Pastes a text, in UTF-8, where the focus is.
 void Paste(const Form& form, const std::string& text);

@@ -38,7 +38,10 @@ class LineBox final : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override {
     const QString typed = event->text();
     const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const bool plain = (event->modifiers() & commands) == 0 && typed.size() == 1;
+    const auto held = event->modifiers() & commands;
+    const bool plain = held == Qt::NoModifier && typed.size() == 1;
+    // A shortcut that no button has is no letter.
+    if (held == Qt::AltModifier && !typed.isEmpty()) return event->ignore();
     if (plain && (typed[0].unicode() == kBackspace || IsPrintable(typed[0])))
       TakeKey(typed[0].unicode());
     else

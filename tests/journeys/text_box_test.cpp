@@ -36,6 +36,8 @@ TEST_F(TextBoxTest, HoldsSingleBytesWhateverComes) {
   robot::Type(form, robot::Key::Left);
   robot::Type(form, '-');
   EXPECT_EQ(Text(), "Zo-\xE9");
+  robot::TypeWithAlt(form, 'r');  // a shortcut that nobody has
+  EXPECT_EQ(Text(), "Zo-\xE9");
   txtLine.SelectAll();
   robot::Paste(form, "\xC5\x81ukasz\n\xE2\x82\xAC \xC3\xBC\tx");
   EXPECT_EQ(Text(), "ukasz \xFCx");
