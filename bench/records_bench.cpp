@@ -22,7 +22,6 @@
 #include "platform/clock.h"
 #include "platform/user.h"
 #include "records/activity_records.h"
-#include "records/record_report.h"
 #include "records/rosters.h"
 #include "session/session.h"
 #include "support/child_process.h"
@@ -260,14 +259,6 @@ void ReadingTheProgress(benchmark::State& state) {
   for (auto _ : state) course::ReadStudentProgress(99, 98);
 }
 BENCHMARK(ReadingTheProgress)->ArgName("records")->Arg(100000)->Unit(benchmark::kMillisecond);
-
-void ReadingAViewWithNames(benchmark::State& state) {
-  const FullFolder folder(static_cast<int>(state.range(0)));
-  for (auto _ : state)
-    for (const std::string& record : course::ReadActivityRecords())
-      benchmark::DoNotOptimize(course::StudentNameFromNumber(course::StudentOfRecord(record)));
-}
-BENCHMARK(ReadingAViewWithNames)->ArgName("records")->Arg(1000)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_CAPTURE(Saving, own_file, OwnFile())->Apply(Settings);
 BENCHMARK_CAPTURE(Saving, database, Database())->Apply(Settings);
