@@ -140,7 +140,7 @@ void CheckMistakes(const Problem& problem, const std::vector<JudgedChoice>& choi
     if (std::ranges::find(recipe->second, choice.value) != recipe->second.end()) continue;
     std::string values;
     for (const std::string& value : recipe->second)
-      values += (values.empty() ? "" : " or ") + value;
+      values.append(values.empty() ? "" : " or ").append(value);
     complain("who \"" + name + "\" does not come to " + Quoted(choice.text) + " but to " + values);
   }
 }

@@ -49,23 +49,8 @@ std::string TextOfPage() {
 
 }  // namespace
 
-void PageTurner::KeepPage() {
-  pages.push_back({frmPR->form.Grab(), TextOfPage()});
-}
-
-void PageTurner::AtWait(const std::string& place) {
-  KeepPage();
-  if (place == "PageEnd")
-    frmPR->pnlLesson.Click();
-  else if (platform::Form* dialog = platform::Form::ModalForm())
-    dialog->Close();
-  else
-    session.gLeaveLesson = 1;
-}
-
-platform::Answer PageTurner::AtMessage(const platform::Message& message) {
-  KeepPage();
-  return lesson_check::IdleUser::AtMessage(message);
+void PageTurner::ReadRun(course::LessonScript& script, int entry, int seed) {
+  Read(script, entry, seed, [this] { pages.push_back({frmPR->form.Grab(), TextOfPage()}); });
 }
 
 }  // namespace lesson_lab

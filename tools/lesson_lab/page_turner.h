@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "lesson_check/pages/idle_user.h"
+#include "lesson_check/pages/page_reader.h"
 #include "platform/surface.h"
 
 namespace lesson_lab {
@@ -15,15 +15,14 @@ struct Page {
   std::string text;  // UTF-8
 };
 
-class PageTurner final : public lesson_check::IdleUser {
+class PageTurner final : public lesson_check::PageReader {
  public:
+  PageTurner() : PageReader(lesson_check::WindowLook::Shown) {}
+
   std::vector<Page> pages;
 
-  void AtWait(const std::string& place) override;
-  platform::Answer AtMessage(const platform::Message& message) override;
-
- private:
-  void KeepPage();
+  // Keeps the pages of one run.  Throws lesson_check::StoppedRun.
+  void ReadRun(course::LessonScript& script, int entry, int seed);
 };
 
 }  // namespace lesson_lab

@@ -6,7 +6,6 @@
 
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
-#include "lesson_check/pages/entry.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/page_turner.h"
 #include "lessons/docs/docs.h"
@@ -89,11 +88,11 @@ int WritePages(const PagesRequest& request) {
     return 1;
   }
   PageTurner reader;
-  for (const auto& script : scripts) {
-    course::LoadLessonWindow();
-    lesson_check::WantEntry(entry, request.seed);
-    script->Run();
-    course::UnloadLessonWindow();
+  try {
+    for (const auto& script : scripts) reader.ReadRun(*script, entry, request.seed);
+  } catch (const lesson_check::StoppedRun& stopped) {
+    std::fprintf(stderr, "%s#%d: %s\n", request.title.c_str(), request.seed, stopped.what());
+    return 1;
   }
   return WriteAll(reader.pages, request.folder);
 }

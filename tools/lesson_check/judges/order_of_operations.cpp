@@ -20,7 +20,7 @@ struct Habit {
   int times = 2;
   int divided = 2;
   bool fromRight = false;
-  std::string_view forgotten = "";  // brackets that are not seen
+  std::string_view forgotten = {};  // brackets that are not seen
 };
 
 constexpr Habit kHabits[] = {
@@ -55,7 +55,7 @@ class Worker {
 
   // Nothing when the work leads to a division by 0.
   std::optional<Rational> Value() {
-    const std::optional<Rational> value = From(0);
+    std::optional<Rational> value = From(0);
     if (value && at_ != line_.size()) throw Unreadable("\"" + line_ + "\" is not read to its end");
     return value;
   }

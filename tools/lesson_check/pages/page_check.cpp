@@ -73,7 +73,7 @@ bool ShowsNumbers(const std::vector<std::string>& shown, const std::string& line
 std::string LastWords(const std::vector<PageText>& pages) {
   for (std::size_t i = pages.size(); i-- > 0;) {
     const PageText added = i == 0 ? pages[0] : NewOn(pages[i], pages[i - 1]);
-    const std::string words = added.Whole();
+    std::string words = added.Whole();
     if (!words.empty()) return words;
   }
   return "";

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <map>
 
+#include "display/exponents.h"
 #include "engine/answers.h"
 #include "lesson_check/pages/glyph_boxes.h"
 #include "mathkit/tutor_codes.h"
@@ -80,6 +81,7 @@ std::vector<ShownBox> ShownBoxes(LessonWindow& window) {
     add(window.picCommentBox[i], window.commentText[place].get());
     add(window.picGalleryImage[i], nullptr);
     add(window.picNotes[i], nullptr);
+    add(window.picNotes[i], nullptr);
     add(window.picGraph2D[i], nullptr);
     add(window.picAnswer[i], window.answerText[place].get());
   }
@@ -154,6 +156,17 @@ void FindOutsideBox(const ShownBox& box, std::vector<std::string>& faults) {
   }
 }
 
+// A cell of a table holds one text in the middle, in the font that its surface has.
+void FindOutsideCells(LessonWindow& window, std::vector<std::string>& faults) {
+  if (!window.picPrintCellBox.Visible()) return;
+  for (int i = 1; i <= window.picPrintCell.Last(); ++i) {
+    platform::PictureBox& cell = window.picPrintCell[i];
+    const std::string text = course::StripCarets(cell.AccessibleText());
+    if (cell.Visible() && cell.TextWidth(text) > cell.ScaleWidth())
+      faults.push_back("text wider than " + cell.Name() + ": " + Quoted(text));
+  }
+}
+
 // A face with widths of its own is measured, since its letters keep to no cells.
 double PixelsOf(platform::PictureBox& box, const std::string& text) {
   const course::AnswerParameters& p = course::answerParameters;
@@ -213,6 +226,7 @@ std::vector<std::string> LayoutFaults(LessonWindow& window) {
   FindOutsideGrid(window.lessonText, faults);
   FindBoxesOutside(window, boxes, faults);
   FindAnswersOverEachOther(boxes, faults);
+  FindOutsideCells(window, faults);
   for (const ShownBox& box : boxes) {
     FindTextUnder(window.lessonText, box, faults);
     if (box.text == nullptr) continue;

@@ -74,7 +74,7 @@ PageText NewOn(const PageText& page, const PageText& before) {
     const bool goesOn = !added.lesson.empty() && added.lesson.back().row == fragment.row &&
                         fragment.col > added.lesson.back().col;
     std::string text = fragment.text;
-    if (fragment.level > 0) text = "^" + text + "^";
+    if (fragment.level > 0) text.insert(0, "^").append("^");
     if (!goesOn) {
       added.lines.push_back(text);
     } else {
