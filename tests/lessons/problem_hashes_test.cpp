@@ -1,7 +1,8 @@
 // No change alters a problem that a student has had without being noticed: the problems of all
 // seeds of each lesson are kept as one number, in tests/lessons/problem_hashes.txt.
 //
-// COURSE_BLESS=1 renews the numbers, after the reason for the change was understood.
+// COURSE_BLESS_PROBLEMS=1 renews the numbers, after the reason for the change was understood: an
+// option of its own, so that renewing pictures leaves them alone.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -38,7 +39,7 @@ void Keep(const Hashes& hashes) {
 }
 
 bool Blessing() {
-  const char* bless = std::getenv("COURSE_BLESS");
+  const char* bless = std::getenv("COURSE_BLESS_PROBLEMS");
   return bless != nullptr && std::string(bless) == "1";
 }
 
@@ -60,7 +61,7 @@ TEST_P(ProblemHashes, AreThoseThatWereKept) {
   }
   EXPECT_EQ(kept[title], hash) << "The problems of \"" << title
                                << "\" are not those that were kept.  If they have to change: "
-                                  "COURSE_BLESS=1 build/bin/lessons_tests "
+                                  "COURSE_BLESS_PROBLEMS=1 build/bin/lessons_tests "
                                   "--gtest_filter='*ProblemHashes*'";
 }
 
