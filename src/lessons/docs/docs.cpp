@@ -67,6 +67,9 @@ class TopicScript final : public LessonScript {
     Locate(std::max(kCallRow, frmPR->lessonText.cursorRow + 0.0), 1);
     for (const std::string& line : CallLines(sample.call))
       isColorPrint(line, platform::colour::Yellow);
+    UpdateCursorCell();
+    if (frmPR->lessonText.cursorRow > kSampleRow)
+      platform::Stop("Docs: no room for the call " + sample.call);
     Locate(kSampleRow, 1);
     sample.draw();
     PageEnd();

@@ -26,7 +26,7 @@ struct Topic {
 };
 
 // A sample is drawn from this row of the lesson screen on.
-inline constexpr int kSampleRow = 11;
+inline constexpr int kSampleRow = 12;
 
 // What prints and draws on the lesson screen.
 std::vector<Topic> TextTopics();

@@ -1,8 +1,12 @@
 #include "display/grid.h"
+#include "display/images.h"
 #include "display/print.h"
 #include "engine/answers.h"
+#include "engine/choice_pass.h"
+#include "engine/distinct_choices.h"
 #include "engine/header.h"
 #include "engine/navigation.h"
+#include "engine/rules_and_hints.h"
 #include "lessons/docs/docs_topics.h"
 #include "mathkit/draws.h"
 #include "mathkit/expressions.h"
@@ -24,6 +28,12 @@ Problem SampleProblem(int kind) {
 Problem FourChoices() {
   return SampleProblem(choice_kind::FourShuffled);
 }
+Problem TwoEqualChoices() {
+  Problem problem = FourChoices();
+  problem.choices[2].text = problem.choices[1].text;
+  return problem;
+}
+using NumberChoices = DistinctChoices<double, decltype(&NumStr)>;
 Problem FourChoicesAndNone() {
   return SampleProblem(choice_kind::FourShuffledAndNone);
 }
@@ -46,6 +56,33 @@ std::vector<Topic> EngineTopics() {
                     isPrint("Title: " + session.gLessonName)),
         DOCS_SAMPLE(session.gMode = mode::NewProblem; ProblemBanner(10);
                     session.gMode = mode::Lesson)}},
+      {"engine/problem.h",
+       "A drawn problem: the question as lines, the choices, each wrong one with its mistake, and "
+       "the kind.",
+       {DOCS_SAMPLE(Problem problem; problem.Right(1, "7"); problem.Wrong(2, "adds", "9");
+                    isPrint(ChoiceText(problem, 1) + ", not " + ChoiceText(problem, 2))),
+        DOCS_SAMPLE(isPrint(NumStr(ChoiceCountOf(choice_kind::FourShuffledAndNone)) + " boxes"))}},
+      {"engine/choice_pass.h",
+       "The later of two equal choices is drawn anew, until all differ.",
+       {DOCS_SAMPLE(Problem problem = TwoEqualChoices(); ReplaceRepeatedTexts(
+                        problem, [&](int slot) { problem.Wrong(slot, "filler", "x = 8"); });
+                    isPrint(problem.choices[2].text)),
+        DOCS_SAMPLE(Problem problem = TwoEqualChoices();
+                    isPrint(problem.choices[1].text + ", " + problem.choices[2].text))}},
+      {"engine/distinct_choices.h",
+       "Offers values to the slots that are free; one that a choice has already is not taken.",
+       {DOCS_SAMPLE(Problem problem; NumberChoices choices(problem, 4, &NumStr); choices.Right(5);
+                    choices.Offer("adds", 9); isPrint(problem.choices[2].text)),
+        DOCS_SAMPLE(Problem problem; NumberChoices choices(problem, 1, &NumStr); choices.Right(5);
+                    isPrint(choices.Full() ? "full" : "slots are free"))}},
+      {"engine/rules_and_hints.h",
+       "A lesson may offer a card of rules beside its practice problems, which the student shows "
+       "and hides.",
+       {DOCS_SAMPLE(session.gRulesShown = kTrue; session.gMode = mode::NewProblem;
+                    ShowRulesPicture(gallery::OrderOfOperations, 12, 12);
+                    session.gMode = mode::Lesson; session.gRulesShown = kFalse),
+        DOCS_SAMPLE(ShowRulesPicture(gallery::OrderOfOperations);
+                    isPrint("Nothing shows outside practice."))}},
       {"mathkit/draws.h",
        "DrawProblem gets the stream of the problem's seed and draws from it alone.  The same "
        "seed gives the same problem.",

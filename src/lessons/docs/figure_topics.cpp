@@ -19,9 +19,9 @@ std::vector<Topic> FigureTopics() {
       {"display/graphs.h",
        "A plane or a number line in a box of its own.  Points and lines take the units of the "
        "figure.",
-       {DOCS_SAMPLE(picGraph2DPrepare(1, 11, 8, 24, 12); picGraph2DShowPlane(1, "shownumbers");
+       {DOCS_SAMPLE(picGraph2DPrepare(1, 12, 8, 24, 12); picGraph2DShowPlane(1, "shownumbers");
                     picGraph2DPlotPoint(1, 2, 3, colour::Red)),
-        DOCS_SAMPLE(picGraph2DPrepare(1, 11, 8, 24, 12); picGraph2DShowPlane(1, "nonumbers");
+        DOCS_SAMPLE(picGraph2DPrepare(1, 12, 8, 24, 12); picGraph2DShowPlane(1, "nonumbers");
                     picGraph2DLine(1, 2, -1, colour::Blue, 2)),
         DOCS_SAMPLE(picGraph2DPrepare(1, 13, 4, 33, 2.9);
                     picGraph2DShowNumberLine(1, "noarrows", 2))}},
@@ -30,7 +30,7 @@ std::vector<Topic> FigureTopics() {
        {DOCS_SAMPLE(isPrint("this slides down"); Anim(kSampleRow, 1, 16, 1, 2, 4, 20, 1)),
         DOCS_SAMPLE(isPrint("to the right"); Anim(kSampleRow, 1, 12, 1, 4, 20, 20, 1)),
         DOCS_SAMPLE(isPrint("wiped away from below"); isPrint("and gone");
-                    WipeAndErase("U", 25, 14, 30))}},
+                    WipeAndErase("U", 25, 13, 30))}},
       {"display/wiper_box.h",
        "A panel over the screen for an explanation, cleared by a falling curtain.  wbPrepare, "
        "wbShow, then print.",
@@ -61,7 +61,7 @@ std::vector<Topic> FigureTopics() {
       {"display/images.h",
        "Pictures of the gallery, in a box of their own or on the screen itself, where white is "
        "transparent.",
-       {DOCS_SAMPLE(picGalleryImagePrepare(1, gallery::OrderOfOperations, 11, 10, SHOWBORDER);
+       {DOCS_SAMPLE(picGalleryImagePrepare(1, gallery::OrderOfOperations, 12, 10, SHOWBORDER);
                     picGalleryImageShow(1)),
         DOCS_SAMPLE(DisplayTransparentImage(gallery::CheckMark, 13, 10))}},
       {"display/print_cells.h",
