@@ -2,6 +2,8 @@
 // one fault.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/print.h"
@@ -12,6 +14,7 @@
 #include "lesson_check/pages/page_check.h"
 #include "lesson_check/pages/page_layout.h"
 #include "lesson_check/problem_check.h"
+#include "lesson_check/workers.h"
 #include "mathkit/expressions.h"
 #include "platform/stop.h"
 #include "session/session.h"
@@ -271,6 +274,37 @@ TEST_F(LessonCheckTest, AReportSurvivesItsWayThroughAPipe) {
   EXPECT_EQ(read.Text(), report.Text());
   EXPECT_EQ(read.findings.at(0).fault, "a fault: \"x\" and more");
   EXPECT_EQ(read.mistakes.at("a name with blanks").derived, 2);
+}
+
+TEST(WorkersTest, SharesAreAddedUp) {
+  long last = 0;
+  const Report report = ShareOut(
+      3,
+      [](const Share& share, const std::function<void(int)>& tick) {
+        Report part;
+        for (int piece = share.number; piece < 10; piece += share.count) {
+          ++part.problems;
+          tick(piece);
+        }
+        return part;
+      },
+      [&](long done) { last = done; });
+  EXPECT_EQ(report.problems, 10);
+  EXPECT_EQ(last, 10);
+}
+
+TEST(WorkersTest, AProcessThatDiesIsAFaultOfItsPiece) {
+  const Report report = ShareOut(
+      2,
+      [](const Share& share, const std::function<void(int)>& tick) {
+        tick(share.number);
+        if (share.number == 1) std::_Exit(3);
+        return Report{};
+      },
+      [](long) {});
+  ASSERT_EQ(report.faults, 1);
+  EXPECT_EQ(report.findings[0].seed, 3);  // behind 1, of two shares
+  EXPECT_EQ(report.findings[0].fault, "the checking process ended with status 3");
 }
 
 // --- Pages ---------------------------------------------------------------------------------------
