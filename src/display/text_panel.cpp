@@ -210,7 +210,8 @@ std::vector<std::string> TranscriptLines(const TextPanel& panel) {
   std::map<long, std::map<long, Cell>> rows;
   for (const Fragment& fragment : panel.Transcript()) {
     long col = std::lround(fragment.col);
-    for (char c : fragment.text) rows[std::lround(fragment.row * 2)][col++] = {c, fragment.level};
+    auto& cells = rows[std::lround(fragment.row * 2)];
+    for (char c : fragment.text) cells[col++] = {c, fragment.level};
   }
   std::vector<std::string> lines;
   for (const auto& [row, cells] : rows) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <string>
 
 #include "display/lesson_window.h"
 #include "engine/header.h"
@@ -36,8 +38,10 @@ constexpr double kSamePlace = 0.25;  // cells
 double ColumnsOf(const Fragment& fragment) {
   const std::string banner = course::BannerText();
   if (banner.empty() || fragment.text.find(banner) == std::string::npos) return 1;
-  return course::frmPR->picTextWidth.TextWidth(fragment.text) / course::gCellWidth /
-         static_cast<double>(fragment.text.size());
+  static std::map<std::string, double> widths;  // each banner is measured once
+  const auto [width, isNew] = widths.try_emplace(fragment.text);
+  if (isNew) width->second = course::frmPR->picTextWidth.TextWidth(fragment.text);
+  return width->second / course::gCellWidth / static_cast<double>(fragment.text.size());
 }
 
 bool SamePlace(const Glyph& a, const Glyph& b) {
