@@ -22,6 +22,8 @@ namespace course {
 
 class LessonScript {
  public:
+  // The title in proper case, as the window's caption shows it.
+  explicit LessonScript(std::string title);
   virtual ~LessonScript();
   LessonScript(const LessonScript&) = delete;
   LessonScript& operator=(const LessonScript&) = delete;
@@ -42,9 +44,6 @@ class LessonScript {
   DrawnProblem Draw(int seed);
 
  protected:
-  // The title in proper case, as the window's caption shows it.
-  explicit LessonScript(std::string title);
-
   // --- What a lesson adds ------------------------------------------------------------------------
   using Screen = std::function<void()>;
   // The teaching screens, 1 to 10, in their order.  Each begins with NewScreen.

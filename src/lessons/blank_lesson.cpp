@@ -2,14 +2,13 @@
 //
 // A new lesson begins as a copy of this file.  It keeps the order of what follows, the order in
 // which a student meets it, and replaces the words: what the lesson can say in two or three lines,
-// its class, teaching screens, generator, problem page and explanation.
-#include "lessons/blank_lesson.h"
-
+// its class, teaching screens, generator, problem page, explanation and title.
 #include "display/grid.h"
 #include "display/print.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/header.h"
+#include "lessons/registry.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -18,7 +17,7 @@ namespace {
 
 class BlankLesson final : public LessonScript {
  public:
-  BlankLesson() : LessonScript("Blank Lesson") {}
+  using LessonScript::LessonScript;
 
  private:
   // One entry a screen: the numbered buttons follow from it.
@@ -119,10 +118,8 @@ void BlankLesson::ExplainProblem() {
   PageEnd();
 }
 
-}  // namespace
+const LessonRegistration<BlankLesson> kRegistration("Blank Lesson");
 
-std::unique_ptr<LessonScript> MakeBlankLesson() {
-  return std::make_unique<BlankLesson>();
-}
+}  // namespace
 
 }  // namespace course

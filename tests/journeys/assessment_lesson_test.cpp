@@ -1,5 +1,6 @@
 // A lesson test from its tab to its results, and from there to every problem and back.
 #include "journeys/assessment_fixture.h"
+#include "lessons/registry.h"
 #include "records/activity_records.h"
 
 namespace course::testing {
@@ -19,7 +20,7 @@ class LessonTest : public AssessmentJourney {
   void RunInequalities() {
     RunRow(kUnit, kRow, [this](const std::string&) {
       runs.push_back(std::to_string(session.gActivity));
-      MakeSimpleInequalities()->Run();
+      MakeLesson("Simple Inequalities")->Run();
     });
   }
   void ClickTab() { Click("PageEnd", "picNav(4)"); }
@@ -37,7 +38,7 @@ class LessonTest : public AssessmentJourney {
 // The letters of the problems' own boxes, read from the seeds.
 std::string CorrectLetters() {
   std::string letters;
-  const auto lesson = MakeSimpleInequalities();
+  const auto lesson = MakeLesson("Simple Inequalities");
   for (int i = 1; i <= kLessonTestProblems; ++i)
     letters += "ABCDE"[lesson->Draw(session.gTestSeeds[i]).CorrectBox() - 1];
   return letters;

@@ -3,7 +3,7 @@
 
 #include "assessment/unit_test_results.h"
 #include "journeys/assessment_fixture.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "records/activity_records.h"
 
 namespace course::testing {
@@ -274,7 +274,7 @@ TEST_F(UnitTest, RunsTheLessonsOfTheCourse) {
   BeginUnitTest(2);
   PickBoxes("ABCDAB");
   Check(kResults, [] {
-    const auto lesson = MakeSimpleInequalities();
+    const auto lesson = MakeLesson("Simple Inequalities");
     for (int i = 1; i <= 2; ++i) {
       const auto& row = session.gChapterTestData[static_cast<std::size_t>(i)];
       const int box = lesson->Draw(std::stoi(row[unit_test_column::Seed])).CorrectBox();

@@ -3,7 +3,7 @@
 #include <map>
 #include <regex>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "lessons/unit04_solving_word_problems/durations.h"
 #include "lessons/unit04_solving_word_problems/motion.h"
 #include "lessons/unit04_solving_word_problems/word_table.h"

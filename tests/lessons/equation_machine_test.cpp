@@ -6,7 +6,7 @@
 #include "display/lesson_window.h"
 #include "lesson_check/pages/page_reader.h"
 #include "lessons/equation_explanation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
 

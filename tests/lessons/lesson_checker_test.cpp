@@ -9,7 +9,7 @@
 #include "display/print.h"
 #include "engine/answers.h"
 #include "engine/header.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/pages/page_check.h"
 #include "lesson_check/pages/page_layout.h"
@@ -42,7 +42,7 @@ Problem SumOfFractions() {
 
 std::vector<std::string> FaultsOf(const Problem& problem,
                                   std::vector<int> order = {0, 1, 2, 3, 4, 5},
-                                  Judge judge = ReadArithmetic) {
+                                  Judge judge = JudgeOf("Blank Lesson")) {
   std::vector<std::string> faults;
   MistakeCounts mistakes;
   CheckProblem(

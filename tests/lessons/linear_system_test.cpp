@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::testing {

@@ -5,7 +5,7 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
 #include "lessons/unit01_review_of_arithmetic/evaluation.h"
 #include "mathkit/tutor_codes.h"

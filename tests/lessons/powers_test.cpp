@@ -1,7 +1,7 @@
 // Texts of powers, and the problems of "Multiplying with Exponents" that need special care.
 #include <gtest/gtest.h>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "lessons/unit05_exponents/power_text.h"
 #include "mathkit/tutor_codes.h"
 

@@ -1,7 +1,7 @@
 // Quadratic equations and their roots as text, and the problems of "The Quadratic Formula".
 #include <set>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "lessons/unit12_quadratic_equations/quadratic.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"

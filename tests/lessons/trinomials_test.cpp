@@ -1,7 +1,7 @@
 // Trinomials and their factors, and the choices of "Trinomials of the Form x^2+bx+c".
 #include <gtest/gtest.h>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "lessons/unit07_factoring/trinomial.h"
 #include "mathkit/tutor_codes.h"
 

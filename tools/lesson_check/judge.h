@@ -1,12 +1,14 @@
 // A judge reads a question as a student does, works it out by itself, and says of any text whether
 // it answers the question.  It knows nothing of the generator that drew the problem.
 //
-// A lesson without a judge is a fault: its row in judge_table.cpp is part of the lesson.
+// A lesson without a judge is a fault.  Each judge's file ends with the line that enters it here.
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/problem.h"
@@ -30,6 +32,11 @@ struct Reading {
 using Judge = Reading (*)(const course::Problem& problem);
 
 // The judge of a lesson by its title in any case; nullptr for a title without one.
-Judge JudgeOf(const std::string& title);
+Judge JudgeOf(std::string_view title);
+
+// const JudgeRegistration kRegistration(ReadIntervalFigure, {"Simple Inequalities", ...});
+struct JudgeRegistration {
+  JudgeRegistration(Judge judge, std::initializer_list<std::string_view> titles);
+};
 
 }  // namespace lesson_check

@@ -122,15 +122,17 @@ void CheckAcceptance(Report& report) {
                             " random numbers: fewer than 0.1 % of the tries may be accepted");
 }
 
-std::uint64_t HashOfProblems(course::LessonScript& lesson) {
+std::array<std::uint64_t, kSeedBlocks> HashesOfProblems(course::LessonScript& lesson) {
   constexpr std::uint64_t kOffset = 0xcbf29ce484222325;  // FNV-1a
   constexpr std::uint64_t kPrime = 0x100000001b3;
+  std::array<std::uint64_t, kSeedBlocks> hashes{};
   std::uint64_t hash = kOffset;
   for (int seed = 0; seed < kSeeds; ++seed) {
     for (const char c : FingerprintText(lesson.Draw(seed)) + "\f")
       hash = (hash ^ static_cast<unsigned char>(c)) * kPrime;
+    hashes.at(static_cast<std::size_t>(seed / kBlockSeeds)) = hash;
   }
-  return hash;
+  return hashes;
 }
 
 }  // namespace lesson_check

@@ -2,6 +2,8 @@
 // shown and explained.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -37,7 +39,10 @@ Report CheckTeaching(const MakeScript& make);
 // What only many problems together tell: too few draws accepted.
 void CheckAcceptance(Report& report);
 
-// One number for the problems of all seeds.
-std::uint64_t HashOfProblems(course::LessonScript& lesson);
+// Numbers for the problems of all seeds, cut into blocks: each stands for all problems up to the
+// end of its block, so that the first one that changes tells where the problems do.
+inline constexpr int kSeedBlocks = 8;
+inline constexpr int kBlockSeeds = (kSeeds + kSeedBlocks - 1) / kSeedBlocks;
+std::array<std::uint64_t, kSeedBlocks> HashesOfProblems(course::LessonScript& lesson);
 
 }  // namespace lesson_check

@@ -10,7 +10,7 @@
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/workers.h"
 #include "lesson_lab/commands.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/program.h"
 
@@ -124,7 +124,6 @@ std::vector<std::string> TitlesOf(const std::string& title) {
     return titles;
   }
   for (const std::string_view each : course::LessonTitles()) titles.emplace_back(each);
-  titles.emplace_back("Blank Lesson");
   return titles;
 }
 

@@ -24,7 +24,7 @@ struct PagesRequest {
 int WritePages(const PagesRequest& request);
 
 // Draws the problems of the seeds, shows them and explains them, and tells every fault as
-// "Title#seed: fault".  All lessons and the blank one without a title.  1 when there was a fault.
+// "Title#seed: fault".  All lessons without a title.  1 when there was a fault.
 // To be called before the toolkit is up.
 struct CheckRequest {
   std::string title;
@@ -37,7 +37,7 @@ int Check(const CheckRequest& request);
 // Every form of the course in a folder, as NAME.png.
 int WriteForms(const std::string& folder);
 
-// The script of a title, the blank lesson included; nullptr, and a message, when there is none.
+// The script of a title; nullptr, and a message, when there is none.
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title);
 
 }  // namespace lesson_lab

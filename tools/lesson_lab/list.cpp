@@ -1,8 +1,7 @@
 #include <cstdio>
 
 #include "lesson_lab/commands.h"
-#include "lessons/blank_lesson.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
@@ -33,7 +32,6 @@ std::string AsListed(const std::string& title) {
 
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
   auto lesson = course::MakeLesson(AsListed(title));
-  if (!lesson && course::UpperCase(title) == "BLANK LESSON") lesson = course::MakeBlankLesson();
   if (!lesson) std::fprintf(stderr, "No lesson has the title \"%s\".\n", title.c_str());
   return lesson;
 }

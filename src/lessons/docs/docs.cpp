@@ -8,10 +8,11 @@
 #include "display/word_wrap.h"
 #include "engine/lesson_script.h"
 #include "engine/navigation.h"
-#include "lessons/blank_lesson.h"
 #include "lessons/docs/docs_form.h"
 #include "lessons/docs/docs_topics.h"
+#include "lessons/registry.h"
 #include "platform/stop.h"
+#include "session/catalogue.h"
 #include "session/session.h"
 
 namespace course {
@@ -129,7 +130,7 @@ void Docs(const std::vector<PictureHolder>& holders) {
     return;
   }
   if (docsRun.choice == DocsChoice::Practice)
-    MakeBlankLesson()->Run();
+    MakeLesson(kBlankLesson)->Run();
   else
     ShowTopic();
   if (session.gRunAgain != 1) docsRun = {};

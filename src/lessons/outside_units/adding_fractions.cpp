@@ -9,7 +9,7 @@
 #include "display/word_wrap.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/outside_units/fraction_steps.h"
 #include "lessons/page_lines.h"
 #include "mathkit/expressions.h"
@@ -26,7 +26,7 @@ constexpr int kLargestCommonDenominator = 180;
 
 class AddingFractions final : public LessonScript {
  public:
-  AddingFractions() : LessonScript("Adding Fractions") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -330,10 +330,8 @@ double AddingFractions::ExplainReduction(double row) {
   return row + 6;
 }
 
-}  // namespace
+const LessonRegistration<AddingFractions> kRegistration("Adding Fractions");
 
-std::unique_ptr<LessonScript> MakeAddingFractions() {
-  return std::make_unique<AddingFractions>();
-}
+}  // namespace
 
 }  // namespace course

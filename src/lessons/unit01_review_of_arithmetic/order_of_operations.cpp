@@ -19,7 +19,7 @@
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "engine/rules_and_hints.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
 #include "lessons/unit01_review_of_arithmetic/evaluation.h"
@@ -75,7 +75,7 @@ constexpr double kWipeSpeed = 10;
 
 class OrderOfOperations final : public LessonScript {
  public:
-  OrderOfOperations() : LessonScript("Order of Operations") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -429,10 +429,8 @@ void OrderOfOperations::ExplainProblem() {
   WordWrap(R"(The value of the expression is \y)" + problem.choices[1].text + R"(\z.)");
 }
 
-}  // namespace
+const LessonRegistration<OrderOfOperations> kRegistration("Order of Operations");
 
-std::unique_ptr<LessonScript> MakeOrderOfOperations() {
-  return std::make_unique<OrderOfOperations>();
-}
+}  // namespace
 
 }  // namespace course

@@ -11,7 +11,7 @@
 #include "engine/lesson_script.h"
 #include "lessons/equation_explanation.h"
 #include "lessons/equation_machine.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "mathkit/tutor_codes.h"
 
@@ -20,7 +20,7 @@ namespace {
 
 class TwoOperations final : public LessonScript {
  public:
-  TwoOperations() : LessonScript("Solving Linear Equations with 2 Operations") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -221,10 +221,9 @@ void TwoOperations::ExplainProblem() {
   ExplainLinear(equation_, problem, [this] { PageEnd(); });
 }
 
-}  // namespace
+// The window's caption writes "with" small, the menu's list "With".
+const LessonRegistration<TwoOperations> kRegistration("Solving Linear Equations with 2 Operations");
 
-std::unique_ptr<LessonScript> MakeTwoOperations() {
-  return std::make_unique<TwoOperations>();
-}
+}  // namespace
 
 }  // namespace course

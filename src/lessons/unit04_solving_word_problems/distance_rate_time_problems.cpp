@@ -13,7 +13,7 @@
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "lessons/unit04_solving_word_problems/durations.h"
 #include "lessons/unit04_solving_word_problems/motion.h"
@@ -39,7 +39,7 @@ constexpr double kStepsRows = 9;
 
 class DistanceRateTimeProblems final : public LessonScript {
  public:
-  DistanceRateTimeProblems() : LessonScript("Distance-Rate-Time Problems") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -402,10 +402,8 @@ void DistanceRateTimeProblems::TellAnswer() {
   wbWordWrap("We have found what we were looking for.");
 }
 
-}  // namespace
+const LessonRegistration<DistanceRateTimeProblems> kRegistration("Distance-Rate-Time Problems");
 
-std::unique_ptr<LessonScript> MakeDistanceRateTimeProblems() {
-  return std::make_unique<DistanceRateTimeProblems>();
-}
+}  // namespace
 
 }  // namespace course

@@ -16,7 +16,7 @@
 #include "engine/choice_pass.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "lessons/paper_box.h"
 #include "lessons/unit05_exponents/power_display.h"
@@ -62,7 +62,7 @@ enum class Form {
 
 class MultiplyingWithExponents final : public LessonScript {
  public:
-  MultiplyingWithExponents() : LessonScript("Multiplying with Exponents") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -407,10 +407,8 @@ void MultiplyingWithExponents::WriteResult() {
   PageEnd();
 }
 
-}  // namespace
+const LessonRegistration<MultiplyingWithExponents> kRegistration("Multiplying with Exponents");
 
-std::unique_ptr<LessonScript> MakeMultiplyingWithExponents() {
-  return std::make_unique<MultiplyingWithExponents>();
-}
+}  // namespace
 
 }  // namespace course

@@ -13,7 +13,7 @@
 #include "engine/choice_pass.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "lessons/paper_box.h"
 #include "lessons/unit07_factoring/factor_moves.h"
@@ -55,7 +55,7 @@ std::string PairLine(const NumberPair& pair) {
 
 class TrinomialsX2BxC final : public LessonScript {
  public:
-  TrinomialsX2BxC() : LessonScript("Trinomials of the Form x" + tutor::SquaredSign + "+bx+c") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -351,10 +351,8 @@ void TrinomialsX2BxC::Check() {
   PageEnd();
 }
 
-}  // namespace
+const LessonRegistration<TrinomialsX2BxC> kRegistration("Trinomials of the Form x\xB2+bx+c");
 
-std::unique_ptr<LessonScript> MakeTrinomialsX2BxC() {
-  return std::make_unique<TrinomialsX2BxC>();
-}
+}  // namespace
 
 }  // namespace course

@@ -13,7 +13,7 @@
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/plane_figure.h"
 #include "lessons/unit09_systems/graphing_board.h"
 #include "lessons/unit09_systems/linear_system.h"
@@ -31,7 +31,7 @@ constexpr LinearSystem kStepsExample = {{2, 1, 4}, {1, -1, -1}, 1, 2};
 
 class SystemsByGraphing final : public LessonScript {
  public:
-  SystemsByGraphing() : LessonScript("Solving Systems by Graphing") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -453,10 +453,8 @@ void SystemsByGraphing::ExplainProblem() {
     ExplainNoSinglePoint();
 }
 
-}  // namespace
+const LessonRegistration<SystemsByGraphing> kRegistration("Solving Systems by Graphing");
 
-std::unique_ptr<LessonScript> MakeSystemsByGraphing() {
-  return std::make_unique<SystemsByGraphing>();
-}
+}  // namespace
 
 }  // namespace course

@@ -11,7 +11,7 @@
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/unit10_inequalities/interval_figure.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -28,7 +28,7 @@ constexpr double kGraphCol = 3;
 
 class ComplexInequalities final : public LessonScript {
  public:
-  ComplexInequalities() : LessonScript("Complex Inequalities") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -410,10 +410,8 @@ void ComplexInequalities::ExplainProblem() {
   PageEnd();
 }
 
-}  // namespace
+const LessonRegistration<ComplexInequalities> kRegistration("Complex Inequalities");
 
-std::unique_ptr<LessonScript> MakeComplexInequalities() {
-  return std::make_unique<ComplexInequalities>();
-}
+}  // namespace
 
 }  // namespace course

@@ -5,7 +5,7 @@
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/lesson_script.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/unit10_inequalities/interval_figure.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -18,7 +18,7 @@ const std::string kRelations[] = {"", tutor::LessOrEqual, tutor::GreaterOrEqual,
 
 class SimpleInequalities final : public LessonScript {
  public:
-  SimpleInequalities() : LessonScript("Simple Inequalities") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -194,10 +194,8 @@ void SimpleInequalities::WriteAnswer() {
   isPrint("x " + kRelations[problem.correct] + " " + Number());
 }
 
-}  // namespace
+const LessonRegistration<SimpleInequalities> kRegistration("Simple Inequalities");
 
-std::unique_ptr<LessonScript> MakeSimpleInequalities() {
-  return std::make_unique<SimpleInequalities>();
-}
+}  // namespace
 
 }  // namespace course

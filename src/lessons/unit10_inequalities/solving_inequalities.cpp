@@ -18,7 +18,7 @@
 #include "engine/lesson_script.h"
 #include "lessons/equation_explanation.h"
 #include "lessons/equation_machine.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -31,7 +31,7 @@ constexpr int kWholeTries = 6;  // draws with a fractional answer that are throw
 
 class SolvingInequalities final : public LessonScript {
  public:
-  SolvingInequalities() : LessonScript("Solving Inequalities") {}
+  using LessonScript::LessonScript;
 
  private:
   std::vector<Screen> Screens() override {
@@ -336,10 +336,8 @@ void SolvingInequalities::ExplainProblem() {
   ExplainLinear(inequality_, problem, [this] { PageEnd(); });
 }
 
-}  // namespace
+const LessonRegistration<SolvingInequalities> kRegistration("Solving Inequalities");
 
-std::unique_ptr<LessonScript> MakeSolvingInequalities() {
-  return std::make_unique<SolvingInequalities>();
-}
+}  // namespace
 
 }  // namespace course

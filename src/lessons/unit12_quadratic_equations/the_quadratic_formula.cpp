@@ -16,7 +16,7 @@
 #include "engine/answers.h"
 #include "engine/distinct_choices.h"
 #include "engine/header.h"
-#include "lessons/lessons.h"
+#include "lessons/registry.h"
 #include "lessons/page_lines.h"
 #include "lessons/unit12_quadratic_equations/formula_steps.h"
 #include "mathkit/expressions.h"
@@ -48,7 +48,7 @@ constexpr DiscriminantRow kDiscriminants[] = {
 
 class TheQuadraticFormula final : public FormulaSteps {
  public:
-  TheQuadraticFormula() : FormulaSteps("The Quadratic Formula") {}
+  using FormulaSteps::FormulaSteps;
 
  private:
   std::vector<Screen> Screens() override {
@@ -261,10 +261,8 @@ void TheQuadraticFormula::ExplainProblem() {
   SolveByFormula();
 }
 
-}  // namespace
+const LessonRegistration<TheQuadraticFormula> kRegistration("The Quadratic Formula");
 
-std::unique_ptr<LessonScript> MakeTheQuadraticFormula() {
-  return std::make_unique<TheQuadraticFormula>();
-}
+}  // namespace
 
 }  // namespace course

@@ -2,7 +2,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/judges/number_form.h"
 
 namespace lesson_check {
@@ -62,8 +62,7 @@ std::vector<WrongNumber> WrongNumbers(const LinearStatement& s) {
   return numbers;
 }
 
-}  // namespace
-
+// The number, or the numbers, for which a linear statement in one letter holds.
 Reading ReadLinearEquation(const course::Problem& problem) {
   const LinearStatement statement = ReadStatement(StatementLine(problem));
   const char letter = statement.letter;
@@ -108,4 +107,9 @@ Reading ReadLinearInequality(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kEquations(ReadLinearEquation,
+                                   {"Solving Linear Equations With 2 Operations"});
+const JudgeRegistration kInequalities(ReadLinearInequality, {"Solving Inequalities"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -6,7 +6,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -119,8 +119,7 @@ std::string FlawOfRoots(const std::string& choice) {
   return first.empty() ? FlawOfRoot(text.substr(at + 4)) : first;
 }
 
-}  // namespace
-
+// The real roots of a quadratic equation.
 Reading ReadQuadraticEquation(const course::Problem& problem) {
   const Quadratic equation = ReadEquation(problem);
   Reading reading;
@@ -131,4 +130,7 @@ Reading ReadQuadraticEquation(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadQuadraticEquation, {"The Quadratic Formula"});
+
+}  // namespace
 }  // namespace lesson_check
