@@ -8,6 +8,7 @@
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/header.h"
+#include "engine/page.h"
 #include "lessons/registry.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -15,35 +16,11 @@
 namespace course {
 namespace {
 
-class BlankLesson final : public LessonScript {
- public:
-  using LessonScript::LessonScript;
-
- private:
-  // One entry a screen: the numbered buttons follow from it.
-  std::vector<Screen> Screens() override {
-    return {[this] { MeaningOfParentheses(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void MeaningOfParentheses();
-
-  std::string Expression() const;
-  int Sum() const { return first_ + second_; }
-
-  // The numbers of one problem.  A run draws them anew, so nothing is kept here for the next run.
-  int factor_ = 0;  // 2 to 9, in front of the parentheses
-  int first_ = 0;   // 2 to 9, inside them
-  int second_ = 0;
-};
-
 // --- Teaching screens --------------------------------------------------------
 
 // A page adds a sentence, an example or a step; the question at its end wants to be answered before
 // CONTINUE is pressed.
-void BlankLesson::MeaningOfParentheses() {
+void MeaningOfParentheses() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(\cParentheses\z show which part of an expression is worked out first.)");
@@ -63,6 +40,28 @@ void BlankLesson::MeaningOfParentheses() {
   WordWrap("The sum is 3, and 5 times 3 is 15.");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class BlankLesson final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  // One entry a screen: the numbered buttons follow from it.
+  std::vector<Screen> Screens() override { return {{MeaningOfParentheses}}; }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  std::string Expression() const;
+  int Sum() const { return first_ + second_; }
+
+  // The numbers of one problem.  A run draws them anew, so nothing is kept here for the next run.
+  int factor_ = 0;  // 2 to 9, in front of the parentheses
+  int first_ = 0;   // 2 to 9, inside them
+  int second_ = 0;
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -93,7 +92,6 @@ void BlankLesson::DrawProblem(RandomStream& random) {
 void BlankLesson::ShowProblem() {
   Locate(6, 1);
   for (const std::string& line : problem.question) isPrint(line);
-  answerRow = 11;
   picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
 }
 
@@ -121,5 +119,4 @@ void BlankLesson::ExplainProblem() {
 const LessonRegistration<BlankLesson> kRegistration("Blank Lesson");
 
 }  // namespace
-
 }  // namespace course

@@ -10,6 +10,7 @@
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/header.h"
+#include "engine/page.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -78,11 +79,9 @@ std::vector<SidePair> SubstitutedLines(const LinearStatement& statement, int val
 
 class LinearExplanation {
  public:
-  LinearExplanation(const LinearStatement& statement, const Problem& problem,
-                    const std::function<void()>& pageEnd)
+  LinearExplanation(const LinearStatement& statement, const Problem& problem)
       : statement_(statement),
         problem_(problem),
-        pageEnd_(pageEnd),
         isolated_(IsolatedOf(statement)),
         solution_(SolutionOf(statement)),
         letter_(statement.letter),
@@ -111,7 +110,7 @@ class LinearExplanation {
     OpenWordBox();
     SayAnew("We want " + letter_ + " to stand alone on the left-hand side.");
     SayMore(OpeningWords());
-    pageEnd_();
+    PageEnd();
   }
 
   std::string OpeningWords() const {
@@ -141,14 +140,14 @@ class LinearExplanation {
                 : "By the Addition and Subtraction Properties for Inequalities, the " +
                       statement_.relation + " stays as it is.");
     sheet_.AddUnder(AddendRow(term, letter_));
-    pageEnd_();
+    PageEnd();
     sheet_.WriteSum(RowOf(addition.after), statement_.relation);
     SayAnew(removed + " and " + added + " add up to 0, so only " +
             SideText(number ? addition.after.left : addition.after.right, letter_) +
             " is left on the " + (number ? "left" : "right") + "-hand side.");
     SayMore(std::string("On the ") + (number ? "right" : "left") + "-hand side:");
     wbisPrint("   " + (number ? SumOfNumbers(addition) : SumOfTerms(addition)));
-    pageEnd_();
+    PageEnd();
   }
 
   static std::string SumOfNumbers(const Addition& addition) {
@@ -179,10 +178,10 @@ class LinearExplanation {
     } else {
       SayMore("But what becomes of the " + statement_.relation + "?");
       sheet_.WriteQuotients(quotients, " ");
-      pageEnd_();
+      PageEnd();
       TurnRelation();
     }
-    pageEnd_();
+    PageEnd();
   }
 
   void TurnRelation() {
@@ -227,7 +226,7 @@ class LinearExplanation {
     }
     sheet_.MarkSolution();
     SayMore("We are done now since we have isolated the variable " + letter_ + ".");
-    pageEnd_();
+    PageEnd();
   }
 
   void FinishWhole() {
@@ -249,7 +248,7 @@ class LinearExplanation {
                 " is " + reduced + ".");
     if (!Mixed()) return;
     if (Reduces()) {
-      pageEnd_();
+      PageEnd();
       SayAnew("");
     }
     WriteValue(MixedText(value));
@@ -267,7 +266,7 @@ class LinearExplanation {
     SaySubstituted(statement_, value);
     SayMore(R"(Both sides are the same number, so the solution is \b)" + SolutionText(statement_) +
             R"(\z.)");
-    pageEnd_();
+    PageEnd();
   }
 
   // With the whole numbers next to the value on either side of it.
@@ -279,10 +278,10 @@ class LinearExplanation {
     SayAnew("Check:  " + NumStr(inside) + " is one of the numbers with " +
             SolutionText(statement_) + ".");
     SaySubstituted(statement_, inside, R"(   \btrue\z)");
-    pageEnd_();
+    PageEnd();
     SayAnew(NumStr(outside) + " is not one of them.");
     SaySubstituted(statement_, outside, R"(   \rfalse\z)");
-    pageEnd_();
+    PageEnd();
   }
 
   // An equation's check has named the solution already.
@@ -295,7 +294,7 @@ class LinearExplanation {
     if (none)
       SayMore(answer + R"( is not among the choices, so the right one is \b)" + kNoneOfTheAbove +
               R"(\z.)");
-    pageEnd_();
+    PageEnd();
   }
 
   std::string Meaning() const {
@@ -312,7 +311,6 @@ class LinearExplanation {
 
   const LinearStatement& statement_;
   const Problem& problem_;
-  const std::function<void()>& pageEnd_;
   LinearStatement isolated_;  // coefficient times letter, relation, number
   Solution solution_;
   const std::string& letter_;
@@ -378,9 +376,8 @@ void SaySubstituted(const LinearStatement& statement, int value, const std::stri
   }
 }
 
-void ExplainLinear(const LinearStatement& statement, const Problem& problem,
-                   const std::function<void()>& pageEnd) {
-  LinearExplanation(statement, problem, pageEnd).Run();
+void ExplainLinear(const LinearStatement& statement, const Problem& problem) {
+  LinearExplanation(statement, problem).Run();
 }
 
 }  // namespace course

@@ -5,7 +5,6 @@
 // coefficient, checks, and ends at the right choice.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,9 +34,8 @@ void SayBullet(const std::string& text);
 // stands behind the last one.
 void SaySubstituted(const LinearStatement& statement, int value, const std::string& verdict = "");
 
-// Explains from the banner to the right choice, page by page; pageEnd is the lesson's.  The
-// solution of an equation has to be whole.
-void ExplainLinear(const LinearStatement& statement, const Problem& problem,
-                   const std::function<void()>& pageEnd);
+// Explains from the banner to the right choice, page by page.  The solution of an equation has to
+// be whole.
+void ExplainLinear(const LinearStatement& statement, const Problem& problem);
 
 }  // namespace course

@@ -9,6 +9,7 @@
 #include "display/print.h"
 #include "engine/answers.h"
 #include "engine/header.h"
+#include "engine/page.h"
 #include "lesson_check/judge.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/pages/page_check.h"
@@ -146,12 +147,12 @@ class FaultyLesson final : public course::LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {[this] {
-      NewScreen();
+    return {{[] {
+      course::NewScreen();
       course::Locate(24, 1);
       course::isPrint("below the grid");
-      PageEnd();
-    }};
+      course::PageEnd();
+    }}};
   }
   void DrawProblem(course::RandomStream& random) override {
     if (faults_.stops) platform::Stop("FaultyLesson: stopped");
@@ -165,7 +166,6 @@ class FaultyLesson final : public course::LessonScript {
   void ShowProblem() override {
     course::Locate(6, 1);
     course::isPrint(faults_.hidesQuestion ? "What is it?" : problem.question[0]);
-    answerRow = 11;
     course::picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
   }
   void ExplainProblem() override {
@@ -173,7 +173,7 @@ class FaultyLesson final : public course::LessonScript {
     course::Locate(5, 1);
     const int second = faults_.explainsAnother ? 100 : second_;
     course::isPrint("2 + " + course::NumStr(second) + " is");
-    PageEnd();
+    course::PageEnd();
     course::isPrint(faults_.endsElsewhere ? "1" + problem.choices[1].text
                                           : problem.choices[1].text);
   }

@@ -8,6 +8,7 @@
 #include "display/word_wrap.h"
 #include "engine/lesson_script.h"
 #include "engine/navigation.h"
+#include "engine/page.h"
 #include "lessons/docs/docs_form.h"
 #include "lessons/docs/docs_topics.h"
 #include "lessons/registry.h"
@@ -55,7 +56,7 @@ class TopicScript final : public LessonScript {
   std::vector<Screen> Screens() override {
     std::vector<Screen> screens;
     for (const Sample& sample : topic_.samples)
-      screens.push_back([this, &sample] { ShowSample(sample); });
+      screens.push_back({[this, &sample] { ShowSample(sample); }});
     return screens;
   }
   void ShowSample(const Sample& sample) {

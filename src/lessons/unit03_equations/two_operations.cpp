@@ -8,35 +8,15 @@
 #include "display/stacked_text.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
-#include "engine/lesson_script.h"
+#include "engine/page.h"
 #include "lessons/equation_explanation.h"
 #include "lessons/equation_machine.h"
-#include "lessons/registry.h"
 #include "lessons/page_lines.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course {
 namespace {
-
-class TwoOperations final : public LessonScript {
- public:
-  using LessonScript::LessonScript;
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { ReverseOrder(); }, [this] { RowUnderRow(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void ReverseOrder();
-  void RowUnderRow();
-  void DividingFirst();
-  void TryIt();
-
-  LinearStatement equation_;  // a x + b = c
-};
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -71,7 +51,7 @@ void DrawWay(double row, int from, int to, const std::string& operation) {
                       there ? "NA" : "A", there ? "A" : "NA");
 }
 
-void TwoOperations::ReverseOrder() {
+void ReverseOrder() {
   NewScreen();
   WrapAt(3, R"(These equations need \yone\z operation:)");
   isPrint("   x + 4 = 19     3x = 15");
@@ -101,7 +81,7 @@ void TwoOperations::ReverseOrder() {
   PageEnd();
 }
 
-void TwoOperations::RowUnderRow() {
+void RowUnderRow() {
   const LinearStatement equation = {"x", {3, 4}, "=", {0, 19}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
@@ -137,11 +117,9 @@ void TwoOperations::RowUnderRow() {
   SaySubstituted(equation, 5);
   SayMore("Both sides are the same number.");
   PageEnd();
-  DividingFirst();
-  TryIt();
 }
 
-void TwoOperations::DividingFirst() {
+void DividingFirst() {
   NewScreen();
   WrapAt(3, "Could we divide  " + OnOneLine("3x + 4 = 19") + "  by 3 before we remove the 4?");
   PageEnd();
@@ -158,7 +136,7 @@ void TwoOperations::DividingFirst() {
   PageEnd();
 }
 
-void TwoOperations::TryIt() {
+void TryIt() {
   const LinearStatement equation = {"x", {-2, -5}, "=", {0, 7}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
@@ -179,6 +157,23 @@ void TwoOperations::TryIt() {
   WrapAt(22, "Check:  " + OnOneLine("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class TwoOperations final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{ReverseOrder}, {RowUnderRow, DividingFirst, TryIt}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  LinearStatement equation_;  // a x + b = c
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -210,7 +205,6 @@ void TwoOperations::DrawProblem(RandomStream& random) {
 void TwoOperations::ShowProblem() {
   WrapAt(6, problem.question[0]);
   EquationSheet(9, 9, {RowOf(equation_)}).Write(RowOf(equation_), equation_.relation);
-  answerRow = 16.5;
   picAnswerSetParameters(4, 16.5, 1, 14, 27, 12.5, 50, 27);
   answerParameters.lastBoxFontSize = 13;  // three boxes a row are narrow
 }
@@ -218,12 +212,11 @@ void TwoOperations::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void TwoOperations::ExplainProblem() {
-  ExplainLinear(equation_, problem, [this] { PageEnd(); });
+  ExplainLinear(equation_, problem);
 }
 
 // The window's caption writes "with" small, the menu's list "With".
 const LessonRegistration<TwoOperations> kRegistration("Solving Linear Equations with 2 Operations");
 
 }  // namespace
-
 }  // namespace course

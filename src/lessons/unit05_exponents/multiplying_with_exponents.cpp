@@ -15,10 +15,10 @@
 #include "engine/answers.h"
 #include "engine/choice_pass.h"
 #include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/registry.h"
+#include "engine/page.h"
 #include "lessons/page_lines.h"
 #include "lessons/paper_box.h"
+#include "lessons/registry.h"
 #include "lessons/unit05_exponents/power_display.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -60,60 +60,15 @@ enum class Form {
   BareLetter,     // 3b^2 a^5 b: the second b has no exponent
 };
 
-class MultiplyingWithExponents final : public LessonScript {
- public:
-  using LessonScript::LessonScript;
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { MeaningOfAPower(); }, [this] { CountingFactors(); }, [this] { TheRule(); },
-            [this] { OtherFactors(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void MeaningOfAPower();
-  void CountingFactors();
-  void CompareBasesAndExponents();
-  void TheRule();
-  void OtherFactors();
-  void BringLetterForward(double row);
-  void ShowNote(int index, double row, double col, const std::string& text);
-
-  // The two powers of the base, and the exponent of the other letter, 0 without one.
-  Power First() const { return {base_, firstExponent_}; }
-  Power Second() const { return {base_, form_ == Form::BareLetter ? 1 : secondExponent_}; }
-  int OtherExponent() const;
-  int Sum() const { return First().exponent + Second().exponent; }
-  std::string Expression() const;
-  std::string Product(int number, int exponent, int otherExponent) const;
-  std::string WithExponent(int exponent) const;
-  void WrongOnes();
-  void WrongOnesOfBareLetter();
-  void Filler(RandomStream& random, int slot);
-
-  std::string Front() const;
-  std::string SumText() const;
-
-  void ShowExpression(double row);
-  void ShowRule();
-  void BringTogether();
-  void WriteOutFactors();
-  void AddExponents();
-  void WriteResult();
-
-  Form form_ = Form::OneBase;
-  int number_ = 1;          // 1 to 9; 1 is not printed
-  std::string base_;        // the letter that stands twice
-  std::string other_;       // another letter, in two of the forms
-  int firstExponent_ = 2;   // 2 to 9
-  int secondExponent_ = 2;  // 2 to 9; the other letter's when the second b has none
-};
-
 // --- Teaching screens --------------------------------------------------------
 
-void MultiplyingWithExponents::MeaningOfAPower() {
+void ShowNote(int index, double row, double col, const std::string& text) {
+  lblNotesPrepare(index, row, col, text, platform::colour::Yellow, platform::colour::Black, true,
+                  false, 12);
+  lblNotesShow(index);
+}
+
+void MeaningOfAPower() {
   NewScreen();
   WrapAt(3, R"(A \cpower\z is a short way to write a product of equal factors:)");
   Locate(8, 13);
@@ -135,7 +90,7 @@ void MultiplyingWithExponents::MeaningOfAPower() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::CountingFactors() {
+void CountingFactors() {
   NewScreen();
   WrapAt(3, "What is b^3^ times b^4^?  Let's write both powers out:");
   UnfoldPowers({"b", 3}, {"b", 4}, 5.5);
@@ -144,11 +99,10 @@ void MultiplyingWithExponents::CountingFactors() {
   isPrintLines(0.4);
   WordWrap("   b^3^" + tutor::Dot + "b^4^ = b^7^");
   PageEnd();
-  CompareBasesAndExponents();
 }
 
 // The table says in numbers what the factors have shown.
-void MultiplyingWithExponents::CompareBasesAndExponents() {
+void CompareBasesAndExponents() {
   enum { kFirstBase = 1, kSecondBase, kProductBase, kFirstExponent, kSecondExponent, kSum };
   using platform::colour::Black;
   using platform::colour::Red;
@@ -166,7 +120,7 @@ void MultiplyingWithExponents::CompareBasesAndExponents() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::TheRule() {
+void TheRule() {
   NewScreen();
   ShowRuleBox(kRuleBox, 3, kRuleWidth, kRuleHeading, {kRule});
   WrapAt(6.5, "To multiply powers of the same base, we keep the base and add the exponents.");
@@ -190,7 +144,22 @@ void MultiplyingWithExponents::TheRule() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::OtherFactors() {
+// The a of 4b^2 a b^3 moves to its place in the row below.
+void BringLetterForward(double row) {
+  constexpr double kCol = 4;
+  constexpr double kLetter = kCol + 4;
+  constexpr double kDrop = 1.48;  // rows; whole pixels
+  Locate(row, kCol);
+  WordWraps("4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^");
+  Locate(row + kDrop, kCol);
+  isPrints("4");
+  Anim2(row, kLetter, 1, 1, 2, kDrop, 50, 0);
+  Anim2(row + kDrop, kLetter, 1, 1, 3, 3, 50, 1);
+  Locate(row + kDrop, kCol + 2);
+  WordWrap(tutor::Dot + "b^2^" + tutor::Dot + "b^3^ = 4ab^5^");
+}
+
+void OtherFactors() {
   NewScreen();
   WrapAt(3, "A number in front stays as it is:");
   WordWrap("   6b^2^" + tutor::Dot + "b^5^ = 6b^7^");
@@ -214,27 +183,49 @@ void MultiplyingWithExponents::OtherFactors() {
   PageEnd();
 }
 
-// The a of 4b^2 a b^3 moves to its place in the row below.
-void MultiplyingWithExponents::BringLetterForward(double row) {
-  constexpr double kCol = 4;
-  constexpr double kLetter = kCol + 4;
-  constexpr double kDrop = 1.48;  // rows; whole pixels
-  Locate(row, kCol);
-  WordWraps("4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^");
-  Locate(row + kDrop, kCol);
-  isPrints("4");
-  Anim2(row, kLetter, 1, 1, 2, kDrop, 50, 0);
-  Anim2(row + kDrop, kLetter, 1, 1, 3, 3, 50, 1);
-  Locate(row + kDrop, kCol + 2);
-  WordWrap(tutor::Dot + "b^2^" + tutor::Dot + "b^3^ = 4ab^5^");
-}
+// --- The lesson ------------------------------------------------------------
 
-void MultiplyingWithExponents::ShowNote(int index, double row, double col,
-                                        const std::string& text) {
-  lblNotesPrepare(index, row, col, text, platform::colour::Yellow, platform::colour::Black, true,
-                  false, 12);
-  lblNotesShow(index);
-}
+class MultiplyingWithExponents final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {
+        {MeaningOfAPower}, {CountingFactors, CompareBasesAndExponents}, {TheRule}, {OtherFactors}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  // The two powers of the base, and the exponent of the other letter, 0 without one.
+  Power First() const { return {base_, firstExponent_}; }
+  Power Second() const { return {base_, form_ == Form::BareLetter ? 1 : secondExponent_}; }
+  int OtherExponent() const;
+  int Sum() const { return First().exponent + Second().exponent; }
+  std::string Expression() const;
+  std::string Product(int number, int exponent, int otherExponent) const;
+  std::string WithExponent(int exponent) const;
+  void WrongOnes();
+  void WrongOnesOfBareLetter();
+  void Filler(RandomStream& random, int slot);
+
+  std::string Front() const;
+  std::string SumText() const;
+
+  void ShowExpression(double row);
+  void BringTogether();
+  void WriteOutFactors();
+  void AddExponents();
+  void WriteResult();
+
+  Form form_ = Form::OneBase;
+  int number_ = 1;          // 1 to 9; 1 is not printed
+  std::string base_;        // the letter that stands twice
+  std::string other_;       // another letter, in two of the forms
+  int firstExponent_ = 2;   // 2 to 9
+  int secondExponent_ = 2;  // 2 to 9; the other letter's when the second b has none
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -326,11 +317,14 @@ void MultiplyingWithExponents::ShowExpression(double row) {
 void MultiplyingWithExponents::ShowProblem() {
   WrapAt(5, problem.question[0]);
   ShowExpression(7);
-  answerRow = 11;
   picAnswerSetParameters(2, 11, 1, 21, 0, 16, 50, 27);
 }
 
 // --- Worked explanation ------------------------------------------------------
+
+void ShowRule() {
+  ShowRuleBox(kRuleBox, 7.4, kRuleWidth, kRuleHeading, {kRule});
+}
 
 void MultiplyingWithExponents::ExplainProblem() {
   ProblemBanner();
@@ -343,10 +337,6 @@ void MultiplyingWithExponents::ExplainProblem() {
   WriteOutFactors();
   AddExponents();
   WriteResult();
-}
-
-void MultiplyingWithExponents::ShowRule() {
-  ShowRuleBox(kRuleBox, 7.4, kRuleWidth, kRuleHeading, {kRule});
 }
 
 // The powers of the base side by side; what else there is comes before them.
@@ -410,5 +400,4 @@ void MultiplyingWithExponents::WriteResult() {
 const LessonRegistration<MultiplyingWithExponents> kRegistration("Multiplying with Exponents");
 
 }  // namespace
-
 }  // namespace course

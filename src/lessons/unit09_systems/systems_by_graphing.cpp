@@ -12,9 +12,9 @@
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/registry.h"
+#include "engine/page.h"
 #include "lessons/plane_figure.h"
+#include "lessons/registry.h"
 #include "lessons/unit09_systems/graphing_board.h"
 #include "lessons/unit09_systems/linear_system.h"
 #include "mathkit/expressions.h"
@@ -28,37 +28,6 @@ namespace board = graphing_board;
 // The systems of the teaching screens.
 constexpr LinearSystem kFirstExample = {{1, 1, 3}, {1, -1, 1}, 2, 1};
 constexpr LinearSystem kStepsExample = {{2, 1, 4}, {1, -1, -1}, 1, 2};
-
-class SystemsByGraphing final : public LessonScript {
- public:
-  using LessonScript::LessonScript;
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { TwoEquations(); }, [this] { GraphOfOneEquation(); },
-            [this] { CrossingPoint(); }, [this] { LinesThatDoNotCross(); },
-            [this] { FourSteps(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void TwoEquations();
-  void GraphOfOneEquation();
-  void CrossingPoint();
-  void LinesThatDoNotCross();
-  void FourSteps();
-  void GraphReadAndCheck(const LinearSystem& system);
-
-  void ShowSystem() const;
-  void SolveForY(int line);
-  void GraphLine(int line);
-  void ReadAndCheck();
-  void CheckLine(const LinearSystem& system, int line);
-  void ExplainNoSinglePoint();
-
-  LinearSystem system_;
-};
 
 const LinearEquation& EquationOf(const LinearSystem& system, int line) {
   return line == 1 ? system.first : system.second;
@@ -95,7 +64,7 @@ void ShowTry(const std::string& pair, const std::string& first, const std::strin
   wbisPrint(EquationText(kFirstExample.second) + "      " + second);
 }
 
-void SystemsByGraphing::TwoEquations() {
+void TwoEquations() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(Two equations that belong together are called a \csystem of equations\z:)");
@@ -126,7 +95,7 @@ void SystemsByGraphing::TwoEquations() {
   PageEnd();
 }
 
-void SystemsByGraphing::GraphOfOneEquation() {
+void GraphOfOneEquation() {
   NewScreen();
   board::ShowEmptyPlane();
   Locate(3, 1);
@@ -153,7 +122,7 @@ void SystemsByGraphing::GraphOfOneEquation() {
   PageEnd();
 }
 
-void SystemsByGraphing::CrossingPoint() {
+void CrossingPoint() {
   NewScreen();
   board::ShowEmptyPlane();
   board::DrawLine(kFirstExample.first, 1, EquationText(kFirstExample.first));
@@ -179,7 +148,7 @@ void SystemsByGraphing::CrossingPoint() {
   PageEnd();
 }
 
-void SystemsByGraphing::LinesThatDoNotCross() {
+void LinesThatDoNotCross() {
   constexpr int kSquare = 16;  // pixels
   constexpr double kPlaneRow = 4.6;
   constexpr double kCommentRow = 13.3;
@@ -220,7 +189,7 @@ void WriteStep(double row, const std::string& text) {
   board::Write(text);
 }
 
-void SystemsByGraphing::FourSteps() {
+void FourSteps() {
   const LinearSystem& system = kStepsExample;
   NewScreen();
   board::ShowTable(system);
@@ -241,11 +210,19 @@ void SystemsByGraphing::FourSteps() {
   board::FillTable(system, 2);
   PageEnd();
   wbHide();
-  GraphReadAndCheck(system);
+}
+
+void CheckLine(const LinearSystem& system, int line) {
+  const LinearEquation& equation = EquationOf(system, line);
+  wbisPrint("Check line " + NumStr(line) + ":  " + EquationText(equation));
+  wbLocate(2.2, 3);
+  wbWordWrap(board::Substituted(equation, system.x, system.y) + R"(, \btrue\z)");
+  PageEnd();
 }
 
 // The last three steps.
-void SystemsByGraphing::GraphReadAndCheck(const LinearSystem& system) {
+void GraphReadAndCheck() {
+  const LinearSystem& system = kStepsExample;
   WriteStep(7, R"(\y2.\z Graph the lines.)");
   for (const int line : {1, 2}) {
     const LinearEquation& equation = EquationOf(system, line);
@@ -267,6 +244,33 @@ void SystemsByGraphing::GraphReadAndCheck(const LinearSystem& system) {
   WordWrap(R"(The solution of the system is \y)" + PairText(system.x, system.y) + R"(\z.)");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class SystemsByGraphing final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{TwoEquations},
+            {GraphOfOneEquation},
+            {CrossingPoint},
+            {LinesThatDoNotCross},
+            {FourSteps, GraphReadAndCheck}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void ShowSystem() const;
+  void SolveForY(int line);
+  void GraphLine(int line);
+  void ReadAndCheck();
+  void ExplainNoSinglePoint();
+
+  LinearSystem system_;
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -313,8 +317,7 @@ void SystemsByGraphing::ShowProblem() {
   Locate(10, 3);
   isPrint(problem.question[3]);
   board::ShowEmptyPlane();
-  answerRow = 15.2;
-  picAnswerSetParameters(3, answerRow, 3, 22, 0, 17, 50, 13);
+  picAnswerSetParameters(3, 15.2, 3, 22, 0, 17, 50, 13);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -376,14 +379,6 @@ void SystemsByGraphing::GraphLine(int line) {
   isPrint();
   board::Write("We draw the line through both points.");
   board::DrawLine(equation, line, SlopeInterceptText(equation));
-  PageEnd();
-}
-
-void SystemsByGraphing::CheckLine(const LinearSystem& system, int line) {
-  const LinearEquation& equation = EquationOf(system, line);
-  wbisPrint("Check line " + NumStr(line) + ":  " + EquationText(equation));
-  wbLocate(2.2, 3);
-  wbWordWrap(board::Substituted(equation, system.x, system.y) + R"(, \btrue\z)");
   PageEnd();
 }
 
@@ -456,5 +451,4 @@ void SystemsByGraphing::ExplainProblem() {
 const LessonRegistration<SystemsByGraphing> kRegistration("Solving Systems by Graphing");
 
 }  // namespace
-
 }  // namespace course

@@ -15,11 +15,11 @@
 #include "display/stacked_text.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
-#include "engine/lesson_script.h"
+#include "engine/page.h"
 #include "lessons/equation_explanation.h"
 #include "lessons/equation_machine.h"
-#include "lessons/registry.h"
 #include "lessons/page_lines.h"
+#include "lessons/registry.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -28,29 +28,6 @@ namespace {
 
 const std::string kRelations[] = {"", tutor::GreaterOrEqual, tutor::LessOrEqual, "<", ">"};
 constexpr int kWholeTries = 6;  // draws with a fractional answer that are thrown away
-
-class SolvingInequalities final : public LessonScript {
- public:
-  using LessonScript::LessonScript;
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { AddingKeeps(); }, [this] { MultiplyingMayTurn(); }, [this] { SolvingOne(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void AddingKeeps();
-  void SolvingByAdding();
-  void MultiplyingMayTurn();
-  void SolvingOne();
-  void WhenToTurn();
-
-  bool DrawNumbers(RandomStream& random);
-
-  LinearStatement inequality_;  // a x + b < d x + c
-};
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -100,7 +77,7 @@ void SlideNumbers(int smaller, int larger, int distance) {
   }
 }
 
-void SolvingInequalities::AddingKeeps() {
+void AddingKeeps() {
   NewScreen();
   WrapAt(3, "An inequality such as  " + OnOneLine("x + 5 < 8") +
                 "  is solved in the steps of an equation.  But do both sides keep their relation?");
@@ -123,10 +100,9 @@ void SolvingInequalities::AddingKeeps() {
   WordWrap(
       R"(By the \cAddition and Subtraction Properties for Inequalities\z the relation stays.)");
   PageEnd();
-  SolvingByAdding();
 }
 
-void SolvingInequalities::SolvingByAdding() {
+void SolvingByAdding() {
   const LinearStatement inequality = {"x", {1, 5}, "<", {0, 8}};
   const Addition addition = AdditionsOf(inequality)[0];
   EquationSheet sheet = SheetFor(inequality);
@@ -192,7 +168,7 @@ void FillRow(int row) {
   picPrintCellPrint(cell + 1, done.turns ? "turns around" : "stays", colour, kCellFontSize);
 }
 
-void SolvingInequalities::MultiplyingMayTurn() {
+void MultiplyingMayTurn() {
   NewScreen();
   WrapAt(3, "Now we multiply and divide  " + OnOneLine("2 < 6") + ".");
   ShowMultiplications();
@@ -218,7 +194,7 @@ void SolvingInequalities::MultiplyingMayTurn() {
   PageEnd();
 }
 
-void SolvingInequalities::SolvingOne() {
+void SolvingOne() {
   const LinearStatement inequality = {"x", {-2, 3}, tutor::GreaterOrEqual, {0, 11}};
   const Addition addition = AdditionsOf(inequality)[0];
   const std::string& relation = inequality.relation;
@@ -250,10 +226,9 @@ void SolvingInequalities::SolvingOne() {
   SayAnew("Now we try one that is greater, 0:");
   SaySubstituted(inequality, 0, R"(   \rfalse\z)");
   PageEnd();
-  WhenToTurn();
 }
 
-void SolvingInequalities::WhenToTurn() {
+void WhenToTurn() {
   NewScreen();
   WrapAt(3, R"(\rA usual mistake\z is to turn the relation whenever a minus sign is seen.)");
   PageEnd();
@@ -279,6 +254,25 @@ void SolvingInequalities::WhenToTurn() {
   WordWrap(R"(What counts is the number that we \ydivide or multiply by\z.)");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class SolvingInequalities final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{AddingKeeps, SolvingByAdding}, {MultiplyingMayTurn}, {SolvingOne, WhenToTurn}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  bool DrawNumbers(RandomStream& random);
+
+  LinearStatement inequality_;  // a x + b < d x + c
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -322,22 +316,20 @@ void SolvingInequalities::ShowProblem() {
   const bool high = std::ranges::any_of(problem.choices, [](const Choice& choice) {
     return choice.text.find('/') != std::string::npos;
   });
-  answerRow = high ? 13 : 14;
   if (high)
-    picAnswerSetParameters(2, answerRow, 1, 21, 0, 17, 75, 16, 12);
+    picAnswerSetParameters(2, 13, 1, 21, 0, 17, 75, 16, 12);
   else
-    picAnswerSetParameters(2, answerRow, 1, 21, 0, 17, 50, 27);
+    picAnswerSetParameters(2, 14, 1, 21, 0, 17, 50, 27);
   answerParameters.printChoice = picAnswerPrintStackedText;
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void SolvingInequalities::ExplainProblem() {
-  ExplainLinear(inequality_, problem, [this] { PageEnd(); });
+  ExplainLinear(inequality_, problem);
 }
 
 const LessonRegistration<SolvingInequalities> kRegistration("Solving Inequalities");
 
 }  // namespace
-
 }  // namespace course

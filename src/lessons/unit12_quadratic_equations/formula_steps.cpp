@@ -8,6 +8,7 @@
 #include "display/stacked_text.h"
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
+#include "engine/page.h"
 #include "lessons/page_lines.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -47,6 +48,12 @@ void ShowWhiteBox(double row, double height) {
   wbShow();
 }
 
+void TurnIntoValue(const std::string& term, const std::string& letter, int value, int column) {
+  if (!term.empty()) AnimHere(kTermRow, column, kValueWidth, 1, 2, kValueRow - kTermRow, 50, 0);
+  ClearCells(kValueRow, column, kValueWidth, 1);
+  PrintRow(kValueRow, letter + " = " + NumStr(value), column);
+}
+
 }  // namespace
 
 std::string QuadraticFormulaText() {
@@ -61,7 +68,55 @@ std::string RootsOver(int centre, const std::string& spread, int den) {
   return "(" + NumStr(centre) + " " + tutor::PlusOrMinus + " " + spread + ")/" + InParentheses(den);
 }
 
-void FormulaSteps::SolveByFormula() {
+void PrintSpreadEquation(const Quadratic& equation) {
+  PrintSpread(kTermRow, SquareTerm(equation.a), LinearTerm(equation.b), ConstantTerm(equation.c));
+}
+
+void TurnTermsIntoValues(const Quadratic& equation) {
+  TurnIntoValue(SquareTerm(equation.a), "a", equation.a, kSquareColumn);
+  TurnIntoValue(LinearTerm(equation.b), "b", equation.b, kLinearColumn);
+  TurnIntoValue(ConstantTerm(equation.c), "c", equation.c, kConstantColumn);
+}
+
+void CarryAcross(double row, int column, int width, int columns) {
+  AnimHere(row, column, width, 1, 2, 1, 50, 1);
+  AnimHere(row + 1, column, width, 1, 4, columns, 50, 1);
+  AnimHere(row + 1, column + columns, width, 1, 1, 1, 50, 1);
+}
+
+namespace {
+
+// The steps of one solution, in their order.
+class FormulaSteps {
+ public:
+  explicit FormulaSteps(const Quadratic& equation) : equation_(equation) {}
+  void Run();
+
+ private:
+  void ReadOff();
+  void ShowNotes() const;
+  void PutIn();
+  void WorkOutDiscriminant();
+  void ConcludeNoRealRoots();
+  void DiscriminantUnderRadical();
+  void SimplifyRadical();
+  void ReduceRoots();
+  void SplitRoots();
+  void CheckRoot();
+  void WriteAnswer(double row);
+
+  std::string Unreduced(const std::string& spread) const;
+  std::string InsertedRoot(const Fraction& root) const;
+  std::string InsertedValues(const Fraction& root) const;
+
+  int Discriminant() const { return equation_.Discriminant(); }
+  Radical Root() const { return RootOf(Discriminant()); }
+  RootPair Answer() const { return *RootsOf(-equation_.b, Discriminant(), 2 * equation_.a); }
+
+  const Quadratic equation_;
+};
+
+void FormulaSteps::Run() {
   ReadOff();
   PutIn();
   WorkOutDiscriminant();
@@ -77,24 +132,6 @@ void FormulaSteps::SolveByFormula() {
 }
 
 // --- a, b and c ----------------------------------------------------------------------------------
-
-void FormulaSteps::PrintSpreadEquation() const {
-  PrintSpread(kTermRow, SquareTerm(equation_.a), LinearTerm(equation_.b),
-              ConstantTerm(equation_.c));
-}
-
-void FormulaSteps::TurnIntoValue(const std::string& term, const std::string& letter, int value,
-                                 int column) {
-  if (!term.empty()) AnimHere(kTermRow, column, kValueWidth, 1, 2, kValueRow - kTermRow, 50, 0);
-  ClearCells(kValueRow, column, kValueWidth, 1);
-  PrintRow(kValueRow, letter + " = " + NumStr(value), column);
-}
-
-void FormulaSteps::TurnTermsIntoValues() {
-  TurnIntoValue(SquareTerm(equation_.a), "a", equation_.a, kSquareColumn);
-  TurnIntoValue(LinearTerm(equation_.b), "b", equation_.b, kLinearColumn);
-  TurnIntoValue(ConstantTerm(equation_.c), "c", equation_.c, kConstantColumn);
-}
 
 // What is not plain to see about the three values, in a box as high as it needs to be.
 void FormulaSteps::ShowNotes() const {
@@ -117,9 +154,9 @@ void FormulaSteps::ShowNotes() const {
 void FormulaSteps::ReadOff() {
   WrapAt(5, "We compare the equation with the standard form.");
   PrintStandardForm(7.5);
-  PrintSpreadEquation();
+  PrintSpreadEquation(equation_);
   PageEnd();
-  TurnTermsIntoValues();
+  TurnTermsIntoValues(equation_);
   ShowNotes();
   PageEnd();
   wbHide();
@@ -305,10 +342,10 @@ void FormulaSteps::WriteAnswer(double row) {
   PageEnd();
 }
 
-void FormulaSteps::CarryAcross(double row, int column, int width, int columns) {
-  AnimHere(row, column, width, 1, 2, 1, 50, 1);
-  AnimHere(row + 1, column, width, 1, 4, columns, 50, 1);
-  AnimHere(row + 1, column + columns, width, 1, 1, 1, 50, 1);
+}  // namespace
+
+void SolveByFormula(const Quadratic& equation) {
+  FormulaSteps(equation).Run();
 }
 
 }  // namespace course
