@@ -3,15 +3,7 @@
 // A new lesson begins as a copy of this file.  It keeps the order of what follows, the order in
 // which a student meets it, and replaces the words: what the lesson can say in two or three lines,
 // its class, teaching screens, generator, problem page, explanation and title.
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/registry.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {

@@ -1,5 +1,5 @@
 // Systems of equations: what is drawn, and the answers to systems without just one solution.
-#include "lessons/unit09_systems/linear_system.h"
+#include "lessons/families/systems/linear_system.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,8 @@
 
 namespace course::testing {
 namespace {
+
+using namespace systems;
 
 bool RejectNothing(const LinearSystem&) {
   return false;

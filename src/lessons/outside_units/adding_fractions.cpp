@@ -5,19 +5,13 @@
 // neither is a multiple of the other; in the second, with denominators up to 30, they also share a
 // factor, so that the least common denominator is smaller than their product.  Either kind may have
 // a negative second fraction, but the sum is always positive.
-#include "display/grid.h"
-#include "display/word_wrap.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/outside_units/fraction_steps.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "mathkit/expressions.h"
-#include "mathkit/integers.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/fractions/fraction_steps.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace fractions;
 
 using platform::colour::Cyan;
 using platform::colour::Yellow;

@@ -5,30 +5,15 @@
 // Four kinds of expressions, five shapes each: multiplication or division beside addition or
 // subtraction; operations of the same rank, where the direction decides; parentheses; parentheses
 // inside brackets.  All numbers on the way are whole and above zero.
-#include <cmath>
-#include <optional>
-
-#include "display/animation.h"
-#include "display/grid.h"
-#include "display/images.h"
-#include "display/lesson_window.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "engine/rules_and_hints.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
-#include "lessons/unit01_review_of_arithmetic/evaluation.h"
-#include "lessons/unit01_review_of_arithmetic/stepping_display.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/arithmetic/arithmetic_expression.h"
+#include "lessons/families/arithmetic/evaluation.h"
+#include "lessons/families/arithmetic/stepping_display.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace arithmetic;
 
 constexpr int kKinds = 4;
 constexpr int kShapesOfKind = 5;

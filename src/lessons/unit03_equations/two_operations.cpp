@@ -1,22 +1,13 @@
 // The student can solve an equation in which the letter was multiplied and then something was
 // added, such as 3x + 4 = 19: remove the number first, then the coefficient, and check.
-#include <algorithm>
-
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/page.h"
-#include "lessons/equation_explanation.h"
-#include "lessons/equation_machine.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/families/equations/equation_machine.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace equations;
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -57,7 +48,7 @@ void ReverseOrder() {
   isPrint("   x + 4 = 19     3x = 15");
   PageEnd();
   isPrint();
-  WordWrap("In  " + OnOneLine("3x + 4 = 19") +
+  WordWrap("In  " + WithoutBreaks("3x + 4 = 19") +
            R"(  there are \ytwo\z.  This is what was done to x:)");
   DrawStation(kThereRow, 0, "x");
   DrawWay(kThereRow, 0, 1, tutor::Dot + " 3");
@@ -71,11 +62,11 @@ void ReverseOrder() {
   DrawWay(kBackRow, 2, 1, "- 4");
   DrawStation(kBackRow, 1, "15");
   WrapAt(18, R"(We undo the \ylast\z one first, as shoes come off before socks:  )" +
-                 OnOneLine("19 - 4 = 15."));
+                 WithoutBreaks("19 - 4 = 15."));
   PageEnd();
   DrawWay(kBackRow, 1, 0, tutor::Divided + " 3");
   DrawStation(kBackRow, 0, "5");
-  WrapAt(20, "Then we undo the first:  " + OnOneLine("15 " + tutor::Divided + " 3 = 5."));
+  WrapAt(20, "Then we undo the first:  " + WithoutBreaks("15 " + tutor::Divided + " 3 = 5."));
   PageEnd();
   WrapAt(22, R"(Operations that undo each other are called \cinverse operations\z.)");
   PageEnd();
@@ -121,7 +112,7 @@ void RowUnderRow() {
 
 void DividingFirst() {
   NewScreen();
-  WrapAt(3, "Could we divide  " + OnOneLine("3x + 4 = 19") + "  by 3 before we remove the 4?");
+  WrapAt(3, "Could we divide  " + WithoutBreaks("3x + 4 = 19") + "  by 3 before we remove the 4?");
   PageEnd();
   isPrint();
   WordWrap(R"(We may, but then \yevery\z term must be divided by 3, and fractions come up:)");
@@ -154,7 +145,7 @@ void TryIt() {
   sheet.MarkSolution();
   WrapAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
   PageEnd();
-  WrapAt(22, "Check:  " + OnOneLine("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
+  WrapAt(22, "Check:  " + WithoutBreaks("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
   PageEnd();
 }
 

@@ -1,29 +1,14 @@
 // The student can find the distance, the rate or the time of something that moves, maybe with or
 // against a wind or a current, when the other two are known: d = r t and its two other forms.
-#include <cmath>
-#include <string>
-#include <vector>
-
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "lessons/unit04_solving_word_problems/durations.h"
-#include "lessons/unit04_solving_word_problems/motion.h"
-#include "lessons/unit04_solving_word_problems/motion_choices.h"
-#include "mathkit/expressions.h"
-#include "mathkit/fraction.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/motion.h"
+#include "lessons/families/stories/motion_choices.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace stories;
 
 const std::string kDot = " " + tutor::Dot + " ";
 const std::string kDivided = " " + tutor::Divided + " ";

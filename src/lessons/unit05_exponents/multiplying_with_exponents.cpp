@@ -4,27 +4,13 @@
 // A problem is a number times powers, one letter of which stands twice; all five choices are
 // simplified products with their letters in the order of the alphabet, so that only the exponents
 // and the number are in question.
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/notes.h"
-#include "display/print.h"
-#include "display/print_cells.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/page_lines.h"
-#include "lessons/paper_box.h"
-#include "lessons/registry.h"
-#include "lessons/unit05_exponents/power_display.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/powers/power_display.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace powers;
 
 // Letters of the powers, and of the other base that stands beside them.
 constexpr std::string_view kBaseLetters = "bcdfghkmnpqrstuvwxyz";

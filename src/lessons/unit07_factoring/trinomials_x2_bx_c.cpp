@@ -3,27 +3,14 @@
 //
 // Every choice is multiplied out: one that is the same product as another, in either order of its
 // factors, gives way to a random one.
-#include <array>
-#include <cstdlib>
-
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/page_lines.h"
-#include "lessons/paper_box.h"
-#include "lessons/registry.h"
-#include "lessons/unit07_factoring/factor_moves.h"
-#include "lessons/unit07_factoring/trinomial.h"
-#include "mathkit/expressions.h"
-#include "mathkit/integers.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/polynomials/factor_moves.h"
+#include "lessons/families/polynomials/trinomial.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace polynomials;
 
 constexpr int kLargest = 10;  // size of the numbers in the factors
 constexpr int kSlots = 5;
@@ -37,10 +24,6 @@ const Factors kTwoAndThree = {{1, 2}, {1, 3}};
 // "x^2^ + 5x + 6 = (x + 2)(x + 3)".
 std::string Identity(const Factors& factors) {
   return TrinomialText(factors.Product()) + " = " + FactorsText(factors);
-}
-
-std::string InParentheses(int n) {
-  return n < 0 ? "(" + NumStr(n) + ")" : NumStr(n);
 }
 
 // Product and sum of a pair, each in its column.

@@ -1,29 +1,15 @@
 // The student can solve a system of two linear equations by graphing both lines and reading the
 // point at which they cross, and knows what parallel lines and one line drawn twice mean.
-#include <algorithm>
-#include <cmath>
-
-#include "display/animation.h"
-#include "display/comment_box.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/plane_figure.h"
-#include "lessons/registry.h"
-#include "lessons/unit09_systems/graphing_board.h"
-#include "lessons/unit09_systems/linear_system.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/systems/graphing_board.h"
+#include "lessons/families/systems/linear_system.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
-namespace board = graphing_board;
+using namespace graphs;
+using namespace systems;
 
 // The systems of the teaching screens.
 constexpr LinearSystem kFirstExample = {{1, 1, 3}, {1, -1, 1}, 2, 1};
@@ -47,12 +33,6 @@ void ShowComment(int box, const CommentPlace& place, const std::string& text) {
                         platform::colour::Black, place.size, kPadding);
   picCommentBoxWordWrap(box, text);
   picCommentBoxShow(box);
-}
-
-// An equation that no wrap cuts.
-std::string Unbroken(std::string equation) {
-  std::replace(equation.begin(), equation.end(), ' ', tutor::Gap[0]);
-  return equation;
 }
 
 // A pair tried in both equations of the first example.
@@ -169,7 +149,7 @@ void LinesThatDoNotCross() {
   DrawPlaneLine(2, -1, 2, ColourOfLine(1));
   LabelPlaneLine(2, -1, 2, "y = -x + 2", ColourOfLine(1));
   ShowComment(2, {kCommentRow, 21.5, 18, 3.6, 14},
-              Unbroken("x + y = 2") + " and " + Unbroken("2x + 2y = 4") +
+              WithoutBreaks("x + y = 2") + " and " + WithoutBreaks("2x + 2y = 4") +
                   R"( share \bthis line\z.  )" + SolutionSentence(SystemClass::SameLine));
   PageEnd();
   Locate(17.3, 1);

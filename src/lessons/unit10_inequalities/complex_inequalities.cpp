@@ -3,21 +3,13 @@
 //
 // The right choice stands beside four misreadings of the same two ends, so that every box carries
 // both numbers and only symbols and "or" tell them apart.
-#include <algorithm>
-
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/registry.h"
-#include "lessons/unit10_inequalities/interval_figure.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/interval_figure.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace graphs;
 
 constexpr double kOpenEnd = 0.1;  // added to a value whose point is left out
 constexpr double kOpenShare = 0.5;

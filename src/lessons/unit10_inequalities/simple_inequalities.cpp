@@ -1,17 +1,12 @@
 // The student can say in words and in symbols which numbers an arrow on the number line covers, and
 // whether its starting point is one of them.
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/page.h"
-#include "lessons/registry.h"
-#include "lessons/unit10_inequalities/interval_figure.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/interval_figure.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace graphs;
 
 // The four relations, in the order of the answer boxes.
 const std::string kRelations[] = {"", tutor::LessOrEqual, tutor::GreaterOrEqual, "<", ">"};

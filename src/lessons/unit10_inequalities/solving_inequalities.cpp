@@ -3,28 +3,14 @@
 //
 // Two of the choices carry the reversed relation, one of them with the right number, so that the
 // turn is always part of the question.  Answers that are not whole are mixed numbers.
-#include <algorithm>
-#include <cstdlib>
-#include <utility>
-
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/print_cells.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/page.h"
-#include "lessons/equation_explanation.h"
-#include "lessons/equation_machine.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/families/equations/equation_machine.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace equations;
 
 const std::string kRelations[] = {"", tutor::GreaterOrEqual, tutor::LessOrEqual, "<", ">"};
 constexpr int kWholeTries = 6;  // draws with a fractional answer that are thrown away
@@ -79,19 +65,20 @@ void SlideNumbers(int smaller, int larger, int distance) {
 
 void AddingKeeps() {
   NewScreen();
-  WrapAt(3, "An inequality such as  " + OnOneLine("x + 5 < 8") +
+  WrapAt(3, "An inequality such as  " + WithoutBreaks("x + 5 < 8") +
                 "  is solved in the steps of an equation.  But do both sides keep their relation?");
   PageEnd();
   isPrint();
-  WordWrap("Take  " + OnOneLine("2 < 6") + R"(.  On the number line 2 lies \yto the left of\z 6.)");
+  WordWrap("Take  " + WithoutBreaks("2 < 6") +
+           R"(.  On the number line 2 lies \yto the left of\z 6.)");
   DrawLine();
   MarkNumber(2);
   MarkNumber(6);
   PageEnd();
-  WrapAt(15, "We add 3 to both sides:  " + OnOneLine(R"(2 + 3 \y<\z 6 + 3)") + ".");
+  WrapAt(15, "We add 3 to both sides:  " + WithoutBreaks(R"(2 + 3 \y<\z 6 + 3)") + ".");
   SlideNumbers(2, 6, 3);
   PageEnd();
-  WrapAt(16, "Then we subtract 10:  " + OnOneLine(R"(5 - 10 \y<\z 9 - 10)") + ".");
+  WrapAt(16, "Then we subtract 10:  " + WithoutBreaks(R"(5 - 10 \y<\z 9 - 10)") + ".");
   SlideNumbers(5, 9, -10);
   PageEnd();
   WrapAt(18, "Both numbers go the same way, so the smaller one stays on the left.");
@@ -107,7 +94,7 @@ void SolvingByAdding() {
   const Addition addition = AdditionsOf(inequality)[0];
   EquationSheet sheet = SheetFor(inequality);
   NewScreen();
-  WrapAt(3, "Now we can solve  " + OnOneLine("x + 5 < 8") + ".");
+  WrapAt(3, "Now we can solve  " + WithoutBreaks("x + 5 < 8") + ".");
   sheet.Write(RowOf(inequality), "<");
   OpenWordBox();
   SayAnew("What do we add to both sides, to remove 5 from the left-hand side?");
@@ -170,7 +157,7 @@ void FillRow(int row) {
 
 void MultiplyingMayTurn() {
   NewScreen();
-  WrapAt(3, "Now we multiply and divide  " + OnOneLine("2 < 6") + ".");
+  WrapAt(3, "Now we multiply and divide  " + WithoutBreaks("2 < 6") + ".");
   ShowMultiplications();
   OpenWordBox();
   SayAnew("First we multiply by 3:  2 becomes 6, and 6 becomes 18.");

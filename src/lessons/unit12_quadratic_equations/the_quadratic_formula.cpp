@@ -8,23 +8,13 @@
 // is kept, 4ac is added, the division by 2a is forgotten; where two of these agree, a neighbouring
 // mistake takes the place.  When there are no real roots the mistakes also lose the minus sign
 // under the radical.
-#include <cstdlib>
-
-#include "display/drawing.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/distinct_choices.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/page_lines.h"
-#include "lessons/registry.h"
-#include "lessons/unit12_quadratic_equations/formula_steps.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/quadratics/formula_steps.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace quadratics;
 
 using Roots = std::optional<RootPair>;
 
