@@ -15,7 +15,7 @@ enum class LockKind { None, Shared, Exclusive };
 struct OpenMode {
   bool read = false;
   bool write = false;
-  bool create = false;    // when it is missing
+  bool create = false;    // it must be missing
   bool truncate = false;  // what it held is gone
 };
 
@@ -30,7 +30,7 @@ struct FileFacts {
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
-  virtual int Open(const std::string& path, OpenMode mode);  // a descriptor
+  virtual int Open(const std::string& path, OpenMode mode);  // a descriptor; never of a link
   virtual int Close(int descriptor);
   // Locks the whole file for this open, or unlocks it; never waits.  The lock holds between
   // processes and, on a network mount, between workstations.
@@ -46,6 +46,10 @@ class FileCalls {
   virtual int Rename(const std::string& from, const std::string& to);
   virtual int Remove(const std::string& path);
   virtual int List(const std::string& folder, std::vector<std::string>& names);
+  // The path of the file to which all links lead; the path itself for a file that is none.
+  virtual int FollowLinks(const std::string& path, std::string& target);
+  // A name's end that nobody can foresee, so that nobody can put anything in its place.
+  virtual int RandomName(std::string& name);
 };
 
 // The machine's unless others are installed; nullptr puts the machine's back.

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <optional>
+#include <string_view>
 
 #include "platform/file_calls.h"
 
@@ -93,14 +94,34 @@ std::string Joined(const std::vector<std::string>& records) {
   return bytes;
 }
 
-// The file that takes another one's place: "RECORDS.NEW" beside "RECORDS.DAT".
+// The file that takes another one's place: "RECORDS.DAT.0123456789abcdef.NEW" beside it.
+constexpr std::string_view kReplacementEnd = ".NEW";
+constexpr std::size_t kRandomLength = 16;
+
+bool IsReplacement(std::string_view file, const std::string& name) {
+  const std::string begin = std::string(file) + ".";
+  return name.size() == begin.size() + kRandomLength + kReplacementEnd.size() &&
+         name.starts_with(begin) && name.ends_with(kReplacementEnd);
+}
+
+// What replacements left that were cut short.  Only under the exclusive lock of the file, which a
+// replacement in progress holds.
+void RemoveUnfinished(const Place& place) {
+  std::vector<std::string> names;
+  Checked(TheFileCalls().List(place.folder, names));
+  for (const std::string& name : names)
+    if (IsReplacement(place.name, name)) TheFileCalls().Remove(place.folder + name);
+}
+
 std::string ReplacementOf(const std::string& path) {
-  return path.substr(0, path.rfind('.')) + ".NEW";
+  std::string random;
+  Checked(TheFileCalls().RandomName(random));
+  return path + "." + random + std::string(kReplacementEnd);
 }
 
 void WriteReplacement(const std::string& path, const std::string& bytes, int permissions) {
   FileCalls& calls = TheFileCalls();
-  const Descriptor file(calls.Open(path, {.write = true, .create = true, .truncate = true}));
+  const Descriptor file(calls.Open(path, {.write = true, .create = true}));
   Checked(calls.SetPermissions(file.Number(), permissions));
   WriteOnce(file.Number(), bytes, 0);
   Checked(calls.Sync(file.Number()));
@@ -136,11 +157,14 @@ bool RecordFile::OpenNamed(const std::string& name, Access access, Sharing shari
   FileCalls& calls = TheFileCalls();
   const std::optional<std::string> present = NameOnDisk({folder_, name});
   path_ = folder_ + present.value_or(name);
+  // A record file may be a link; then the file behind it is read, written and replaced.
+  if (present) Checked(calls.FollowLinks(path_, path_));
   LockKind lock = sharing == Sharing::Exclusive ? LockKind::Exclusive : LockKind::Shared;
   descriptor_ = calls.Open(
       path_, {.read = true,
               .write = access != Access::Read || lock == LockKind::Exclusive,  // the lock needs it
-              .create = access != Access::Read});
+              .create = !present && access != Access::Read});
+  if (descriptor_ == -EEXIST) return false;  // somebody else has just made it
   const bool readingWillDo =
       access == Access::Read || (access == Access::ReadWrite && lock == LockKind::Shared);
   if (IsRefusal(descriptor_) && readingWillDo) {
@@ -224,6 +248,8 @@ void RecordFile::Clear() {
 
 void RecordFile::ReplaceAll(const std::vector<std::string>& records) {
   FileCalls& calls = TheFileCalls();
+  const Place place = PlaceOf(path_);
+  RemoveUnfinished(place);
   const std::string replacement = ReplacementOf(path_);
   try {
     WriteReplacement(replacement, Joined(records), FactsOf(descriptor_).permissions);
@@ -232,7 +258,7 @@ void RecordFile::ReplaceAll(const std::vector<std::string>& records) {
     calls.Remove(replacement);
     throw;
   }
-  Checked(calls.SyncFolder(folder_));
+  Checked(calls.SyncFolder(place.folder));
   Close();
 }
 
@@ -240,9 +266,10 @@ void WriteWorkFile(const std::string& path, const std::vector<std::string>& reco
                    OldContents oldContents) {
   FileCalls& calls = TheFileCalls();
   const Place place = PlaceOf(path);
-  const std::string onDisk = place.folder + NameOnDisk(place).value_or(place.name);
+  const std::optional<std::string> present = NameOnDisk(place);
   const Descriptor file(calls.Open(
-      onDisk, {.write = true, .create = true, .truncate = oldContents == OldContents::Removed}));
+      place.folder + present.value_or(place.name),
+      {.write = true, .create = !present, .truncate = oldContents == OldContents::Removed}));
   WriteOnce(file.Number(), Joined(records), 0);
   Checked(calls.Sync(file.Number()));
 }

@@ -4,6 +4,8 @@
 // A file has no header; record n, from 1, lies at (n - 1) times the record's length.  A partial
 // record at the end is not counted, and the next append writes over it.  Names do not tell case
 // apart: a file that is there in any spelling is the one that is meant.  Both slashes part folders.
+// A record file may be a link to a file elsewhere, and stays one; nothing else follows links, so
+// that nobody who may write to a shared folder turns a write aside.
 #pragma once
 
 #include <stdexcept>

@@ -69,6 +69,10 @@ class MemoryFiles final : public platform::FileCalls {
     for (const auto& [name, bytes] : files_) names.push_back(name);
     return 0;
   }
+  int FollowLinks(const std::string& path, std::string& target) override {
+    target = path;
+    return 0;
+  }
 
  private:
   static std::string NameOf(const std::string& path) { return path.substr(std::strlen(kFolder)); }

@@ -80,6 +80,12 @@ class FaultyCalls final : public platform::FileCalls {
   int List(const std::string& folder, std::vector<std::string>& names) override {
     return Do([&] { return FileCalls::List(folder, names); });
   }
+  int FollowLinks(const std::string& path, std::string& target) override {
+    return Do([&] { return FileCalls::FollowLinks(path, target); });
+  }
+  int RandomName(std::string& name) override {
+    return Do([&] { return FileCalls::RandomName(name); });
+  }
 
  private:
   template <class Call>

@@ -1,11 +1,13 @@
 // A folder of record files for one test, and a student of class 99 who works there.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "support/course_fixture.h"
 
@@ -36,6 +38,14 @@ class ScratchFolder {
   }
   void Put(const std::string& name, const std::string& bytes) const {
     std::ofstream(path_ + name, std::ios::binary) << bytes;
+  }
+  // What is there, in the order of the codes.
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path_))
+      names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
   }
 
  private:

@@ -33,13 +33,6 @@ class RecordFileTest : public ::testing::Test {
       return error.number;
     }
   }
-  Strings Names() const {
-    Strings names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
-      names.push_back(entry.path().filename());
-    std::sort(names.begin(), names.end());
-    return names;
-  }
 
   ScratchFolder folder;
 };
@@ -71,12 +64,12 @@ TEST_F(RecordFileTest, NamesDoNotTellCaseApart) {
   EXPECT_EQ(Open("RECORDS.DAT").ReadAll(), Strings{"anna"});
   EXPECT_EQ(Open("Records.Dat", Access::Read).ReadAll(), Strings{"anna"});
   Open("RECORDS.DAT").ReplaceAll({"bert"});
-  EXPECT_EQ(Names(), Strings{"records.dat"});
+  EXPECT_EQ(folder.Names(), Strings{"records.dat"});
   EXPECT_EQ(folder.Bytes("records.dat"), "bert");
   // Of two spellings all programs take the same.
   folder.Put("RECORDS.dat", "carl");
   EXPECT_EQ(Open("records.dat").ReadAll(), Strings{"carl"});
-  EXPECT_EQ(Names(), (Strings{"RECORDS.dat", "records.dat"}));
+  EXPECT_EQ(folder.Names(), (Strings{"RECORDS.dat", "records.dat"}));
 }
 
 TEST_F(RecordFileTest, BothSlashesPartFolders) {
@@ -89,7 +82,7 @@ TEST_F(RecordFileTest, BothSlashesPartFolders) {
 TEST_F(RecordFileTest, OnlyReadingDoesNotMakeAFile) {
   for (const Sharing sharing : {Sharing::Exclusive, Sharing::Shared, Sharing::Plain})
     EXPECT_EQ(OpenError("A.DAT", Access::Read, sharing), ENOENT);
-  EXPECT_EQ(Names(), Strings{});
+  EXPECT_EQ(folder.Names(), Strings{});
   EXPECT_EQ(OpenError("A.DAT", Access::Write, Sharing::Exclusive), 0);
   EXPECT_EQ(folder.Bytes("A.DAT"), "");
   EXPECT_THROW(RecordFile("/no/such/folder/A.DAT", 4, Access::Write, Sharing::Exclusive),
@@ -104,7 +97,7 @@ TEST_F(RecordFileTest, ReplacementKeepsTheRightsAndTheReaders) {
   writer.ReplaceAll({"carl"});
   EXPECT_EQ(reader.ReadAll(), (Strings{"anna", "bert"}));  // as it was when it was opened
   EXPECT_EQ(folder.Bytes("A.DAT"), "carl");
-  EXPECT_EQ(Names(), Strings{"A.DAT"});
+  EXPECT_EQ(folder.Names(), Strings{"A.DAT"});
   struct stat status {};
   ASSERT_EQ(stat((folder.Path() + "A.DAT").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0664U);
@@ -138,7 +131,7 @@ TEST_F(RecordFileTest, LockedFileIsTheOneThatBearsTheName) {
 
 TEST_F(RecordFileTest, FailedReplacementLeavesTheFileAndNothingElse) {
   int failures = 0;
-  for (int at = 1; at <= 12; ++at) {
+  for (int at = 1; at <= 15; ++at) {
     folder.Put("A.DAT", "annabert");
     FaultyCalls calls(FaultyCalls::Fault::Fail, at, 1, ENOSPC);
     RecordFile file = Open("A.DAT");
@@ -152,11 +145,54 @@ TEST_F(RecordFileTest, FailedReplacementLeavesTheFileAndNothingElse) {
       failed = true;
       ++failures;
     }
-    EXPECT_EQ(Names(), Strings{"A.DAT"}) << at;
+    EXPECT_EQ(folder.Names(), Strings{"A.DAT"}) << at;
     const std::string bytes = folder.Bytes("A.DAT");
     EXPECT_TRUE(bytes == "carl" || (failed && bytes == "annabert")) << at << bytes;
   }
   EXPECT_GE(failures, 5);
+}
+
+// Somebody foresees the name of a new file, and puts a link there in the last moment.
+class ForeseenName final : public FileCalls {
+ public:
+  explicit ForeseenName(const std::string& path) : path_(path) {}
+  int RandomName(std::string& name) override {
+    name = "0123456789abcdef";
+    std::filesystem::create_symlink("victim", path_ + "." + name + ".NEW");
+    return 0;
+  }
+
+ private:
+  std::string path_;
+};
+
+TEST_F(RecordFileTest, FollowsNoLinkThatSomebodyPlanted) {
+  folder.Put("victim", "dear");
+  for (const char* name : {"A.NEW", "A.TMP", "A.DAT.aaaabbbbccccdddd.NEW"})
+    std::filesystem::create_symlink("victim", folder.Path() + name);
+  std::filesystem::create_symlink("nothing", folder.Path() + "B.DAT");
+  EXPECT_EQ(OpenError("B.DAT", Access::ReadWrite, Sharing::Exclusive), ENOENT);
+  EXPECT_THROW(WriteWorkFile(folder.Path() + "A.TMP", {"anna"}, OldContents::Removed), FileError);
+  Open("A.DAT").ReplaceAll({"anna"});  // removes what looks like a replacement cut short
+  EXPECT_EQ(folder.Names(), (Strings{"A.DAT", "A.NEW", "A.TMP", "B.DAT", "victim"}));
+
+  ForeseenName calls(folder.Path() + "A.DAT");
+  const InstalledCalls installed(calls);
+  RecordFile file = Open("A.DAT");
+  EXPECT_THROW(file.ReplaceAll({"bert"}), FileError);
+  EXPECT_EQ(folder.Bytes("A.DAT"), "anna");
+  EXPECT_EQ(folder.Bytes("victim"), "dear");
+}
+
+TEST_F(RecordFileTest, OwnLinkStaysALink) {
+  std::filesystem::create_directory(folder.Path() + "elsewhere");
+  folder.Put("elsewhere/real.dat", "anna");
+  std::filesystem::create_symlink("elsewhere/real.dat", folder.Path() + "A.DAT");
+  Open("A.DAT").ReplaceAll({"bert"});
+  Open("A.DAT").Write(2, "carl");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() + "A.DAT"));
+  EXPECT_EQ(folder.Bytes("elsewhere/real.dat"), "bertcarl");
+  EXPECT_EQ(folder.Names(), (Strings{"A.DAT", "elsewhere"}));
 }
 
 TEST_F(RecordFileTest, WorkFilesStayBehind) {
