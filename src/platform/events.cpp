@@ -4,6 +4,7 @@
 
 #include "platform/clock.h"
 #include "platform/handler_queue_impl.h"
+#include "platform/leave_request.h"
 #include "platform/user.h"
 
 namespace platform {
@@ -20,6 +21,7 @@ void PumpPaintEvents() {
 }
 
 void WaitEvents(const std::string& place) {
+  LeaveIfAsked();
   // What was noted while no handler could be called may be what the caller waits for.
   if (RunHandlers()) return;
   User* const user = InstalledUser();

@@ -30,6 +30,8 @@ int FactsFrom(int result, const struct stat& status, FileFacts& facts) {
   facts.inode = status.st_ino;
   facts.size = status.st_size;
   facts.permissions = static_cast<int>(status.st_mode & 07777);
+  facts.owner = status.st_uid;
+  facts.group = status.st_gid;
   return 0;
 }
 
@@ -98,6 +100,10 @@ int FileCalls::Truncate(int descriptor, long size) {
 
 int FileCalls::SetPermissions(int descriptor, int permissions) {
   return Result([&] { return ::fchmod(descriptor, static_cast<mode_t>(permissions)); });
+}
+
+int FileCalls::SetOwner(int descriptor, unsigned owner, unsigned group) {
+  return Result([&] { return ::fchown(descriptor, owner, group); });
 }
 
 int FileCalls::Rename(const std::string& from, const std::string& to) {

@@ -24,6 +24,8 @@ struct FileFacts {
   unsigned long long inode = 0;
   long size = 0;  // bytes
   int permissions = 0;
+  unsigned owner = 0;
+  unsigned group = 0;
 };
 
 // The machine's own calls; a test overrides some.
@@ -43,6 +45,7 @@ class FileCalls {
   virtual int SyncFolder(const std::string& folder);
   virtual int Truncate(int descriptor, long size);
   virtual int SetPermissions(int descriptor, int permissions);
+  virtual int SetOwner(int descriptor, unsigned owner, unsigned group);
   virtual int Rename(const std::string& from, const std::string& to);
   virtual int Remove(const std::string& path);
   virtual int List(const std::string& folder, std::vector<std::string>& names);

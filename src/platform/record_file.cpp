@@ -80,6 +80,17 @@ FileFacts FactsOf(int descriptor) {
   return facts;
 }
 
+// Workstations share the folder: the mask of the one that makes a file must not keep the others
+// from it.  Not every network mount knows rights, so it is no error when they cannot be set.
+void TakeRightsOfFolder(int descriptor, const std::string& folder) {
+  FileFacts above;
+  Checked(TheFileCalls().FactsOfPath(folder, above));
+  const int writers = above.permissions & 0022;
+  const int own = FactsOf(descriptor).permissions;
+  const int wanted = own | writers | (writers << 1);  // who writes reads, too
+  if (wanted != own) TheFileCalls().SetPermissions(descriptor, wanted);
+}
+
 // One write; a short one is what a full disk does.
 void WriteOnce(int descriptor, const std::string& bytes, long offset) {
   if (bytes.empty()) return;
@@ -119,12 +130,27 @@ std::string ReplacementOf(const std::string& path) {
   return path + "." + random + std::string(kReplacementEnd);
 }
 
-void WriteReplacement(const std::string& path, const std::string& bytes, int permissions) {
+// False when the system does not let this person give the file away.
+bool HandOver(int descriptor, const FileFacts& old) {
+  const FileFacts made = FactsOf(descriptor);
+  if (made.owner == old.owner && made.group == old.group) return true;
+  const int result = TheFileCalls().SetOwner(descriptor, old.owner, old.group);
+  if (IsRefusal(result)) return false;
+  Checked(result);
+  return true;
+}
+
+// Writes a new file with the old one's owner, group and rights.  False when it cannot be made so.
+bool WriteReplacement(const std::string& path, const std::string& bytes, const FileFacts& old) {
   FileCalls& calls = TheFileCalls();
-  const Descriptor file(calls.Open(path, {.write = true, .create = true}));
-  Checked(calls.SetPermissions(file.Number(), permissions));
+  const int opened = calls.Open(path, {.write = true, .create = true});
+  if (IsRefusal(opened)) return false;
+  const Descriptor file(opened);
+  if (!HandOver(file.Number(), old)) return false;
+  Checked(calls.SetPermissions(file.Number(), old.permissions));
   WriteOnce(file.Number(), bytes, 0);
   Checked(calls.Sync(file.Number()));
+  return true;
 }
 
 }  // namespace
@@ -176,7 +202,10 @@ bool RecordFile::OpenNamed(const std::string& name, Access access, Sharing shari
   if (locked == -EAGAIN || locked == -EACCES) ThrowBusy();
   Checked(locked);
   if (!BearsName()) return false;
-  if (!present) Checked(calls.SyncFolder(folder_));
+  if (!present) {
+    TakeRightsOfFolder(descriptor_, folder_);
+    Checked(calls.SyncFolder(folder_));
+  }
   if (sharing == Sharing::Plain) Checked(calls.Lock(descriptor_, LockKind::None));
   return true;
 }
@@ -241,25 +270,77 @@ void RecordFile::Write(long number, const std::string& record) {
   Checked(calls.Sync(descriptor_));
 }
 
+void RecordFile::Overwrite(long number, const std::string& record) {
+  FileCalls& calls = TheFileCalls();
+  const long offset = (number - 1) * recordLength_;
+  const std::string old = Read(number);
+  try {
+    WriteOnce(descriptor_, record, offset);
+    Checked(calls.Sync(descriptor_));
+  } catch (const FileError&) {
+    calls.Write(descriptor_, old.data(), old.size(), offset);
+    throw;
+  }
+}
+
+std::string RecordFile::Tail() {
+  const long end = Count() * recordLength_;
+  return ReadAt(end, FactsOf(descriptor_).size - end);
+}
+
+void RecordFile::WriteTail(const std::string& bytes) {
+  FileCalls& calls = TheFileCalls();
+  const long end = Count() * recordLength_;
+  Checked(calls.Truncate(descriptor_, end));
+  WriteOnce(descriptor_, bytes, end);
+  Checked(calls.Sync(descriptor_));
+}
+
 void RecordFile::Clear() {
   Checked(TheFileCalls().Truncate(descriptor_, 0));
   Checked(TheFileCalls().Sync(descriptor_));
 }
 
 void RecordFile::ReplaceAll(const std::vector<std::string>& records) {
+  const std::string bytes = Joined(records);
+  if (!ReplaceFile(bytes)) WriteOver(bytes);
+  Close();
+}
+
+// False when the file can only be written in its place.
+bool RecordFile::ReplaceFile(const std::string& bytes) {
   FileCalls& calls = TheFileCalls();
   const Place place = PlaceOf(path_);
   RemoveUnfinished(place);
   const std::string replacement = ReplacementOf(path_);
   try {
-    WriteReplacement(replacement, Joined(records), FactsOf(descriptor_).permissions);
-    Checked(calls.Rename(replacement, path_));
+    const bool written = WriteReplacement(replacement, bytes, FactsOf(descriptor_));
+    const int renamed = written ? calls.Rename(replacement, path_) : 0;
+    if (!written || IsRefusal(renamed)) {
+      calls.Remove(replacement);
+      return false;
+    }
+    Checked(renamed);
   } catch (const FileError&) {
     calls.Remove(replacement);
     throw;
   }
   Checked(calls.SyncFolder(place.folder));
-  Close();
+  return true;
+}
+
+void RecordFile::WriteOver(const std::string& bytes) {
+  FileCalls& calls = TheFileCalls();
+  const std::string old = ReadBytes();
+  try {
+    WriteOnce(descriptor_, bytes, 0);
+    Checked(calls.Truncate(descriptor_, static_cast<long>(bytes.size())));
+    Checked(calls.Sync(descriptor_));
+  } catch (const FileError&) {
+    calls.Write(descriptor_, old.data(), old.size(), 0);
+    calls.Truncate(descriptor_, static_cast<long>(old.size()));
+    throw;
+  }
 }
 
 void WriteWorkFile(const std::string& path, const std::vector<std::string>& records,
@@ -270,6 +351,7 @@ void WriteWorkFile(const std::string& path, const std::vector<std::string>& reco
   const Descriptor file(calls.Open(
       place.folder + present.value_or(place.name),
       {.write = true, .create = !present, .truncate = oldContents == OldContents::Removed}));
+  if (!present) TakeRightsOfFolder(file.Number(), place.folder);
   WriteOnce(file.Number(), Joined(records), 0);
   Checked(calls.Sync(file.Number()));
 }

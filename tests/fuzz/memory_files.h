@@ -57,6 +57,7 @@ class MemoryFiles final : public platform::FileCalls {
     return 0;
   }
   int SetPermissions(int, int) override { return 0; }
+  int SetOwner(int, unsigned, unsigned) override { return 0; }
   int Rename(const std::string& from, const std::string& to) override {
     files_[NameOf(to)] = files_[NameOf(from)];
     return Remove(from);

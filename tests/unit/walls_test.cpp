@@ -49,6 +49,16 @@ TEST(WallsTest, NothingPointsOutOfTheRepository) {
   EXPECT_EQ(Lines(PointersOutside(Tree())), "");
 }
 
+// Two runs at once must not meet in a folder.
+TEST(WallsTest, TestsMakeFoldersOfTheirOwn) {
+  for (const SourceFile& file : Tree()) {
+    if (!file.path.starts_with("tests/") || file.path == "tests/support/scratch_folder.h") continue;
+    const std::string code = CodeOnly(file.text);
+    for (const char* shared : {"temp_directory_path", "TempDir"})
+      EXPECT_EQ(code.find(shared), std::string::npos) << file.path << ": " << shared;
+  }
+}
+
 TEST(WallsTest, EveryFileIsInTheBuild) {
   const std::set<std::string> compiled = CompiledSources("compile_commands.json", Root());
   ASSERT_TRUE(compiled.contains("tests/unit/walls_test.cpp"));
