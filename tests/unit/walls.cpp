@@ -311,7 +311,9 @@ Complaints ToolkitOutsidePlatform(const Files& files) {
   for (const SourceFile& file : files) {
     const bool inside =
         StartsWith(file.path, "src/platform/") && (IsSource(file) || IsInnerHeader(file.path));
-    if (!IsCode(file) || inside || StartsWith(file.path, "bench/")) continue;
+    const bool measures = StartsWith(file.path, "bench/");
+    const bool drives = StartsWith(file.path, "tests/driver/");
+    if (!IsCode(file) || inside || measures || drives) continue;
     for (const std::string& name : Includes(file)) {
       if (IsToolkitInclude(name) || IsInnerHeader(name))
         complaints.push_back(file.path + " includes " + name);

@@ -31,7 +31,8 @@ Complaints ClimbingIncludes(const Files& files);
 // Files of src/ that include each other in a circle.
 Complaints IncludeCycles(const Files& files);
 // The toolkit's headers and types, anywhere but in the sources of src/platform/, in the headers
-// "..._impl.h" which these alone include, and in the benchmarks, which measure against the toolkit.
+// "..._impl.h" which these alone include, in the benchmarks, which measure against the toolkit, and
+// in the driver of the built program, which knows nothing else of it.
 Complaints ToolkitOutsidePlatform(const Files& files);
 // Files, clocks, random devices, processes and the environment, in src/ outside of platform/.
 Complaints MachineOutsidePlatform(const Files& files);
