@@ -89,7 +89,8 @@ TEST_F(DamageTest, FullDiskLeavesWhatWasToBeErased) {
 }
 
 TEST_F(DamageTest, FullFileSystemLeavesNoHalfRecord) {
-  const std::string whole = kBen + Repeated(kAda, 162);  // 4,075 bytes of the one page that there is
+  const std::string whole =
+      kBen + Repeated(kAda, 162);  // 4,075 bytes of the one page that there is
   const auto smallDisk = [this] {
     return unshare(CLONE_NEWNS) == 0 &&
            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
