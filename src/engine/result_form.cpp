@@ -39,7 +39,7 @@ struct Option {
 // Option 3, "See an example", is hidden: examples have a tab of their own.
 constexpr Option kOptions[] = {
     {0, "Try problem again", "Try problem again"},
-    {1, "Try a Different\nProblem", "Try a Different Problem"},
+    {1, "Try a Different   Problem", "Try a Different Problem"},
     {2, "See Explanation of Problem", "See Explanation of Problem"},
     {4, "Leave Lesson", "Leave Lesson"},
 };

@@ -6,8 +6,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QTextDocument>
 #include <algorithm>
 
+#include "platform/answer_box_impl.h"
 #include "platform/form_window_impl.h"
 #include "platform/widgets_impl.h"
 
@@ -26,6 +28,16 @@ QSize SizeOf(const QString& text, const QWidget& widget, int width, int flags) {
   if (text.isEmpty()) return {0, 0};
   constexpr int kTall = 10000;
   return widget.fontMetrics().boundingRect(QRect(0, 0, width, kTall), flags, text).size();
+}
+
+// The same of a text with bold words.
+QSize SizeOfRich(const QLabel& label) {
+  QTextDocument text;
+  text.setDefaultFont(label.font());
+  text.setDocumentMargin(0);
+  text.setHtml(label.text());
+  text.setTextWidth(label.width());
+  return text.size().toSize();
 }
 
 Excess OfList(const QListWidget& list) {
@@ -68,10 +80,18 @@ Edges EdgesOf(const Control& control) {
   return {corner.x(), corner.y(), corner.x() + widget.width(), corner.y() + widget.height()};
 }
 
+ShownMessage Shown(const Message& message) {
+  AnswerBox box(message, nullptr);
+  return {FromText(box.windowTitle()), box.Lines()};
+}
+
 Excess ExcessOfText(const Control& control) {
   QWidget& widget = *control.impl().widget;
   if (const auto* label = qobject_cast<QLabel*>(&widget))
-    return Beyond(SizeOf(label->text(), widget, widget.width(), Qt::TextWordWrap), widget.size());
+    return Beyond(label->textFormat() == Qt::RichText
+                      ? SizeOfRich(*label)
+                      : SizeOf(label->text(), widget, widget.width(), Qt::TextWordWrap),
+                  widget.size());
   if (const auto* option = qobject_cast<QRadioButton*>(&widget))
     return Beyond(option->minimumSizeHint(), widget.size());
   if (const auto* button = qobject_cast<QAbstractButton*>(&widget))

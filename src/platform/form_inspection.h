@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/dialogs.h"
 #include "platform/form.h"
 
 namespace platform::inspection {
@@ -33,5 +34,12 @@ struct Excess {
   int right, below;
 };
 Excess ExcessOfText(const Control& control);
+
+// A message as its box shows it: the title on its frame, and the lines that its text takes.
+struct ShownMessage {
+  std::string title;
+  int lines;
+};
+ShownMessage Shown(const Message& message);
 
 }  // namespace platform::inspection

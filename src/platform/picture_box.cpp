@@ -34,6 +34,7 @@ class SurfaceWidget final : public Pressable<QWidget> {
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Space) return Pressable<QWidget>::keyPressEvent(event);
+    if (event->isAutoRepeat()) return;
     CallLater(box_.impl().life, [&box = box_] { box.Click(); });
   }
 

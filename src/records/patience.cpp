@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/events.h"
+#include "platform/form.h"
 #include "platform/stop.h"
 #include "records/record_text.h"
 #include "session/session.h"
@@ -17,7 +18,9 @@ using platform::Sharing;
 constexpr double kPatience = 45;  // seconds
 constexpr double kPause = 0.002;  // seconds: the shortest pause that the course makes
 
+// A handler that ran here would find a form half-way through a save, or begin a second one.
 void PauseBetweenAttempts() {
+  const platform::FrontFormWaits wait;
   const int inDelay = session.gInDelay;
   session.gInDelay = 1;
   platform::Pause(kPause);
