@@ -4,8 +4,10 @@
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -68,6 +70,28 @@ Button* DefaultButton(const Form& form) {
 
 Button* NeutralButton(const Form& form) {
   return form.formImpl().neutral;
+}
+
+std::vector<MenuItem*> MenuItems(const Form& form) {
+  std::vector<MenuItem*> items = form.formImpl().items;
+  std::erase_if(items, [](const MenuItem* item) { return item->Caption().empty(); });
+  return items;
+}
+
+bool HidesCharacters(const Control& textBox) {
+  const auto* line = qobject_cast<const QLineEdit*>(textBox.impl().widget);
+  return line != nullptr && line->echoMode() != QLineEdit::Normal;
+}
+
+std::vector<std::string> BoldParts(const Label& label) {
+  QTextDocument text;
+  text.setHtml(WidgetOf<QLabel>(label).text());
+  std::vector<std::string> parts;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+    for (auto part = block.begin(); part != block.end(); ++part)
+      if (part.fragment().charFormat().fontWeight() >= QFont::Bold)
+        parts.push_back(FromText(part.fragment().text()));
+  return parts;
 }
 
 bool TakesTab(const Control& control) {

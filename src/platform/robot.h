@@ -18,6 +18,11 @@ void Type(const Form& form, Key key);
 // The key of a letter, held with Alt.
 void TypeWithAlt(const Form& form, char letter);
 
+// What a key does that is held down: it is pressed again without being released.
+void HoldKey(const Form& form, int code);
+
+// Copies what is selected where the focus is, and gives it back.
+std::string Copied(const Form& form);
 // Pastes a text, in UTF-8, where the focus is.
 void Paste(const Form& form, const std::string& text);
 
@@ -26,6 +31,7 @@ void CloseWindow(const Form& form);
 
 // What a screen reader says of the control, and its way to press it; false when it has none.
 std::string Spoken(const Control& control);
+std::string SpokenRow(const ListBox& list, int row);  // from 0
 bool PressBySpeech(const Control& control);
 
 }  // namespace platform::robot

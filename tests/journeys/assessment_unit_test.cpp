@@ -1,9 +1,11 @@
 // A unit test from its dialog through its problems to its results, and every way out of it.
 #include <algorithm>
+#include <set>
 
 #include "assessment/unit_test_results.h"
 #include "journeys/assessment_fixture.h"
 #include "lessons/registry.h"
+#include "mathkit/draws.h"
 #include "records/activity_records.h"
 
 namespace course::testing {
@@ -77,6 +79,19 @@ TEST_F(UnitTest, WantsAChoiceEachTime) {
   Click(kResults, "cmdContinue");
   RunUnitTest(11);
   EXPECT_EQ(titles.size(), 4u);
+}
+
+TEST_F(UnitTest, AsksOtherProblemsAfterEveryStartOfTheProgram) {
+  std::set<std::string> seeds;
+  for (int start = 1; start <= 2; ++start) {
+    ProblemStream() = RandomStream();
+    BeginUnitTest(2);
+    PickBoxes("AAAA");
+    Click(kResults, "cmdContinue");
+    RunUnitTest(11);
+    for (int i = 1; i <= 4; ++i) seeds.insert(session.gChapterTestData[i][unit_test_column::Seed]);
+  }
+  EXPECT_GE(seeds.size(), 7u) << "two may meet by chance";
 }
 
 TEST_F(UnitTest, CancelCloseBoxAndEscLeaveNoTrace) {

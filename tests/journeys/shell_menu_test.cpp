@@ -274,6 +274,17 @@ TEST_F(MenuTest, DrawsTheMarksOfTheSelectedUnit) {
   ExpectStop("DrawProgressMarks: gProgressCodes(5, 0) is \"T\"", [] { DrawProgressMarks(); });
 }
 
+TEST_F(MenuTest, ShowsTheMarksOfALessonWhenItIsLeft) {
+  LogIn("Ada");
+  Load();
+  Choose(10, 1);
+  engineHooks.SavePracticeRecord = [] { session.gProgressCodes[10][1] = "W"; };
+  user.At("PageEnd").Press(27);
+  EXPECT_TRUE(frmMenu->cmdStart.Click());
+  EXPECT_TRUE(HasMark(1, platform::colour::Red));
+  EXPECT_EQ(frmMenu->picProgress2.AccessibleText(), "Simple Inequalities: worked, no test yet");
+}
+
 TEST_F(MenuTest, HidesTheMarksAtTheStudentsWish) {
   LogIn("Ada");
   Load();
