@@ -42,6 +42,13 @@ QSize SizeOfRich(const QLabel& label) {
   return text.size().toSize();
 }
 
+// A caption that is too wide for its button takes more lines.
+Excess OfFace(const QAbstractButton& button) {
+  const QSize place = button.size() - QSize(2 * kFaceMargin, kFaceMargin);
+  constexpr int kFlags = Qt::TextShowMnemonic | Qt::TextWordWrap;
+  return Beyond(SizeOf(button.text(), button, place.width(), kFlags), place);
+}
+
 Excess OfList(const QListWidget& list) {
   int widest = 0;
   for (int row = 0; row < list.count(); ++row)
@@ -118,9 +125,7 @@ Excess ExcessOfText(const Control& control) {
                   widget.size());
   if (const auto* option = qobject_cast<QRadioButton*>(&widget))
     return Beyond(option->minimumSizeHint(), widget.size());
-  if (const auto* button = qobject_cast<QAbstractButton*>(&widget))
-    return Beyond(SizeOf(button->text(), widget, 0, Qt::TextShowMnemonic),
-                  widget.size() - QSize(2 * kFaceMargin, kFaceMargin));
+  if (const auto* button = qobject_cast<QAbstractButton*>(&widget)) return OfFace(*button);
   if (const auto* frame = qobject_cast<QGroupBox*>(&widget))
     return Beyond(SizeOf(frame->title(), widget, 0, 0), widget.size() - QSize(2 * kTitleMargin, 0));
   if (const auto* list = qobject_cast<QListWidget*>(&widget)) return OfList(*list);

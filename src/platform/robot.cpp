@@ -53,9 +53,13 @@ void ClickAt(const Control& control, int x, int y) {
   PressAndRelease(control, x, y);
 }
 
+void SecondClickAt(const Control& control, int x, int y) {
+  PressAndRelease(control, x, y);
+}
+
 void DoubleClickAt(const Control& control, int x, int y) {
   ClickAt(control, x, y);
-  PressAndRelease(control, x, y);
+  SecondClickAt(control, x, y);
 }
 
 void Type(const Form& form, int code) {

@@ -9,6 +9,8 @@ namespace platform::robot {
 
 // Presses and releases the left button at a pixel of the control.
 void ClickAt(const Control& control, int x, int y);
+// The second click of a double click, wherever the first one was.
+void SecondClickAt(const Control& control, int x, int y);
 void DoubleClickAt(const Control& control, int x, int y);
 
 // Presses and releases a key on the form: a character's code, or one of those without a character.
