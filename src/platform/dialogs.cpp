@@ -94,13 +94,14 @@ AnswerBox::AnswerBox(const Message& message, QWidget* parent)
       text_(new QLabel(ToText(message.text))),
       buttons_(new QDialogButtonBox(ButtonsOf(message.buttons))) {
   auto* layout = new QGridLayout(this);
+  const int column = message.icon == Icon::None ? 0 : 1;
   if (message.icon != Icon::None) {
     auto* sign = new QLabel;
     sign->setPixmap(SignOf(message.icon));
     layout->addWidget(sign, 0, 0, Qt::AlignTop);
   }
-  layout->addWidget(text_, 0, 1);
-  layout->addWidget(buttons_, 1, 0, 1, 2);
+  layout->addWidget(text_, 0, column);
+  layout->addWidget(buttons_, 1, 0, 1, column + 1);
   Dress(*this, message.title);
   text_->setTextFormat(Qt::PlainText);
   text_->setFont(font());
@@ -137,8 +138,6 @@ bool NobodyIsThere() {
 
 Answer ShowMessage(const Message& message) {
   AnswerBox box(message, FrontWindow());
-  // The form below may be waiting for a file; the question is to be answered all the same.
-  box.setEnabled(true);
   box.exec();
   return box.Chosen();
 }
