@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 #include "platform/handler_queue_impl.h"
 #include "platform/leave_request.h"
+#include "platform/painting.h"
 #include "platform/user.h"
 
 namespace platform {
@@ -31,7 +32,7 @@ void WaitEvents(const std::string& place) {
     return;
   }
   // He sees the page as it is painted, and acts when nothing else is about to happen.
-  QCoreApplication::processEvents();
+  if (!PaintingOff::Active()) QCoreApplication::processEvents();
   if (!RunHandlers()) user->AtWait(place);
 }
 

@@ -10,6 +10,7 @@
 #include "platform/events.h"
 #include "platform/form_window_impl.h"
 #include "platform/off_screen.h"
+#include "platform/painting.h"
 #include "platform/surface.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
@@ -123,6 +124,7 @@ void Form::Show() {
   if (formImpl_->shown) return;
   formImpl_->shown = true;
   shownForms.push_back(this);
+  if (PaintingOff::Active()) return;
   static_cast<FormWindow&>(*formImpl_->window).ExpectFirstPainting();
   formImpl_->window->setAttribute(Qt::WA_DontShowOnScreen, OffScreen::Active());
   formImpl_->window->show();
@@ -134,12 +136,13 @@ void Form::Hide() {
   formImpl_->shown = false;
   std::erase(shownForms, this);
   formImpl_->window->hide();
+  if (PaintingOff::Active()) return;
   // Not every screen has a window manager that passes the keyboard on.
   if (QWidget* below = FrontWindow()) TakeKeyboard(*below);
 }
 
 void Form::ShowModal() {
-  KeepInFrontOf(*formImpl_->window, FrontWindow());
+  if (!PaintingOff::Active()) KeepInFrontOf(*formImpl_->window, FrontWindow());
   const ModalStretch stretch(*this);
   Place();
   Show();

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/painting.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
 
@@ -84,6 +85,7 @@ QAccessibleInterface* MakeSpoken(const QString&, QObject* object) {
 
 PictureBox::PictureBox(Control& parent, std::string name)
     : Control(&parent, std::move(name)), Surface(1, 1) {
+  Surface::impl_->paints = !PaintingOff::Active();
   static const bool installed = (QAccessible::installFactory(MakeSpoken), true);
   static_cast<void>(installed);
   PutOn(parent, *this, new SurfaceWidget(*this, Surface::impl_->image));
