@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "display/lesson_window.h"
+#include "platform/painting.h"
 
 namespace course {
 namespace {
@@ -94,6 +95,7 @@ std::string SpokenText(const std::string& text) {
 }
 
 void UpdateAccessibleTexts() {
+  if (platform::PaintingOff::Active()) return;  // no screen, no screen reader
   frmPR->pnlLesson.SetAccessibleText(Joined(frmPR->lessonText, "\n"));
   frmPR->picWiperBox.SetAccessibleText(Joined(frmPR->wiperText, "\n"));
   for (int i = 1; i <= 5; ++i) {

@@ -31,7 +31,6 @@ const InkParts& PartsOf(int level) {
   return level > 0 ? kRaised : kLowered;
 }
 
-constexpr double kBrush = 3;         // pixels of ink that two boxes may share
 constexpr double kSamePlace = 0.25;  // cells
 
 // Columns that a letter takes: one, but fewer in the banner, whose face has widths of its own.
@@ -118,17 +117,13 @@ class Standing {
 
 }  // namespace
 
-bool Overlap(const InkBox& a, const InkBox& b) {
-  return std::min(a.right, b.right) - std::max(a.left, b.left) > kBrush &&
-         std::min(a.bottom, b.bottom) - std::max(a.top, b.top) > kBrush;
-}
-
 std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   const InkParts& parts = PartsOf(fragment.level);
   const double advance = ColumnsOf(fragment);
   const double width = panel.layout.cellWidth * advance;
   const double height = panel.layout.cellHeight;
   std::vector<Glyph> glyphs;
+  glyphs.reserve(fragment.text.size());
   double col = fragment.col;
   for (const char c : fragment.text) {
     const double x = panel.CellX(col);

@@ -96,10 +96,11 @@ InkBox Outline(const platform::Control& box, const platform::Control& on) {
           top + double(box.Height()) / platform::TwipsPerPixelY};
 }
 
-void FindTextUnder(const TextPanel& panel, const ShownBox& box, std::vector<std::string>& faults) {
-  const InkBox outline = Outline(*box.box, panel.surface);
+void FindTextUnder(const StandingText& text, const platform::Control& panel, const ShownBox& box,
+                   std::vector<std::string>& faults) {
+  const InkBox outline = Outline(*box.box, panel);
   std::string hidden;
-  for (const Glyph& glyph : StandingTextOf(panel).glyphs)
+  for (const Glyph& glyph : text.glyphs)
     if (Overlap(glyph.ink, outline)) hidden += glyph.character;
   if (!hidden.empty()) faults.push_back("text under " + box.name + ": " + Quoted(hidden));
 }
@@ -193,10 +194,7 @@ void FindOutsideAnswer(const ShownBox& box, std::vector<std::string>& faults) {
   }
 }
 
-}  // namespace
-
-std::vector<std::string> Overprints(const TextPanel& panel) {
-  const StandingText text = StandingTextOf(panel);
+std::vector<std::string> OverprintsOf(const StandingText& text) {
   std::vector<std::string> faults;
   for (const Glyph& rest : text.cutAt)
     faults.push_back("of a word that was printed over there still stands " +
@@ -220,15 +218,22 @@ std::vector<std::string> Overprints(const TextPanel& panel) {
   return faults;
 }
 
+}  // namespace
+
+std::vector<std::string> Overprints(const TextPanel& panel) {
+  return OverprintsOf(StandingTextOf(panel));
+}
+
 std::vector<std::string> LayoutFaults(LessonWindow& window) {
-  std::vector<std::string> faults = Overprints(window.lessonText);
+  const StandingText text = StandingTextOf(window.lessonText);
+  std::vector<std::string> faults = OverprintsOf(text);
   const std::vector<ShownBox> boxes = ShownBoxes(window);
   FindOutsideGrid(window.lessonText, faults);
   FindBoxesOutside(window, boxes, faults);
   FindAnswersOverEachOther(boxes, faults);
   FindOutsideCells(window, faults);
   for (const ShownBox& box : boxes) {
-    FindTextUnder(window.lessonText, box, faults);
+    FindTextUnder(text, window.pnlLesson, box, faults);
     if (box.text == nullptr) continue;
     for (std::string& fault : Overprints(*box.text)) faults.push_back(box.name + ": " + fault);
     if (box.name.starts_with("picAnswer"))
