@@ -34,6 +34,10 @@ class LessonScript {
   const std::string& Title() const { return title_; }
   int ScreenCount();
 
+  // Whether the recipe of the wrong choices is laid down: then the author's tools tell how easily
+  // the right one is guessed, and do not complain of it.
+  virtual bool ChoicesAreLaidDown() const { return false; }
+
   // The problem of a seed, drawn without a window; a run of the seed shows and grades the same.
   struct DrawnProblem {
     Problem problem;

@@ -10,6 +10,7 @@
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/workers.h"
 #include "lesson_lab/commands.h"
+#include "lesson_lab/tally.h"
 #include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/program.h"
@@ -76,12 +77,6 @@ Report CheckShare(const CheckRequest& request, const std::string& title, const S
   return report;
 }
 
-void PrintMistakes(const Report& report) {
-  for (const auto& [name, count] : report.mistakes)
-    std::printf("    %7ld  %s%s\n", count.met, course::ToUtf8(name).c_str(),
-                count.derived == count.met ? "" : "  (not derived)");
-}
-
 void PrintReport(const std::string& title, const Report& report, double seconds) {
   const std::string name = course::ToUtf8(title);
   for (const lesson_check::Finding& finding : report.findings)
@@ -95,7 +90,7 @@ void PrintReport(const std::string& title, const Report& report, double seconds)
       "#%d in %.2f ms\n",
       name.c_str(), report.problems, report.pages, report.faults, seconds,
       static_cast<double>(report.draws) / problems, report.slowestSeed, report.slowest);
-  PrintMistakes(report);
+  PrintTally(report.tally);
   std::fflush(stdout);
 }
 

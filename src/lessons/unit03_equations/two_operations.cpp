@@ -154,6 +154,7 @@ void TryIt() {
 class TwoOperations final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override {

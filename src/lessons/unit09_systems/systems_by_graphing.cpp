@@ -230,6 +230,7 @@ void GraphReadAndCheck() {
 class SystemsByGraphing final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override {

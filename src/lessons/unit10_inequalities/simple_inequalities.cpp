@@ -68,6 +68,7 @@ void FourSymbols() {
 class SimpleInequalities final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override { return {{MeaningOfInequality}, {FourSymbols}}; }

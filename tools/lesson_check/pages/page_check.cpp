@@ -1,10 +1,12 @@
 #include "lesson_check/pages/page_check.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/pages/page_layout.h"
+#include "lesson_check/pages/page_style.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
@@ -31,6 +33,8 @@ std::string NameOf(int entry) {
       return "explanation in a lesson test";
     case mode::UnitTestReview:
       return "review in a unit test";
+    case mode::DiagnosticProblem:
+      return "problem of the diagnostic test";
     case mode::UnitTestExplanation:
       return "explanation in a unit test";
     default:
@@ -42,10 +46,16 @@ std::string Quoted(const std::string& text) {
   return "\"" + course::ToUtf8(text) + "\"";
 }
 
+// Pages of prose, as against a problem's.
+bool IsWritten(int entry) {
+  return entry == mode::Lesson || entry == mode::Example || entry == mode::Explanation ||
+         entry == mode::LessonTestExplanation || entry == mode::UnitTestExplanation;
+}
+
 // The banner alone tells a practice problem from its review.
 PageText WithoutBanner(PageText page) {
   constexpr std::string_view kBanners[] = {"Try the following problem", "Lesson Test Problem",
-                                           "Unit Test Problem"};
+                                           "Unit Test Problem", "Diagnostic Test Problem"};
   std::erase_if(page.lines, [&](const std::string& line) {
     const std::string text = Trimmed(line);
     return std::ranges::any_of(kBanners,
@@ -98,15 +108,18 @@ std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& prob
 
 std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& complain) {
   std::vector<PageText> pages;
-  std::vector<std::string> told;  // a fault that stands on several pages is told once
+  std::set<std::string> told;  // a fault that stands on several pages is told once
+  PageStyle style;
   const auto look = [&] {
     ++pagesRead_;
     pages.push_back(ReadPage(*frmPR));
-    for (const std::string& fault : LayoutFaults(*frmPR)) {
-      if (std::ranges::find(told, fault) != told.end()) continue;
-      told.push_back(fault);
-      complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
-    }
+    std::vector<std::string> faults = LayoutFaults(*frmPR);
+    if (IsWritten(entry))
+      for (std::string& fault : style.FaultsOf(*frmPR, drawn_.problem.question))
+        faults.push_back(std::move(fault));
+    for (const std::string& fault : faults)
+      if (told.insert(fault).second)
+        complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
   };
   try {
     reader_.Read(lesson_, entry, seed, look);
@@ -181,13 +194,14 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
   CheckEnd(explanation, complain);
   CheckSameProblem(explanation, complain);
-  // The other ways lead through the same routines; five of eight seeds walk one of them.
-  constexpr int kOtherWays[] = {mode::Example, mode::LessonTestReview, mode::LessonTestExplanation,
-                                mode::UnitTestReview, mode::UnitTestExplanation};
+  // The other ways lead through the same routines; six of eight seeds walk one of them.
+  constexpr int kOtherWays[] = {
+      mode::Example,        mode::LessonTestReview,    mode::LessonTestExplanation,
+      mode::UnitTestReview, mode::UnitTestExplanation, mode::DiagnosticProblem};
   const auto turn = static_cast<std::size_t>(seed % 8);
   if (turn >= std::size(kOtherWays)) return;
   const int way = kOtherWays[turn];
-  if (way == mode::LessonTestReview || way == mode::UnitTestReview)
+  if (!IsWritten(way))
     CheckReview(way, seed, problem[0], complain);
   else
     CheckEnd(Read(way, seed, complain), complain);

@@ -7,6 +7,7 @@
 
 #include "display/exponents.h"
 #include "engine/answers.h"
+#include "lesson_check/pages/box_overlap.h"
 #include "lesson_check/pages/glyph_boxes.h"
 #include "mathkit/tutor_codes.h"
 
@@ -116,20 +117,6 @@ void FindBoxesOutside(LessonWindow& window, const std::vector<ShownBox>& boxes,
   }
 }
 
-// Boxes of the same kind never lie over each other.
-void FindAnswersOverEachOther(const std::vector<ShownBox>& boxes,
-                              std::vector<std::string>& faults) {
-  for (std::size_t i = 0; i < boxes.size(); ++i) {
-    for (std::size_t j = i + 1; j < boxes.size(); ++j) {
-      const bool answer = boxes[j].name.starts_with("picAnswer");
-      const InkBox own{0, 0, double(boxes[j].box->PixelWidth()),
-                       double(boxes[j].box->PixelHeight())};
-      if (answer && Overlap(Outline(*boxes[i].box, *boxes[j].box), own))
-        faults.push_back(boxes[i].name + " and " + boxes[j].name + " lie over each other");
-    }
-  }
-}
-
 // --- Texts inside their panels -------------------------------------------------------------------
 
 void FindOutsideGrid(const TextPanel& panel, std::vector<std::string>& faults) {
@@ -230,7 +217,7 @@ std::vector<std::string> LayoutFaults(LessonWindow& window) {
   const std::vector<ShownBox> boxes = ShownBoxes(window);
   FindOutsideGrid(window.lessonText, faults);
   FindBoxesOutside(window, boxes, faults);
-  FindAnswersOverEachOther(boxes, faults);
+  for (std::string& fault : OverlappingBoxes(window)) faults.push_back(std::move(fault));
   FindOutsideCells(window, faults);
   for (const ShownBox& box : boxes) {
     FindTextUnder(text, window.pnlLesson, box, faults);

@@ -1,0 +1,37 @@
+// How a page of teaching or explanation is written: how much it adds, its colours, its prose.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "display/lesson_window.h"
+
+namespace lesson_check {
+
+// Each fault of style begins with one of these.
+namespace style {
+inline constexpr const char* kNewLines = "more than four new lines";
+inline constexpr const char* kColours = "more than two colours in a line";
+inline constexpr const char* kRed = "red on blue";
+inline constexpr const char* kOneBlank = "one blank behind a full stop";
+inline constexpr const char* kExclamation = "an exclamation mark";
+inline constexpr const char* kDot = "a dot between two digits";
+}  // namespace style
+
+inline constexpr std::array kStyleFaults = {style::kNewLines, style::kColours,     style::kRed,
+                                            style::kOneBlank, style::kExclamation, style::kDot};
+
+// The pages of one run, one behind the other.
+class PageStyle {
+ public:
+  // The faults of the page that the window shows now.  Lines of the page before and of the question
+  // are not new; nor are the rows of a fraction lines of their own.
+  std::vector<std::string> FaultsOf(const course::LessonWindow& window,
+                                    const std::vector<std::string>& question);
+
+ private:
+  std::vector<std::string> before_;  // lines of the last page
+};
+
+}  // namespace lesson_check
