@@ -27,12 +27,30 @@ std::string OnOneLine(std::string text) {
 }  // namespace
 
 void Report::Keep(const Finding& finding) {
-  if (findings.size() < kKept && ++alike_[Gist(finding.fault)] <= kKeptOfOne)
-    findings.push_back(finding);
+  Alike& alike = alike_[Gist(finding.fault)];
+  if (findings.size() >= kKept || alike.kept >= kKeptOfOne) return;
+  ++alike.kept;
+  findings.push_back(finding);
+}
+
+long Report::Forget(const std::string& beginning) {
+  const auto matches = [&](const std::string& fault) {
+    return fault.starts_with(beginning) || fault.find(": " + beginning) != std::string::npos;
+  };
+  long forgotten = 0;
+  std::erase_if(alike_, [&](const auto& entry) {
+    if (!matches(entry.first)) return false;
+    forgotten += entry.second.met;
+    return true;
+  });
+  std::erase_if(findings, [&](const Finding& finding) { return matches(finding.fault); });
+  faults -= forgotten;
+  return forgotten;
 }
 
 void Report::Add(int seed, const std::string& fault) {
   ++faults;
+  ++alike_[Gist(fault)].met;
   Keep({seed, fault});
 }
 
@@ -45,12 +63,13 @@ void Report::Add(const Report& other) {
     slowestSeed = other.slowestSeed;
   }
   faults += other.faults;
+  for (const auto& [gist, alike] : other.alike_) alike_[gist].met += alike.met;
   tally.Add(other.tally);
   for (const Finding& finding : other.findings) Keep(finding);
 }
 
 // A line a value: numbers and habits first, then hashes of questions ("d"), mistakes ("m met
-// derived name"), kinds ("k count kind") and findings ("f seed text").
+// derived name"), kinds ("k count kind"), faults ("g count gist") and findings ("f seed text").
 std::string Report::Text() const {
   std::ostringstream text;
   text.precision(17);
@@ -65,6 +84,8 @@ std::string Report::Text() const {
     text << "m " << count.met << ' ' << count.derived << ' ' << name << '\n';
   for (const auto& [kind, count] : tally.kinds)
     text << "k " << count << ' ' << OnOneLine(kind) << '\n';
+  for (const auto& [gist, alike] : alike_)
+    text << "g " << alike.met << ' ' << OnOneLine(gist) << '\n';
   for (const Finding& finding : findings)
     text << "f " << finding.seed << ' ' << OnOneLine(finding.fault) << '\n';
   return text.str();
@@ -97,6 +118,10 @@ Report Report::FromText(const std::string& text) {
       long count = 0;
       input >> count;
       report.tally.kinds[rest()] = count;
+    } else if (kind == "g") {
+      long count = 0;
+      input >> count;
+      report.alike_[rest()].met = count;
     } else {
       int seed = kNoSeed;
       input >> seed;

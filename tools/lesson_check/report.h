@@ -35,6 +35,9 @@ struct Report {
 
   void Add(int seed, const std::string& fault);
   void Add(const Report& other);
+  // Takes out the faults that are, or end in behind the name of a page, a text that begins with
+  // this one.  Returns how many there were.
+  long Forget(const std::string& beginning);
 
   std::string Text() const;
   static Report FromText(const std::string& text);
@@ -42,7 +45,11 @@ struct Report {
  private:
   void Keep(const Finding& finding);
 
-  std::map<std::string, long> alike_;  // findings kept, by their faults without numbers
+  struct Alike {
+    long met = 0;
+    long kept = 0;
+  };
+  std::map<std::string, Alike> alike_;  // by their faults without numbers and quotations
 };
 
 // "Title#seed", or the title alone for a fault of the lesson.

@@ -31,6 +31,9 @@ struct CheckRequest {
   int first = 0;
   int last = 32766;
   bool drawOnly = false;  // no pages
+  bool teaching = true;   // with the teaching screens, when there are pages
+  std::string state;   // file that keeps what is done, so that a stopped check goes on; may be ""
+  std::string notYet;  // file of known faults, see lesson_check/not_yet.h; may be ""
 };
 int Check(const CheckRequest& request);
 

@@ -61,6 +61,8 @@ int main(int argc, char** argv) {
       "--seeds", [&checked](const std::string& text) { ReadSeeds(text, checked); },
       "Seeds A-B, all without it");
   check->add_flag("--draw-only", checked.drawOnly, "No pages: problems alone");
+  check->add_option("--state", checked.state, "File from which a stopped check goes on");
+  check->add_option("--not-yet", checked.notYet, "File of faults known of lessons to be reworked");
 
   CLI11_PARSE(app, argc, argv);
   // Each of the processes of a check brings up the toolkit for itself.

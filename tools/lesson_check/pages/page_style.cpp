@@ -76,6 +76,12 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
+// "2" in front of the full stop of a list's second item.
+bool IsItemNumber(const std::string& text) {
+  const std::string number = Trimmed(text);
+  return std::ranges::all_of(number, IsDigit);
+}
+
 void FindInProse(const std::string& text, std::vector<std::string>& faults) {
   const char kDot = course::tutor::Dot[0];
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -85,7 +91,8 @@ void FindInProse(const std::string& text, std::vector<std::string>& faults) {
       faults.push_back(style::kDot + Quoted(text));
     const bool sentence = i + 2 < text.size() && text[i] == '.' && text[i + 1] == ' ' &&
                           std::isupper(static_cast<unsigned char>(text[i + 2])) != 0;
-    if (sentence && text[i - 1] != '.') faults.push_back(style::kOneBlank + Quoted(text));
+    if (sentence && text[i - 1] != '.' && !IsItemNumber(text.substr(0, i)))
+      faults.push_back(style::kOneBlank + Quoted(text));
   }
 }
 
@@ -104,7 +111,21 @@ void FindColours(const Line& line, bool onBlue, std::vector<std::string>& faults
   }
   if (colours.size() > kMostColours) faults.push_back(style::kColours + Quoted(line.Text()));
   if (onBlue && !red.empty() && !IsRedAsEver(line.Text(), red))
-    faults.push_back(style::kRed + Quoted(red));
+    faults.push_back(style::kRed + Quoted(line.Text()));
+}
+
+// The question may come back behind "Line 1:", in parts, or with its fractions built up.
+bool IsOfQuestion(const std::string& line, const std::vector<std::string>& question) {
+  const std::string text = WithoutBlanks(Comparable(line));
+  std::vector<std::string> numbers = NumbersIn(line);
+  std::ranges::sort(numbers);
+  return std::ranges::any_of(question, [&](const std::string& asked) {
+    const std::string whole = WithoutBlanks(Comparable(asked));
+    if (text.find(whole) != std::string::npos || whole.find(text) != std::string::npos) return true;
+    std::vector<std::string> asks = NumbersIn(asked);
+    std::ranges::sort(asks);
+    return asked.find('/') != std::string::npos && asks == numbers;
+  });
 }
 
 bool IsBanner(const std::string& line) {
@@ -129,8 +150,7 @@ std::vector<std::string> PageStyle::FaultsOf(const course::LessonWindow& window,
                                              const std::vector<std::string>& question) {
   std::vector<std::string> faults;
   std::vector<std::string> lines;
-  std::set<std::string> old(before_.begin(), before_.end());
-  for (const std::string& line : question) old.insert(WithoutBlanks(Comparable(line)));
+  const std::set<std::string> old(before_.begin(), before_.end());
   std::size_t added = 0;
   for (const TextPanel* panel : ShownPanels(window)) {
     for (const Line& line : LinesOf(*panel)) {
@@ -138,7 +158,7 @@ std::vector<std::string> PageStyle::FaultsOf(const course::LessonWindow& window,
       lines.push_back(WithoutBlanks(Comparable(text)));
       FindColours(line, panel == &window.lessonText, faults);
       FindInProse(text, faults);
-      if (!old.contains(lines.back()) && !IsBanner(text)) ++added;
+      if (!old.contains(lines.back()) && !IsBanner(text) && !IsOfQuestion(text, question)) ++added;
     }
   }
   if (added > kMostNewLines)
