@@ -177,9 +177,10 @@ class CourseCheck {
     const double start = Now();
     Report report = CheckSeeds(request_, title, state_);
     lesson_check::CheckAcceptance(report);
-    lesson_check::CheckHabits(report, FindLesson(title)->ChoicesAreLaidDown());
+    const auto lesson = FindLesson(title);
+    lesson_check::CheckHabits(report, lesson->ChoicesAreLaidDown());
     if (AllSeeds(request_)) recipes_.Add(title, report);
-    lesson_check::Pardon(notYet_, course::ToUtf8(title), report);
+    lesson_check::Pardon(notYet_, course::ToUtf8(lesson->Title()), report);
     PrintReport(title, report, Now() - start);
     return report.faults;
   }
