@@ -320,7 +320,7 @@ TEST_F(PageLayoutTest, AnyTwoBoxesThatOverlapAreFound) {
   EXPECT_EQ(Found(), Faults{});
   image.SetVisible(true);
   EXPECT_EQ(Found(), Faults{"picNotes(1) and picGalleryImage(2) lie over each other"});
-  Print(7, 9, "note");
+  Print(6, 8, "note");
   EXPECT_EQ(Found().size(), 2u);
 }
 

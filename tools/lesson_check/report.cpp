@@ -34,8 +34,9 @@ void Report::Keep(const Finding& finding) {
 }
 
 long Report::Forget(const std::string& beginning) {
-  const auto matches = [&](const std::string& fault) {
-    return fault.starts_with(beginning) || fault.find(": " + beginning) != std::string::npos;
+  const std::string wanted = Gist(beginning);
+  const auto matches = [&](const std::string& gist) {
+    return gist.starts_with(wanted) || gist.find(": " + wanted) != std::string::npos;
   };
   long forgotten = 0;
   std::erase_if(alike_, [&](const auto& entry) {
@@ -43,7 +44,7 @@ long Report::Forget(const std::string& beginning) {
     forgotten += entry.second.met;
     return true;
   });
-  std::erase_if(findings, [&](const Finding& finding) { return matches(finding.fault); });
+  std::erase_if(findings, [&](const Finding& finding) { return matches(Gist(finding.fault)); });
   faults -= forgotten;
   return forgotten;
 }
