@@ -82,7 +82,6 @@ std::vector<ShownBox> ShownBoxes(LessonWindow& window) {
     add(window.picCommentBox[i], window.commentText[place].get());
     add(window.picGalleryImage[i], nullptr);
     add(window.picNotes[i], nullptr);
-    add(window.picNotes[i], nullptr);
     add(window.picGraph2D[i], nullptr);
     add(window.picAnswer[i], window.answerText[place].get());
   }
