@@ -4,9 +4,10 @@
 #include <set>
 #include <string_view>
 
+#include "engine/answers.h"
+#include "engine/header.h"
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/pages/page_layout.h"
-#include "lesson_check/pages/page_style.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
@@ -44,6 +45,52 @@ std::string NameOf(int entry) {
 
 std::string Quoted(const std::string& text) {
   return "\"" + course::ToUtf8(text) + "\"";
+}
+
+// Everything that the checks of a page read, as bytes.
+class Look {
+ public:
+  void Add(const platform::PictureBox& box, const course::TextPanel* text) {
+    if (!box.Visible()) return;
+    bytes_ += box.Name() + box.AccessibleText();
+    for (const int twips : {box.Left(), box.Top(), box.Width(), box.Height()}) Add(twips);
+    Add(box.FontSize);
+    if (text == nullptr) return;
+    for (const course::Fragment& fragment : text->Transcript()) {
+      Add(fragment.row);
+      Add(fragment.col);
+      Add(fragment.level);
+      bytes_ += fragment.text + '\0';
+    }
+  }
+  std::string Take() { return std::move(bytes_); }
+
+ private:
+  template <class Number>
+  void Add(Number number) {
+    bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
+  }
+
+  std::string bytes_;
+};
+
+std::string LookOf(course::LessonWindow& window) {
+  Look look;
+  look.Add(window.pnlLesson, &window.lessonText);
+  look.Add(window.picWiperBox, &window.wiperText);
+  look.Add(window.picWiperBox2, &window.wiperText2);
+  look.Add(window.picPrintCellBox, nullptr);
+  for (int i = 1; i <= 5; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    look.Add(window.picCommentBox[i], window.commentText[place].get());
+    look.Add(window.picGalleryImage[i], nullptr);
+    look.Add(window.picNotes[i], nullptr);
+    look.Add(window.picGraph2D[i], nullptr);
+    look.Add(window.picAnswer[i], window.answerText[place].get());
+  }
+  for (int i = 1; window.picPrintCellBox.Visible() && i <= window.picPrintCell.Last(); ++i)
+    look.Add(window.picPrintCell[i], nullptr);
+  return look.Take() + course::BannerText() + course::answerParameters.fontName;
 }
 
 // Pages of prose, as against a problem's.
@@ -106,16 +153,27 @@ std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& prob
   return "";
 }
 
+// A problem's explanation comes again as an example and in tests, and small lessons have few
+// problems.
+const PageChecker::SeenPage& PageChecker::See() {
+  constexpr std::size_t kMostSeen = 2000;
+  if (seen_.size() > kMostSeen) seen_.clear();
+  const auto [page, isNew] = seen_.try_emplace(LookOf(*frmPR));
+  if (isNew) page->second = {ReadPage(*frmPR), LayoutFaults(*frmPR)};
+  return page->second;
+}
+
 std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& complain) {
   std::vector<PageText> pages;
   std::set<std::string> told;  // a fault that stands on several pages is told once
-  PageStyle style;
+  style_.Begin();
   const auto look = [&] {
     ++pagesRead_;
-    pages.push_back(ReadPage(*frmPR));
-    std::vector<std::string> faults = LayoutFaults(*frmPR);
+    const SeenPage& page = See();
+    pages.push_back(page.text);
+    std::vector<std::string> faults = page.faults;
     if (IsWritten(entry))
-      for (std::string& fault : style.FaultsOf(*frmPR, drawn_.problem.question))
+      for (std::string& fault : style_.FaultsOf(*frmPR, drawn_.problem.question))
         faults.push_back(std::move(fault));
     for (const std::string& fault : faults)
       if (told.insert(fault).second)

@@ -54,6 +54,20 @@ struct OverlappedRow {
   }
 };
 
+// The glyphs of one row, and the heights between which their ink lies.
+struct InkRow {
+  double top = 1e9;
+  double bottom = -1e9;
+  std::vector<const Glyph*> glyphs;
+
+  void Add(const Glyph& glyph) {
+    top = std::min(top, glyph.ink.top);
+    bottom = std::max(bottom, glyph.ink.bottom);
+    glyphs.push_back(&glyph);
+  }
+  bool Meets(const InkBox& ink) const { return ink.top < bottom && top < ink.bottom; }
+};
+
 std::string WordOf(const std::vector<Glyph>& glyphs, const Glyph& part) {
   std::string word;
   for (const Glyph& glyph : glyphs)
@@ -185,18 +199,16 @@ std::vector<std::string> OverprintsOf(const StandingText& text) {
   for (const Glyph& rest : text.cutAt)
     faults.push_back("of a word that was printed over there still stands " +
                      Quoted(WordOf(text.glyphs, rest)) + Place(rest.row, rest.col));
-  // Only glyphs of near rows can meet.  Overlaps of one row are told as one.
-  std::map<long, std::vector<const Glyph*>> rows;
+  // Most rows have no ink at a glyph's height.  Overlaps of one row are told as one.
+  std::map<long, InkRow> rows;
   std::map<long, OverlappedRow> overlapped;
   for (const Glyph& glyph : text.glyphs) {
-    const long row = std::lround(glyph.row);
-    for (long near = row - 2; near <= row + 2; ++near) {
-      const auto found = rows.find(near);
-      if (found == rows.end()) continue;
-      for (const Glyph* earlier : found->second)
-        if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
-    }
-    rows[row].push_back(&glyph);
+    for (const auto& [near, inked] : rows)
+      if (inked.Meets(glyph.ink))
+        for (const Glyph* earlier : inked.glyphs)
+          if (Overlap(earlier->ink, glyph.ink))
+            overlapped[std::lround(glyph.row)].Add(*earlier, glyph);
+    rows[std::lround(glyph.row)].Add(glyph);
   }
   for (const auto& [row, overlap] : overlapped)
     faults.push_back(Quoted(overlap.later) + " over " + Quoted(overlap.earlier) +

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <set>
 #include <string_view>
 
 #include "engine/header.h"
@@ -24,46 +22,60 @@ constexpr double kSameLine = 0.8;  // rows: a numerator, its bar and its denomin
 // What begins so in red is printed as it always was.
 constexpr std::string_view kRedAsEver[] = {"d = r", "The answer is: "};
 
+using Line = PageStyle::Line;
+
 struct Cell {
   char character = ' ';
   Colour colour = 0;
 };
 
-// What stands in one line, in cells; of a fraction's rows those above come first.
-struct Line {
-  double lastRow = 0;
-  std::map<std::pair<double, long>, Cell> cells;  // by row and column
+// The cells of one row, and of some columns beside the panel.
+struct Row {
+  static constexpr long kBeside = 8;
+  double row = 0;
+  std::array<Cell, 64> cells{};
 
-  std::string Text() const {
-    std::string text;
-    double row = cells.begin()->first.first;
-    long next = cells.begin()->first.second;
-    for (const auto& [place, cell] : cells) {
-      if (place.first != row) text += ' ';
-      for (long col = next; place.first == row && col < place.second; ++col) text += ' ';
-      text += cell.character;
-      row = place.first;
-      next = place.second + 1;
-    }
-    return text;
+  void Set(long col, const Cell& cell) {
+    const auto place = static_cast<std::size_t>(col + kBeside);
+    if (col + kBeside >= 0 && place < cells.size()) cells[place] = cell;
   }
 };
 
-std::vector<Line> LinesOf(const TextPanel& panel) {
-  std::map<double, std::map<long, Cell>> rows;
+std::vector<Row> RowsOf(const TextPanel& panel) {
+  std::vector<Row> rows;
   for (const Fragment& fragment : panel.Transcript()) {
+    const double place = std::round(fragment.row * 10) / 10;
+    auto row = std::ranges::find(rows, place, &Row::row);
+    if (row == rows.end()) row = rows.insert(rows.end(), Row{.row = place});
     long col = std::lround(fragment.col);
-    auto& row = rows[std::round(fragment.row * 10) / 10];
-    for (const char c : fragment.text) row[col++] = {c, fragment.colour};
+    for (const char c : fragment.text) row->Set(col++, {c, fragment.colour});
   }
+  std::ranges::sort(rows, {}, &Row::row);
+  return rows;
+}
+
+bool IsBlank(const Cell& cell) {
+  return cell.character == ' ' || cell.character == course::tutor::Gap[0];
+}
+
+void AddRow(const Row& row, Line& line) {
+  const auto first = std::ranges::find_if_not(row.cells, IsBlank);
+  const auto last = std::find_if_not(row.cells.rbegin(), row.cells.rend(), IsBlank).base();
+  if (!line.text.empty()) line.text += ' ';
+  for (auto cell = first; cell != last; ++cell) {
+    line.text += cell->character;
+    if (!IsBlank(*cell) && std::ranges::find(line.colours, cell->colour) == line.colours.end())
+      line.colours.push_back(cell->colour);
+  }
+  line.lastRow = row.row;
+}
+
+std::vector<Line> LinesOf(const TextPanel& panel) {
   std::vector<Line> lines;
-  for (const auto& [row, cells] : rows) {
-    for (const auto& [col, cell] : cells) {
-      if (cell.character == ' ' || cell.character == course::tutor::Gap[0]) continue;
-      if (lines.empty() || row - lines.back().lastRow > kSameLine) lines.emplace_back();
-      lines.back().lastRow = row;
-      lines.back().cells[{row, col}] = cell;
-    }
+  for (const Row& row : RowsOf(panel)) {
+    if (std::ranges::all_of(row.cells, IsBlank)) continue;
+    if (lines.empty() || row.row - lines.back().lastRow > kSameLine) lines.emplace_back();
+    AddRow(row, lines.back());
   }
   return lines;
 }
@@ -96,22 +108,15 @@ void FindInProse(const std::string& text, std::vector<std::string>& faults) {
   }
 }
 
-bool IsRedAsEver(const std::string& line, const std::string& red) {
-  return std::ranges::any_of(kRedAsEver, [&](std::string_view laidDown) {
-    return Trimmed(line).starts_with(laidDown) || red.starts_with(laidDown);
-  });
+bool IsRedAsEver(const std::string& line) {
+  return std::ranges::any_of(
+      kRedAsEver, [&](std::string_view laidDown) { return Trimmed(line).starts_with(laidDown); });
 }
 
 void FindColours(const Line& line, bool onBlue, std::vector<std::string>& faults) {
-  std::set<Colour> colours;
-  std::string red;
-  for (const auto& [place, cell] : line.cells) {
-    colours.insert(cell.colour);
-    if (cell.colour == platform::colour::Red) red += cell.character;
-  }
-  if (colours.size() > kMostColours) faults.push_back(style::kColours + Quoted(line.Text()));
-  if (onBlue && !red.empty() && !IsRedAsEver(line.Text(), red))
-    faults.push_back(style::kRed + Quoted(line.Text()));
+  if (line.colours.size() > kMostColours) faults.push_back(style::kColours + Quoted(line.text));
+  const bool red = std::ranges::find(line.colours, platform::colour::Red) != line.colours.end();
+  if (onBlue && red && !IsRedAsEver(line.text)) faults.push_back(style::kRed + Quoted(line.text));
 }
 
 // The question may come back behind "Line 1:", in parts, or with its fractions built up.
@@ -146,19 +151,36 @@ std::vector<const TextPanel*> ShownPanels(const course::LessonWindow& window) {
 
 }  // namespace
 
+void PageStyle::Begin() {
+  before_.clear();
+}
+
+const PageStyle::Verdict& PageStyle::Judge(const Line& line, bool onBlue) {
+  constexpr std::size_t kMostKept = 100000;
+  std::string key = line.text + (onBlue ? "\n1" : "\n0");
+  for (const Colour colour : line.colours) key += std::to_string(colour) + " ";
+  if (verdicts_.size() > kMostKept) verdicts_.clear();
+  const auto [found, isNew] = verdicts_.try_emplace(std::move(key));
+  if (isNew) {
+    found->second.text = WithoutBlanks(line.text);
+    FindColours(line, onBlue, found->second.faults);
+    FindInProse(line.text, found->second.faults);
+  }
+  return found->second;
+}
+
 std::vector<std::string> PageStyle::FaultsOf(const course::LessonWindow& window,
                                              const std::vector<std::string>& question) {
   std::vector<std::string> faults;
   std::vector<std::string> lines;
-  const std::set<std::string> old(before_.begin(), before_.end());
   std::size_t added = 0;
   for (const TextPanel* panel : ShownPanels(window)) {
     for (const Line& line : LinesOf(*panel)) {
-      const std::string text = line.Text();
-      lines.push_back(WithoutBlanks(Comparable(text)));
-      FindColours(line, panel == &window.lessonText, faults);
-      FindInProse(text, faults);
-      if (!old.contains(lines.back()) && !IsBanner(text) && !IsOfQuestion(text, question)) ++added;
+      const Verdict& verdict = Judge(line, panel == &window.lessonText);
+      faults.insert(faults.end(), verdict.faults.begin(), verdict.faults.end());
+      lines.push_back(verdict.text);
+      const bool old = std::ranges::find(before_, verdict.text) != before_.end();
+      if (!old && !IsBanner(line.text) && !IsOfQuestion(line.text, question)) ++added;
     }
   }
   if (added > kMostNewLines)

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "display/lesson_window.h"
@@ -22,16 +23,32 @@ inline constexpr const char* kDot = "a dot between two digits";
 inline constexpr std::array kStyleFaults = {style::kNewLines, style::kColours,     style::kRed,
                                             style::kOneBlank, style::kExclamation, style::kDot};
 
-// The pages of one run, one behind the other.
+// The pages of one run after another.
 class PageStyle {
  public:
+  // What stands in one line; of a fraction's rows those above come first.
+  struct Line {
+    double lastRow = 0;
+    std::string text;
+    std::vector<platform::Colour> colours;  // each once
+  };
+
+  // The next page is the first of its run.
+  void Begin();
   // The faults of the page that the window shows now.  Lines of the page before and of the question
   // are not new; nor are the rows of a fraction lines of their own.
   std::vector<std::string> FaultsOf(const course::LessonWindow& window,
                                     const std::vector<std::string>& question);
 
  private:
-  std::vector<std::string> before_;  // lines of the last page
+  struct Verdict {
+    std::string text;  // without blanks
+    std::vector<std::string> faults;
+  };
+  const Verdict& Judge(const Line& line, bool onBlue);
+
+  std::vector<std::string> before_;                    // lines of the last page, without blanks
+  std::unordered_map<std::string, Verdict> verdicts_;  // most lines come again and again
 };
 
 }  // namespace lesson_check
