@@ -15,6 +15,7 @@ namespace walls {
 struct SourceFile {
   std::string path;  // from the repository's root, with "/"
   std::string text;
+  bool operator==(const SourceFile&) const = default;
 };
 
 using Files = std::vector<SourceFile>;
@@ -38,8 +39,6 @@ Complaints ToolkitOutsidePlatform(const Files& files);
 Complaints MachineOutsidePlatform(const Files& files);
 // Sources that are not among the compiled ones, and headers that no compiled source includes.
 Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compiled);
-// Words and paths that point at papers and places which a reader of the repository does not have.
-Complaints PointersOutside(const Files& files);
 
 // All text files of the tree but those of builds and of the version control.
 Files ReadTree(const std::filesystem::path& root);
