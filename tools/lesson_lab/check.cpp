@@ -135,16 +135,6 @@ bool AllSeeds(const CheckRequest& request) {
   return request.first == 0 && request.last == lesson_check::kSeeds - 1;
 }
 
-std::vector<std::string> TitlesOf(const std::string& title) {
-  std::vector<std::string> titles;
-  if (!title.empty()) {
-    if (const auto lesson = FindLesson(title)) titles.push_back(lesson->Title());
-    return titles;
-  }
-  for (const std::string_view each : course::LessonTitles()) titles.emplace_back(each);
-  return titles;
-}
-
 // A judge's mistakes may be offered by any of the lessons that it serves: they are known when all
 // of those are checked.
 class RecipeCheck {

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "engine/lesson_script.h"
 
@@ -37,10 +38,22 @@ struct CheckRequest {
 };
 int Check(const CheckRequest& request);
 
+// What a lesson, or every lesson, says: its teaching screens page by page, and three problems with
+// their explanations.
+int PrintProse(const std::string& title);
+
+// All lessons, or one, to be read in a browser: index.html in a folder, with contact sheets, prose
+// and three problems a lesson.
+int WriteBook(const std::string& title, const std::string& folder);
+
 // Every form of the course in a folder, as NAME.png.
 int WriteForms(const std::string& folder);
 
 // The script of a title; nullptr, and a message, when there is none.
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title);
+
+// The title as its lesson spells it, all titles for ""; none, and a message, when there is no such
+// lesson.
+std::vector<std::string> TitlesOf(const std::string& title);
 
 }  // namespace lesson_lab

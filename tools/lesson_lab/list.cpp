@@ -36,6 +36,16 @@ std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
   return lesson;
 }
 
+std::vector<std::string> TitlesOf(const std::string& title) {
+  std::vector<std::string> titles;
+  if (!title.empty()) {
+    if (const auto lesson = FindLesson(title)) titles.push_back(lesson->Title());
+    return titles;
+  }
+  for (const std::string_view each : course::LessonTitles()) titles.emplace_back(each);
+  return titles;
+}
+
 int List() {
   for (const std::string_view title : course::LessonTitles()) {
     const std::string name(title);

@@ -54,6 +54,13 @@ int main(int argc, char** argv) {
   CLI::App* forms = app.add_subcommand("forms", "Every form of the course as a picture");
   forms->add_option("--out", folder, "Folder for the pictures")->required();
 
+  CLI::App* prose = app.add_subcommand("prose", "What a lesson, or every lesson, says, as text");
+  prose->add_option("title", title, "The lesson's title, in any case; all without one");
+
+  CLI::App* book = app.add_subcommand("book", "All lessons to be read in a browser");
+  book->add_option("title", title, "The lesson's title, in any case; all without one");
+  book->add_option("--out", folder, "Folder for index.html and its pictures")->required();
+
   lesson_lab::CheckRequest checked;
   CLI::App* check = app.add_subcommand("check", "All problems and pages of a lesson, or of all");
   check->add_option("title", checked.title, "The lesson's title, in any case; all without one");
@@ -70,6 +77,8 @@ int main(int argc, char** argv) {
   platform::Application application(argc, argv);
   if (problem->parsed()) return lesson_lab::PrintProblems(title, seed, count);
   if (draw->parsed()) return lesson_lab::WritePages(pages);
+  if (prose->parsed()) return lesson_lab::PrintProse(title);
+  if (book->parsed()) return lesson_lab::WriteBook(title, folder);
   if (forms->parsed()) return lesson_lab::WriteForms(folder);
   return lesson_lab::List();
 }

@@ -273,7 +273,7 @@ void MultiplyingWithExponents::WrongOnes() {
 
 void MultiplyingWithExponents::WrongOnesOfBareLetter() {
   problem.Wrong(2, "counts a bare letter as no factor", WithExponent(firstExponent_));
-  problem.Wrong(3, "adds exponents of neighbours",
+  problem.Wrong(3, "adds exponents of neighbors",
                 Product(number_, firstExponent_, secondExponent_ + 1));
   const int all = firstExponent_ + secondExponent_ + 1;
   problem.Wrong(4, "gives the sum to both letters", Product(number_, all, all));

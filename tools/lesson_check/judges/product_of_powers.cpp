@@ -94,7 +94,7 @@ void AddMistakes(const TwoPowers& two, Reading& reading) {
   // The sum of the equal bases' exponents, or of all that are there to be added.
   add("gives the sum to both letters", {number * PowerOf(x, m + n) * PowerOf(y, m + n),
                                         number * PowerOf(x, m + n + k) * PowerOf(y, m + n + k)});
-  add("adds exponents of neighbours",
+  add("adds exponents of neighbors",
       {number * PowerOf(x, m) * PowerOf(y, k + n), number * PowerOf(x, n) * PowerOf(y, k + m)});
 }
 
