@@ -46,6 +46,10 @@ int PrintProse(const std::string& title);
 // and three problems a lesson.
 int WriteBook(const std::string& title, const std::string& folder);
 
+// Source, judge and kept files of a lesson that the catalogue lists and that has none yet, in a
+// copy of the repository.
+int WriteNewLesson(const std::string& title, const std::string& root);
+
 // Every form of the course in a folder, as NAME.png.
 int WriteForms(const std::string& folder);
 

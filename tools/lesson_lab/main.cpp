@@ -54,6 +54,12 @@ int main(int argc, char** argv) {
   CLI::App* forms = app.add_subcommand("forms", "Every form of the course as a picture");
   forms->add_option("--out", folder, "Folder for the pictures")->required();
 
+  std::string root = ".";
+  CLI::App* created = app.add_subcommand("new", "The files of a lesson that is to be written");
+  created->add_option("title", title, "The title, as the catalogue lists it, in any case")
+      ->required();
+  created->add_option("--root", root, "The repository's folder, this one without it");
+
   CLI::App* prose = app.add_subcommand("prose", "What a lesson, or every lesson, says, as text");
   prose->add_option("title", title, "The lesson's title, in any case; all without one");
 
@@ -72,6 +78,7 @@ int main(int argc, char** argv) {
   check->add_option("--not-yet", checked.notYet, "File of faults known of lessons to be reworked");
 
   CLI11_PARSE(app, argc, argv);
+  if (created->parsed()) return lesson_lab::WriteNewLesson(title, root);
   // Each of the processes of a check brings up the toolkit for itself.
   if (check->parsed()) return lesson_lab::Check(checked);
   platform::Application application(argc, argv);
