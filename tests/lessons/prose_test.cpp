@@ -14,6 +14,7 @@
 #include "lesson_check/file_name.h"
 #include "lessons/registry.h"
 #include "lessons/spelling.h"
+#include "support/kept_text.h"
 
 namespace lesson_check {
 namespace {
@@ -24,8 +25,8 @@ fs::path TestFolder() {
   return fs::path(std::getenv("COURSE_SOURCE_DIR")) / "tests/lessons";
 }
 
-fs::path ProseFile(std::string_view title) {
-  return TestFolder() / "prose" / (FileNameOf(title) + ".txt");
+std::string FileOf(std::string_view title) {
+  return FileNameOf(title) + ".txt";
 }
 
 std::string TextOf(const fs::path& path) {
@@ -33,26 +34,13 @@ std::string TextOf(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-bool Blessing() {
-  const char* bless = std::getenv("COURSE_BLESS_PROSE");
-  return bless != nullptr && std::string(bless) == "1";
-}
-
 class ProseOfLesson : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(ProseOfLesson, IsAsKept) {
-  const std::string text = [] {
-    PageReader reader;
-    return ReadProse(*course::MakeLesson(GetParam()), reader).Text();
-  }();
-  const fs::path file = ProseFile(GetParam());
-  if (Blessing()) {
-    std::ofstream(file, std::ios::binary) << text;
-    return;
-  }
-  EXPECT_EQ(TextOf(file), text) << "What \"" << GetParam()
-                                << "\" says has changed.  If it is right: COURSE_BLESS_PROSE=1 "
-                                   "build/bin/lessons_tests --gtest_filter='*ProseOfLesson*'";
+  PageReader reader;
+  const std::string text = ReadProse(*course::MakeLesson(GetParam()), reader).Text();
+  course::testing::ExpectKept(text, "tests/lessons/prose/" + FileOf(GetParam()),
+                              "COURSE_BLESS_PROSE");
 }
 
 std::vector<std::string> Titles() {
@@ -66,9 +54,9 @@ INSTANTIATE_TEST_SUITE_P(Course, ProseOfLesson, ::testing::ValuesIn(Titles()),
 
 TEST(KeptProseTest, HasALessonForEachFile) {
   std::set<fs::path> lessons;
-  for (const std::string& title : Titles()) lessons.insert(ProseFile(title));
+  for (const std::string& title : Titles()) lessons.insert(FileOf(title));
   for (const auto& file : fs::directory_iterator(TestFolder() / "prose"))
-    EXPECT_TRUE(lessons.contains(file.path())) << file.path() << " has no lesson";
+    EXPECT_TRUE(lessons.contains(file.path().filename())) << file.path() << " has no lesson";
 }
 
 TEST(KeptProseTest, IsSpelledRight) {
