@@ -79,12 +79,22 @@ bool WriteSheet(const std::string& title, const std::vector<int>& entries, int s
   return !turner.pages.empty() && WriteContactSheet(turner.pages, file);
 }
 
+// "Unit 3: Equations"
+std::string UnitName(const std::string& title) {
+  const int unit = UnitOf(title);
+  return unit == 0 ? "Outside of the units"
+                   : "Unit " + std::to_string(unit) + ": " + course::session.gUnitName[unit];
+}
+
 class Book {
  public:
   explicit Book(std::string folder) : folder_(std::move(folder)) {}
 
   // Throws lesson_check::StoppedRun.
-  bool AddLesson(const std::string& title) {
+  bool AddLesson(const std::string& title, const std::string& unit) {
+    if (unit != unit_)
+      contents_ += (unit_.empty() ? "" : "</ul>\n") + Element("h3", unit) + "<ul>\n";
+    unit_ = unit;
     const Prose prose = [&] {
       lesson_check::PageReader reader;
       return lesson_check::ReadProse(*FindLesson(title), reader);
@@ -107,7 +117,7 @@ class Book {
 
   bool Write() const {
     std::ofstream file(folder_ + "/index.html", std::ios::binary);
-    file << kHead << "<ol>\n" << contents_ << "</ol>\n" << lessons_ << "</body>\n</html>\n";
+    file << kHead << contents_ << "</ul>\n" << lessons_ << "</body>\n</html>\n";
     return file.good();
   }
 
@@ -120,6 +130,7 @@ class Book {
   }
 
   std::string folder_;
+  std::string unit_;  // of the lesson added last
   std::string contents_;
   std::string lessons_;
 };
@@ -129,15 +140,18 @@ class Book {
 int WriteBook(const std::string& title, const std::string& folder) {
   const std::vector<std::string> titles = TitlesOf(title);
   if (titles.empty()) return 1;
+  // Runs of lessons clear the session, in which the units stand.
+  std::vector<std::string> units;
+  for (const std::string& each : titles) units.push_back(UnitName(each));
   std::error_code error;
   fs::create_directories(folder, error);
   Book book(folder);
   bool written = !error;
-  for (const std::string& each : titles) {
+  for (std::size_t i = 0; i < titles.size(); ++i) {
     try {
-      written = written && book.AddLesson(each);
+      written = written && book.AddLesson(titles[i], units[i]);
     } catch (const lesson_check::StoppedRun& stopped) {
-      std::fprintf(stderr, "%s: %s\n", each.c_str(), stopped.what());
+      std::fprintf(stderr, "%s: %s\n", titles[i].c_str(), stopped.what());
       return 1;
     }
   }

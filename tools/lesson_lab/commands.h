@@ -60,4 +60,7 @@ std::unique_ptr<course::LessonScript> FindLesson(const std::string& title);
 // lesson.
 std::vector<std::string> TitlesOf(const std::string& title);
 
+// The unit of the menu that lists a title, in single bytes; 0 for a lesson outside of the units.
+int UnitOf(const std::string& title);
+
 }  // namespace lesson_lab

@@ -10,15 +10,6 @@ namespace {
 
 using course::session;
 
-// The unit of the menu that lists the title, 0 for a lesson outside the units.
-int UnitOf(const std::string& title) {
-  const std::string key = course::UpperCase(title);
-  for (int unit = 1; unit <= session.gUnitCount; ++unit)
-    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
-      if (course::UpperCase(session.gLessonTitle[unit][row]) == key) return unit;
-  return 0;
-}
-
 // A command line is UTF-8, and a title such as "... x^2+bx+c" with its raised 2 is not.
 std::string AsListed(const std::string& title) {
   for (const std::string_view each : course::LessonTitles()) {
@@ -29,6 +20,14 @@ std::string AsListed(const std::string& title) {
 }
 
 }  // namespace
+
+int UnitOf(const std::string& title) {
+  const std::string key = course::UpperCase(title);
+  for (int unit = 1; unit <= session.gUnitCount; ++unit)
+    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
+      if (course::UpperCase(session.gLessonTitle[unit][row]) == key) return unit;
+  return 0;
+}
 
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
   auto lesson = course::MakeLesson(AsListed(title));

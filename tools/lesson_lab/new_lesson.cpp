@@ -19,24 +19,11 @@ namespace fs = std::filesystem;
 
 using course::session;
 
-struct Row {
-  std::string title;
-  int unit = 0;  // 0: outside of the units
-  int screens = 0;
-};
-
-// The catalogue's row of a title in UTF-8 and any case, if it has a script.
-std::optional<Row> RowOf(const std::string& title) {
-  const auto isIt = [&](const std::string& listed) {
-    return course::UpperCase(course::ToUtf8(listed)) == course::UpperCase(title);
-  };
-  for (int unit = 1; unit <= session.gUnitCount; ++unit)
-    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
-      if (const int screens = course::CatalogueScreens(unit, row);
-          screens > 0 && isIt(session.gLessonTitle[unit][row]))
-        return Row{session.gLessonTitle[unit][row], unit, screens};
-  for (const course::DiagnosticLesson& lesson : course::DiagnosticLessons())
-    if (isIt(std::string(lesson.title))) return Row{std::string(lesson.title), 0, lesson.screens};
+// The catalogue's lesson of a title in UTF-8 and any case.
+std::optional<course::CatalogueLesson> Listed(const std::string& title) {
+  for (const course::CatalogueLesson& lesson : course::CatalogueLessons())
+    if (course::UpperCase(course::ToUtf8(std::string(lesson.title))) == course::UpperCase(title))
+      return lesson;
   return {};
 }
 
@@ -77,17 +64,17 @@ bool Write(const fs::path& path, const std::string& text) {
 }  // namespace
 
 int WriteNewLesson(const std::string& title, const std::string& root) {
-  const std::optional<Row> row = RowOf(title);
-  if (!row) {
+  const auto listed = Listed(title);
+  if (!listed) {
     std::fprintf(stderr, "The catalogue lists no lesson \"%s\".\n", title.c_str());
     return 1;
   }
-  const std::string name = lesson_check::FileNameOf(row->title);
-  const NewLesson lesson{row->title, ClassNameOf(name), row->screens};
+  const std::string name = lesson_check::FileNameOf(listed->title);
+  const NewLesson lesson{std::string(listed->title), ClassNameOf(name), listed->screens};
   const fs::path top(root);
   const fs::path kept = top / "tests/lessons";
   const std::pair<fs::path, std::string> files[] = {
-      {FolderOf(top / "src/lessons", row->unit) / (name + ".cpp"), LessonText(lesson)},
+      {FolderOf(top / "src/lessons", UnitOf(lesson.title)) / (name + ".cpp"), LessonText(lesson)},
       {top / "tools/lesson_check/judges" / (name + ".cpp"), JudgeText(lesson)},
       // Empty until the lesson is done: then the tests renew them.
       {kept / "problem_hashes" / (name + ".txt"), ""},
