@@ -6,12 +6,14 @@
 #include "journeys/assessment_fixture.h"
 #include "lessons/registry.h"
 #include "mathkit/draws.h"
+#include "platform/form_inspection.h"
 #include "records/activity_records.h"
 
 namespace course::testing {
 namespace {
 
 using platform::Answer;
+using platform::inspection::EdgesOf;
 
 constexpr const char* kStart = "frmChapterTestStart";
 constexpr const char* kResults = "frmChapterTestResults";
@@ -167,6 +169,11 @@ TEST_F(UnitTest, FillsTheLeftSheetFirst) {
                                        "lblYourAns", "lblIsCorrect", "cmdReview"})
           EXPECT_EQ(FindControl(name + "(" + std::to_string(i) + ")").Visible(), i <= 14)
               << name << " " << i;
+      const int right = EdgesOf(FindControl("picRight")).left;
+      for (int i = 1; i <= 14; ++i)
+        EXPECT_EQ(EdgesOf(FindControl("lblLessonDesc(" + std::to_string(i) + ")")).left < right,
+                  i <= 10)
+            << i;
       for (const auto& [row, top] : tops)
         EXPECT_EQ(FindControl("lblLessonDesc(" + std::to_string(row) + ")").Top() /
                       platform::TwipsPerPixelY,
@@ -176,7 +183,7 @@ TEST_F(UnitTest, FillsTheLeftSheetFirst) {
     Click(kResults, "cmdContinue");
     RunUnitTest(unit);
   };
-  // "Prime Factorization" has 19 letters; 10 is the last on the left, 11 the first on the right.
+  // "Prime Factorization" has 19 letters.
   take(7, {{1, 14}, {10, 9 * 40 + 14}, {11, 14}, {12, 40 + 14}});
   take(3, {{1, 18}, {2, 40 + 18}, {3, 2 * 40 + 14}});  // "Like Terms" stands lower
 }

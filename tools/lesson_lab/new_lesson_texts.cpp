@@ -9,7 +9,13 @@ namespace {
 constexpr const char* kLesson = R"text(// The student can ...
 //
 // What the student can do afterwards, in two or three lines.
-#include "lessons/lesson.h"
+#include "display/grid.h"
+#include "display/word_wrap.h"
+#include "engine/answers.h"
+#include "engine/header.h"
+#include "engine/page.h"
+#include "lessons/registry.h"
+#include "mathkit/expressions.h"
 
 namespace course {
 namespace {
