@@ -1,5 +1,7 @@
 // The roster tool dies, or the disk fails, at every single file operation: each roster file holds
 // the old rosters or the new ones, results stay, and the next run completes the work.
+#include <sys/stat.h>
+
 #include <sstream>
 
 #include "records/record_text.h"
@@ -22,6 +24,7 @@ const std::string kResults = "C202010115260101005005001";
 class RosterToolKills : public RecordsTest {
  protected:
   void PutOld() {
+    chmod(folder.Path().c_str(), 02770);  // a folder that is shared
     folder.Put("CLASSES.DAT", kOldClass);
     folder.Put("STUDENTS.DAT", kOldStudent);
     folder.Put("RECORDS.DAT", kResults);
