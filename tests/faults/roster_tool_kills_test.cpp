@@ -19,7 +19,7 @@ const std::string kOldClass = Padded("Old class", 30) + "1 ";
 const std::string kNewClass = Padded("New class", 30) + "2 ";
 const std::string kOldStudent = Padded("Ada", 21) + "1 1 " + std::string(6, ' ');
 const std::string kNewStudent = Padded("Bob", 21) + "1 2 " + std::string(6, ' ');
-const std::string kResults = "C202010115260101005005001";
+const std::string kResults = "C201010115260101005005001";
 
 class RosterToolKills : public RecordsTest {
  protected:

@@ -76,28 +76,35 @@ class Writer {
  public:
   explicit Writer(std::string folder) : folder_(std::move(folder)) {}
 
-  void MakeIfMissing(const KindOfFile& kind) {
-    const bool missing = !BytesOf(folder_, kind);
-    Open(folder_, kind, Access::ReadWrite, Sharing::Shared);
-    if (missing) isNew_ += std::string(isNew_.empty() ? "" : ", ") + kind.name;
+  void MakeResults(const KindOfFile& kind) {
+    if (MakeIfMissing(kind)) IsNewNow(kind);
   }
+  // So that it has its rights before it holds anything.
+  void PrepareRoster(const KindOfFile& kind) { MakeIfMissing(kind); }
   void ReplaceAll(const std::vector<std::pair<KindOfFile, std::vector<std::string>>>& contents) {
     // All are held before the first is changed.
     std::vector<std::unique_ptr<platform::RecordFile>> files;
     for (const auto& [kind, records] : contents)
       files.push_back(Open(folder_, kind, Access::ReadWrite, Sharing::Exclusive));
     for (std::size_t i = 0; i < files.size(); ++i) {
-      const auto& [kind, records] = contents[i];
-      Replace(*files[i], kind, records);
-      if (isNew_.find(kind.name) == std::string::npos)
-        isNew_ += std::string(isNew_.empty() ? "" : ", ") + kind.name;
+      Replace(*files[i], contents[i].first, contents[i].second);
+      IsNewNow(contents[i].first);
     }
   }
-  const std::string& IsNew() const { return isNew_; }
+  const std::string& NewFiles() const { return newFiles_; }
 
  private:
+  bool MakeIfMissing(const KindOfFile& kind) {
+    if (BytesOf(folder_, kind)) return false;
+    Open(folder_, kind, Access::ReadWrite, Sharing::Shared);
+    return true;
+  }
+  void IsNewNow(const KindOfFile& kind) {
+    newFiles_ += (newFiles_.empty() ? "" : ", ") + std::string(kind.name);
+  }
+
   std::string folder_;
-  std::string isNew_;  // names of files
+  std::string newFiles_;  // names
 };
 
 }  // namespace
@@ -151,19 +158,19 @@ Complaints WhatKeepsFromWriting(const Writing& writing) {
 Complaints WriteInstallation(const Writing& writing, const Rosters& rosters) {
   Writer writer(writing.folder);
   try {
-    for (const KindOfFile& kind : {kRecords, kDiagnostics, kStudents, kClasses})
-      writer.MakeIfMissing(kind);
+    for (const KindOfFile& kind : {kRecords, kDiagnostics}) writer.MakeResults(kind);
+    for (const KindOfFile& kind : {kStudents, kClasses}) writer.PrepareRoster(kind);
     // Before a password stands there.
     const Complaints complaints = GiveToGroup(writing.folder, writing.group);
     // The classes come last: before them nobody can log in.
     writer.ReplaceAll({{kStudents, StudentRecords(rosters)}, {kClasses, ClassRecords(rosters)}});
     return complaints;
   } catch (const FileError& error) {
-    if (writer.IsNew().empty()) throw;
+    if (writer.NewFiles().empty()) throw;
     throw FileError(error.number,
                     std::string(error.what()) +
                         "\nThe work is half done, and has to be done again; new are " +
-                        writer.IsNew());
+                        writer.NewFiles());
   }
 }
 
