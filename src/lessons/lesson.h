@@ -30,7 +30,7 @@
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 #include "engine/distinct_choices.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"

@@ -2,7 +2,7 @@
 #include "display/images.h"
 #include "display/print.h"
 #include "engine/answers.h"
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 #include "engine/distinct_choices.h"
 #include "engine/header.h"
 #include "engine/navigation.h"
@@ -61,7 +61,7 @@ std::vector<Topic> EngineTopics() {
        {DOCS_SAMPLE(Problem problem; problem.Right(1, "7"); problem.Wrong(2, "adds", "9");
                     isPrint(ChoiceText(problem, 1) + ", not " + ChoiceText(problem, 2))),
         DOCS_SAMPLE(isPrint(NumStr(ChoiceCountOf(choice_kind::FourShuffledAndNone)) + " boxes"))}},
-      {"engine/choice_pass.h",
+      {"engine/choices.h",
        "The later of two equal choices is drawn anew, until all differ.",
        {DOCS_SAMPLE(Problem problem = TwoEqualChoices(); ReplaceRepeatedTexts(
                         problem, [&](int slot) { problem.Wrong(slot, "filler", "x = 8"); });

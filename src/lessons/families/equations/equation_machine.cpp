@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"

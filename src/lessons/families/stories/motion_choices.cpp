@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 
 namespace course::stories {
 namespace {
