@@ -45,6 +45,9 @@ class Choices {
   }
   // The same behind "None of the above": all four boxes are wrong.
   void RightBehindNone(const Value& value) {
+    if (!HasNoneOfTheAbove(problem_.kind))
+      platform::Stop("Choices: kind " + std::to_string(problem_.kind) +
+                     " can hide no right choice");
     Right(value);
     problem_.choices[1] = {};
     problem_.Right(5, text_(value));

@@ -53,6 +53,7 @@ TEST_F(ChoicesTest, EqualTextsAreEqualChoices) {
   ExpectStop("Choices: no filler differs from the choices of 3",
              [&] { choices.Fill([] { return 23; }); });
   ExpectStop("Choices: the right one comes first, 5", [&] { choices.Right(5); });
+  ExpectStop("Choices: kind 1 can hide no right choice", [&] { choices.RightBehindNone(5); });
 }
 
 TEST_F(ChoicesTest, TheRightOneHidesWhereItsPlaceIsTaken) {
@@ -72,7 +73,7 @@ TEST_F(ChoicesTest, TheRightOneHidesWhereItsPlaceIsTaken) {
   ExpectStop("HideRight: slot 5", [this] { HideRight(problem); });
 
   problem = {};
-  Choices choices(problem, choice_kind::FourShuffledAndNone, NumStr);
+  Choices choices(problem, choice_kind::FourShuffledAndNone, NumStr, 5);
   choices.RightBehindNone(7);
   choices.Wrong("is right", 7);
   choices.Fill([n = 5]() mutable { return ++n; });
