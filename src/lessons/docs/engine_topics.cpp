@@ -99,8 +99,8 @@ std::vector<Topic> EngineTopics() {
 }
 
 std::vector<Topic> DocsTopics() {
-  std::vector<Topic> topics = TextTopics();
-  for (const auto& more : {FigureTopics(), EngineTopics()})
+  std::vector<Topic> topics = PageTopics();
+  for (const auto& more : {TextTopics(), FigureTopics(), EngineTopics()})
     topics.insert(topics.end(), more.begin(), more.end());
   return topics;
 }
