@@ -31,7 +31,6 @@
 #include "display/word_wrap.h"
 #include "engine/answers.h"
 #include "engine/choices.h"
-#include "engine/distinct_choices.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "engine/page.h"
