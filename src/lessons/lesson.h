@@ -1,6 +1,6 @@
 // All that a lesson's file includes, beside the families (lessons/families/) that it draws from:
 // what stands on the screen, the contract of a script, numbers and their texts, and the vocabulary
-// of pages.  It is read once for all lessons.
+// of pages.
 #pragma once
 
 #include <algorithm>
