@@ -9,13 +9,7 @@ namespace {
 constexpr const char* kLesson = R"text(// The student can ...
 //
 // What the student can do afterwards, in two or three lines.
-#include "display/grid.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/registry.h"
-#include "mathkit/expressions.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
