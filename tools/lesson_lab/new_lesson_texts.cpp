@@ -127,7 +127,7 @@ std::string LessonText(const NewLesson& lesson) {
   std::string names;
   for (int i = 1; i <= lesson.screens; ++i) {
     screens += Replaced(kScreen, "{NUMBER}", std::to_string(i));
-    names += (i == 1 ? "Screen" : ", Screen") + std::to_string(i);
+    names += (i == 1 ? "{Screen" : ", {Screen") + std::to_string(i) + "}";
   }
   return Filled(Replaced(Replaced(kLesson, "{SCREENS}", screens), "{SCREEN_NAMES}", names), lesson);
 }
