@@ -26,6 +26,7 @@
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
 #include "session/session.h"
+#include "support/scratch_folder.h"
 
 namespace lesson_check {
 namespace {
@@ -213,10 +214,8 @@ TEST_F(LessonCheckTest, UnpaintedPagesReadAsPaintedOnes) {
 }
 
 TEST(CheckStateTest, APieceOnceDoneIsKeptAndAStopLosesTheUnfinishedOneOnly) {
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / ("state" + std::to_string(getpid()));
-  std::filesystem::create_directories(folder);
-  const std::string path = folder / "check.state";
+  const course::testing::ScratchFolder folder;
+  const std::string path = folder.Path() + "check.state";
   Report report;
   report.problems = 8192;
   report.Add(5, "a fault");
@@ -233,7 +232,6 @@ TEST(CheckStateTest, APieceOnceDoneIsKeptAndAStopLosesTheUnfinishedOneOnly) {
   EXPECT_EQ(state.Find("A#0-8191")->Text(), report.Text());
   std::ofstream(path) << "check of another program\nA#0-8191\n3\n1 2";
   EXPECT_EQ(CheckState(path).Find("A#0-8191"), nullptr);
-  std::filesystem::remove_all(folder);
 }
 
 TEST(WorkersTest, SharesAreAddedUp) {
