@@ -1,8 +1,8 @@
 // The student can find the value of a product with parentheses, such as 3(4 + 5).
 //
-// A new lesson begins as a copy of this file.  It keeps the order of what follows, the order in
-// which a student meets it, and replaces the words: what the lesson can say in two or three lines,
-// its class, teaching screens, generator, problem page, explanation and title.
+// A smallest complete lesson, to be read before another is written.  All keep the order of what
+// follows, the order in which a student meets it: what the lesson is for in two or three lines, the
+// teaching screens, the class, the generator, the problem page, the explanation, the title.
 #include "lessons/lesson.h"
 
 namespace course {

@@ -24,8 +24,7 @@ std::span<const CatalogueLesson> DiagnosticLessons();
 // All of them in the order of the course: the listed units, then those outside of the units.
 std::vector<CatalogueLesson> CatalogueLessons();
 
-// The sample lesson: no menu lists it, the documentation runs it, and a new lesson begins as its
-// copy.
+// The sample lesson: no menu lists it, and the documentation runs it.
 inline constexpr std::string_view kBlankLesson = "Blank Lesson";
 
 // Screens of a listed lesson as the catalogue tells it; 0 for a unit test or a row without a

@@ -38,27 +38,27 @@ void {CLASS}::DrawProblem(RandomStream& random) {
   first_ = random.Rand(2, 9);
 
   problem.question = {"Not written yet: what is " + NumStr(first_) + " + 1?"};
-  problem.kind = choice_kind::FourShuffled;
-  problem.Right(1, NumStr(first_ + 1));
-  problem.Wrong(2, "forgets to add", NumStr(first_));
-  problem.Wrong(3, "subtracts", NumStr(first_ - 1));
-  problem.Wrong(4, "adds twice", NumStr(first_ + 2));
+  Choices choices(problem, choice_kind::FourShuffled, NumStr);
+  choices.Right(first_ + 1);
+  choices.Wrong("forgets to add", first_);
+  choices.Wrong("subtracts", first_ - 1);
+  choices.Wrong("adds twice", first_ + 2);
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void {CLASS}::ShowProblem() {
-  Locate(5, 1);
-  WordWrap(problem.question.front());
-  picAnswerSetParameters(2, 11, 1, 21, 0, 16, 50, 27);
+  SayAt(5, problem.question[0]);
+  ShowAnswersInTwoColumns(problem);
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void {CLASS}::ExplainProblem() {
   ProblemBanner();
-  Locate(5, 1);
-  WordWrap("This explanation is not written yet.");
+  SayAt(5, "This explanation is not written yet.");
+  PageEnd();
+  Conclude(problem);
   PageEnd();
 }
 
@@ -70,8 +70,7 @@ const LessonRegistration<{CLASS}> kRegistration("{TITLE}");
 
 constexpr const char* kScreen = R"text(void Screen{NUMBER}() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap("Screen {NUMBER} is not written yet.");
+  Say("Screen {NUMBER} is not written yet.");
   PageEnd();
 }
 
