@@ -15,6 +15,8 @@ namespace {
 
 namespace mode = course::mode;
 
+constexpr const char* kNothing = "(no new words)\n";
+
 // The lines that were not there, each as often as it came anew.
 std::vector<std::string> Added(const std::vector<std::string>& lines,
                                std::vector<std::string> before) {
@@ -52,7 +54,7 @@ std::string AddedText(const std::vector<PagePart>& page, const std::vector<PageP
       text += "[" + SpokenName(part.name) + "]" + (lines.size() == 1 ? " " : "\n");
     for (const std::string& line : lines) text += line + "\n";
   }
-  return text.empty() ? "(no new words)\n" : text;
+  return text.empty() ? kNothing : text;
 }
 
 // Puts each page of a run under the heading of its screen.
@@ -112,8 +114,12 @@ std::string ProblemText(const course::LessonScript::DrawnProblem& drawn) {
 ProseProblem ReadProblem(course::LessonScript& lesson, PageReader& reader, int seed) {
   Writer writer;
   reader.Read(lesson, mode::Explanation, seed, [&] { writer.TakePage("Explanation"); });
+  ProseScreen explanation = writer.screens.empty() ? ProseScreen{} : writer.screens.front();
+  // The dialog that asks what comes next opens over the last page.
+  if (!explanation.pages.empty() && explanation.pages.back() == kNothing)
+    explanation.pages.pop_back();
   return {ProblemName(course::ToUtf8(lesson.Title()), seed), seed, ProblemText(lesson.Draw(seed)),
-          writer.screens.empty() ? ProseScreen{} : writer.screens.front()};
+          std::move(explanation)};
 }
 
 std::string ScreenText(const ProseScreen& screen) {
