@@ -20,6 +20,11 @@ void Label::SetCaption(const std::string& caption) {
   WidgetOf<QLabel>(*this).setText(ToText(caption));
 }
 
+void Label::SetUtf8Caption(const std::string& caption) {
+  QString text = QString::fromStdString(caption);
+  WidgetOf<QLabel>(*this).setText(text.replace('\r', '\n'));
+}
+
 std::string Label::Caption() const {
   return FromText(WidgetOf<QLabel>(*this).text());
 }

@@ -83,6 +83,8 @@ class Label final : public Control {
   Label(Control& parent, std::string name, const std::string& caption = "");
   // '\r' or '\n' breaks the line; long lines are wrapped.
   void SetCaption(const std::string& caption);
+  // For letters beyond Latin-1.
+  void SetUtf8Caption(const std::string& caption);
   std::string Caption() const;
   enum class Align { Left, Centre, Right };
   void SetAlignment(Align align);

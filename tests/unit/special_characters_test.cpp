@@ -13,18 +13,6 @@ constexpr int kCodes[] = {127, 129, 130, 131, 132, 133, 134, 135, 136, 141, 157,
 
 class SpecialCharacterTest : public DisplayTest {};
 
-TEST_F(SpecialCharacterTest, ThirtyNineCodesAreDrawnAndInCommentBoxesFourAndTheHardBlank) {
-  int drawn = 0;
-  int drawnInComments = 0;
-  for (int code = 0; code <= 255; ++code) {
-    drawn += IsDrawnCharacter(CharacterSet::LessonWindow, code) ? 1 : 0;
-    drawnInComments += IsDrawnCharacter(CharacterSet::CommentBox, code) ? 1 : 0;
-  }
-  EXPECT_EQ(drawn, 39);
-  EXPECT_EQ(drawnInComments, 5);
-  EXPECT_TRUE(IsDrawnCharacter(CharacterSet::CommentBox, 255));
-}
-
 TEST_F(SpecialCharacterTest, EachLeavesInkInItsCellAndTheBlankOnesNone) {
   for (const int code : kCodes) {
     Panel().FillRect({0, 0, 672, 589}, platform::colour::Blue);
