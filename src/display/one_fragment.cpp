@@ -49,14 +49,15 @@ bool IsSum(const std::string& s) {
   return false;
 }
 
-// A number, a letter, a power or a radical.
+bool IsBracketed(const std::string& s) {
+  return s.starts_with('(') && EndOfGroup(s, 0) == s.size();
+}
+
+// A number, a letter, a bracket, a power or a radical.
 bool IsOneFactor(const std::string& s) {
-  if (s.empty() || IsNumberOrLetter(s)) return true;
-  if (s[0] == tutor::SquareRoot[0]) {
-    const std::string radicand = s.substr(1);
-    return IsNumberOrLetter(radicand) ||
-           (radicand[0] == '(' && EndOfGroup(radicand, 0) == radicand.size());
-  }
+  if (s.empty() || IsNumberOrLetter(s) || IsBracketed(s)) return true;
+  if (s.starts_with(tutor::SquareRoot))
+    return IsNumberOrLetter(s.substr(1)) || IsBracketed(s.substr(1));
   return IsLetter(s[0]) && s[1] == '^' && EndOfGroup(s, 1) == s.size();
 }
 
@@ -76,6 +77,7 @@ OneFragment::OneFragment(TextPanel& panel, std::string typed)
     : panel_(panel), typed_(std::move(typed)), first_(panel.Transcript().size()) {
   panel.UpdateCursorCell();
   row_ = panel.cursorRow;
+  col_ = panel.cursorCol;
 }
 
 OneFragment::~OneFragment() {
@@ -88,7 +90,7 @@ OneFragment::~OneFragment() {
   const auto edge = [&](double (Fragment::*of)() const) {
     return [of](const Fragment& part) { return (part.*of)(); };
   };
-  const double left = std::ranges::min_element(parts, {}, &Fragment::col)->col;
+  const double left = std::min(col_, std::ranges::min_element(parts, {}, &Fragment::col)->col);
   const double right =
       std::max(double{panel_.cursorCol},
                std::ranges::max_element(parts, {}, edge(&Fragment::Right))->Right());

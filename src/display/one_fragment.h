@@ -10,7 +10,8 @@
 namespace course {
 
 // For its lifetime all that its panel prints becomes one fragment with the given text.  It reaches
-// from the leftmost of its parts to where the cursor ends, and over their rows.
+// from where the cursor begins, or the leftmost of its parts, to where it ends, and over their
+// rows.
 class OneFragment {
  public:
   OneFragment(TextPanel& panel, std::string typed);
@@ -22,7 +23,8 @@ class OneFragment {
   TextPanel& panel_;
   std::string typed_;
   std::size_t first_;  // of the panel's fragments
-  double row_;
+  double row_;         // of the cursor at the start
+  double col_;
 };
 
 // Text as it is typed on one line: without colour codes, macros expanded, a radicand between

@@ -36,7 +36,13 @@ struct Stretch {
   bool symbol = false;
 };
 
+bool HasExponents(const std::string& text) {
+  return text.find('^') != std::string::npos;
+}
+
 std::vector<Stretch> Stretches(const std::string& text) {
+  // With exponents each character is printed by itself.
+  const bool single = HasExponents(text);
   std::vector<Stretch> stretches;
   bool raised = false;
   for (const char c : text) {
@@ -47,9 +53,7 @@ std::vector<Stretch> Stretches(const std::string& text) {
     const Sign* sign = SignOf(c);
     const char letter = sign == nullptr ? c : sign->symbol;
     const bool symbol = sign != nullptr;
-    const bool goesOn = !stretches.empty() && !raised && !stretches.back().raised &&
-                        stretches.back().symbol == symbol;
-    if (goesOn)
+    if (!single && !stretches.empty() && stretches.back().symbol == symbol)
       stretches.back().text += letter;
     else
       stretches.push_back({std::string(1, letter), raised, symbol});
@@ -110,7 +114,7 @@ void PrintPlain(platform::Surface& surface, const std::string& text, double x, d
   surface.CurrentX = x;
   // Smaller letters are raised ones, since all text hangs from its top.
   ForEachStretch(surface, text, [&](const Stretch& stretch) {
-    const bool point = stretch.raised && stretch.text == ".";
+    const bool point = HasExponents(text) && stretch.text == ".";
     const double rise = point ? kPointRise : stretch.symbol ? kSymbolRise : 0;
     surface.CurrentY = y - RoundedPixel(rise * surface.FontSize);
     surface.Print(stretch.text);
