@@ -3,7 +3,13 @@
 namespace course {
 
 std::vector<std::string> PanelView::Lines() const {
-  if (text != nullptr) return TranscriptLines(*text);
+  if (text != nullptr) {
+    std::vector<std::string> lines = TranscriptLines(*text);
+    // One text in the middle, whose indent means nothing.
+    if (kind == PanelKind::Cell)
+      for (std::string& line : lines) line.erase(0, line.find_first_not_of(' '));
+    return lines;
+  }
   const std::string description = control->AccessibleText();
   if (kind != PanelKind::Picture || description.empty()) return {};
   return {description};
