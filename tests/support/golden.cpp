@@ -12,7 +12,7 @@ namespace course::testing {
 namespace {
 
 constexpr int kTolerance = 48;   // of a colour component, 0 to 255
-constexpr int kWorsePixels = 3;  // of a tile, that may differ by more
+constexpr int kWorsePixels = 1;  // of a tile, that may differ by more
 // A cell of the lesson screen: a fault in one small sign fills no picture, but a tile.
 constexpr int kTileWidth = 16;
 constexpr int kTileHeight = 25;
