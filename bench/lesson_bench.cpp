@@ -8,7 +8,7 @@
 #include <string>
 
 #include "lesson_check/pages/page_reader.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 

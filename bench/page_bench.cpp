@@ -9,7 +9,7 @@
 #include "display/print.h"
 #include "display/word_wrap.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "platform/events.h"
 #include "platform/manual_clock.h"
 #include "platform/user.h"

@@ -8,7 +8,7 @@ packages=(
   qt6-base-dev qt6-svg-dev libfontconfig-dev
   fonts-liberation fonts-urw-base35
   libgtest-dev libbenchmark-dev libcli11-dev libfccp-dev nlohmann-json3-dev libsqlite3-dev
-  libgmp-dev
+  libgmp-dev libhunspell-dev hunspell-en-us clang-format
 )
 
 Say() { printf '== %s\n' "$*"; }
@@ -29,8 +29,9 @@ MissingPackages() {
 InstallPackages() {
   command -v dpkg-query >/dev/null ||
     Fail "this is no Debian system; install a C++20 compiler, CMake, Ninja, Qt 6 with Svg," \
-      "GoogleTest, Google Benchmark, CLI11, libfccp, GMP, nlohmann-json and the Liberation and URW" \
-      "fonts, then build with: cmake -G Ninja -S . -B build && ninja -C build"
+      "GoogleTest, Google Benchmark, CLI11, libfccp, GMP, Hunspell with the dictionary en_US," \
+      "nlohmann-json, clang-format 14 and the Liberation and URW fonts, then build with:" \
+      "cmake -G Ninja -S . -B build && ninja -C build"
   local missing
   mapfile -t missing < <(MissingPackages)
   [[ ${#missing[@]} -gt 0 ]] || return 0

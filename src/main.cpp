@@ -1,4 +1,6 @@
 // The course: brings up the toolkit, then the menu, whose start-up is that of the program.
+#include "engine/program_exit.h"
+#include "platform/leave_request.h"
 #include "platform/program.h"
 #include "shell/diagnostics_binding.h"
 #include "shell/guidance_binding.h"
@@ -10,6 +12,7 @@
 
 int main(int argc, char** argv) {
   platform::Application application(argc, argv);
+  platform::OnLeaveRequest(course::SaveAndExit);
   course::StartUp startUp;
   course::BindRecords(startUp);
   course::BindLogin(startUp);

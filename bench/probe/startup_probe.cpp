@@ -13,7 +13,7 @@
 
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "platform/program.h"
 #include "session/session.h"
 #include "shell/menu.h"

@@ -54,7 +54,7 @@ constexpr int kEndLeft = 8010;
 
 struct NavButton {
   const char* picture;  // "" : the caption is shown
-  const char* name;     // what a screen reader says
+  const char* name;     // the caption, or what a screen reader says of the picture
   int left;
 };
 constexpr NavButton kNavButtons[] = {
@@ -194,11 +194,12 @@ void LessonWindow::PlaceNavigation() {
   for (int i = 0; i <= 10; ++i) {
     const NavButton& nav = kNavButtons[i];
     cmdNavigate[i].Move(nav.left, kNavTop, i == 3 ? 1860 : kNavWidth, kNavHeight);
-    cmdNavigate[i].SetAccessibleName(nav.name);
-    if (*nav.picture != '\0')
+    if (*nav.picture == '\0') {
+      cmdNavigate[i].SetCaption(nav.name);  // read out as it stands, even when it changes
+    } else {
       cmdNavigate[i].SetPicture(nav.picture);
-    else
-      cmdNavigate[i].SetCaption(nav.name);
+      cmdNavigate[i].SetAccessibleName(nav.name);
+    }
     cmdNavigate[i].SetVisible(i == 3);
   }
   MovePixels(picScreenBox, 100, 604, 322, 44);

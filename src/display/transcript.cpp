@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cmath>
 #include <map>
+#include <utility>
 
 #include "mathkit/tutor_codes.h"
 
@@ -13,6 +14,7 @@ namespace {
 // A letter of the print font, or a fragment that keeps to no cells.
 struct Piece {
   std::string text;
+  platform::Colour colour = 0;
   int level = 0;
   double col = 0;
   double right = 0;
@@ -44,15 +46,16 @@ void TakeAwayUnder(const Fragment& fragment, long row, Rows& rows) {
 }
 
 void Add(const Fragment& fragment, std::vector<Piece>& pieces) {
-  Piece piece{fragment.text,
-              fragment.level,
-              fragment.col,
-              fragment.Right(),
-              fragment.Top(),
-              fragment.Bottom(),
-              0,
-              fragment.InCells(),
-              fragment.whole && fragment.text.find('/') != std::string::npos};
+  Piece piece;
+  piece.text = fragment.text;
+  piece.colour = fragment.colour;
+  piece.level = fragment.level;
+  piece.col = fragment.col;
+  piece.right = fragment.Right();
+  piece.top = fragment.Top();
+  piece.bottom = fragment.Bottom();
+  piece.inCells = fragment.InCells();
+  piece.fraction = fragment.whole && fragment.text.find('/') != std::string::npos;
   if (!piece.inCells) return pieces.push_back(piece);
   long cell = std::lround(fragment.col);
   for (const char c : fragment.text) {
@@ -64,44 +67,51 @@ void Add(const Fragment& fragment, std::vector<Piece>& pieces) {
   }
 }
 
+const std::string kBlanks = " " + tutor::Gap;
+
 bool IsLetterOrDigit(char c) {
   return std::isalnum(static_cast<unsigned char>(c)) != 0;
 }
 
 class LineWriter {
  public:
+  explicit LineWriter(double row) { line_.row = row; }
+
   void Write(const Piece& piece) {
     const long blanks = std::lround(piece.col - right_);
     if (blanks > 0 || RunsIntoFraction(piece)) {
       SetLevel(0);
-      line_.append(static_cast<std::size_t>(std::max(blanks, 1L)), ' ');
+      line_.text.append(static_cast<std::size_t>(std::max(blanks, 1L)), ' ');
     }
     SetLevel(piece.level);
-    line_ += piece.text;
+    line_.text += piece.text;
+    const bool blank = piece.text.find_first_not_of(kBlanks) == std::string::npos;
+    if (!blank && std::ranges::find(line_.colours, piece.colour) == line_.colours.end())
+      line_.colours.push_back(piece.colour);
     right_ = piece.right;
     afterFraction_ = piece.fraction;
   }
 
-  std::string Take() {
+  TextLine Take() {
     SetLevel(0);
-    line_.erase(line_.find_last_not_of(' ') + 1);
-    return line_;
+    line_.text.erase(line_.text.find_last_not_of(' ') + 1);
+    return std::move(line_);
   }
 
  private:
   bool RunsIntoFraction(const Piece& piece) const {
-    return (piece.fraction || afterFraction_) && !line_.empty() && IsLetterOrDigit(line_.back()) &&
-           IsLetterOrDigit(piece.text.front());
+    return (piece.fraction || afterFraction_) && !line_.text.empty() &&
+           IsLetterOrDigit(line_.text.back()) && IsLetterOrDigit(piece.text.front());
   }
 
   void SetLevel(int wanted) {
     const auto mark = [](int level) { return level > 0 ? "^" : tutor::SubscriptMark; };
-    if (level_ != 0 && wanted != level_) line_ += mark(level_);
-    if (wanted != 0 && wanted != level_) line_ += mark(wanted);
+    if (level_ != 0 && wanted != level_) line_.text += mark(level_);
+    if (wanted != 0 && wanted != level_) line_.text += mark(wanted);
     level_ = wanted;
   }
 
-  std::string line_;
+  TextLine line_;
   double right_ = 1;
   int level_ = 0;
   bool afterFraction_ = false;
@@ -109,22 +119,28 @@ class LineWriter {
 
 }  // namespace
 
-std::vector<std::string> LinesOf(const std::vector<Fragment>& fragments) {
+std::vector<TextLine> TextLinesOf(const std::vector<Fragment>& fragments) {
   Rows rows;
   for (const Fragment& fragment : fragments) {
     const long row = std::lround(fragment.row * 2);
     TakeAwayUnder(fragment, row, rows);
     Add(fragment, rows[row]);
   }
-  std::vector<std::string> lines;
+  std::vector<TextLine> lines;
   for (auto& [row, pieces] : rows) {
     std::ranges::stable_sort(pieces, {}, &Piece::col);
-    LineWriter writer;
+    LineWriter writer(static_cast<double>(row) / 2);
     for (const Piece& piece : pieces) writer.Write(piece);
-    std::string line = writer.Take();
-    if (!line.empty()) lines.push_back(std::move(line));
+    TextLine line = writer.Take();
+    if (!line.text.empty()) lines.push_back(std::move(line));
   }
   return lines;
+}
+
+std::vector<std::string> LinesOf(const std::vector<Fragment>& fragments) {
+  std::vector<std::string> texts;
+  for (TextLine& line : TextLinesOf(fragments)) texts.push_back(std::move(line.text));
+  return texts;
 }
 
 }  // namespace course

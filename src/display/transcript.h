@@ -28,9 +28,17 @@ struct Fragment {
   bool InCells() const { return !whole && width == static_cast<double>(text.size()); }
 };
 
+struct TextLine {
+  double row = 0;
+  std::string text;
+  std::vector<platform::Colour> colours;  // of all but blanks, each once
+};
+
 // The fragments as lines of text from top to bottom, empty ones left out, in single bytes:
 // exponents as "^2^", subscripts between code 250.  A later text stands in place of an earlier one
 // in its cells.  A fraction behind a digit or letter keeps a blank off it: "1 3/4".
+std::vector<TextLine> TextLinesOf(const std::vector<Fragment>& fragments);
+// Their texts alone.
 std::vector<std::string> LinesOf(const std::vector<Fragment>& fragments);
 
 }  // namespace course

@@ -9,7 +9,6 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/screen_reader.h"
-#include "mathkit/draws.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/dialogs.h"
@@ -173,12 +172,11 @@ void AnswerLayout() {
   }
 }
 
-std::vector<int> AnswerChoicesShow(const Problem& problem) {
+void AnswerChoicesShow(const Problem& problem, const std::vector<int>& order) {
   session.gChoiceCount = ChoiceCountOf(problem.kind);
   if (answerParameters.parametersSet != 1)
     platform::Stop("SUB picAnswerSetParameters was not called");
   AnswerLayout();
-  const std::vector<int> order = ChoiceOrder(problem.kind, ProblemStream());
   const auto text = [&](int box) {
     return ChoiceText(problem, order[static_cast<std::size_t>(box)]);
   };
@@ -188,7 +186,6 @@ std::vector<int> AnswerChoicesShow(const Problem& problem) {
   else if (session.gChoiceCount == kBoxes)
     PrintFifthChoice(text(kBoxes));
   for (int box = 1; box <= session.gChoiceCount; ++box) frmPR->picAnswer[box].Refresh();
-  return order;
 }
 
 int LetterEntry(int choiceCount) {

@@ -44,9 +44,9 @@ std::vector<int> ChoiceOrder(int kind, RandomStream& random);
 // The box, 1 to 5, in which a choice stands; 0 when it stands in none of the first count.
 int BoxOfChoice(int choice, const std::vector<int>& order, int count);
 
-// Draws the boxes with the choices in an order drawn from the lesson's stream; returns the order
-// and sets gChoiceCount.  A page without picAnswerSetParameters stops the program.
-std::vector<int> AnswerChoicesShow(const Problem& problem);
+// Draws the boxes with the choices in the order, as they are numbered without one, and sets
+// gChoiceCount.  A page without picAnswerSetParameters stops the program.
+void AnswerChoicesShow(const Problem& problem, const std::vector<int>& order = {0, 1, 2, 3, 4, 5});
 // Sizes and places the five boxes and draws the letters of those that gChoiceCount wants.  A
 // layout outside 1 to 4, or no choice count, stops the program.
 void AnswerLayout();

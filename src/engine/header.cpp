@@ -4,6 +4,7 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/answers.h"
+#include "engine/page.h"
 #include "engine/rules_and_hints.h"
 #include "platform/events.h"
 #include "session/session.h"
@@ -14,20 +15,9 @@ namespace {
 constexpr platform::Colour kBannerStrip = platform::Rgb(128, 255, 255);
 constexpr double kBannerFontSize = 18;  // points
 
-// A problem page has no movement to slow down.
+// A problem page has no movement to slow down, that of the diagnostic test included.
 bool HasAnimations() {
-  switch (session.gMode) {
-    case mode::SameProblem:
-    case mode::NewProblem:
-    case mode::LessonTestProblem:
-    case mode::LessonTestReview:
-    case mode::UnitTestProblem:
-    case mode::UnitTestReview:
-    case mode::DiagnosticProblem:
-      return false;
-    default:
-      return true;
-  }
+  return !OnProblemPage() && session.gMode != mode::DiagnosticProblem;
 }
 
 void ForgetAnswerParameters() {

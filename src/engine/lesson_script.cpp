@@ -1,20 +1,19 @@
 #include "engine/lesson_script.h"
 
 #include <algorithm>
-#include <array>
 
-#include "display/animation.h"
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/hooks.h"
 #include "engine/navigation.h"
+#include "engine/page.h"
 #include "engine/practice.h"
+#include "engine/run_exit.h"
 #include "engine/screen_reader.h"
 #include "engine/script_setup.h"
 #include "mathkit/draws.h"
-#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/stop.h"
@@ -26,35 +25,6 @@ namespace {
 // The value that all scripts share, to the last bit.
 constexpr double kPi = 0x1.921FB54442EEAp+1;
 
-constexpr double kAnswerToCursor = 6;  // rows from the answers to the cursor's place in the wait
-
-// Thrown to leave a run, and to leave the pages of an example for its end.
-struct RunAbandoned {};
-struct PagesEnded {};
-
-[[noreturn]] void ScriptExit() {
-  throw RunAbandoned{};
-}
-
-bool WantsElsewhere() {
-  return session.gLeaveLesson == 1 || session.gRunAgain == 1;
-}
-
-void ExitIfWanted() {
-  if (WantsElsewhere()) ScriptExit();
-}
-
-// Ends the run; the dispatcher starts the next one.
-[[noreturn]] void RunAgain() {
-  session.gRunAgain = 1;
-  ScriptExit();
-}
-
-[[noreturn]] void GoToActivity(int index) {
-  picNav_Click(index);
-  ScriptExit();
-}
-
 [[noreturn]] void RunAgainAfterResults() {
   ShowLessonTestResults();
   RunAgain();
@@ -64,21 +34,6 @@ bool AskAnotherExample() {
   const platform::Message question = {"Would you like to see another example?", "",
                                       platform::Buttons::YesNo, platform::Icon::None};
   return platform::MessageBox(question) == platform::Answer::Yes;
-}
-
-void ClearPageWishes() {
-  session.gBeginExample = kFalse;
-  session.gBeginExplanation = kFalse;
-  session.gBeginTestExplanation = kFalse;
-  session.gEndExample = kFalse;
-  session.gEndExplanation = kFalse;
-  session.gEndTestExplanation = kFalse;
-}
-
-// Up and down, left and right change places.
-int ReversedDirection(int dr) {
-  constexpr std::array<int, 5> kReversed = {0, 2, 1, 4, 3};
-  return kReversed[static_cast<std::size_t>(dr)];
 }
 
 }  // namespace
@@ -96,11 +51,15 @@ int LessonScript::DrawnProblem::CorrectBox() const {
 
 LessonScript::DrawnProblem LessonScript::Draw(int seed) {
   RandomStream random(static_cast<std::uint64_t>(seed));
+  return DrawFrom(random);
+}
+
+// The one place in which problems are drawn, for runs and for all who only look at them.
+LessonScript::DrawnProblem LessonScript::DrawFrom(RandomStream& random) {
   problem = Problem{};
   DrawProblem(random);
   const std::uint64_t draws = random.Draws();
-  std::vector<int> order = ChoiceOrder(problem.kind, random);
-  return {std::move(problem), std::move(order), draws};
+  return {problem, ChoiceOrder(problem.kind, random), draws};
 }
 
 void LessonScript::Run() {
@@ -154,22 +113,17 @@ void LessonScript::LessonEntry() {
   for (int number = session.gScreenNum; number <= session.gScreenCount; ++number) {
     session.gScreenNum = number;
     session.gFirstPageOfScreen = 1;
-    screens[static_cast<std::size_t>(number - 1)]();
+    for (const auto& draw : screens[static_cast<std::size_t>(number - 1)]) draw();
   }
   ExitIfWanted();
   GoToActivity(activity::Example);
-}
-
-void LessonScript::DrawCurrentProblem() {
-  problem = Problem{};
-  DrawProblem(ProblemStream());
 }
 
 void LessonScript::ExampleEntry() {
   try {
     NewScreen();
     Locate(2, 1);
-    DrawCurrentProblem();
+    DrawFrom(ProblemStream());
     ExplainProblem();
   } catch (const PagesEnded&) {
   }
@@ -211,24 +165,22 @@ void LessonScript::ProblemEntry() {
   NewScreen();
   Locate(2, 1);
   ProblemBanner();
-  DrawCurrentProblem();
+  const DrawnProblem drawn = DrawFrom(ProblemStream());
   ShowProblem();
-  AskProblem();
+  AskProblem(drawn);
   AfterProblem();
 }
 
-void LessonScript::AskProblem() {
-  Locate(answerRow, 1);
-  const std::vector<int> order = AnswerChoicesShow(problem);
+void LessonScript::AskProblem(const DrawnProblem& drawn) {
+  AnswerChoicesShow(drawn.problem, drawn.order);
   ExitIfWanted();
   if (session.gLessonTestReviewNum > 0 || session.gChapterTestReviewNum > 0) {
     UpdateAccessibleTexts();
     return ShowTestProbReview();
   }
-  Locate(answerRow + kAnswerToCursor, 1);
-  const int pickedBox = AnswerWait(problem.kind);
+  const int pickedBox = AnswerWait(drawn.problem.kind);
   ExitIfWanted();
-  AnswerGrade(pickedBox, problem.correct, order);
+  AnswerGrade(pickedBox, drawn.problem.correct, drawn.order);
 }
 
 void LessonScript::AfterProblem() {
@@ -249,72 +201,11 @@ void LessonScript::AfterPractice() {
       break;
     case mode::Leave:
       cmdNavigate_Click(3);
-      ScriptExit();
+      throw RunAbandoned{};
     default:
       break;
   }
   GoToActivity(activity::Practice);
-}
-
-void LessonScript::NewScreen() {
-  Header(session.gLessonName);
-}
-
-void LessonScript::WaitForClick() {
-  session.gProceed = 0;
-  session.gPauseStartTime = platform::TheClock().SecondsSinceMidnight();
-  UpdateAccessibleTexts();
-  // A wish that came during an animation needs no further click.
-  while (session.gProceed == 0 && !WantsElsewhere()) platform::WaitEvents("PageEnd");
-  ExitIfWanted();
-}
-
-void LessonScript::PageEnd() {
-  if (session.gMode == mode::Lesson) {
-    ShowNavButtons();
-    WaitForClick();
-    session.gFirstPageOfScreen = 0;
-    return;
-  }
-  ClearPageWishes();
-  ShowNavButtons();
-  WaitForClick();
-  if (session.gBeginExample != kFalse) {
-    session.gRepeatExample = 1;
-    GoToActivity(activity::Example);
-  }
-  if (session.gBeginExplanation != kFalse) {
-    session.gExplainProblem = 1;
-    GoToActivity(activity::Practice);
-  }
-  if (session.gBeginTestExplanation != kFalse) RunAgain();
-  if (session.gEndExample != kFalse || session.gEndExplanation != kFalse ||
-      session.gEndTestExplanation != kFalse)
-    throw PagesEnded{};
-}
-
-void LessonScript::AnimHere(double rp, double cp, double wd, double ht, int dr, double ds,
-                            double sp, int er) {
-  if (dr < 1 || dr > 4)
-    platform::Stop("AnimHere: direction " + std::to_string(dr) + ", not 1 to 4");
-  if (ds >= 0)
-    Anim(rp, cp, wd, ht, dr, ds, sp, er);
-  else
-    Anim(rp, cp, wd, ht, ReversedDirection(dr), -ds, sp, er);
-}
-
-bool LessonScript::OnProblemPage() {
-  switch (session.gMode) {
-    case mode::SameProblem:
-    case mode::NewProblem:
-    case mode::LessonTestProblem:
-    case mode::LessonTestReview:
-    case mode::UnitTestProblem:
-    case mode::UnitTestReview:
-      return true;
-    default:
-      return false;
-  }
 }
 
 int LessonScript::LetterEntryHere() {

@@ -6,8 +6,8 @@
 // stands in the session.
 //
 // A run is abandoned by an exception that a wait throws after its events were served and that Run
-// catches: at WaitForClick, at the wait for an answer, and where a run is about to open a form,
-// never inside a delay or an animation.
+// catches (engine/run_exit.h): at WaitForClick, at the wait for an answer, and where a run is about
+// to open a form, never inside a delay or an animation.
 #pragma once
 
 #include <cstdint>
@@ -22,6 +22,8 @@ namespace course {
 
 class LessonScript {
  public:
+  // The title in proper case, as the window's caption shows it.
+  explicit LessonScript(std::string title);
   virtual ~LessonScript();
   LessonScript(const LessonScript&) = delete;
   LessonScript& operator=(const LessonScript&) = delete;
@@ -32,26 +34,29 @@ class LessonScript {
   const std::string& Title() const { return title_; }
   int ScreenCount();
 
-  // The problem of a seed, drawn without a window: the order of the boxes is that of the screen.
+  // Whether the recipe of the wrong choices is laid down: then the author's tools tell how easily
+  // the right one is guessed, and do not complain of it.
+  virtual bool ChoicesAreLaidDown() const { return false; }
+
+  // The problem of a seed, drawn without a window; a run of the seed shows and grades the same.
   struct DrawnProblem {
     Problem problem;
-    std::vector<int> order;  // order[i] is the choice in box i, from 1
+    std::vector<int> order;   // order[i] is the choice in box i, from 1
     std::uint64_t draws = 0;  // random numbers that the problem took, the order's aside
-    int CorrectBox() const;  // 1 to 5
+    int CorrectBox() const;   // 1 to 5
   };
   DrawnProblem Draw(int seed);
 
  protected:
-  // The title in proper case, as the window's caption shows it.
-  explicit LessonScript(std::string title);
-
   // --- What a lesson adds ------------------------------------------------------------------------
-  using Screen = std::function<void()>;
-  // The teaching screens, 1 to 10, in their order.  Each begins with NewScreen.
+  // A numbered teaching screen: the routines that draw it, one after the other.
+  using Screen = std::vector<std::function<void()>>;
+  // 1 to 10 of them, in their order.  Each begins with NewScreen (engine/page.h) and ends each of
+  // its pages with PageEnd.
   virtual std::vector<Screen> Screens() = 0;
   // Draws numbers from this stream alone, and fills problem, which is empty before.
   virtual void DrawProblem(RandomStream& random) = 0;
-  // Prints the question under the banner, calls picAnswerSetParameters, and sets answerRow.
+  // Prints the question under the banner and calls picAnswerSetParameters.
   virtual void ShowProblem() = 0;
   // The worked explanation of the drawn problem, from a cleared screen on, page by page.  Most
   // lessons begin it with ProblemBanner.
@@ -59,22 +64,9 @@ class LessonScript {
   // Whether practice offers a picture of the rules.
   virtual bool OffersRules() const { return false; }
 
-  // --- What it draws and sets --------------------------------------------------------------------
+  // --- What it draws -----------------------------------------------------------------------------
   Problem problem;
-  double answerRow = 0;  // the cursor's row at the answers
 
-  // --- Standard subroutines ----------------------------------------------------------------------
-  void NewScreen();
-  // Waits for CONTINUE; does not return when the student wants to go elsewhere.
-  void WaitForClick();
-  // The wait at the end of a page, with the buttons that belong to it.
-  void PageEnd();
-  // Anim; with a negative distance the reverse move.  A direction dr other than 1 to 4 stops the
-  // program.
-  void AnimHere(double rp, double cp, double wd, double ht, int dr, double ds, double sp, int er);
-  // A problem page (modes 1, 2, 6, 7, 10, 11), as against an example or explanation.  The
-  // diagnostic test counts with the latter.
-  static bool OnProblemPage();
   // The letter's number, typed in place of a click.  No present lesson asks for it.
   int LetterEntryHere();
 
@@ -86,8 +78,8 @@ class LessonScript {
   void ExampleEnd();
   void AfterExample();
   void ProblemEntry();
-  void DrawCurrentProblem();
-  void AskProblem();
+  DrawnProblem DrawFrom(RandomStream& random);
+  void AskProblem(const DrawnProblem& drawn);
   void AfterProblem();
   void AfterPractice();
 

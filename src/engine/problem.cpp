@@ -12,6 +12,11 @@ bool HasNoneOfTheAbove(int kind) {
   return std::abs(kind) == choice_kind::FourShuffledAndNone;
 }
 
+std::string MistakeOf(const Problem& problem, int choice) {
+  if (choice == 5 && HasNoneOfTheAbove(problem.kind)) return "";
+  return problem.choices.at(static_cast<std::size_t>(choice)).mistake;
+}
+
 std::string ChoiceText(const Problem& problem, int choice) {
   if (choice == 5 && HasNoneOfTheAbove(problem.kind)) return kNoneOfTheAbove;
   return problem.choices.at(static_cast<std::size_t>(choice)).text;

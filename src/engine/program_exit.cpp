@@ -1,5 +1,6 @@
 #include "engine/program_exit.h"
 
+#include "engine/hooks.h"
 #include "platform/program.h"
 #include "platform/stop.h"
 
@@ -15,6 +16,11 @@ void ExitProgram() {
   }
   // The click on the entry may stand inside a running lesson's wait, whose forms are still in use.
   platform::EndProgram();
+}
+
+void SaveAndExit() {
+  SavePracticeRecord();
+  ExitProgram();
 }
 
 }  // namespace course

@@ -26,7 +26,7 @@ constexpr int kMargin = 24;
 constexpr int kPictureSize = 120;
 constexpr int kVerdictLeft = kMargin + kPictureSize + 20;
 constexpr int kPromptWidth = 210;  // two lines of like length
-constexpr int kButtonWidth = 200;
+constexpr int kButtonWidth = 152;  // the longer captions break as they are meant to
 constexpr int kButtonHeight = 46;
 constexpr int kButtonGap = 12;
 constexpr int kButtonLeft = kWidth - kMargin - kButtonWidth;
@@ -39,7 +39,7 @@ struct Option {
 // Option 3, "See an example", is hidden: examples have a tab of their own.
 constexpr Option kOptions[] = {
     {0, "Try problem again", "Try problem again"},
-    {1, "Try a Different\nProblem", "Try a Different Problem"},
+    {1, "Try a Different   Problem", "Try a Different Problem"},
     {2, "See Explanation of Problem", "See Explanation of Problem"},
     {4, "Leave Lesson", "Leave Lesson"},
 };

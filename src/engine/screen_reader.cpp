@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "display/panel_views.h"
+#include "platform/painting.h"
 
 namespace course {
 namespace {
@@ -95,6 +96,7 @@ std::string SpokenText(const std::string& text) {
 }
 
 void UpdateAccessibleTexts() {
+  if (platform::PaintingOff::Active()) return;  // no screen, no screen reader
   for (const PanelView& view : ShownPanels(*frmPR)) {
     switch (view.kind) {
       case PanelKind::Table:

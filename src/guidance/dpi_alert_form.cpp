@@ -74,7 +74,7 @@ class DpiAlertForm {
   void Choose(int version) {
     version_ = version;
     if (version > 0) optWinVersion_.at(static_cast<std::size_t>(version - 1))->SetValue(true);
-    lblTop_.SetCaption(DpiAlertText(version));
+    lblTop_.SetMarkedCaption(DpiAlertText(version));
     cmdPrint_.SetEnabled(version > 0);
   }
 

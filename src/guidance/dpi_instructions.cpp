@@ -108,14 +108,10 @@ std::string DpiAlertText(int version) {
       "instructions are shown for " +
       std::string(chosen.name) + ".  You can view the steps for " + chosen.others +
       " by selecting one of the choices in the box to the left.\n\n"
-      "Click the button Print These Instructions to obtain a printed copy of "
+      "Click the button |Print These Instructions| to obtain a printed copy of "
       "the instructions that you can refer to when changing the DPI setting.\n\n" +
-      chosen.name + " - Steps to Change DPI Setting\n";
-  for (const std::string step : chosen.steps) {
-    text += '\n';
-    for (const char c : step)
-      if (c != '|') text += c;
-  }
+      "|" + chosen.name + " - Steps to Change DPI Setting|\n";
+  for (const std::string step : chosen.steps) text += "\n" + step;
   return text;
 }
 

@@ -132,6 +132,7 @@ void TourForm::Bind() {
     ShowStep();
   };
   cmdEnd_.OnClick = [this] { form.Close(); };
+  cmdNext_.SetRepeats(true);
   form.SetDefaultButton(cmdNext_);
   form.SetNeutralButton(cmdEnd_);
 }

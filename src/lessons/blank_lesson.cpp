@@ -2,49 +2,17 @@
 //
 // A new lesson begins as a copy of this file.  It keeps the order of what follows, the order in
 // which a student meets it, and replaces the words: what the lesson can say in two or three lines,
-// its class, teaching screens, generator, problem page and explanation.
-#include "lessons/blank_lesson.h"
-
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+// its class, teaching screens, generator, problem page, explanation and title.
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
-
-class BlankLesson final : public LessonScript {
- public:
-  BlankLesson() : LessonScript("Blank Lesson") {}
-
- private:
-  // One entry a screen: the numbered buttons follow from it.
-  std::vector<Screen> Screens() override {
-    return {[this] { MeaningOfParentheses(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void MeaningOfParentheses();
-
-  std::string Expression() const;
-  int Sum() const { return first_ + second_; }
-
-  // The numbers of one problem.  A run draws them anew, so nothing is kept here for the next run.
-  int factor_ = 0;  // 2 to 9, in front of the parentheses
-  int first_ = 0;   // 2 to 9, inside them
-  int second_ = 0;
-};
 
 // --- Teaching screens --------------------------------------------------------
 
 // A page adds a sentence, an example or a step; the question at its end wants to be answered before
 // CONTINUE is pressed.
-void BlankLesson::MeaningOfParentheses() {
+void MeaningOfParentheses() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(\cParentheses\z show which part of an expression is worked out first.)");
@@ -64,6 +32,28 @@ void BlankLesson::MeaningOfParentheses() {
   WordWrap("The sum is 3, and 5 times 3 is 15.");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class BlankLesson final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  // One entry a screen: the numbered buttons follow from it.
+  std::vector<Screen> Screens() override { return {{MeaningOfParentheses}}; }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  std::string Expression() const;
+  int Sum() const { return first_ + second_; }
+
+  // The numbers of one problem.  A run draws them anew, so nothing is kept here for the next run.
+  int factor_ = 0;  // 2 to 9, in front of the parentheses
+  int first_ = 0;   // 2 to 9, inside them
+  int second_ = 0;
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -94,7 +84,6 @@ void BlankLesson::DrawProblem(RandomStream& random) {
 void BlankLesson::ShowProblem() {
   Locate(6, 1);
   for (const std::string& line : problem.question) isPrint(line);
-  answerRow = 11;
   picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
 }
 
@@ -119,10 +108,7 @@ void BlankLesson::ExplainProblem() {
   PageEnd();
 }
 
+const LessonRegistration<BlankLesson> kRegistration("Blank Lesson");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeBlankLesson() {
-  return std::make_unique<BlankLesson>();
-}
-
 }  // namespace course

@@ -87,6 +87,10 @@ std::string SignedNumberText(double n) {
   return (n < 0 ? "-" : "+") + tutor::Gap + NumStr(std::fabs(n));
 }
 
+std::string InParentheses(int n) {
+  return n < 0 ? "(" + NumStr(n) + ")" : NumStr(n);
+}
+
 std::string FractionText(int n, int d) {
   ReduceFraction(n, d);
   if (d == 0) return "undefined";

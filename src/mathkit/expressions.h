@@ -20,6 +20,8 @@ std::string CoefText(double c);
 std::string SignedCoefText(double c);
 // A signed constant: sign, gap, digits.  No gap in front.
 std::string SignedNumberText(double n);
+// A number as a factor or a base: a negative one in parentheses.
+std::string InParentheses(int n);
 // On one line, reduced, with sign: "-3/4".  "undefined" when either part is 0.
 std::string FractionText(int n, int d);
 // "n/d" of two texts, as they stand.

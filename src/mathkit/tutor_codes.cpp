@@ -89,6 +89,12 @@ std::string ToUtf8(const std::string& text) {
   return result;
 }
 
+std::string WithoutBreaks(std::string text) {
+  for (char& c : text)
+    if (c == ' ') c = tutor::Gap[0];
+  return text;
+}
+
 std::string UpperCase(std::string text) {
   for (char& c : text) {
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');

@@ -39,6 +39,9 @@ inline const std::string Gap = Chr(255);  // a hard blank: no line breaks there
 // blank. Carets and colour codes stay.
 std::string ToUtf8(const std::string& text);
 
+// The text with hard blanks in place of blanks: an equation in a sentence stays on one line.
+std::string WithoutBreaks(std::string text);
+
 // Upper case of ASCII letters only; all other bytes stay.
 std::string UpperCase(std::string text);
 

@@ -1,6 +1,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QTextDocumentFragment>
 
 #include "platform/face_button_impl.h"
 #include "platform/widgets_impl.h"
@@ -11,13 +12,24 @@ Label::Label(Control& parent, std::string name, const std::string& caption)
     : Control(&parent, std::move(name)) {
   QLabel& label = PutOn(parent, *this, new Pressable<QLabel>(*this));
   label.setWordWrap(true);
-  label.setTextFormat(Qt::PlainText);
   label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
   SetCaption(caption);
 }
 
 void Label::SetCaption(const std::string& caption) {
-  WidgetOf<QLabel>(*this).setText(ToText(caption));
+  QLabel& label = WidgetOf<QLabel>(*this);
+  label.setTextFormat(Qt::PlainText);
+  label.setText(ToText(caption));
+}
+
+void Label::SetMarkedCaption(const std::string& marked) {
+  const QStringList parts = ToText(marked).toHtmlEscaped().replace("\n", "<br>").split('|');
+  QString html = "<p style=\"white-space: pre-wrap\">";
+  for (qsizetype i = 0; i < parts.size(); ++i)
+    html += i % 2 == 1 ? "<b>" + parts[i] + "</b>" : parts[i];
+  QLabel& label = WidgetOf<QLabel>(*this);
+  label.setTextFormat(Qt::RichText);
+  label.setText(html);
 }
 
 void Label::SetUtf8Caption(const std::string& caption) {
@@ -26,7 +38,9 @@ void Label::SetUtf8Caption(const std::string& caption) {
 }
 
 std::string Label::Caption() const {
-  return FromText(WidgetOf<QLabel>(*this).text());
+  const QLabel& label = WidgetOf<QLabel>(*this);
+  if (label.textFormat() == Qt::PlainText) return FromText(label.text());
+  return FromText(QTextDocumentFragment::fromHtml(label.text()).toPlainText());
 }
 
 void Label::SetAlignment(Align align) {
@@ -71,6 +85,10 @@ void Button::SetPicture(const std::string& name) {
 
 std::string Button::Picture() const {
   return WidgetOf<FaceButton>(*this).Picture();
+}
+
+void Button::SetRepeats(bool repeats) {
+  WidgetOf<FaceButton>(*this).SetRepeats(repeats);
 }
 
 OptionButton::OptionButton(Control& parent, std::string name, const std::string& caption)

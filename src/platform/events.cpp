@@ -4,6 +4,8 @@
 
 #include "platform/clock.h"
 #include "platform/handler_queue_impl.h"
+#include "platform/leave_request.h"
+#include "platform/painting.h"
 #include "platform/user.h"
 
 namespace platform {
@@ -20,6 +22,7 @@ void PumpPaintEvents() {
 }
 
 void WaitEvents(const std::string& place) {
+  LeaveIfAsked();
   // What was noted while no handler could be called may be what the caller waits for.
   if (RunHandlers()) return;
   User* const user = InstalledUser();
@@ -29,7 +32,7 @@ void WaitEvents(const std::string& place) {
     return;
   }
   // He sees the page as it is painted, and acts when nothing else is about to happen.
-  QCoreApplication::processEvents();
+  if (!PaintingOff::Active()) QCoreApplication::processEvents();
   if (!RunHandlers()) user->AtWait(place);
 }
 

@@ -69,4 +69,8 @@ void FaceButton::focusInEvent(QFocusEvent* event) {
   QPushButton::focusInEvent(event);
 }
 
+void FaceButton::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (repeats_) QPushButton::mouseDoubleClickEvent(event);
+}
+
 }  // namespace platform

@@ -11,18 +11,21 @@ class FaceButton final : public QPushButton {
  public:
   void SetPicture(const std::string& name);
   const std::string& Picture() const { return picture_; }
+  void SetRepeats(bool repeats) { repeats_ = repeats; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   void PaintCaption(QPaintEvent* event);
 
   std::string picture_;
   bool focusedByKey_ = false;
+  bool repeats_ = false;
 };
 
 }  // namespace platform

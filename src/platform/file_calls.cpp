@@ -2,11 +2,14 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 namespace platform {
 namespace {
@@ -27,14 +30,16 @@ int FactsFrom(int result, const struct stat& status, FileFacts& facts) {
   facts.inode = status.st_ino;
   facts.size = status.st_size;
   facts.permissions = static_cast<int>(status.st_mode & 07777);
+  facts.owner = status.st_uid;
+  facts.group = status.st_gid;
   return 0;
 }
 
 int Flags(OpenMode mode) {
   int flags = mode.write ? (mode.read ? O_RDWR : O_WRONLY) : O_RDONLY;
-  if (mode.create) flags |= O_CREAT;
+  if (mode.create) flags |= O_CREAT | O_EXCL;
   if (mode.truncate) flags |= O_TRUNC;
-  return flags | O_CLOEXEC;
+  return flags | O_NOFOLLOW | O_CLOEXEC;
 }
 
 }  // namespace
@@ -97,6 +102,10 @@ int FileCalls::SetPermissions(int descriptor, int permissions) {
   return Result([&] { return ::fchmod(descriptor, static_cast<mode_t>(permissions)); });
 }
 
+int FileCalls::SetOwner(int descriptor, unsigned owner, unsigned group) {
+  return Result([&] { return ::fchown(descriptor, owner, group); });
+}
+
 int FileCalls::Rename(const std::string& from, const std::string& to) {
   return Result([&] { return ::rename(from.c_str(), to.c_str()); });
 }
@@ -113,6 +122,23 @@ int FileCalls::List(const std::string& folder, std::vector<std::string>& names) 
   const int result = -errno;
   ::closedir(stream);
   return result;
+}
+
+int FileCalls::FollowLinks(const std::string& path, std::string& target) {
+  char* resolved = ::realpath(path.c_str(), nullptr);
+  if (resolved == nullptr) return -errno;
+  target = resolved;
+  std::free(resolved);
+  return 0;
+}
+
+int FileCalls::RandomName(std::string& name) {
+  std::uint64_t number = 0;
+  if (Result([&] { return ::getrandom(&number, sizeof number, 0); }) < 0) return -errno;
+  char digits[17];
+  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(number));
+  name = digits;
+  return 0;
 }
 
 FileCalls& TheFileCalls() {

@@ -15,7 +15,7 @@ enum class LockKind { None, Shared, Exclusive };
 struct OpenMode {
   bool read = false;
   bool write = false;
-  bool create = false;    // when it is missing
+  bool create = false;    // it must be missing
   bool truncate = false;  // what it held is gone
 };
 
@@ -24,13 +24,15 @@ struct FileFacts {
   unsigned long long inode = 0;
   long size = 0;  // bytes
   int permissions = 0;
+  unsigned owner = 0;
+  unsigned group = 0;
 };
 
 // The machine's own calls; a test overrides some.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
-  virtual int Open(const std::string& path, OpenMode mode);  // a descriptor
+  virtual int Open(const std::string& path, OpenMode mode);  // a descriptor; never of a link
   virtual int Close(int descriptor);
   // Locks the whole file for this open, or unlocks it; never waits.  The lock holds between
   // processes and, on a network mount, between workstations.
@@ -43,9 +45,14 @@ class FileCalls {
   virtual int SyncFolder(const std::string& folder);
   virtual int Truncate(int descriptor, long size);
   virtual int SetPermissions(int descriptor, int permissions);
+  virtual int SetOwner(int descriptor, unsigned owner, unsigned group);
   virtual int Rename(const std::string& from, const std::string& to);
   virtual int Remove(const std::string& path);
   virtual int List(const std::string& folder, std::vector<std::string>& names);
+  // The path of the file to which all links lead; the path itself for a file that is none.
+  virtual int FollowLinks(const std::string& path, std::string& target);
+  // A name's end that nobody can foresee, so that nobody can put anything in its place.
+  virtual int RandomName(std::string& name);
 };
 
 // The machine's unless others are installed; nullptr puts the machine's back.

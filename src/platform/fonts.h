@@ -5,7 +5,8 @@
 
 namespace platform {
 
-// Makes the fonts of the machine known without the rules of its desktop.  Before the toolkit starts.
+// Makes the fonts of the machine known without the rules of its desktop.  Before the toolkit
+// starts.
 void ReadFontsPlainly();
 
 // Stops the program when a face that the course prints in is not installed; the message names the

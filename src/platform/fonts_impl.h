@@ -5,6 +5,7 @@
 #include <QString>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace platform {
 
@@ -13,6 +14,7 @@ struct Typeface {
   double pixelSize = 0;  // height of the em
   int ascent = 0;        // pixel rows from the top of a text to its baseline
   int height = 0;        // pixel rows of a line of text
+  mutable std::unordered_map<std::string, double> widths;  // of texts that were measured, in pixels
 };
 
 // The font of a face and a size in points.  Sizes are set in pixels, so that no desktop's dots per

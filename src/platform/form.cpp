@@ -10,6 +10,7 @@
 #include "platform/events.h"
 #include "platform/form_window_impl.h"
 #include "platform/off_screen.h"
+#include "platform/painting.h"
 #include "platform/surface.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
@@ -53,8 +54,8 @@ class ModalStretch {
 }  // namespace
 
 QWidget* FrontWindow() {
-  if (!modalForms.empty()) return modalForms.back()->formImpl().window;
-  return shownForms.empty() ? nullptr : shownForms.back()->formImpl().window.data();
+  const Form* front = Form::FrontForm();
+  return front == nullptr ? nullptr : front->formImpl().window.data();
 }
 
 bool TakesInput(const Form& form) {
@@ -64,7 +65,7 @@ bool TakesInput(const Form& form) {
 
 Form::Form(std::string name, int width, int height)
     : Control(nullptr, std::move(name)), formImpl_(std::make_unique<FormImpl>()) {
-  InstallKeyFilter();
+  InstallInputFilter();
   auto* window = new FormWindow(*this);
   QWidget* client = window->centralWidget();
   client->setFixedSize(ToPixels(width), ToPixels(height));
@@ -123,6 +124,7 @@ void Form::Show() {
   if (formImpl_->shown) return;
   formImpl_->shown = true;
   shownForms.push_back(this);
+  if (PaintingOff::Active()) return;
   static_cast<FormWindow&>(*formImpl_->window).ExpectFirstPainting();
   formImpl_->window->setAttribute(Qt::WA_DontShowOnScreen, OffScreen::Active());
   formImpl_->window->show();
@@ -134,12 +136,13 @@ void Form::Hide() {
   formImpl_->shown = false;
   std::erase(shownForms, this);
   formImpl_->window->hide();
+  if (PaintingOff::Active()) return;
   // Not every screen has a window manager that passes the keyboard on.
   if (QWidget* below = FrontWindow()) TakeKeyboard(*below);
 }
 
 void Form::ShowModal() {
-  KeepInFrontOf(*formImpl_->window, FrontWindow());
+  if (!PaintingOff::Active()) KeepInFrontOf(*formImpl_->window, FrontWindow());
   const ModalStretch stretch(*this);
   Place();
   Show();
@@ -155,10 +158,9 @@ bool Form::Shown() const {
 }
 
 bool Form::Press(int code) {
-  if (!TakesInput(*this)) return false;
   const std::weak_ptr<const char> life = impl().life;
-  HandleKey(*this, KeyEventOf(QEvent::KeyPress, code));
-  if (!life.expired() && Shown()) HandleKey(*this, KeyEventOf(QEvent::KeyRelease, code));
+  if (!OfferKey(*this, KeyEventOf(QEvent::KeyPress, code))) return false;
+  if (!life.expired() && Shown()) OfferKey(*this, KeyEventOf(QEvent::KeyRelease, code));
   return true;
 }
 
@@ -203,12 +205,32 @@ MenuItem* Form::FindMenuItem(const std::string& name) {
   return nullptr;
 }
 
+Form* Form::FrontForm() {
+  if (!modalForms.empty()) return modalForms.back();
+  return shownForms.empty() ? nullptr : shownForms.back();
+}
+
 Form* Form::ModalForm() {
   return modalForms.empty() ? nullptr : modalForms.back();
 }
 
 const std::vector<Form*>& Form::ShownForms() {
   return shownForms;
+}
+
+FrontFormWaits::FrontFormWaits() {
+  Form* front = Form::FrontForm();
+  if (front == nullptr || !TakesInput(*front)) return;
+  form_ = front;
+  life_ = front->impl().life;
+  front->formImpl().waits = true;
+  front->SetEnabled(false);
+}
+
+FrontFormWaits::~FrontFormWaits() {
+  if (form_ == nullptr || life_.expired()) return;
+  form_->formImpl().waits = false;
+  form_->SetEnabled(true);
 }
 
 }  // namespace platform

@@ -85,6 +85,9 @@ class Label final : public Control {
   void SetCaption(const std::string& caption);
   // For letters beyond Latin-1.
   void SetUtf8Caption(const std::string& caption);
+  // The same of a text in which what stands between two bars is bold; Caption gives it without
+  // them.
+  void SetMarkedCaption(const std::string& marked);
   std::string Caption() const;
   enum class Align { Left, Centre, Right };
   void SetAlignment(Align align);
@@ -102,6 +105,9 @@ class Button final : public Control {
   // Fills the button with a picture of the artwork in place of a caption.
   void SetPicture(const std::string& name);
   std::string Picture() const;
+  // Every quick press counts, as on a button that turns pages.  Otherwise the second press of a
+  // double click is lost.
+  void SetRepeats(bool repeats);
 };
 
 class OptionButton final : public Control {
@@ -125,8 +131,9 @@ class ListBox final : public Control {
  public:
   ListBox(Control& parent, std::string name);
   void Clear();
-  // What stands behind 100 blanks is kept, and neither seen nor read out.
-  void AddItem(const std::string& text);
+  // What stands behind 100 blanks, or behind so many characters, is kept, and neither seen nor read
+  // out nor copied.
+  void AddItem(const std::string& text, std::size_t seen = std::string::npos);
   int ListCount() const;
   std::string List(int index) const;  // "" outside 0 to ListCount - 1
   // 0-based, -1 for none.  Setting another index than the present one calls OnClick once, as the
@@ -228,6 +235,8 @@ class Form : public Control {
   Control* Find(const std::string& name);
   MenuItem* FindMenuItem(const std::string& name);
 
+  // The form in front, which all input goes to; nullptr while none is shown.
+  static Form* FrontForm();
   // The modal form in front, nullptr for none.
   static Form* ModalForm();
   // Forms that are shown, in the order in which they were.
@@ -240,6 +249,20 @@ class Form : public Control {
   void Place();
 
   std::unique_ptr<FormImpl> formImpl_;
+};
+
+// For the lifetime of this the program waits for something else than the person: the form in front
+// is disabled, and of all input Esc alone gets through, to the form's OnKeyPress.
+class FrontFormWaits {
+ public:
+  FrontFormWaits();
+  ~FrontFormWaits();
+  FrontFormWaits(const FrontFormWaits&) = delete;
+  FrontFormWaits& operator=(const FrontFormWaits&) = delete;
+
+ private:
+  Form* form_ = nullptr;  // the one that waits; nullptr for none, or when it waits already
+  std::weak_ptr<const char> life_;
 };
 
 }  // namespace platform

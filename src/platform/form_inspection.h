@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/dialogs.h"
 #include "platform/form.h"
 
 namespace platform::inspection {
@@ -19,6 +20,12 @@ Control* Focused(const Form& form);
 // The buttons that Enter and Esc press, nullptr for none.
 Button* DefaultButton(const Form& form);
 Button* NeutralButton(const Form& form);
+// The entries of the form's menus, separators left out.
+std::vector<MenuItem*> MenuItems(const Form& form);
+// Whether a text box shows dots for what is typed.
+bool HidesCharacters(const Control& textBox);
+// The bold parts of a label's marked caption.
+std::vector<std::string> BoldParts(const Label& label);
 // Whether Tab stops at the control when it can be used.
 bool TakesTab(const Control& control);
 
@@ -33,5 +40,12 @@ struct Excess {
   int right, below;
 };
 Excess ExcessOfText(const Control& control);
+
+// A message as its box shows it: the title on its frame, and the lines that its text takes.
+struct ShownMessage {
+  std::string title;
+  int lines;
+};
+ShownMessage Shown(const Message& message);
 
 }  // namespace platform::inspection

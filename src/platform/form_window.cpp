@@ -6,6 +6,7 @@
 #include <cctype>
 #include <memory>
 
+#include "platform/clock.h"
 #include "platform/form_window_impl.h"
 #include "platform/picture_box.h"
 
@@ -14,6 +15,11 @@ namespace {
 
 constexpr int kEnter = 13;
 constexpr int kEsc = 27;
+
+// Who double clicks meant both presses for what stood there before: seconds in which a form or a
+// box that opened takes none, as long as the second press may take.
+constexpr double kOpening = 0.4;
+constexpr const char* kOpened = "openedAt";  // property of a window, on the course's clock
 
 // The form's ground; it tells when it was painted for the first time.
 class Client final : public Pressable<QWidget> {
@@ -65,24 +71,54 @@ bool TakeKey(Form& form, int code) {
   return code == kEnter && PressEnter(form);
 }
 
-class KeyFilter final : public QObject {
+void HandleKey(Form& form, const QKeyEvent& event) {
+  if (event.type() == QEvent::KeyPress && TakeKey(form, CodeOf(event))) return;
+  QWidget* receiver = form.formImpl().window->focusWidget();
+  if (receiver == nullptr) receiver = form.formImpl().window;
+  const std::unique_ptr<QKeyEvent> copy(event.clone());
+  QCoreApplication::sendEvent(receiver, copy.get());
+}
+
+// What the toolkit's windows are told of the machine's devices, before they see it.
+class InputFilter final : public QObject {
  public:
+  // True: the window never sees it.
   bool eventFilter(QObject* target, QEvent* event) override {
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!isKey || !target->isWindowType()) return false;
-    Form* const form = FormOf(target);
-    if (form == nullptr || InMenu(*form)) return false;
-    const auto& key = *static_cast<QKeyEvent*>(event);
-    const int code = CodeOf(key);
-    // The release waits behind its press.
-    if (code < 0 || !(form->OnKeyPress || code == kEsc || code == kEnter)) return false;
-    CallLater(form->impl().life, [form, copy = std::shared_ptr<QKeyEvent>(key.clone())] {
-      if (TakesInput(*form)) HandleKey(*form, *copy);
-    });
-    return true;
+    if (!target->isWindowType()) return false;
+    switch (event->type()) {
+      case QEvent::Show:
+        target->setProperty(kOpened, TheClock().Counter());
+        return false;
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonDblClick:
+        return HasJustOpened(*static_cast<QWindow*>(target));
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+        return TakesOver(*target, *static_cast<QKeyEvent*>(event));
+      default:
+        return false;
+    }
   }
 
  private:
+  // A menu opens under the very press that goes on to its entry.
+  static bool HasJustOpened(const QWindow& window) {
+    if (window.type() != Qt::Window && window.type() != Qt::Dialog) return false;
+    return TheClock().Counter() < window.property(kOpened).toDouble() + kOpening;
+  }
+  static bool TakesOver(const QObject& window, const QKeyEvent& key) {
+    const int code = CodeOf(key);
+    // A key that is held down leads no further than one that is pressed: the next form is not
+    // meant.
+    if (key.isAutoRepeat() && (code == kEsc || code == kEnter)) return true;
+    Form* const form = FormOf(&window);
+    if (form == nullptr || InMenu(*form)) return false;
+    // The release waits behind its press.
+    if (code < 0 || !(form->OnKeyPress || code == kEsc || code == kEnter)) return false;
+    CallLater(form->impl().life,
+              [form, copy = std::shared_ptr<QKeyEvent>(key.clone())] { OfferKey(*form, *copy); });
+    return true;
+  }
   static Form* FormOf(const QObject* window) {
     for (Form* form : Form::ShownForms())
       if (form->formImpl().window->windowHandle() == window) return form;
@@ -136,22 +172,24 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   CallLater(form_.impl().life, [&form = form_] { form.ClickCloseBox(); });
 }
 
-void HandleKey(Form& form, const QKeyEvent& event) {
-  if (event.type() == QEvent::KeyPress && TakeKey(form, CodeOf(event))) return;
-  QWidget* receiver = form.formImpl().window->focusWidget();
-  if (receiver == nullptr) receiver = form.formImpl().window;
-  const std::unique_ptr<QKeyEvent> copy(event.clone());
-  QCoreApplication::sendEvent(receiver, copy.get());
+bool OfferKey(Form& form, const QKeyEvent& event) {
+  if (TakesInput(form)) {
+    HandleKey(form, event);
+    return true;
+  }
+  if (!form.formImpl().waits || CodeOf(event) != kEsc || !form.OnKeyPress) return false;
+  if (event.type() == QEvent::KeyPress) form.OnKeyPress(kEsc);
+  return true;
 }
 
 QKeyEvent KeyEventOf(QEvent::Type type, int code) {
   return {type, ToolkitKey(code), Qt::NoModifier, QString(QChar(code))};
 }
 
-void InstallKeyFilter() {
-  static QPointer<KeyFilter> filter;
+void InstallInputFilter() {
+  static QPointer<InputFilter> filter;
   if (filter) return;
-  filter = new KeyFilter;
+  filter = new InputFilter;
   filter->setParent(qApp);
   qApp->installEventFilter(filter);
 }

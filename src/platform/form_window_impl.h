@@ -22,15 +22,15 @@ class FormWindow final : public QMainWindow {
   Form& form_;
 };
 
-// What a key does on a form: the form's handler, then the neutral and the default button, then the
-// control that has the focus.
-void HandleKey(Form& form, const QKeyEvent& event);
+// Gives a key to the form: to its handler, then to the neutral and the default button, then to the
+// control that has the focus.  False when the form takes no such key now.
+bool OfferKey(Form& form, const QKeyEvent& event);
 
 // The key events of a single-byte code, pressed or released.
 QKeyEvent KeyEventOf(QEvent::Type type, int code);
 
-// Keys reach a form before its controls from now on.
-void InstallKeyFilter();
+// From now on keys reach a form before its controls, and what has just opened takes no press.
+void InstallInputFilter();
 
 // The control that a key goes to, nullptr for none.
 Control* FocusedControl(const Form& form);

@@ -96,9 +96,10 @@ void ListBox::Clear() {
   ListOf(*this).clear();
 }
 
-void ListBox::AddItem(const std::string& text) {
-  const std::string seen = text.substr(0, text.find(std::string(kHidingGap, ' ')));
-  auto* item = new QListWidgetItem(ToText(seen), &ListOf(*this));
+void ListBox::AddItem(const std::string& text, std::size_t seen) {
+  std::string front = text.substr(0, std::min(text.find(std::string(kHidingGap, ' ')), seen));
+  if (front.size() < text.size()) front.erase(front.find_last_not_of(' ') + 1);
+  auto* item = new QListWidgetItem(ToText(front), &ListOf(*this));
   // Byte for byte: fields are found by their places.
   item->setData(kFullText, QByteArray::fromStdString(text));
   item->setSizeHint({0, ToPixels(rowHeight_)});

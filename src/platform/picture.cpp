@@ -77,13 +77,14 @@ void Surface::DrawPicture(const std::string& name, int x, int y) {
 
 void Surface::DrawPicture(const std::string& name, const PixelRect& rect) {
   const QRect target = RectOf(rect);
-  if (target.isEmpty()) return;
+  if (target.isEmpty() || !impl_->paints) return;
   QPainter painter(&impl_->image);
   painter.drawImage(target.topLeft(), PictureImage(name, target.size()));
   impl_->Touch(target);
 }
 
 void Surface::DrawPicturePart(const std::string& name, int x, int y, const PixelRect& part) {
+  if (!impl_->paints) return;
   const QImage picture = PictureImage(name, PictureSize(name));
   // What lies outside the picture is left alone.
   const QRect source = RectOf(part) & picture.rect();

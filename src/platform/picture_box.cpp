@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/painting.h"
 #include "platform/surface_impl.h"
 #include "platform/widgets_impl.h"
 
@@ -34,6 +35,7 @@ class SurfaceWidget final : public Pressable<QWidget> {
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() != Qt::Key_Space) return Pressable<QWidget>::keyPressEvent(event);
+    if (event->isAutoRepeat()) return;
     CallLater(box_.impl().life, [&box = box_] { box.Click(); });
   }
 
@@ -83,6 +85,7 @@ QAccessibleInterface* MakeSpoken(const QString&, QObject* object) {
 
 PictureBox::PictureBox(Control& parent, std::string name)
     : Control(&parent, std::move(name)), Surface(1, 1) {
+  Surface::impl_->paints = !PaintingOff::Active();
   static const bool installed = (QAccessible::installFactory(MakeSpoken), true);
   static_cast<void>(installed);
   PutOn(parent, *this, new SurfaceWidget(*this, Surface::impl_->image));

@@ -130,6 +130,8 @@ class PreviewForm {
       shownPage_ = std::clamp(pane_.CurrentPage(), 1, PageCount());
       ShowPageNumber();
     };
+    for (Button* button : {&cmdPrevious_, &cmdNext_, &cmdZoomIn_, &cmdZoomOut_})
+      button->SetRepeats(true);
     form_.SetDefaultButton(cmdPrint_);
     form_.SetNeutralButton(cmdCancel_);
   }

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <optional>
+#include <string_view>
 
 #include "platform/file_calls.h"
 
@@ -79,6 +80,17 @@ FileFacts FactsOf(int descriptor) {
   return facts;
 }
 
+// Workstations share the folder: the mask of the one that makes a file must not keep the others
+// from it.  Not every network mount knows rights, so it is no error when they cannot be set.
+void TakeRightsOfFolder(int descriptor, const std::string& folder) {
+  FileFacts above;
+  Checked(TheFileCalls().FactsOfPath(folder, above));
+  const int writers = above.permissions & 0022;
+  const int own = FactsOf(descriptor).permissions;
+  const int wanted = own | writers | (writers << 1);  // who writes reads, too
+  if (wanted != own) TheFileCalls().SetPermissions(descriptor, wanted);
+}
+
 // One write; a short one is what a full disk does.
 void WriteOnce(int descriptor, const std::string& bytes, long offset) {
   if (bytes.empty()) return;
@@ -93,17 +105,52 @@ std::string Joined(const std::vector<std::string>& records) {
   return bytes;
 }
 
-// The file that takes another one's place: "RECORDS.NEW" beside "RECORDS.DAT".
-std::string ReplacementOf(const std::string& path) {
-  return path.substr(0, path.rfind('.')) + ".NEW";
+// The file that takes another one's place: "RECORDS.DAT.0123456789abcdef.NEW" beside it.
+constexpr std::string_view kReplacementEnd = ".NEW";
+constexpr std::size_t kRandomLength = 16;
+
+bool IsReplacement(std::string_view file, const std::string& name) {
+  const std::string begin = std::string(file) + ".";
+  return name.size() == begin.size() + kRandomLength + kReplacementEnd.size() &&
+         name.starts_with(begin) && name.ends_with(kReplacementEnd);
 }
 
-void WriteReplacement(const std::string& path, const std::string& bytes, int permissions) {
+// What replacements left that were cut short.  Only under the exclusive lock of the file, which a
+// replacement in progress holds.
+void RemoveUnfinished(const Place& place) {
+  std::vector<std::string> names;
+  Checked(TheFileCalls().List(place.folder, names));
+  for (const std::string& name : names)
+    if (IsReplacement(place.name, name)) TheFileCalls().Remove(place.folder + name);
+}
+
+std::string ReplacementOf(const std::string& path) {
+  std::string random;
+  Checked(TheFileCalls().RandomName(random));
+  return path + "." + random + std::string(kReplacementEnd);
+}
+
+// False when the system does not let this person give the file away.
+bool HandOver(int descriptor, const FileFacts& old) {
+  const FileFacts made = FactsOf(descriptor);
+  if (made.owner == old.owner && made.group == old.group) return true;
+  const int result = TheFileCalls().SetOwner(descriptor, old.owner, old.group);
+  if (IsRefusal(result)) return false;
+  Checked(result);
+  return true;
+}
+
+// Writes a new file with the old one's owner, group and rights.  False when it cannot be made so.
+bool WriteReplacement(const std::string& path, const std::string& bytes, const FileFacts& old) {
   FileCalls& calls = TheFileCalls();
-  const Descriptor file(calls.Open(path, {.write = true, .create = true, .truncate = true}));
-  Checked(calls.SetPermissions(file.Number(), permissions));
+  const int opened = calls.Open(path, {.write = true, .create = true});
+  if (IsRefusal(opened)) return false;
+  const Descriptor file(opened);
+  if (!HandOver(file.Number(), old)) return false;
+  Checked(calls.SetPermissions(file.Number(), old.permissions));
   WriteOnce(file.Number(), bytes, 0);
   Checked(calls.Sync(file.Number()));
+  return true;
 }
 
 }  // namespace
@@ -136,11 +183,14 @@ bool RecordFile::OpenNamed(const std::string& name, Access access, Sharing shari
   FileCalls& calls = TheFileCalls();
   const std::optional<std::string> present = NameOnDisk({folder_, name});
   path_ = folder_ + present.value_or(name);
+  // A record file may be a link; then the file behind it is read, written and replaced.
+  if (present) Checked(calls.FollowLinks(path_, path_));
   LockKind lock = sharing == Sharing::Exclusive ? LockKind::Exclusive : LockKind::Shared;
   descriptor_ = calls.Open(
       path_, {.read = true,
               .write = access != Access::Read || lock == LockKind::Exclusive,  // the lock needs it
-              .create = access != Access::Read});
+              .create = !present && access != Access::Read});
+  if (descriptor_ == -EEXIST) return false;  // somebody else has just made it
   const bool readingWillDo =
       access == Access::Read || (access == Access::ReadWrite && lock == LockKind::Shared);
   if (IsRefusal(descriptor_) && readingWillDo) {
@@ -152,7 +202,10 @@ bool RecordFile::OpenNamed(const std::string& name, Access access, Sharing shari
   if (locked == -EAGAIN || locked == -EACCES) ThrowBusy();
   Checked(locked);
   if (!BearsName()) return false;
-  if (!present) Checked(calls.SyncFolder(folder_));
+  if (!present) {
+    TakeRightsOfFolder(descriptor_, folder_);
+    Checked(calls.SyncFolder(folder_));
+  }
   if (sharing == Sharing::Plain) Checked(calls.Lock(descriptor_, LockKind::None));
   return true;
 }
@@ -217,32 +270,88 @@ void RecordFile::Write(long number, const std::string& record) {
   Checked(calls.Sync(descriptor_));
 }
 
+void RecordFile::Overwrite(long number, const std::string& record) {
+  FileCalls& calls = TheFileCalls();
+  const long offset = (number - 1) * recordLength_;
+  const std::string old = Read(number);
+  try {
+    WriteOnce(descriptor_, record, offset);
+    Checked(calls.Sync(descriptor_));
+  } catch (const FileError&) {
+    calls.Write(descriptor_, old.data(), old.size(), offset);
+    throw;
+  }
+}
+
+std::string RecordFile::Tail() {
+  const long end = Count() * recordLength_;
+  return ReadAt(end, FactsOf(descriptor_).size - end);
+}
+
+void RecordFile::WriteTail(const std::string& bytes) {
+  FileCalls& calls = TheFileCalls();
+  const long end = Count() * recordLength_;
+  Checked(calls.Truncate(descriptor_, end));
+  WriteOnce(descriptor_, bytes, end);
+  Checked(calls.Sync(descriptor_));
+}
+
 void RecordFile::Clear() {
   Checked(TheFileCalls().Truncate(descriptor_, 0));
   Checked(TheFileCalls().Sync(descriptor_));
 }
 
 void RecordFile::ReplaceAll(const std::vector<std::string>& records) {
+  const std::string bytes = Joined(records);
+  if (!ReplaceFile(bytes)) WriteOver(bytes);
+  Close();
+}
+
+// False when the file can only be written in its place.
+bool RecordFile::ReplaceFile(const std::string& bytes) {
   FileCalls& calls = TheFileCalls();
+  const Place place = PlaceOf(path_);
+  RemoveUnfinished(place);
   const std::string replacement = ReplacementOf(path_);
   try {
-    WriteReplacement(replacement, Joined(records), FactsOf(descriptor_).permissions);
-    Checked(calls.Rename(replacement, path_));
+    const bool written = WriteReplacement(replacement, bytes, FactsOf(descriptor_));
+    const int renamed = written ? calls.Rename(replacement, path_) : 0;
+    if (!written || IsRefusal(renamed)) {
+      calls.Remove(replacement);
+      return false;
+    }
+    Checked(renamed);
   } catch (const FileError&) {
     calls.Remove(replacement);
     throw;
   }
-  Checked(calls.SyncFolder(folder_));
-  Close();
+  Checked(calls.SyncFolder(place.folder));
+  return true;
+}
+
+void RecordFile::WriteOver(const std::string& bytes) {
+  FileCalls& calls = TheFileCalls();
+  const std::string old = ReadBytes();
+  try {
+    WriteOnce(descriptor_, bytes, 0);
+    Checked(calls.Truncate(descriptor_, static_cast<long>(bytes.size())));
+    Checked(calls.Sync(descriptor_));
+  } catch (const FileError&) {
+    calls.Write(descriptor_, old.data(), old.size(), 0);
+    calls.Truncate(descriptor_, static_cast<long>(old.size()));
+    throw;
+  }
 }
 
 void WriteWorkFile(const std::string& path, const std::vector<std::string>& records,
                    OldContents oldContents) {
   FileCalls& calls = TheFileCalls();
   const Place place = PlaceOf(path);
-  const std::string onDisk = place.folder + NameOnDisk(place).value_or(place.name);
+  const std::optional<std::string> present = NameOnDisk(place);
   const Descriptor file(calls.Open(
-      onDisk, {.write = true, .create = true, .truncate = oldContents == OldContents::Removed}));
+      place.folder + present.value_or(place.name),
+      {.write = true, .create = !present, .truncate = oldContents == OldContents::Removed}));
+  if (!present) TakeRightsOfFolder(file.Number(), place.folder);
   WriteOnce(file.Number(), Joined(records), 0);
   Checked(calls.Sync(file.Number()));
 }

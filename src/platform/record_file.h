@@ -4,6 +4,8 @@
 // A file has no header; record n, from 1, lies at (n - 1) times the record's length.  A partial
 // record at the end is not counted, and the next append writes over it.  Names do not tell case
 // apart: a file that is there in any spelling is the one that is meant.  Both slashes part folders.
+// A record file may be a link to a file elsewhere, and stays one; nothing else follows links, so
+// that nobody who may write to a shared folder turns a write aside.
 #pragma once
 
 #include <stdexcept>
@@ -32,8 +34,9 @@ enum class Sharing {
 // throw FileError.
 class RecordFile {
  public:
-  // A missing file is made, unless the access is Read.  ReadWrite on a file that this person may
-  // only read opens it for reading.  After the lock is taken the file still bears its name.
+  // A missing file is made, unless the access is Read; who may write into the folder may write it.
+  // ReadWrite on a file that this person may only read opens it for reading.  After the lock is
+  // taken the file still bears its name.
   RecordFile(const std::string& path, int recordLength, Access access, Sharing sharing);
   ~RecordFile();
   RecordFile(const RecordFile&) = delete;
@@ -46,17 +49,27 @@ class RecordFile {
   // Writes record number 1 to Count() + 1 by one write, then lets others in, and has it on the disk
   // on return: the last that is done with an open file.
   void Write(long number, const std::string& record);
+  // Writes over record number 1 to Count() by one write, keeps others out, and has it on the disk
+  // on return.  After an error the record is what it was, wherever the disk allows it.
+  void Overwrite(long number, const std::string& record);
+  // The bytes behind the last whole record, which nobody counts.  WriteTail puts others, fewer than
+  // a record has, in their place and on the disk.
+  std::string Tail();
+  void WriteTail(const std::string& bytes);
   // Leaves the file empty.
   void Clear();
-  // Puts these records in the place of all others in one step: whoever opens the file sees the old
-  // ones or the new ones, whatever happens.  Only after an exclusive open; this object is closed
-  // then.
+  // Puts these records in the place of all others; only after an exclusive open, and this object is
+  // closed then.  In one step, so that whoever opens the file sees the old ones or the new ones
+  // whatever happens; but where a new file could not keep the old one's owner and group, or the
+  // folder takes none, they are written over the old ones.
   void ReplaceAll(const std::vector<std::string>& records);
 
  private:
   bool OpenNamed(const std::string& name, Access access, Sharing sharing);
   bool BearsName();
   std::string ReadAt(long offset, long size);
+  bool ReplaceFile(const std::string& bytes);
+  void WriteOver(const std::string& bytes);
   void Close();
 
   std::string folder_;

@@ -53,9 +53,13 @@ void ClickAt(const Control& control, int x, int y) {
   PressAndRelease(control, x, y);
 }
 
+void SecondClickAt(const Control& control, int x, int y) {
+  PressAndRelease(control, x, y);
+}
+
 void DoubleClickAt(const Control& control, int x, int y) {
   ClickAt(control, x, y);
-  PressAndRelease(control, x, y);
+  SecondClickAt(control, x, y);
 }
 
 void Type(const Form& form, int code) {
@@ -75,6 +79,17 @@ void TypeWithAlt(const Form& form, char letter) {
   TypeKey(form, event.key(), event.text(), Qt::AltModifier);
 }
 
+void HoldKey(const Form& form, int code) {
+  const QKeyEvent event = KeyEventOf(QEvent::KeyPress, code);
+  qt_handleKeyEvent(WindowOf(form), QEvent::KeyPress, event.key(), Qt::NoModifier, event.text(),
+                    true, 1);
+}
+
+std::string Copied(const Form& form) {
+  TypeKey(form, Qt::Key_C, "\x03", Qt::ControlModifier);
+  return FromText(QGuiApplication::clipboard()->text());
+}
+
 void Paste(const Form& form, const std::string& text) {
   QGuiApplication::clipboard()->setText(QString::fromStdString(text));
   TypeKey(form, Qt::Key_V, "\x16", Qt::ControlModifier);
@@ -87,6 +102,11 @@ void CloseWindow(const Form& form) {
 std::string Spoken(const Control& control) {
   const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control.impl().widget);
   return FromText(spoken->text(QAccessible::Name));
+}
+
+std::string SpokenRow(const ListBox& list, int row) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(list.impl().widget);
+  return FromText(spoken->child(row)->text(QAccessible::Name));
 }
 
 bool PressBySpeech(const Control& control) {

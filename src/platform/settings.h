@@ -23,8 +23,8 @@ SettingsFolders OwnSettingsFolders();
 
 // Reads settings from "sumwright-algebra1.settings" in the program's folder, or else in the user's
 // configuration folder.  When neither exists, writes one with the defaults where it can.  A bad
-// value, such as a data folder that does not exist, stops the program with a message that names
-// file, line and what is allowed.
+// value, such as a data folder that does not exist, and a file that cannot be read stop the program
+// with a message that names file and line, and what is allowed or what the system refused.
 InstallationSettings ReadInstallationSettings();
 InstallationSettings ReadSettingsIn(const SettingsFolders& folders);
 

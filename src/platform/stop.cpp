@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/dialogs_impl.h"
+#include "platform/leave_request.h"
 #include "platform/user.h"
 
 namespace platform {
@@ -15,6 +16,7 @@ void Stop(const std::string& message) {
   std::fprintf(stderr, "%s\n", message.c_str());
   static bool stopping = false;
   const bool again = std::exchange(stopping, true);  // while the message is painted
+  OnLeaveRequest(nullptr);                           // what fails now must not be tried once more
   const bool hasToolkit = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
   if (hasToolkit && !again && !NobodyIsThere())
     ShowMessage({message, "Algebra 1", Buttons::Ok, Icon::Warning});

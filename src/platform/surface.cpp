@@ -28,6 +28,7 @@ void Surface::Impl::Span(int y, int left, int right, QRgb rgb, DrawModes mode) {
 }
 
 void Surface::Impl::Fill(const QRect& rect, QRgb rgb, DrawModes mode) {
+  if (!paints) return;
   const QRect filled = rect & image.rect();
   if (filled.isEmpty()) return;
   // The first row pixel by pixel, the others as copies of it, which is several times as quick.
@@ -62,10 +63,11 @@ void Surface::Resize(int width, int height) {
 }
 
 void Surface::Cls() {
-  impl_->image.fill(ToRgb(BackColor));
-  impl_->dirty = impl_->image.rect();
   CurrentX = 0;
   CurrentY = 0;
+  if (!impl_->paints) return;
+  impl_->image.fill(ToRgb(BackColor));
+  impl_->dirty = impl_->image.rect();
 }
 
 void Surface::Refresh() {

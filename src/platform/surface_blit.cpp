@@ -11,6 +11,7 @@ namespace platform {
 
 void Surface::BitBlt(int x, int y, int width, int height, const Surface& source, int sourceX,
                      int sourceY) {
+  if (!impl_->paints || !source.impl_->paints) return;
   // What is copied, in pixels of this surface.
   const QPoint offset(x - sourceX, y - sourceY);
   const QRect copied = QRect(x, y, width, height) & impl_->image.rect() &
@@ -30,6 +31,7 @@ void Surface::BitBlt(int x, int y, int width, int height, const Surface& source,
 }
 
 void Surface::StretchBlt(const PixelRect& rect, const Surface& source) {
+  if (!impl_->paints || !source.impl_->paints) return;
   const QRect target(rect.left, rect.top, rect.width, rect.height);
   const QImage scaled =
       source.impl_->image.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -98,6 +100,7 @@ class Flood {
 }  // namespace
 
 void Surface::FloodFill(int x, int y, Colour fill, Colour boundary) {
+  if (!impl_->paints) return;
   Flood flood(impl_->image, ToRgb(fill), ToRgb(boundary));
   flood.From({x, y});
   impl_->Touch(flood.Bounds());

@@ -30,21 +30,23 @@ void Surface::Impl::TouchAround(PixelPoint a, PixelPoint b, int margin) {
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
+  CurrentX = x2;
+  CurrentY = y2;
+  if (!impl_->paints) return;
   const PixelPoint from = impl_->PixelAt(x1, y1);
   const PixelPoint to = impl_->PixelAt(x2, y2);
   RasterLine(from, to, DrawWidth, impl_->Size(), impl_->Pen(colour.value_or(ForeColor), DrawMode));
   impl_->TouchAround(from, to, DrawWidth / 2 + 1);
-  CurrentX = x2;
-  CurrentY = y2;
 }
 
 void Surface::Box(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
+  CurrentX = x2;
+  CurrentY = y2;
+  if (!impl_->paints) return;
   const PixelPoint from = impl_->PixelAt(x1, y1);
   const PixelPoint to = impl_->PixelAt(x2, y2);
   RasterBox(from, to, DrawWidth, impl_->Size(), impl_->Pen(colour.value_or(ForeColor), DrawMode));
   impl_->TouchAround(from, to, DrawWidth / 2 + 1);
-  CurrentX = x2;
-  CurrentY = y2;
 }
 
 void Surface::FilledBox(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
@@ -63,6 +65,9 @@ void Surface::PSet(double x, double y, std::optional<Colour> colour) {
 
 void Surface::Circle(double x, double y, double radius, std::optional<Colour> colour, double start,
                      double end, double aspect) {
+  CurrentX = x;
+  CurrentY = y;
+  if (!impl_->paints) return;
   const PixelPoint centre = impl_->PixelAt(x, y);
   // Whole pixels make the rounder circle.
   const double longer = std::abs(radius / impl_->UnitX());
@@ -75,8 +80,6 @@ void Surface::Circle(double x, double y, double radius, std::optional<Colour> co
   RasterEllipse(centre, radiusX, radiusY, DrawWidth, arc, impl_->Size(),
                 impl_->Pen(colour.value_or(ForeColor), DrawMode));
   impl_->TouchAround(centre, centre, std::max(radiusX, radiusY) + DrawWidth + 1);
-  CurrentX = x;
-  CurrentY = y;
 }
 
 void Surface::FillRect(const PixelRect& rect, Colour colour) {
@@ -86,6 +89,7 @@ void Surface::FillRect(const PixelRect& rect, Colour colour) {
 
 void Surface::RoundRect(const PixelRect& rect, int cornerWidth, int cornerHeight, Colour line,
                         int lineWidth, std::optional<Colour> fill) {
+  if (!impl_->paints) return;
   // The line is what the outer shape has and the inner one has not.
   std::vector<std::pair<int, int>> inner(std::max(rect.height, 0), {0, -1});
   RasterRoundRect(rect, cornerWidth, cornerHeight, std::max(lineWidth, 1),
@@ -107,6 +111,7 @@ void Surface::RoundRect(const PixelRect& rect, int cornerWidth, int cornerHeight
 }
 
 void Surface::Polygon(std::span<const PixelPoint> points, Colour colour) {
+  if (!impl_->paints) return;
   const RunSink pen = impl_->Pen(colour, DrawModes::CopyPen);
   RasterPolygon(points, impl_->Size(), pen);
   for (std::size_t i = 0; i < points.size(); ++i) {

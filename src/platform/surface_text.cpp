@@ -87,14 +87,24 @@ QFont Decorated(const QFont& font, bool underline, bool strikethru) {
   return decorated;
 }
 
+// In pixels.  Shaping a text takes longer than anything else that is done with it, and pages
+// measure the same few again and again.
+double WidthIn(const Typeface& face, std::string_view text, const std::string& name) {
+  constexpr std::size_t kMostWidths = 10000;
+  if (face.widths.size() > kMostWidths) face.widths.clear();
+  const auto [width, isNew] = face.widths.try_emplace(std::string(text));
+  if (isNew) width->second = QFontMetricsF(face.font).horizontalAdvance(ToUnicode(text, name));
+  return width->second;
+}
+
 }  // namespace
 
 double Surface::Impl::DrawString(const Surface& surface, int x, int y, std::string_view text) {
   const Typeface& face =
       FindTypeface(surface.FontName, surface.FontSize, surface.FontBold, surface.FontItalic);
   const QString unicode = ToUnicode(text, surface.FontName);
-  const double advance = QFontMetricsF(face.font).horizontalAdvance(unicode);
-  if (unicode.isEmpty()) return advance;
+  const double advance = WidthIn(face, text, surface.FontName);
+  if (unicode.isEmpty() || !paints) return advance;
   QPainter painter(&image);
   painter.setFont(surface.FontUnderline || surface.FontStrikethru
                       ? Decorated(face.font, surface.FontUnderline, surface.FontStrikethru)
@@ -110,7 +120,7 @@ double Surface::Impl::DrawString(const Surface& surface, int x, int y, std::stri
 }
 
 void Surface::TextOut(int x, int y, std::string_view text, int cellWidth) {
-  if (text.empty()) return;
+  if (text.empty() || !impl_->paints) return;
   if (cellWidth <= 0) {
     impl_->DrawString(*this, x, y, text);
     return;
@@ -146,6 +156,7 @@ void Surface::Print(std::string_view text) {
 
 void Surface::PrintRotated(std::string_view text, double x, double y, double degrees, Colour colour,
                            const std::string& face, double points, bool bold) {
+  if (!impl_->paints) return;
   const Typeface& typeface = FindTypeface(face, points, bold, false);
   QPainterPath outlines;
   outlines.addText(0, typeface.ascent, typeface.font, ToUnicode(text, face));
@@ -159,8 +170,7 @@ void Surface::PrintRotated(std::string_view text, double x, double y, double deg
 
 double Surface::TextWidth(std::string_view text) const {
   const Typeface& face = FindTypeface(FontName, FontSize, FontBold, FontItalic);
-  const double pixels = QFontMetricsF(face.font).horizontalAdvance(ToUnicode(text, FontName));
-  return pixels * std::abs(impl_->UnitX());
+  return WidthIn(face, text, FontName) * std::abs(impl_->UnitX());
 }
 
 double Surface::TextHeight(std::string_view) const {

@@ -1,7 +1,8 @@
 // The person before the machine.
 //
-// Wherever the program would block (an event wait, a modal form, a message box, a pause) it asks the
-// installed user first.  Without one the toolkit's event queue is the user, and dialogs are shown.
+// Wherever the program would block (an event wait, a modal form, a message box, a pause) it asks
+// the installed user first.  Without one the toolkit's event queue is the user, and dialogs are
+// shown.
 #pragma once
 
 #include <optional>

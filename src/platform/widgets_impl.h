@@ -59,10 +59,12 @@ struct Form::FormImpl {
   QPointer<QWidget> focusBefore;       // what had the focus when the form was disabled
   const Control* neighbour = nullptr;  // the form stands beside it, not in the middle
   bool shown = false;
+  bool waits = false;  // of all input it takes Esc alone
 };
 
 // A widget of the control's own that tells it of the mouse: a press is a click, so that it feels
-// immediate.
+// immediate.  The second press of a double click is none: what it meant is done, and what stands
+// there now was not meant.
 template <class Widget>
 class Pressable : public Widget {
  public:
@@ -75,6 +77,7 @@ class Pressable : public Widget {
     if (event->button() != Qt::LeftButton) return;
     CallLater(control_.impl().life, [&control = control_] { control.Click(); });
   }
+  void mouseDoubleClickEvent(QMouseEvent*) override {}
   Control& control_;
 };
 

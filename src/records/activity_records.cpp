@@ -115,14 +115,12 @@ bool TakeProgress(const RecordView& record) {
 // The file is held no longer than its reading takes.
 std::vector<std::string> ReadForProgress(int classNum) {
   const bool local = classNum == kLocalClass;
-  return RecordFile(DataFile(kRecordsFile), kActivityRecordLength,
-                    local ? Access::ReadWrite : Access::Read,
-                    local ? Sharing::Plain : Sharing::Exclusive)
-      .ReadAll();
-}
-
-[[noreturn]] void StopReadingProgress() {
-  platform::Stop("Failed in attempt to read file RECORDS.DAT");
+  return ReadOrStop(kRecordsFile, [local] {
+    return RecordFile(DataFile(kRecordsFile), kActivityRecordLength,
+                      local ? Access::ReadWrite : Access::Read,
+                      local ? Sharing::Plain : Sharing::Exclusive)
+        .ReadAll();
+  });
 }
 
 }  // namespace
@@ -172,36 +170,26 @@ void SaveActivityRecord(const std::string& record) {
 
 void ReadStudentProgress(int classNum, int studentNum) {
   session.gProgressCodes = {};
-  std::vector<std::string> all;
-  try {
-    all = ReadForProgress(classNum);
-  } catch (const platform::FileError&) {
-    StopReadingProgress();
-  }
-  for (const std::string& text : all) {
+  for (const std::string& text : ReadForProgress(classNum)) {
     const RecordView record(text);
-    if (Counts(record, classNum, studentNum) && !TakeProgress(record)) StopReadingProgress();
+    if (Counts(record, classNum, studentNum) && !TakeProgress(record)) StopAtReading(kRecordsFile);
   }
   UpdateUnitProgress();
 }
 
 std::vector<std::string> ReadActivityRecords() {
-  std::vector<std::string> all;
-  OrStop("ReadActivityRecords", kRecordsFile, [&] {
-    all =
-        RecordFile(DataFile(kRecordsFile), kActivityRecordLength, Access::ReadWrite, Sharing::Plain)
-            .ReadAll();
+  return ReadOrStop(kRecordsFile, [] {
+    return RecordFile(DataFile(kRecordsFile), kActivityRecordLength, Access::ReadWrite,
+                      Sharing::Plain)
+        .ReadAll();
   });
-  return all;
 }
 
 void EraseStudentRecords(int studentNum, EraseMode mode) {
-  constexpr const char* kRoutine = "EraseStudentRecords";
   if (mode == EraseMode::All) {
-    ClearFile(kRoutine, kRecordsFile, kActivityRecordLength);
+    ClearFile(kRecordsFile, kActivityRecordLength);
   } else {
-    RewriteFile({.routine = kRoutine,
-                 .name = kRecordsFile,
+    RewriteFile({.name = kRecordsFile,
                  .workName = kWorkFile,
                  .workFile = platform::OldContents::Removed,
                  .recordLength = kActivityRecordLength},

@@ -23,6 +23,10 @@ void SaveDiagnosticRecord(int recordNum);
 // to 45 seconds for the file, then shows a message with the system's error and ends the program.
 void WriteDiagnosticRecord(const std::string& record, int recordNum);
 
+// Makes an empty file where there is none: reading needs one.  A folder that takes no file is no
+// error.
+void MakeDiagnosticFile();
+
 // The number, from 1, of this course's record of a student; -1 for none.  A missing or busy file
 // stops the program.
 int FindDiagnosticRecord(int classNum, int studentNum);

@@ -20,7 +20,7 @@ constexpr int kNameColumn = 50;  // characters of an item in front of the record
 constexpr std::size_t kNumberPlace = 4;
 
 // In pixels: the list on the left, two boxes of buttons on the right.
-constexpr int kListWidth = 300;  // the record, 50 characters to the right, stays out of sight
+constexpr int kListWidth = 300;
 constexpr int kListRows = 14;
 constexpr int kButtonWidth = 124;
 constexpr int kFrameHeading = 30;
@@ -111,7 +111,8 @@ void DiagnosticsForm::BindControls() {
 void DiagnosticsForm::UpdateStudentList() {
   lstStudents.Clear();
   record_.clear();
-  for (const std::string& record : ReadDiagnosticRecords()) lstStudents.AddItem(ItemOf(record));
+  for (const std::string& record : ReadDiagnosticRecords())
+    lstStudents.AddItem(ItemOf(record), kNameColumn);
   for (platform::Button& button : cmdAll) button.SetEnabled(lstStudents.ListCount() > 0);
   for (platform::Button& button : cmdSelected) button.SetEnabled(false);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/events.h"
+#include "platform/form.h"
 #include "platform/stop.h"
 #include "records/record_text.h"
 #include "session/session.h"
@@ -17,7 +18,9 @@ using platform::Sharing;
 constexpr double kPatience = 45;  // seconds
 constexpr double kPause = 0.002;  // seconds: the shortest pause that the course makes
 
+// A handler that ran here would find a form half-way through a save, or begin a second one.
 void PauseBetweenAttempts() {
+  const platform::FrontFormWaits wait;
   const int inDelay = session.gInDelay;
   session.gInDelay = 1;
   platform::Pause(kPause);
@@ -44,49 +47,59 @@ std::optional<FileError> AppendPatiently(
     const std::function<std::string(RecordFile& file)>& makeRecord) {
   std::string record;
   long number = 0;  // where an attempt may have left the record before it failed
-  return TryFor45Seconds([&] {
+  const auto isThere = [&](RecordFile& file) {
+    return number > 0 && number <= file.Count() && file.Read(number) == record;
+  };
+  const auto error = TryFor45Seconds([&] {
     RecordFile file(DataFile(name), recordLength, Access::ReadWrite, Sharing::Exclusive);
-    const long count = file.Count();
-    const bool isThere = number > 0 && number <= count && file.Read(number) == record;
-    if (!isThere) {
+    if (!isThere(file)) {
       record = makeRecord(file);
-      number = count + 1;
+      number = file.Count() + 1;
     }
     file.Write(number, record);
   });
+  if (error && Stands(name, recordLength, isThere)) return std::nullopt;
+  return error;
 }
 
-void StopAtFile(const std::string& routine, const std::string& name, const FileError& error) {
-  platform::Stop(routine + ": " + DataFile(name) + ": " + error.what());
-}
-
-void OrStop(const std::string& routine, const std::string& name,
-            const std::function<void()>& action) {
+bool Stands(const std::string& name, int recordLength,
+            const std::function<bool(RecordFile& file)>& looks) {
   try {
-    action();
-  } catch (const FileError& error) {
-    StopAtFile(routine, name, error);
+    RecordFile file(DataFile(name), recordLength, Access::Read, Sharing::Plain);
+    return looks(file);
+  } catch (const FileError&) {
+    return false;
   }
+}
+
+void StopAtReading(const std::string& name) {
+  platform::Stop("Failed in attempt to read file " + name);
 }
 
 void RewriteFile(const Rewriting& rewriting,
                  const std::function<void(std::vector<std::string>& records)>& change) {
+  std::optional<std::vector<std::string>> wanted;
   const auto error = TryFor45Seconds([&] {
     RecordFile file(DataFile(rewriting.name), rewriting.recordLength, Access::ReadWrite,
                     Sharing::Exclusive);
+    if (rewriting.prepare) rewriting.prepare(file);
     std::vector<std::string> records = file.ReadAll();
     change(records);
+    wanted = records;
     platform::WriteWorkFile(DataFile(rewriting.workName), records, rewriting.workFile);
     file.ReplaceAll(records);
   });
-  if (error) StopAtFile(rewriting.routine, rewriting.name, *error);
+  const auto isWanted = [&](RecordFile& file) { return wanted && file.ReadAll() == *wanted; };
+  if (error && !Stands(rewriting.name, rewriting.recordLength, isWanted))
+    platform::Stop(kSaveFailed);
 }
 
-void ClearFile(const std::string& routine, const std::string& name, int recordLength) {
+void ClearFile(const std::string& name, int recordLength) {
   const auto error = TryFor45Seconds([&] {
     RecordFile(DataFile(name), recordLength, Access::ReadWrite, Sharing::Exclusive).Clear();
   });
-  if (error) StopAtFile(routine, name, *error);
+  const auto isEmpty = [](RecordFile& file) { return file.ReadBytes().empty(); };
+  if (error && !Stands(name, recordLength, isEmpty)) platform::Stop(kSaveFailed);
 }
 
 }  // namespace course

@@ -76,29 +76,17 @@ std::vector<std::string> NetworkItems(int classNum) {
   return items;
 }
 
-// What the login reads: an error, and more entries than it has places, end the program.
-template <class Read>
-auto ReadOrEnd(const char* name, Read read) {
-  try {
-    return read();
-  } catch (const platform::FileError&) {
-    platform::Stop(std::string("Failed in attempt to read file ") + name);
-  }
-}
-
+// More entries than the login has places end the program.
 std::vector<std::string> Limited(std::vector<std::string> items, const char* name) {
-  if (items.size() > kMaxRosterEntries)
-    platform::Stop(std::string("Failed in attempt to read file ") + name);
+  if (items.size() > kMaxRosterEntries) StopAtReading(name);
   return items;
 }
 
-std::vector<std::string> LocalRecords(const char* routine) {
-  std::vector<std::string> records;
-  OrStop(routine, kStudentsFile, [&] {
-    records = RecordFile(DataFile(kStudentsFile), kLocalLength, Access::ReadWrite, Sharing::Plain)
-                  .ReadAll();
+std::vector<std::string> LocalRecords() {
+  return ReadOrStop(kStudentsFile, [] {
+    return RecordFile(DataFile(kStudentsFile), kLocalLength, Access::ReadWrite, Sharing::Plain)
+        .ReadAll();
   });
-  return records;
 }
 
 std::optional<std::string> RecordWithNumber(const std::vector<std::string>& records, int number) {
@@ -110,10 +98,8 @@ std::optional<std::string> RecordWithNumber(const std::vector<std::string>& reco
 }
 
 // The roster is rewritten through a work file that is not shortened.
-void RewriteRoster(const char* routine,
-                   const std::function<void(std::vector<std::string>&)>& change) {
-  RewriteFile({.routine = routine,
-               .name = kStudentsFile,
+void RewriteRoster(const std::function<void(std::vector<std::string>&)>& change) {
+  RewriteFile({.name = kStudentsFile,
                .workName = kWorkFile,
                .workFile = platform::OldContents::Kept,
                .recordLength = kLocalLength},
@@ -123,7 +109,7 @@ void RewriteRoster(const char* routine,
 }  // namespace
 
 std::vector<std::string> ReadStudents(int classNum) {
-  return ReadOrEnd(kStudentsFile, [classNum] {
+  return ReadOrStop(kStudentsFile, [classNum] {
     return Limited(session.gversion == kNetworkVersion ? NetworkItems(classNum) : LocalItems(),
                    kStudentsFile);
   });
@@ -132,7 +118,7 @@ std::vector<std::string> ReadStudents(int classNum) {
 std::vector<std::string> ReadClasses() {
   session.gClassNum = 0;
   session.gClassName.clear();
-  return ReadOrEnd(kClassesFile, [] {
+  return ReadOrStop(kClassesFile, [] {
     std::vector<std::string> items;
     for (const std::string& record : OpenShared(kClassesFile, kClassLength).ReadAll())
       items.push_back(ClassItem(record));
@@ -141,7 +127,7 @@ std::vector<std::string> ReadClasses() {
 }
 
 long CountStudents() {
-  return ReadOrEnd(kStudentsFile, [] { return OpenShared(kStudentsFile, kLocalLength).Count(); });
+  return ReadOrStop(kStudentsFile, [] { return OpenShared(kStudentsFile, kLocalLength).Count(); });
 }
 
 std::string StudentNameOf(const std::string& item) {
@@ -174,17 +160,16 @@ int ClassNumberOf(const std::string& item) {
 
 std::vector<std::string> StudentListItems() {
   std::vector<std::string> items;
-  for (const std::string& record : LocalRecords("UpdateStudentList"))
-    items.push_back(StudentItem(record));
+  for (const std::string& record : LocalRecords()) items.push_back(StudentItem(record));
   return items;
 }
 
 bool StudentNumberExists(int number) {
-  return RecordWithNumber(LocalRecords("StudentNumberExists"), number).has_value();
+  return RecordWithNumber(LocalRecords(), number).has_value();
 }
 
 std::string StudentNameFromNumber(int number) {
-  const auto record = RecordWithNumber(LocalRecords("StudentNameFromNumber"), number);
+  const auto record = RecordWithNumber(LocalRecords(), number);
   return record ? record->substr(0, kStudentNameLength) : "";
 }
 
@@ -199,11 +184,11 @@ void FileAddStudent(const std::string& name) {
     while (RecordWithNumber(records, number)) ++number;
     return MakeStudentRecord(name, number);
   });
-  if (error) StopAtFile("FileAddStudent", kStudentsFile, *error);
+  if (error) platform::Stop(kSaveFailed);
 }
 
 void FileEditStudent(int number, const std::string& name) {
-  RewriteRoster("FileEditStudent", [&](std::vector<std::string>& records) {
+  RewriteRoster([&](std::vector<std::string>& records) {
     for (std::string& record : records)
       if (NumberOf(record) == number)
         record.replace(0, kStudentNameLength, Padded(name, kStudentNameLength));
@@ -211,9 +196,8 @@ void FileEditStudent(int number, const std::string& name) {
 }
 
 void FileDeleteStudent(int number, DeleteMode mode) {
-  constexpr const char* kRoutine = "FileDeleteStudent";
-  if (mode == DeleteMode::All) return ClearFile(kRoutine, kStudentsFile, kLocalLength);
-  RewriteRoster(kRoutine, [number](std::vector<std::string>& records) {
+  if (mode == DeleteMode::All) return ClearFile(kStudentsFile, kLocalLength);
+  RewriteRoster([number](std::vector<std::string>& records) {
     std::erase_if(records, [number](const auto& record) { return NumberOf(record) == number; });
   });
 }

@@ -156,7 +156,7 @@ constexpr DiagnosticProblem kDiagnosticProblems[] = {
     {"MULTIPLYING WITH EXPONENTS", "1"},
 };
 
-constexpr DiagnosticLesson kDiagnosticLessons[] = {
+constexpr CatalogueLesson kDiagnosticLessons[] = {
     {"Adding Whole Numbers", 4},
     {"Subtracting Whole Numbers", 1},
     {"Multiplying by Whole Numbers", 1},
@@ -216,8 +216,16 @@ void FillDiagnosticTable() {
   session.gDiagnosticStatus = 1;
 }
 
-std::span<const DiagnosticLesson> DiagnosticLessons() {
+std::span<const CatalogueLesson> DiagnosticLessons() {
   return kDiagnosticLessons;
+}
+
+std::vector<CatalogueLesson> CatalogueLessons() {
+  std::vector<CatalogueLesson> lessons;
+  for (const Unit& unit : std::span(kUnits).first(kListedUnits))
+    for (const Row& row : unit.lessons) lessons.push_back({row.title, row.screens});
+  lessons.insert(lessons.end(), std::begin(kDiagnosticLessons), std::end(kDiagnosticLessons));
+  return lessons;
 }
 
 int CatalogueScreens(int unit, int row) {

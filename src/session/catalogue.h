@@ -2,8 +2,8 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
+#include <vector>
 
 namespace course {
 
@@ -14,13 +14,19 @@ void FillCourseTables();
 // Fills gDiagnosticData and sets gDiagnosticStatus to 1.
 void FillDiagnosticTable();
 
-// Titles of the scripts that only the diagnostic test reaches, in proper case, with their screen
-// count.
-struct DiagnosticLesson {
+// A lesson that a script teaches, with the number of its screens.
+struct CatalogueLesson {
   std::string_view title;
   int screens;
 };
-std::span<const DiagnosticLesson> DiagnosticLessons();
+// Those that only the diagnostic test reaches, in proper case.
+std::span<const CatalogueLesson> DiagnosticLessons();
+// All of them in the order of the course: the listed units, then those outside of the units.
+std::vector<CatalogueLesson> CatalogueLessons();
+
+// The sample lesson: no menu lists it, the documentation runs it, and a new lesson begins as its
+// copy.
+inline constexpr std::string_view kBlankLesson = "Blank Lesson";
 
 // Screens of a listed lesson as the catalogue tells it; 0 for a unit test or a row without a
 // script.

@@ -6,7 +6,7 @@
 #include "display/lesson_window.h"
 #include "engine/hooks.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/draws.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/clock.h"

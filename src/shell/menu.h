@@ -35,8 +35,9 @@ ScreenFacts ReadScreenFacts();
 // What start-up reads and calls.  A routine that is not set does nothing.
 struct StartUp {
   std::function<platform::InstallationSettings()> ReadSettings = platform::ReadInstallationSettings;
-  std::function<void()> Login;         // by gversion; not set: nobody logs in
-  std::function<void()> ReadProgress;  // fills gProgressCodes for the student who logged in
+  std::function<void()> MakeDataFiles;  // what must be there, where records are kept
+  std::function<void()> Login;          // by gversion; not set: nobody logs in
+  std::function<void()> ReadProgress;   // fills gProgressCodes for the student who logged in
   std::function<ScreenFacts()> ReadScreen = ReadScreenFacts;
   std::function<void()> ShowDpiAlert;
   MenuForms forms;

@@ -12,6 +12,7 @@ void BindRecords(StartUp& startUp) {
   engineHooks.SavePracticeRecord = records::SavePracticeRecord;
   engineHooks.SaveTestRecord = records::SaveTestRecord;
   engineHooks.SaveDiagnosticRecord = records::SaveDiagnosticRecord;
+  startUp.MakeDataFiles = MakeDiagnosticFile;
   startUp.ReadProgress = [] { ReadStudentProgress(session.gClassNum, session.gStudentNum); };
   recordHooks.RefreshProgress = [] {
     if (frmMenu) DrawProgressMarks();

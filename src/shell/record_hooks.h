@@ -6,7 +6,7 @@
 
 namespace course {
 
-// Sets the engine's and the records' hooks, and start-up's reading of the progress.
+// Sets the engine's and the records' hooks, and what start-up makes and reads of files.
 void BindRecords(StartUp& startUp);
 
 }  // namespace course

@@ -5,8 +5,8 @@
 #include "platform/screen.h"
 #include "platform/stop.h"
 #include "session/catalogue.h"
-#include "session/session.h"
 #include "session/course_name.h"
+#include "session/session.h"
 #include "shell/menu.h"
 #include "shell/progress_marks.h"
 
@@ -86,6 +86,7 @@ void MainMenu::ReadSettings() {
   // On a network every workstation runs the program from a folder below that of the records.
   const auto folder = settings.gversion == 3 ? settings.gDataPath / ".." : settings.gDataPath;
   session.gDataPath = (folder / "").string();
+  if (session.gversion != 1) CallHook(startUp_.MakeDataFiles);
 }
 
 void MainMenu::ShowHeadings() {

@@ -4,7 +4,7 @@
 
 #include "engine/lesson_script.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "platform/stop.h"
 #include "session/catalogue.h"
 

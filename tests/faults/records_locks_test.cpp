@@ -185,9 +185,19 @@ TEST_F(LocksTest, ReadingDoesNotWait) {
   const Holder results(folder.Path() + "Diag.dat", Sharing::Exclusive);
   ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(12, 7); });
   ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(99, 7); });
-  ExpectStop("ReadActivityRecords: ", [] { ReadActivityRecords(); });
-  ExpectStop("ReadDiagnosticRecords: ", [] { ReadDiagnosticRecords(); });
+  ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadActivityRecords(); });
+  ExpectStop("Failed in attempt to read file Diag.dat", [] { ReadDiagnosticRecords(); });
   EXPECT_EQ(user.pauses, 0);
+}
+
+// On a network nobody else may have the file while it is read; at home it is read beside others.
+TEST_F(LocksTest, NetworkIsReadAlone) {
+  const Holder records(folder.Path() + "RECORDS.DAT", Sharing::Shared);
+  const Holder results(folder.Path() + "Diag.dat", Sharing::Shared);
+  ExpectStop("Failed in attempt to read file RECORDS.DAT", [] { ReadStudentProgress(12, 7); });
+  ExpectStop("Failed in attempt to read file Diag.dat", [] { FindDiagnosticRecord(12, 7); });
+  ReadStudentProgress(99, 7);
+  EXPECT_TRUE(ReadActivityRecords().empty());
 }
 
 TEST_F(LocksTest, RostersAreReadWhileAnotherToolReadsThem) {
@@ -258,6 +268,26 @@ TEST_F(LocksTest, ErasingAmongWritersTakesOnlyWhatIsMeant) {
   const auto counts = Counted("RECORDS.DAT", 25);
   EXPECT_EQ(counts.size(), static_cast<std::size_t>(kWriters * kRecords));
   for (const auto& [record, count] : counts) EXPECT_EQ(count, 1) << record;
+}
+
+// Each of several rewriters takes out his own, and none brings back what another has taken.
+TEST_F(LocksTest, RewritersAtOnceUndoNothing) {
+  constexpr int kRewriters = 6;
+  constexpr int kEach = 5;
+  user.OnPause = nullptr;
+  std::string roster;
+  for (int number = 1; number <= kRewriters * kEach + 1; ++number)
+    roster += MakeStudentRecord("S", number);
+  folder.Put("STUDENTS.DAT", roster);
+  {
+    std::vector<ChildProcess> rewriters;
+    for (int r = 0; r < kRewriters; ++r)
+      rewriters.push_back(Workstation([r] {
+        for (int i = 1; i <= kEach; ++i) FileDeleteStudent(r * kEach + i, DeleteMode::OneStudent);
+      }));
+    for (ChildProcess& rewriter : rewriters) EXPECT_EQ(rewriter.Wait(), 0);
+  }
+  EXPECT_EQ(folder.Bytes("STUDENTS.DAT"), MakeStudentRecord("S", kRewriters * kEach + 1));
 }
 
 TEST_F(LocksTest, StudentsAddedAtOnceGetNumbersOfTheirOwn) {

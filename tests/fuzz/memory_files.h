@@ -57,6 +57,7 @@ class MemoryFiles final : public platform::FileCalls {
     return 0;
   }
   int SetPermissions(int, int) override { return 0; }
+  int SetOwner(int, unsigned, unsigned) override { return 0; }
   int Rename(const std::string& from, const std::string& to) override {
     files_[NameOf(to)] = files_[NameOf(from)];
     return Remove(from);
@@ -67,6 +68,10 @@ class MemoryFiles final : public platform::FileCalls {
   }
   int List(const std::string&, std::vector<std::string>& names) override {
     for (const auto& [name, bytes] : files_) names.push_back(name);
+    return 0;
+  }
+  int FollowLinks(const std::string& path, std::string& target) override {
+    target = path;
     return 0;
   }
 

@@ -6,7 +6,6 @@
 
 #include "assessment/unit_test.h"
 #include "journeys/engine_fixture.h"
-#include "lessons/lessons.h"
 #include "session/catalogue.h"
 #include "shell/test_hooks.h"
 

@@ -1,15 +1,19 @@
 // A unit test from its dialog through its problems to its results, and every way out of it.
 #include <algorithm>
+#include <set>
 
 #include "assessment/unit_test_results.h"
 #include "journeys/assessment_fixture.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
+#include "mathkit/draws.h"
+#include "platform/form_inspection.h"
 #include "records/activity_records.h"
 
 namespace course::testing {
 namespace {
 
 using platform::Answer;
+using platform::inspection::EdgesOf;
 
 constexpr const char* kStart = "frmChapterTestStart";
 constexpr const char* kResults = "frmChapterTestResults";
@@ -57,7 +61,7 @@ TEST_F(UnitTest, OffersAsManyProblemsAsTheResultsHaveRowsFor) {
   see(7, 7, 2);
 }
 
-TEST_F(UnitTest, WantsAChoiceEachTime) {
+TEST_F(UnitTest, WantsAChoiceEachTimeAndDrawsNewProblems) {
   session.gChapterTestProbsPerLesson = 3;  // of an earlier test
   session.gChapterTestProbCount = 6;
   user.Answer(Answer::Ok);
@@ -77,6 +81,27 @@ TEST_F(UnitTest, WantsAChoiceEachTime) {
   Click(kResults, "cmdContinue");
   RunUnitTest(11);
   EXPECT_EQ(titles.size(), 4u);
+  // The same test again asks other problems.
+  const std::vector<std::string> first = runs;
+  runs.clear();
+  BeginUnitTest(2);
+  PickBoxes("AAAA");
+  Click(kResults, "cmdContinue");
+  RunUnitTest(11);
+  EXPECT_NE(first, runs);
+}
+
+TEST_F(UnitTest, AsksOtherProblemsAfterEveryStartOfTheProgram) {
+  std::set<std::string> seeds;
+  for (int start = 1; start <= 2; ++start) {
+    ProblemStream() = RandomStream();
+    BeginUnitTest(2);
+    PickBoxes("AAAA");
+    Click(kResults, "cmdContinue");
+    RunUnitTest(11);
+    for (int i = 1; i <= 4; ++i) seeds.insert(session.gChapterTestData[i][unit_test_column::Seed]);
+  }
+  EXPECT_GE(seeds.size(), 7u) << "two may meet by chance";
 }
 
 TEST_F(UnitTest, CancelCloseBoxAndEscLeaveNoTrace) {
@@ -133,43 +158,34 @@ TEST_F(UnitTest, AsksEveryLessonInItsOrderAndSavesOnce) {
   ExpectNothingLeft();
 }
 
+// Rows of 40 pixels; the title, not the short one, tells where a name stands.
 TEST_F(UnitTest, FillsTheLeftSheetFirst) {
-  BeginUnitTest(2);
-  PickBoxes("AAAAAAAAAAAAAA");
-  Check(kResults, [] {
-    for (int i = 1; i <= 20; ++i)
-      for (const std::string name : {"lblTestProbNo", "lblLessonDesc", "lblCorrectAns",
-                                     "lblYourAns", "lblIsCorrect", "cmdReview"})
-        EXPECT_EQ(FindControl(name + "(" + std::to_string(i) + ")").Visible(), i <= 14)
-            << name << " " << i;
-    // Rows of 40 pixels; the title, not the short one, tells where a name stands.
-    const auto top = [](int i) {
-      return FindControl("lblLessonDesc(" + std::to_string(i) + ")").Top() /
-             platform::TwipsPerPixelY;
-    };
-    EXPECT_EQ(top(1), 14);            // "Prime Factorization" has 19 letters
-    EXPECT_EQ(top(10), 9 * 40 + 14);  // the last on the left
-    EXPECT_EQ(top(11), 14);           // the first on the right
-    EXPECT_EQ(top(12), 40 + 14);
-  });
-  Click(kResults, "cmdContinue");
-  RunUnitTest(7);
-}
-
-TEST_F(UnitTest, AShortTitleStandsLower) {
-  BeginUnitTest(2);
-  PickBoxes("AAAAAAAAAAAAAA");
-  Check(kResults, [] {
-    const auto top = [](const std::string& row) {
-      return FindControl("lblLessonDesc(" + row + ")").Top() / platform::TwipsPerPixelY;
-    };
-    EXPECT_EQ(CaptionOf("lblLessonDesc(1)"), "Like Terms");
-    EXPECT_EQ(top("1"), 18);
-    EXPECT_EQ(top("2"), 40 + 18);
-    EXPECT_EQ(top("3"), 2 * 40 + 14);
-  });
-  Click(kResults, "cmdContinue");
-  RunUnitTest(3);
+  const auto take = [this](int unit, const std::vector<std::pair<int, int>>& tops) {
+    BeginUnitTest(2);
+    PickBoxes("AAAAAAAAAAAAAA");
+    Check(kResults, [tops] {
+      for (int i = 1; i <= 20; ++i)
+        for (const std::string name : {"lblTestProbNo", "lblLessonDesc", "lblCorrectAns",
+                                       "lblYourAns", "lblIsCorrect", "cmdReview"})
+          EXPECT_EQ(FindControl(name + "(" + std::to_string(i) + ")").Visible(), i <= 14)
+              << name << " " << i;
+      const int right = EdgesOf(FindControl("picRight")).left;
+      for (int i = 1; i <= 14; ++i)
+        EXPECT_EQ(EdgesOf(FindControl("lblLessonDesc(" + std::to_string(i) + ")")).left < right,
+                  i <= 10)
+            << i;
+      for (const auto& [row, top] : tops)
+        EXPECT_EQ(FindControl("lblLessonDesc(" + std::to_string(row) + ")").Top() /
+                      platform::TwipsPerPixelY,
+                  top)
+            << row;
+    });
+    Click(kResults, "cmdContinue");
+    RunUnitTest(unit);
+  };
+  // "Prime Factorization" has 19 letters.
+  take(7, {{1, 14}, {10, 9 * 40 + 14}, {11, 14}, {12, 40 + 14}});
+  take(3, {{1, 18}, {2, 40 + 18}, {3, 2 * 40 + 14}});  // "Like Terms" stands lower
 }
 
 TEST_F(UnitTest, EveryProblemIsReviewedAndExplained) {
@@ -210,17 +226,6 @@ TEST_F(UnitTest, EveryProblemIsReviewedAndExplained) {
   EXPECT_EQ(titles.at(9), titles.at(2));
   EXPECT_EQ(saved, std::vector<std::string>{"3/4"});
   ExpectNothingLeft();
-}
-
-TEST_F(UnitTest, ProblemsDifferFromTestToTest) {
-  for (int i = 0; i < 2; ++i) {
-    BeginUnitTest(4);
-    PickBoxes("AAAAAAAA");
-    Click(kResults, "cmdContinue");
-    RunUnitTest(11);
-  }
-  const std::vector<std::string> first(runs.begin(), runs.begin() + 8);
-  EXPECT_NE(first, std::vector<std::string>(runs.begin() + 8, runs.end()));
 }
 
 TEST_F(UnitTest, AsksBeforeItEndsAndThenLeavesNothing) {
@@ -274,7 +279,7 @@ TEST_F(UnitTest, RunsTheLessonsOfTheCourse) {
   BeginUnitTest(2);
   PickBoxes("ABCDAB");
   Check(kResults, [] {
-    const auto lesson = MakeSimpleInequalities();
+    const auto lesson = MakeLesson("Simple Inequalities");
     for (int i = 1; i <= 2; ++i) {
       const auto& row = session.gChapterTestData[static_cast<std::size_t>(i)];
       const int box = lesson->Draw(std::stoi(row[unit_test_column::Seed])).CorrectBox();

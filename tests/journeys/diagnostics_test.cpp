@@ -211,7 +211,7 @@ TEST_F(DiagnosticsTest, BrokenFilesStopWithAMessage) {
   ShowDiagnostics();
 
   std::filesystem::remove(folder.Path() + "Diag.dat");
-  testing::ExpectStop("ReadDiagnosticRecords", ShowDiagnostics);
+  testing::ExpectStop("Failed in attempt to read file Diag.dat", ShowDiagnostics);
 }
 
 TEST_F(DiagnosticsTest, TheMenuOpensTheForm) {

@@ -14,6 +14,7 @@
 #include "engine/hooks.h"
 #include "engine/lesson_script.h"
 #include "engine/navigation.h"
+#include "engine/page.h"
 #include "shell/dispatcher.h"
 #include "support/course_fixture.h"
 #include "support/expect_stop.h"
@@ -43,7 +44,7 @@ class TestLesson final : public LessonScript {
   std::vector<Screen> Screens() override {
     std::vector<Screen> screens;
     for (int i = 1; i <= plan_.screens; ++i)
-      screens.push_back([this, i] { Teach("screen " + std::to_string(i)); });
+      screens.push_back({[this, i] { Teach("screen " + std::to_string(i)); }});
     return screens;
   }
   void DrawProblem(RandomStream& random) override {
@@ -58,7 +59,6 @@ class TestLesson final : public LessonScript {
     Locate(5, 1);
     isPrint("What is " + std::to_string(number_) + "?");
     if (plan_.onProblemPage) plan_.onProblemPage();
-    answerRow = 11;
     if (plan_.setsParameters) picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
   }
   void ExplainProblem() override {

@@ -6,6 +6,7 @@
 #include "journeys/engine_fixture.h"
 #include "mathkit/draws.h"
 #include "mathkit/tutor_codes.h"
+#include "platform/robot.h"
 
 namespace course::testing {
 namespace {
@@ -204,12 +205,20 @@ TEST_F(Navigation, HelpEntriesWaitForTheirForms) {
 }
 
 TEST_F(Navigation, TheSpeedOfAnimationsCarriesOver) {
-  user.At("PageEnd").Click("optAnimSpeed(2)");
-  Check("PageEnd", [] { EXPECT_EQ(session.gAnimDelayUnit, 0.002); });
-  user.At("PageEnd").Click("optAnimSpeed(3)");
+  const struct {
+    int option;
+    const char* caption;
+    double unit;  // seconds a step
+  } speeds[] = {{1, "Slower", 0.005}, {2, "Faster", 0.002}, {3, "Turbo", 0}};
+  for (const auto& speed : speeds) {
+    user.At("PageEnd").Click("optAnimSpeed(" + std::to_string(speed.option) + ")");
+    Check("PageEnd", [&speed] {
+      EXPECT_EQ(platform::robot::Spoken(frmPR->optAnimSpeed[speed.option]), speed.caption);
+      EXPECT_EQ(session.gAnimDelayUnit, speed.unit) << speed.caption;
+    });
+  }
   Leave("PageEnd");
   Run();
-  EXPECT_EQ(session.gAnimDelayUnit, 0);
   Check("PageEnd", [] { EXPECT_TRUE(frmPR->optAnimSpeed[3].Value()); });
   Leave("PageEnd");
   Run();
@@ -235,6 +244,25 @@ TEST_F(Navigation, ClicksDuringDelaysAndAnimationsAreDropped) {
   Check("PageEnd", [] { EXPECT_EQ(session.gAnimSpeedOption, 1); });
   Leave("PageEnd");
   Run(activity::Example);
+  EXPECT_GT(user.pauses, 25);
+}
+
+TEST_F(Navigation, NoAnswerIsTakenWhileSomethingMoves) {
+  user.OnPause = [](double) {
+    FindControl("picAnswer(1)").Click();
+    frmPR->cmdAnswer[0].SetVisible(true);
+    FindControl("cmdAnswer(0)").Click();
+  };
+  Check("AnswerWait", [] {
+    Delay(1);
+    Anim(18, 1, 3, 1, 2, 1, 50, 1);
+    EXPECT_EQ(session.gAnswerPicked, 0);
+    FindControl("picAnswer(1)").Click();
+    EXPECT_EQ(session.gAnswerPicked, 1) << "behind it the same click counts";
+    session.gAnswerPicked = 0;
+  });
+  Leave("AnswerWait");
+  Run(activity::Practice);
   EXPECT_GT(user.pauses, 25);
 }
 

@@ -1,4 +1,5 @@
 // Practice: verdict, tally, retry, explanation; and the problem that a seed stands for.
+#include "display/answer_text.h"
 #include "engine/practice.h"
 #include "journeys/engine_fixture.h"
 #include "mathkit/draws.h"
@@ -68,6 +69,21 @@ TEST_F(Practice, TheVerdictCanOnlyBeLeftByAnOption) {
   user.At("frmCorrect").ClickRefused("cmdOption(3)");
   user.At("frmCorrect").ClickRefused("picNav(1)");
   Click("frmCorrect", kLeave);
+  Run(activity::Practice);
+}
+
+TEST_F(Practice, AWayToPrintChoicesHoldsForItsPageAlone) {
+  plan.onProblemPage = [this] {
+    if (runs.size() > 1) return;
+    answerParameters.printChoice = [](int box, const std::string&) {
+      picAnswerPrintExponentExpression(box, "own");
+    };
+  };
+  Check("AnswerWait", [] { EXPECT_EQ(TextInBox(1), "own"); });
+  Click("AnswerWait", "picAnswer(1)");
+  Click("frmCorrect", kDifferent);
+  Check("AnswerWait", [] { EXPECT_NE(TextInBox(1), "own"); });
+  Leave("AnswerWait");
   Run(activity::Practice);
 }
 

@@ -2,7 +2,7 @@
 #include "display/lesson_window.h"
 #include "engine/lesson_script.h"
 #include "journeys/shell_fixture.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 
 namespace course::testing {
 namespace {

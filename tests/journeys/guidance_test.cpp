@@ -2,6 +2,7 @@
 #include "guidance/dpi_alert_form.h"
 #include "guidance/dpi_instructions.h"
 #include "guidance/guidance_forms.h"
+#include "platform/form_inspection.h"
 #include "platform/tab_control.h"
 #include "shell/guidance_binding.h"
 #include "support/course_fixture.h"
@@ -84,6 +85,23 @@ TEST_F(GuidanceTest, KeywordsArePrintedBoldInTheirPlace) {
                   0.01)
           << page[i].text;
     }
+  }
+}
+
+TEST_F(GuidanceTest, KeywordsAreAsBoldOnTheScreenAsOnPaper) {
+  const char* const systems[] = {"XP", "VISTA", "7"};
+  for (int version = 1; version <= kDpiVersions; ++version) {
+    session.gWindowsVersionName = systems[version - 1];
+    user.At("frmDPIAlert").Do("look", [version] {
+      const std::vector<std::string> bold =
+          platform::inspection::BoldParts(The<platform::Label>("lblTop"));
+      const platform::PrintDocument paper = DpiInstructions(version);
+      for (const platform::PageText& text : paper.pages.front())
+        EXPECT_EQ(text.bold, std::ranges::count(bold, text.text) > 0) << text.text;
+      EXPECT_EQ(The<platform::Label>("lblTop").Caption().find('|'), std::string::npos);
+    });
+    user.Click("cmdClose");
+    ShowDpiAlert();
   }
 }
 

@@ -1,4 +1,5 @@
 #include "login_fixture.h"
+#include "platform/form_inspection.h"
 #include "platform/robot.h"
 #include "platform/text_box.h"
 #include "support/expect_stop.h"
@@ -131,7 +132,7 @@ TEST_F(NetworkLoginTest, TheThirdWrongPasswordLeadsBackToTheNames) {
     EXPECT_EQ(Names("lstStudents"), (Strings{"Bob", "Cleo"}));
   });
   user.Click("cmdLogin");
-  for (const char* wrong : {"1", "2"}) {
+  for (const char* wrong : {"z90zzz9", "z90zzzzzz"}) {
     TryPassword(wrong);
     user.Answer(platform::Answer::Ok);
   }
@@ -150,7 +151,18 @@ TEST_F(NetworkLoginTest, TheThirdWrongPasswordLeadsBackToTheNames) {
   EXPECT_EQ(session.gStudentNum, 12);
 }
 
+TEST_F(NetworkLoginTest, ThePasswordIsNotShown) {
+  PassLogo();
+  Choose(2, 0);
+  user.At("frmPassword").Do("look", [] {
+    EXPECT_TRUE(platform::inspection::HidesCharacters(FindControl("txtPassword")));
+  });
+  user.Click("cmdCancel").Click("cmdSkip");
+  LoadOnNetwork();
+}
+
 TEST_F(NetworkLoginTest, WhoSkipsBehindAWrongPasswordIsNobody) {
+  session.gDialogResult = kTrue;  // of some dialog before
   PassLogo();
   Choose(2, 0);
   TryPassword("wrong");

@@ -1,4 +1,5 @@
 #include "login_fixture.h"
+#include "shell/diagnostics_binding.h"
 #include "support/expect_stop.h"
 
 namespace course::testing {
@@ -36,6 +37,23 @@ TEST_F(LoginTest, AFirstUserIsWelcomedEntersNamesAndPicksHimself) {
   EXPECT_TRUE(frmMenu->mnuRecordsProgress->Enabled());
   EXPECT_TRUE(frmMenu->mnuRecordsStudents->Enabled());
   EXPECT_TRUE(frmMenu->picLegend.Visible());
+}
+
+// An installation that is new, or that was there before results were kept, needs nothing else.
+TEST_F(LoginTest, TheFirstStartMakesTheFileOfDiagnosticResults) {
+  BindDiagnostics(startUp);
+  PutStudents({"Ada"});
+  PassLogo();
+  user.At("frmLogin").Select("lstStudents", 0).Click("cmdLogin");
+  Load();
+  EXPECT_EQ(folder.Bytes("Diag.dat"), "");
+  user.At("frmDiagnostics").Click("cmdMenu");
+  EXPECT_TRUE(frmMenu->mnuDiagnosticsResults->Click());
+}
+
+TEST_F(LoginTest, WithoutRecordsNothingIsMade) {
+  Load(1);
+  EXPECT_EQ(folder.Names(), Strings{});
 }
 
 TEST_F(LoginTest, AStudentFindsHisProgressOfEarlierDays) {

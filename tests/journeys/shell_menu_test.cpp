@@ -1,6 +1,6 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "shell/menu.h"
 #include "shell/progress_marks.h"
@@ -274,6 +274,17 @@ TEST_F(MenuTest, DrawsTheMarksOfTheSelectedUnit) {
   ExpectStop("DrawProgressMarks: gProgressCodes(5, 0) is \"T\"", [] { DrawProgressMarks(); });
 }
 
+TEST_F(MenuTest, ShowsTheMarksOfALessonWhenItIsLeft) {
+  LogIn("Ada");
+  Load();
+  Choose(10, 1);
+  engineHooks.SavePracticeRecord = [] { session.gProgressCodes[10][1] = "W"; };
+  user.At("PageEnd").Press(27);
+  EXPECT_TRUE(frmMenu->cmdStart.Click());
+  EXPECT_TRUE(HasMark(1, platform::colour::Red));
+  EXPECT_EQ(frmMenu->picProgress2.AccessibleText(), "Simple Inequalities: worked, no test yet");
+}
+
 TEST_F(MenuTest, HidesTheMarksAtTheStudentsWish) {
   LogIn("Ada");
   Load();
@@ -298,17 +309,6 @@ TEST_F(MenuTest, HidesTheMarksAtTheStudentsWish) {
 TEST(CourseName, TakesSmallerTypeWhenItIsLong) {
   EXPECT_EQ(HeadingFontSize(std::string(27, 'x')), 24);
   EXPECT_EQ(HeadingFontSize(std::string(28, 'x')), 22);
-}
-
-TEST(LessonTable, FindsATitleWhateverItsCase) {
-  EXPECT_NE(MakeLesson("sIMPLE iNEQUALITIES"), nullptr);
-  EXPECT_EQ(MakeLesson("Simple Inequalities "), nullptr);
-  EXPECT_EQ(MakeLesson("PROPERTIES OF INEQUALITIES"), nullptr);
-  for (const std::string_view title : LessonTitles()) {
-    const auto script = MakeLesson(std::string(title));
-    ASSERT_NE(script, nullptr) << title;
-    EXPECT_EQ(UpperCase(script->Title()), UpperCase(std::string(title)));
-  }
 }
 
 }  // namespace

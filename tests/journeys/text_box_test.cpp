@@ -99,6 +99,21 @@ TEST_F(HidingListTest, KeepsHiddenFieldsOutOfSightAtAnyWidth) {
       ASSERT_EQ(plain->Pixel(x, y), hiding->Pixel(x, y)) << x << ", " << y;
 }
 
+TEST_F(HidingListTest, NeitherSpeaksNorCopiesHiddenFields) {
+  lstNames.AddItem("Ada" + std::string(100, ' ') + "7 KL;");
+  lstNames.AddItem("Bob   C299", 6);
+  form.Show();
+  platform::PumpEvents();
+  lstNames.SetFocus();
+  const char* const names[] = {"Ada", "Bob"};
+  for (int row = 0; row < 2; ++row) {
+    lstNames.SetListIndex(row);
+    EXPECT_EQ(robot::SpokenRow(lstNames, row), names[row]);
+    EXPECT_EQ(robot::Copied(form), names[row]);
+  }
+  EXPECT_EQ(lstNames.Text(), "Bob   C299");
+}
+
 TEST_F(HidingListTest, TheFirstArrowSelectsTheFirstRow) {
   for (const char* name : {"Ada", "Bob"}) lstNames.AddItem(name);
   int clicks = 0;

@@ -3,7 +3,7 @@
 #include <regex>
 #include <set>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "support/course_fixture.h"
 
 namespace course::testing {

@@ -5,7 +5,7 @@
 
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
 

@@ -3,16 +3,18 @@
 #include <map>
 #include <regex>
 
-#include "lessons/lesson_table.h"
-#include "lessons/unit04_solving_word_problems/durations.h"
-#include "lessons/unit04_solving_word_problems/motion.h"
-#include "lessons/unit04_solving_word_problems/word_table.h"
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/motion.h"
+#include "lessons/families/stories/word_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
 #include "support/expect_stop.h"
 
 namespace course::testing {
 namespace {
+
+using namespace stories;
 
 class WordProblemTest : public CourseTest {};
 

@@ -5,13 +5,15 @@
 
 #include "display/lesson_window.h"
 #include "lesson_check/pages/page_reader.h"
-#include "lessons/equation_explanation.h"
-#include "lessons/lesson_table.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
 
 namespace course::testing {
 namespace {
+
+using namespace equations;
 
 constexpr const char* kEquations = "Solving Linear Equations With 2 Operations";
 constexpr const char* kInequalities = "Solving Inequalities";

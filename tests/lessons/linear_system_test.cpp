@@ -1,15 +1,17 @@
 // Systems of equations: what is drawn, and the answers to systems without just one solution.
-#include "lessons/unit09_systems/linear_system.h"
+#include "lessons/families/systems/linear_system.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::testing {
 namespace {
+
+using namespace systems;
 
 bool RejectNothing(const LinearSystem&) {
   return false;

@@ -5,14 +5,16 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
-#include "lessons/lesson_table.h"
-#include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
-#include "lessons/unit01_review_of_arithmetic/evaluation.h"
+#include "lessons/families/arithmetic/arithmetic_expression.h"
+#include "lessons/families/arithmetic/evaluation.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/display_fixture.h"
 
 namespace course::testing {
 namespace {
+
+using namespace arithmetic;
 
 TEST(ArithmeticExpressionTest, EveryOrderOfWorkHasItsOwnValue) {
   const auto value = [](const char* text, const WorkingOrder& order = kRightOrder) {

@@ -1,5 +1,5 @@
 // Lines, points and labels on the plane, pixel by pixel.
-#include "lessons/plane_figure.h"
+#include "lessons/families/graphs/plane_figure.h"
 
 #include <cstdlib>
 
@@ -9,6 +9,8 @@
 
 namespace course::testing {
 namespace {
+
+using namespace graphs;
 
 namespace colour = platform::colour;
 

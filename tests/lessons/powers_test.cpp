@@ -1,12 +1,14 @@
 // Texts of powers, and the problems of "Multiplying with Exponents" that need special care.
 #include <gtest/gtest.h>
 
-#include "lessons/lesson_table.h"
-#include "lessons/unit05_exponents/power_text.h"
+#include "lessons/families/powers/power_text.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::testing {
 namespace {
+
+using namespace powers;
 
 TEST(PowerText, LeavesOutWhatATextbookLeavesOut) {
   EXPECT_EQ(PowerText({"b", 12}), "b^12^");

@@ -1,14 +1,16 @@
 // Quadratic equations and their roots as text, and the problems of "The Quadratic Formula".
 #include <set>
 
-#include "lessons/lesson_table.h"
-#include "lessons/unit12_quadratic_equations/quadratic.h"
+#include "lessons/families/quadratics/quadratic.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "support/course_fixture.h"
 #include "support/expect_stop.h"
 
 namespace course::testing {
 namespace {
+
+using namespace quadratics;
 
 const std::string kBoth = tutor::PlusOrMinus;
 const std::string kRoot = tutor::SquareRoot;

@@ -4,7 +4,7 @@
 #include "display/lesson_window.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/pages/page_reader.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "session/session.h"
 
 namespace course::testing {

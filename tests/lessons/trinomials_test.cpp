@@ -1,12 +1,14 @@
 // Trinomials and their factors, and the choices of "Trinomials of the Form x^2+bx+c".
 #include <gtest/gtest.h>
 
-#include "lessons/lesson_table.h"
-#include "lessons/unit07_factoring/trinomial.h"
+#include "lessons/families/polynomials/trinomial.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::testing {
 namespace {
+
+using namespace polynomials;
 
 const std::string kTitle = "Trinomials of the Form x" + tutor::SquaredSign + "+bx+c";
 

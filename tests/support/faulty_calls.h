@@ -4,6 +4,7 @@
 
 #include <signal.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 #include <vector>
@@ -28,6 +29,12 @@ class FaultyCalls final : public platform::FileCalls {
   int Count() const { return count_; }
   // The operations that change something on the disk, in their order.
   const std::vector<std::string>& Changes() const { return changes_; }
+  // The number of the first call of a kind that is among them, from 1; 0 for none.
+  int CallOf(const std::string& change) const {
+    const auto found = std::find(changes_.begin(), changes_.end(), change);
+    return found == changes_.end() ? 0
+                                   : places_[static_cast<std::size_t>(found - changes_.begin())];
+  }
 
   int Open(const std::string& path, platform::OpenMode mode) override {
     return Do([&] { return FileCalls::Open(path, mode); });
@@ -49,39 +56,52 @@ class FaultyCalls final : public platform::FileCalls {
     return Do([&] { return FileCalls::Read(descriptor, bytes, count, offset); });
   }
   long Write(int descriptor, const char* bytes, std::size_t count, long offset) override {
-    changes_.push_back("write");
+    Change("write");
     if (fault_ == Fault::KillWithin && count_ + 1 == at_)
       FileCalls::Write(descriptor, bytes, count / 2, offset);
     return Do([&] { return FileCalls::Write(descriptor, bytes, count, offset); });
   }
   int Sync(int) override {
-    changes_.push_back("sync");
+    Change("sync");
     return Do([] { return 0; });
   }
   int SyncFolder(const std::string&) override {
-    changes_.push_back("sync folder");
+    Change("sync folder");
     return Do([] { return 0; });
   }
   int Truncate(int descriptor, long size) override {
-    changes_.push_back("truncate");
+    Change("truncate");
     return Do([&] { return FileCalls::Truncate(descriptor, size); });
   }
   int SetPermissions(int descriptor, int permissions) override {
     return Do([&] { return FileCalls::SetPermissions(descriptor, permissions); });
   }
+  int SetOwner(int descriptor, unsigned owner, unsigned group) override {
+    return Do([&] { return FileCalls::SetOwner(descriptor, owner, group); });
+  }
   int Rename(const std::string& from, const std::string& to) override {
-    changes_.push_back("rename");
+    Change("rename");
     return Do([&] { return FileCalls::Rename(from, to); });
   }
   int Remove(const std::string& path) override {
-    changes_.push_back("remove");
+    Change("remove");
     return Do([&] { return FileCalls::Remove(path); });
   }
   int List(const std::string& folder, std::vector<std::string>& names) override {
     return Do([&] { return FileCalls::List(folder, names); });
   }
+  int FollowLinks(const std::string& path, std::string& target) override {
+    return Do([&] { return FileCalls::FollowLinks(path, target); });
+  }
+  int RandomName(std::string& name) override {
+    return Do([&] { return FileCalls::RandomName(name); });
+  }
 
  private:
+  void Change(const std::string& what) {
+    changes_.push_back(what);
+    places_.push_back(count_ + 1);
+  }
   template <class Call>
   auto Do(Call call) -> decltype(call()) {
     ++count_;
@@ -99,6 +119,7 @@ class FaultyCalls final : public platform::FileCalls {
   int error_;
   int count_ = 0;
   std::vector<std::string> changes_;
+  std::vector<int> places_;  // numbers of their calls
 };
 
 // Puts the calls in place for as long as it lives.

@@ -1,46 +1,10 @@
 // A folder of record files for one test, and a student of class 99 who works there.
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
-
 #include "support/course_fixture.h"
+#include "support/scratch_folder.h"
 
 namespace course::testing {
-
-// A fresh folder that goes with the object.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string pattern = ::testing::TempDir() + "/records-XXXXXX";
-    if (mkdtemp(pattern.data()) == nullptr) throw TestFailure("no folder " + pattern);
-    path_ = pattern + "/";
-  }
-  ~ScratchFolder() {
-    std::error_code ignored;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  const std::string& Path() const { return path_; }
-  // The bytes of a file; "(none)" when there is no such file.
-  std::string Bytes(const std::string& name) const {
-    std::ifstream file(path_ + name, std::ios::binary);
-    if (!file) return "(none)";
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  void Put(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ + name, std::ios::binary) << bytes;
-  }
-
- private:
-  std::string path_;
-};
 
 class RecordsTest : public CourseTest {
  protected:

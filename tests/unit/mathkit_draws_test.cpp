@@ -40,14 +40,6 @@ TEST(RandomStreamTest, SequencesOfASeedNeverChange) {
   EXPECT_EQ(random.Sign(), -1);
 }
 
-TEST(RandomStreamTest, ReseedForgetsWhatWasDrawn) {
-  RandomStream used(5);
-  for (int i = 0; i < 77; ++i) used.Rnd();
-  used.Reseed(123);
-  RandomStream fresh(123);
-  for (int i = 0; i < 100; ++i) ASSERT_EQ(used.Rnd(), fresh.Rnd());
-}
-
 TEST(RandomStreamTest, EveryRangeIsReachedEvenlyAndNeverLeft) {
   struct Range {
     int low, high;

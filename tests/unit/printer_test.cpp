@@ -1,12 +1,9 @@
 // Documents on their way to the printer: the preview, the person's help, PDF files.
 #include "platform/printer.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "support/course_fixture.h"
 #include "support/expect_stop.h"
+#include "support/scratch_folder.h"
 #include "support/test_printer.h"
 
 namespace course::testing {
@@ -118,26 +115,22 @@ TEST_F(PrinterTest, PagesAndTextsAreMeasuredInInches) {
 }
 
 TEST_F(PrinterTest, AFileHoldsAllPagesOrIsNotThere) {
-  const std::filesystem::path folder = std::filesystem::path(::testing::TempDir()) / "printer_test";
-  std::filesystem::create_directories(folder);
-  const std::string path = (folder / "pages.pdf").string();
+  const ScratchFolder folder;
   platform::PrintDocument document = ThreePages();
   document.orientation = Orientation::Landscape;
   for (const auto& make : {platform::MakePdfPrinter, platform::MakePaperPrinter}) {
-    EXPECT_TRUE(platform::PrintOut(*make(path), document));
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_TRUE(platform::PrintOut(*make(folder.Path() + "pages.pdf"), document));
+    const std::string bytes = folder.Bytes("pages.pdf");
     EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
     EXPECT_NE(bytes.rfind("%%EOF"), std::string::npos);
     EXPECT_NE(bytes.find("/Count 3"), std::string::npos);
     EXPECT_NE(bytes.find("LiberationMono"), std::string::npos);
-    std::filesystem::remove(path);
+    std::filesystem::remove(folder.Path() + "pages.pdf");
 
     user.Answer(Answer::Ok);
-    EXPECT_FALSE(platform::PrintOut(*make(folder.string()), document));
+    EXPECT_FALSE(platform::PrintOut(*make(folder.Path()), document));
     EXPECT_EQ(user.messages.back().text, "Error =75");
   }
-  std::filesystem::remove_all(folder);
 }
 
 }  // namespace

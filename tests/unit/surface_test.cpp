@@ -5,10 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "support/scratch_folder.h"
 #include "unit/surface_ink.h"
 
 namespace platform {
@@ -359,11 +359,10 @@ TEST(SurfaceRefresh, NothingIsDrawnOutsideTheShownRectangle) {
 }
 
 TEST(SurfaceFiles, APngIsWrittenOrRefused) {
-  const auto file = std::filesystem::temp_directory_path() / "surface_test.png";
+  const course::testing::ScratchFolder folder;
   Surface s(20, 10);
-  EXPECT_TRUE(s.SavePng(file.string()));
-  EXPECT_GT(std::filesystem::file_size(file), 0u);
-  std::filesystem::remove(file);
+  EXPECT_TRUE(s.SavePng(folder.Path() + "surface.png"));
+  EXPECT_EQ(folder.Bytes("surface.png").substr(0, 4), "\x89PNG");
   EXPECT_FALSE(s.SavePng("/nowhere/at/all.png"));
 }
 

@@ -241,11 +241,6 @@ bool IsNamedByScript(const Files& files, const std::string& source) {
          });
 }
 
-std::string LowerCase(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 }  // namespace
 
 std::string CodeOnly(const std::string& text) {
@@ -311,7 +306,9 @@ Complaints ToolkitOutsidePlatform(const Files& files) {
   for (const SourceFile& file : files) {
     const bool inside =
         StartsWith(file.path, "src/platform/") && (IsSource(file) || IsInnerHeader(file.path));
-    if (!IsCode(file) || inside || StartsWith(file.path, "bench/")) continue;
+    const bool measures = StartsWith(file.path, "bench/");
+    const bool drives = StartsWith(file.path, "tests/driver/");
+    if (!IsCode(file) || inside || measures || drives) continue;
     for (const std::string& name : Includes(file)) {
       if (IsToolkitInclude(name) || IsInnerHeader(name))
         complaints.push_back(file.path + " includes " + name);
@@ -360,34 +357,6 @@ Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compi
       complaints.push_back(file.path + " is not compiled");
     } else if (IsHeader(file) && !reached.contains(file.path)) {
       complaints.push_back(file.path + " is included by no compiled source");
-    }
-  }
-  return complaints;
-}
-
-Complaints PointersOutside(const Files& files) {
-  // The brackets keep this file from complaining about itself.
-  static const std::regex papers(
-      R"(\b[s]pec(s|ifications?)?\b|\b[r]ulings?\b|\b[i]ssue #?\d|\b[p]art \d+\.\d|/[w]ork/|/[r]oot/)",
-      std::regex::optimize);
-  constexpr const char* kStems[] = {"pec", "uling", "ssue", "art ", "ork/", "oot/"};
-  static const std::regex numbers(R"(\b[C]\d\d\b)", std::regex::optimize);
-  Complaints complaints;
-  for (const SourceFile& file : files) {
-    const bool picture = file.path.ends_with(".svg");  // curves look like numbers of papers there
-    std::istringstream lines(file.path + "\n" + file.text);
-    for (std::string line; std::getline(lines, line);) {
-      std::smatch match;
-      const std::string lower = LowerCase(line);
-      // The plain search spares nearly every line the slow one.
-      const bool likely = std::any_of(std::begin(kStems), std::end(kStems), [&](const char* stem) {
-        return lower.find(stem) != std::string::npos;
-      });
-      const bool capital = !picture && line.find('C') != std::string::npos;
-      if ((likely && std::regex_search(lower, match, papers)) ||
-          (capital && std::regex_search(line, match, numbers))) {
-        complaints.push_back(file.path + ": " + match.str());
-      }
     }
   }
   return complaints;

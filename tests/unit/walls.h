@@ -15,6 +15,7 @@ namespace walls {
 struct SourceFile {
   std::string path;  // from the repository's root, with "/"
   std::string text;
+  bool operator==(const SourceFile&) const = default;
 };
 
 using Files = std::vector<SourceFile>;
@@ -31,14 +32,13 @@ Complaints ClimbingIncludes(const Files& files);
 // Files of src/ that include each other in a circle.
 Complaints IncludeCycles(const Files& files);
 // The toolkit's headers and types, anywhere but in the sources of src/platform/, in the headers
-// "..._impl.h" which these alone include, and in the benchmarks, which measure against the toolkit.
+// "..._impl.h" which these alone include, in the benchmarks, which measure against the toolkit, and
+// in the driver of the built program, which knows nothing else of it.
 Complaints ToolkitOutsidePlatform(const Files& files);
 // Files, clocks, random devices, processes and the environment, in src/ outside of platform/.
 Complaints MachineOutsidePlatform(const Files& files);
 // Sources that are not among the compiled ones, and headers that no compiled source includes.
 Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compiled);
-// Words and paths that point at papers and places which a reader of the repository does not have.
-Complaints PointersOutside(const Files& files);
 
 // All text files of the tree but those of builds and of the version control.
 Files ReadTree(const std::filesystem::path& root);

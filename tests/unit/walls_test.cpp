@@ -45,8 +45,15 @@ TEST(WallsTest, OnlyPlatformKnowsTheToolkit) {
 TEST(WallsTest, OnlyPlatformTouchesTheMachine) {
   EXPECT_EQ(Lines(MachineOutsidePlatform(Tree())), "");
 }
-TEST(WallsTest, NothingPointsOutOfTheRepository) {
-  EXPECT_EQ(Lines(PointersOutside(Tree())), "");
+
+// Two runs at once must not meet in a folder.
+TEST(WallsTest, TestsMakeFoldersOfTheirOwn) {
+  for (const SourceFile& file : Tree()) {
+    if (!file.path.starts_with("tests/") || file.path == "tests/support/scratch_folder.h") continue;
+    const std::string code = CodeOnly(file.text);
+    for (const char* shared : {"temp_directory_path", "TempDir"})
+      EXPECT_EQ(code.find(shared), std::string::npos) << file.path << ": " << shared;
+  }
 }
 
 TEST(WallsTest, EveryFileIsInTheBuild) {
@@ -161,23 +168,6 @@ TEST(WallChecksTest, ForgottenFilesAreFound) {
   EXPECT_EQ(LeftOutOfBuild({hook}, {}).size(), 1u);
   EXPECT_EQ(LeftOutOfBuild({hook, {"scripts/a.sh", "c++ scripts/hook.cpp\n"}}, {}), Complaints{});
   EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp", "bench/b_bench.cpp"}).size(), 3u);
-}
-
-TEST(WallChecksTest, PointersOutOfTheRepositoryAreFound) {
-  // "~" parts the words, so that the check does not find them here.
-  const auto joined = [](std::string text) {
-    text.erase(std::remove(text.begin(), text.end(), '~'), text.end());
-    return text;
-  };
-  for (const char* const text : {"as the sp~ec says", "see P~art 3.1", "is~sue 2", "by C2~5.",
-                                 "in /wo~rk/notes", "a Rul~ing", "Sp~ecification"}) {
-    const Files files = {{"README.md", "First line\n" + joined(text) + "\n"}};
-    EXPECT_EQ(PointersOutside(files).size(), 1u) << text;
-  }
-  EXPECT_EQ(PointersOutside({{joined("docs/sp~ec.md"), ""}}).size(), 1u);
-  const std::string harmless = "special, specific; part 3 of 4; 0xC25; the issue is open; network/";
-  EXPECT_EQ(PointersOutside({{"a.cpp", harmless}}), Complaints{});
-  EXPECT_EQ(PointersOutside({{"assets/a.svg", "M1 2 " + joined("C1~2") + " 3"}}), Complaints{});
 }
 
 }  // namespace

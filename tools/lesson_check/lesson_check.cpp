@@ -52,7 +52,7 @@ class DrawingCheck {
     if (FingerprintText(drawn) != FingerprintText(redrawn))
       complain("a second draw gives another problem");
     if (spent > kSlowest) complain("the draw took " + std::to_string(spent) + " ms");
-    CheckProblem(judge_, drawn, complain, report_.mistakes);
+    CheckProblem(judge_, drawn, complain, report_.tally);
   }
 
   void Count(int seed, const course::LessonScript::DrawnProblem& drawn, double spent) {
@@ -122,15 +122,31 @@ void CheckAcceptance(Report& report) {
                             " random numbers: fewer than 0.1 % of the tries may be accepted");
 }
 
-std::uint64_t HashOfProblems(course::LessonScript& lesson) {
+void CheckHabits(Report& report, bool laidDown) {
+  constexpr double kMost = 2;  // times the chance
+  const Habits& habits = report.tally.habits;
+  for (std::size_t i = 0; i < kHabits.size() && !laidDown; ++i)
+    if (habits.wins[i] > kMost * habits.chance)
+      report.Add(kNoSeed, std::string("who always takes ") + kHabits[i] +
+                              " wins more than twice as often as by chance");
+}
+
+void CheckRecipes(const Tally& tally, Report& report) {
+  for (const auto& [name, count] : tally.mistakes)
+    if (count.met == 0) report.Add(kNoSeed, "no problem offers the mistake \"" + name + "\"");
+}
+
+std::array<std::uint64_t, kSeedBlocks> HashesOfProblems(course::LessonScript& lesson) {
   constexpr std::uint64_t kOffset = 0xcbf29ce484222325;  // FNV-1a
   constexpr std::uint64_t kPrime = 0x100000001b3;
+  std::array<std::uint64_t, kSeedBlocks> hashes{};
   std::uint64_t hash = kOffset;
   for (int seed = 0; seed < kSeeds; ++seed) {
     for (const char c : FingerprintText(lesson.Draw(seed)) + "\f")
       hash = (hash ^ static_cast<unsigned char>(c)) * kPrime;
+    hashes.at(static_cast<std::size_t>(seed / kBlockSeeds)) = hash;
   }
-  return hash;
+  return hashes;
 }
 
 }  // namespace lesson_check

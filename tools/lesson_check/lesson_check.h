@@ -2,6 +2,8 @@
 // shown and explained.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -34,10 +36,18 @@ Report CheckPages(const MakeScript& make, const SeedRange& seeds,
 // The teaching screens.
 Report CheckTeaching(const MakeScript& make);
 
-// What only many problems together tell: too few draws accepted.
+// What only many problems together tell.  Too few draws accepted; choices that give the right one
+// away to a student who does not work, unless their recipe is laid down.
 void CheckAcceptance(Report& report);
+void CheckHabits(Report& report, bool laidDown);
+// Mistakes that the judge derives and that no problem of all seeds offers.  A judge may serve
+// several lessons: the tally is that of all of them.
+void CheckRecipes(const Tally& tally, Report& report);
 
-// One number for the problems of all seeds.
-std::uint64_t HashOfProblems(course::LessonScript& lesson);
+// Numbers for the problems of all seeds, cut into blocks: each stands for all problems up to the
+// end of its block, so that the first one that changes tells where the problems do.
+inline constexpr int kSeedBlocks = 8;
+inline constexpr int kBlockSeeds = (kSeeds + kSeedBlocks - 1) / kSeedBlocks;
+std::array<std::uint64_t, kSeedBlocks> HashesOfProblems(course::LessonScript& lesson);
 
 }  // namespace lesson_check

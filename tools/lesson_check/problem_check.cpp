@@ -6,9 +6,11 @@
 #include <set>
 #include <vector>
 
-#include "display/exponents.h"
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
+#include "lesson_check/form/text_form.h"
+#include "lesson_check/form/tokens.h"
+#include "lesson_check/form/units.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -38,6 +40,27 @@ std::vector<int> JudgedSlots(const Problem& problem) {
   return slots;
 }
 
+std::string NumberText(double number) {
+  char digits[40];
+  return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+std::string FigureText(const Problem& problem) {
+  std::string text;
+  for (const course::FigureItem& item : problem.figure) {
+    text += "\n" + item.shape;
+    for (const auto& [name, value] : item.values) text += "," + name + "=" + NumberText(value);
+  }
+  return text;
+}
+
+// What is asked, the choices aside.
+std::string AskedText(const Problem& problem) {
+  std::string text;
+  for (const std::string& line : problem.question) text += line + "\n";
+  return text + FigureText(problem);
+}
+
 // --- Form ----------------------------------------------------------------------------------------
 
 bool KindIsKnown(int kind) {
@@ -62,10 +85,7 @@ void CheckOrder(const DrawnProblem& drawn, const Complain& complain) {
 void CheckNames(const Problem& problem, const Complain& complain) {
   for (const int slot : JudgedSlots(problem)) {
     const course::Choice& choice = ChoiceAt(problem, slot);
-    if (Trimmed(choice.text).empty())
-      complain("choice " + std::to_string(slot) + " is empty");
-    else if (!course::MarksBalanced(course::ExponentCharsToCarets(choice.text)))
-      complain("an exponent of " + Quoted(choice.text) + " has no end");
+    if (Trimmed(choice.text).empty()) complain("choice " + std::to_string(slot) + " is empty");
     if (choice.mistake.empty() != (slot == problem.correct))
       complain(slot == problem.correct ? "the right choice is named a mistake"
                                        : "no mistake leads to " + Quoted(choice.text));
@@ -123,19 +143,49 @@ void CheckTruth(const Problem& problem, const Reading& reading, const Complain& 
   const std::string& truth = ChoiceAt(problem, problem.correct).text;
   if (IsNone(problem, problem.correct) && reading.value(truth) != reading.answer)
     complain(Quoted(truth) + " behind the last box is not right: not " + reading.answer);
-  const std::string flaw = reading.flaw ? reading.flaw(truth) : "";
-  if (!flaw.empty()) complain("the right choice " + Quoted(truth) + " " + flaw);
+}
+
+std::string FlawOf(const Reading& reading, const std::string& text) {
+  return reading.flaw ? reading.flaw(text) : FlawOfFractions(text);
+}
+
+// A choice in another form than the right one has gives itself away.
+void CheckTexts(const Problem& problem, const Reading& reading, const Complain& complain) {
+  const auto check = [&](const std::string& name, const std::string& text) {
+    for (const std::string& fault : FormFaults(text))
+      if (!reading.excused.contains(fault)) complain(name + Quoted(text) + " has " + fault);
+    for (const std::string& fault : UnitFaults(text)) complain(name + Quoted(text) + " " + fault);
+  };
+  for (const std::string& line : problem.question) check("the question's line ", line);
+  std::vector<int> slots = JudgedSlots(problem);
+  if (IsNone(problem, problem.correct)) slots.push_back(problem.correct);
+  std::vector<std::string> texts;
+  for (const int slot : slots) {
+    texts.push_back(ChoiceAt(problem, slot).text);
+    const std::string name = slot == problem.correct ? "the right choice " : "the choice ";
+    check(name, texts.back());
+    const std::string flaw = FlawOf(reading, texts.back());
+    if (!flaw.empty()) complain(name + Quoted(texts.back()) + " " + flaw);
+  }
+  for (const std::string& fault : UnitFaultsAmong(texts)) complain(fault);
+  const std::string letter = FlawOfAskedLetter(problem.question);
+  if (!letter.empty()) complain(letter);
+  for (const std::string& fault : reading.faults) complain(fault);
 }
 
 void CheckMistakes(const Problem& problem, const std::vector<JudgedChoice>& choices,
                    const Reading& reading, const Complain& complain, MistakeCounts& mistakes) {
   for (const JudgedChoice& choice : choices) {
     const std::string& name = ChoiceAt(problem, choice.slot).mistake;
-    if (name.empty() || name == kFiller) continue;
+    if (name.empty()) continue;
     MistakeCount& count = mistakes[name];
     ++count.met;
+    if (name == kFiller) continue;
     const auto recipe = reading.mistakes.find(name);
-    if (recipe == reading.mistakes.end()) continue;
+    if (recipe == reading.mistakes.end()) {
+      complain("the judge derives no mistake \"" + name + "\"");
+      continue;
+    }
     ++count.derived;
     if (std::ranges::find(recipe->second, choice.value) != recipe->second.end()) continue;
     std::string values;
@@ -145,8 +195,39 @@ void CheckMistakes(const Problem& problem, const std::vector<JudgedChoice>& choi
   }
 }
 
-void CheckValues(Judge judge, const Problem& problem, const Complain& complain,
-                 MistakeCounts& mistakes) {
+// The form of all that a problem asks and draws.
+std::string KindOf(const Problem& problem, const Reading& reading) {
+  if (!reading.kind.empty()) return reading.kind;
+  std::string kind;
+  for (const std::string& line : problem.question)
+    kind += (kind.empty() ? "" : " | ") + FormOf(line);
+  for (const course::FigureItem& item : problem.figure) kind += " + " + item.shape;
+  return kind;
+}
+
+std::uint32_t HashOf(const std::string& text) {  // FNV-1a
+  std::uint32_t hash = 0x811c9dc5;
+  for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 0x01000193;
+  return hash;
+}
+
+void Count(const Problem& problem, const std::vector<JudgedChoice>& choices, const Reading& reading,
+           Tally& tally) {
+  for (const auto& [name, values] : reading.mistakes) tally.mistakes[name];
+  ++tally.kinds[KindOf(problem, reading)];
+  tally.different.insert(HashOf(AskedText(problem)));
+  std::vector<std::string> texts;
+  std::vector<std::string> values;
+  int right = -1;
+  for (const JudgedChoice& choice : choices) {
+    if (choice.slot == problem.correct) right = static_cast<int>(texts.size());
+    texts.push_back(choice.text);
+    values.push_back(choice.value);
+  }
+  tally.habits.Add(texts, values, right, course::ChoiceCountOf(problem.kind));
+}
+
+void CheckValues(Judge judge, const Problem& problem, const Complain& complain, Tally& tally) {
   const Reading reading = judge(problem);
   std::vector<JudgedChoice> choices;
   for (const int slot : JudgedSlots(problem)) {
@@ -156,22 +237,28 @@ void CheckValues(Judge judge, const Problem& problem, const Complain& complain,
   CheckDifferent(choices, complain);
   CheckRight(problem, choices, reading, complain);
   CheckTruth(problem, reading, complain);
-  CheckMistakes(problem, choices, reading, complain, mistakes);
-}
-
-std::string NumberText(double number) {
-  char digits[40];
-  return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+  CheckTexts(problem, reading, complain);
+  CheckMistakes(problem, choices, reading, complain, tally.mistakes);
+  Count(problem, choices, reading, tally);
 }
 
 }  // namespace
 
-void CheckProblem(Judge judge, const DrawnProblem& drawn, const Complain& complain,
-                  MistakeCounts& mistakes) {
+void Tally::Add(const Tally& other) {
+  for (const auto& [name, count] : other.mistakes) {
+    mistakes[name].met += count.met;
+    mistakes[name].derived += count.derived;
+  }
+  for (const auto& [kind, count] : other.kinds) kinds[kind] += count;
+  different.insert(other.different.begin(), other.different.end());
+  habits.Add(other.habits);
+}
+
+void CheckProblem(Judge judge, const DrawnProblem& drawn, const Complain& complain, Tally& tally) {
   if (!CheckForm(drawn, complain)) return;
   if (judge == nullptr) return complain("no judge reads this lesson");
   try {
-    CheckValues(judge, drawn.problem, complain, mistakes);
+    CheckValues(judge, drawn.problem, complain, tally);
   } catch (const Unreadable& unreadable) {
     complain("cannot be read: " + course::ToUtf8(unreadable.what()));
   }
@@ -186,11 +273,7 @@ std::string FingerprintText(const DrawnProblem& drawn) {
   for (int box = 1; box <= course::ChoiceCountOf(problem.kind); ++box)
     text += "\n" + std::to_string(drawn.order.at(static_cast<std::size_t>(box)));
   text += "\n" + std::to_string(problem.correct) + "\n" + std::to_string(problem.kind);
-  for (const course::FigureItem& item : problem.figure) {
-    text += "\n" + item.shape;
-    for (const auto& [name, value] : item.values) text += "," + name + "=" + NumberText(value);
-  }
-  return text;
+  return text + FigureText(problem);
 }
 
 }  // namespace lesson_check

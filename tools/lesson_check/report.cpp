@@ -5,9 +5,54 @@
 
 namespace lesson_check {
 
+namespace {
+
+// A fault without what is quoted in it and without numbers.
+std::string Gist(const std::string& fault) {
+  std::string gist;
+  bool quoted = false;
+  for (const char c : fault) {
+    if (c == '"') quoted = !quoted;
+    const bool number = (c >= '0' && c <= '9') || c == '.';
+    if (!quoted && !number) gist += c;
+  }
+  return gist;
+}
+
+std::string OnOneLine(std::string text) {
+  std::ranges::replace(text, '\n', ' ');
+  return text;
+}
+
+}  // namespace
+
+void Report::Keep(const Finding& finding) {
+  Alike& alike = alike_[Gist(finding.fault)];
+  if (findings.size() >= kKept || alike.kept >= kKeptOfOne) return;
+  ++alike.kept;
+  findings.push_back(finding);
+}
+
+long Report::Forget(const std::string& beginning) {
+  const std::string wanted = Gist(beginning);
+  const auto matches = [&](const std::string& gist) {
+    return gist.starts_with(wanted) || gist.find(": " + wanted) != std::string::npos;
+  };
+  long forgotten = 0;
+  std::erase_if(alike_, [&](const auto& entry) {
+    if (!matches(entry.first)) return false;
+    forgotten += entry.second.met;
+    return true;
+  });
+  std::erase_if(findings, [&](const Finding& finding) { return matches(Gist(finding.fault)); });
+  faults -= forgotten;
+  return forgotten;
+}
+
 void Report::Add(int seed, const std::string& fault) {
   ++faults;
-  if (findings.size() < kKept) findings.push_back({seed, fault});
+  ++alike_[Gist(fault)].met;
+  Keep({seed, fault});
 }
 
 void Report::Add(const Report& other) {
@@ -19,26 +64,31 @@ void Report::Add(const Report& other) {
     slowestSeed = other.slowestSeed;
   }
   faults += other.faults;
-  for (const auto& [name, count] : other.mistakes) {
-    mistakes[name].met += count.met;
-    mistakes[name].derived += count.derived;
-  }
-  for (const Finding& finding : other.findings)
-    if (findings.size() < kKept) findings.push_back(finding);
+  for (const auto& [gist, alike] : other.alike_) alike_[gist].met += alike.met;
+  tally.Add(other.tally);
+  for (const Finding& finding : other.findings) Keep(finding);
 }
 
-// A line a value: numbers first, then mistakes ("m met derived name") and findings ("f seed text").
+// A line a value: numbers and habits first, then hashes of questions ("d"), mistakes ("m met
+// derived name"), kinds ("k count kind"), faults ("g count gist") and findings ("f seed text").
 std::string Report::Text() const {
   std::ostringstream text;
+  text.precision(17);
   text << problems << ' ' << pages << ' ' << draws << ' ' << slowest << ' ' << slowestSeed << ' '
        << faults << '\n';
-  for (const auto& [name, count] : mistakes)
+  const Habits& habits = tally.habits;
+  text << habits.problems << ' ' << habits.chance;
+  for (const double wins : habits.wins) text << ' ' << wins;
+  text << '\n';
+  for (const std::uint32_t hash : tally.different) text << "d " << hash << '\n';
+  for (const auto& [name, count] : tally.mistakes)
     text << "m " << count.met << ' ' << count.derived << ' ' << name << '\n';
-  for (const Finding& finding : findings) {
-    std::string line = finding.fault;
-    std::ranges::replace(line, '\n', ' ');
-    text << "f " << finding.seed << ' ' << line << '\n';
-  }
+  for (const auto& [kind, count] : tally.kinds)
+    text << "k " << count << ' ' << OnOneLine(kind) << '\n';
+  for (const auto& [gist, alike] : alike_)
+    text << "g " << alike.met << ' ' << OnOneLine(gist) << '\n';
+  for (const Finding& finding : findings)
+    text << "f " << finding.seed << ' ' << OnOneLine(finding.fault) << '\n';
   return text.str();
 }
 
@@ -47,18 +97,36 @@ Report Report::FromText(const std::string& text) {
   Report report;
   input >> report.problems >> report.pages >> report.draws >> report.slowest >>
       report.slowestSeed >> report.faults;
+  Habits& habits = report.tally.habits;
+  input >> habits.problems >> habits.chance;
+  for (double& wins : habits.wins) input >> wins;
+  const auto rest = [&input] {
+    std::string line;
+    input >> std::ws;
+    std::getline(input, line);
+    return line;
+  };
   for (std::string kind; input >> kind;) {
-    std::string rest;
-    if (kind == "m") {
+    if (kind == "d") {
+      std::uint32_t hash = 0;
+      input >> hash;
+      report.tally.different.insert(hash);
+    } else if (kind == "m") {
       MistakeCount count;
-      input >> count.met >> count.derived >> std::ws;
-      std::getline(input, rest);
-      report.mistakes[rest] = count;
+      input >> count.met >> count.derived;
+      report.tally.mistakes[rest()] = count;
+    } else if (kind == "k") {
+      long count = 0;
+      input >> count;
+      report.tally.kinds[rest()] = count;
+    } else if (kind == "g") {
+      long count = 0;
+      input >> count;
+      report.alike_[rest()].met = count;
     } else {
-      Finding finding;
-      input >> finding.seed >> std::ws;
-      std::getline(input, finding.fault);
-      report.findings.push_back(finding);
+      int seed = kNoSeed;
+      input >> seed;
+      report.Keep({seed, rest()});
     }
   }
   return report;

@@ -4,13 +4,18 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <map>
 #include <string_view>
 #include <vector>
 
+#include "lesson_check/judge.h"
 #include "lesson_check/lesson_check.h"
+#include "lesson_check/not_yet.h"
 #include "lesson_check/workers.h"
+#include "lesson_lab/check_state.h"
 #include "lesson_lab/commands.h"
-#include "lessons/lesson_table.h"
+#include "lesson_lab/tally.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/program.h"
 
@@ -70,16 +75,10 @@ Report CheckShare(const CheckRequest& request, const std::string& title, const S
   char name[] = "lesson-lab";
   char* argv[] = {name, nullptr};
   platform::Application application(argc, argv);
-  if (share.number == 0) report.Add(lesson_check::CheckTeaching(make));
+  if (share.number == 0 && request.teaching) report.Add(lesson_check::CheckTeaching(make));
   seed = seeds.first;
   report.Add(lesson_check::CheckPages(make, seeds, tickSeed));
   return report;
-}
-
-void PrintMistakes(const Report& report) {
-  for (const auto& [name, count] : report.mistakes)
-    std::printf("    %7ld  %s%s\n", count.met, course::ToUtf8(name).c_str(),
-                count.derived == count.met ? "" : "  (not derived)");
 }
 
 void PrintReport(const std::string& title, const Report& report, double seconds) {
@@ -95,38 +94,93 @@ void PrintReport(const std::string& title, const Report& report, double seconds)
       "#%d in %.2f ms\n",
       name.c_str(), report.problems, report.pages, report.faults, seconds,
       static_cast<double>(report.draws) / problems, report.slowestSeed, report.slowest);
-  PrintMistakes(report);
+  PrintTally(report.tally);
   std::fflush(stdout);
 }
 
-long CheckLesson(const CheckRequest& request, const std::string& title) {
-  const long seeds = request.last - request.first + 1;
-  const double start = Now();
-  Report report;
-  {
-    ProgressBar bar(course::ToUtf8(title), seeds * (request.drawOnly ? 1 : 2));
-    report = lesson_check::ShareOut(
-        lesson_check::CoreCount(),
-        [&](const Share& share, const std::function<void(int)>& tick) {
-          return CheckShare(request, title, share, tick);
-        },
-        [&](long done) { bar.Show(done); });
-  }
-  lesson_check::CheckAcceptance(report);
-  PrintReport(title, report, Now() - start);
-  return report.faults;
+// The seeds in pieces that a stop loses at most one of.
+constexpr int kPiece = 8192;
+
+Report CheckPiece(const CheckRequest& request, const std::string& title, CheckState& state,
+                  const std::function<void(long)>& progress) {
+  const std::string piece = course::ToUtf8(title) + "#" + std::to_string(request.first) + "-" +
+                            std::to_string(request.last) + (request.drawOnly ? " drawn" : "");
+  if (const Report* done = state.Find(piece)) return *done;
+  const Report report = lesson_check::ShareOut(
+      lesson_check::CoreCount(),
+      [&](const Share& share, const std::function<void(int)>& tick) {
+        return CheckShare(request, title, share, tick);
+      },
+      progress);
+  state.Keep(piece, report);
+  return report;
 }
 
-std::vector<std::string> TitlesOf(const std::string& title) {
-  std::vector<std::string> titles;
-  if (!title.empty()) {
-    if (const auto lesson = FindLesson(title)) titles.push_back(lesson->Title());
-    return titles;
+Report CheckSeeds(const CheckRequest& request, const std::string& title, CheckState& state) {
+  const int stages = request.drawOnly ? 1 : 2;
+  ProgressBar bar(course::ToUtf8(title), (request.last - request.first + 1L) * stages);
+  Report report;
+  for (int first = request.first; first <= request.last; first += kPiece) {
+    CheckRequest piece = request;
+    piece.first = first;
+    piece.last = std::min(first + kPiece - 1, request.last);
+    piece.teaching = first == request.first;
+    const long before = (first - request.first) * long{stages};
+    report.Add(CheckPiece(piece, title, state, [&](long done) { bar.Show(before + done); }));
   }
-  for (const std::string_view each : course::LessonTitles()) titles.emplace_back(each);
-  titles.emplace_back("Blank Lesson");
-  return titles;
+  return report;
 }
+
+bool AllSeeds(const CheckRequest& request) {
+  return request.first == 0 && request.last == lesson_check::kSeeds - 1;
+}
+
+// A judge's mistakes may be offered by any of the lessons that it serves: they are known when all
+// of those are checked.
+class RecipeCheck {
+ public:
+  RecipeCheck() {
+    for (const std::string& title : TitlesOf("")) ++lessons_[lesson_check::JudgeOf(title)].left;
+  }
+  void Add(const std::string& title, Report& report) {
+    Lessons& lessons = lessons_[lesson_check::JudgeOf(title)];
+    lessons.tally.Add(report.tally);
+    if (--lessons.left == 0) lesson_check::CheckRecipes(lessons.tally, report);
+  }
+
+ private:
+  struct Lessons {
+    int left = 0;  // to be checked
+    lesson_check::Tally tally;
+  };
+  std::map<lesson_check::Judge, Lessons> lessons_;
+};
+
+class CourseCheck {
+ public:
+  explicit CourseCheck(const CheckRequest& request) : request_(request), state_(request.state) {
+    if (!request.notYet.empty()) notYet_ = lesson_check::ReadNotYet(request.notYet);
+  }
+
+  // The number of faults.
+  long Check(const std::string& title) {
+    const double start = Now();
+    Report report = CheckSeeds(request_, title, state_);
+    lesson_check::CheckAcceptance(report);
+    const auto lesson = FindLesson(title);
+    lesson_check::CheckHabits(report, lesson->ChoicesAreLaidDown());
+    if (AllSeeds(request_)) recipes_.Add(title, report);
+    lesson_check::Pardon(notYet_, course::ToUtf8(lesson->Title()), report);
+    PrintReport(title, report, Now() - start);
+    return report.faults;
+  }
+
+ private:
+  const CheckRequest& request_;
+  CheckState state_;
+  lesson_check::NotYet notYet_;
+  RecipeCheck recipes_;
+};
 
 }  // namespace
 
@@ -134,7 +188,8 @@ int Check(const CheckRequest& request) {
   const std::vector<std::string> titles = TitlesOf(request.title);
   if (titles.empty()) return 1;
   long faults = 0;
-  for (const std::string& title : titles) faults += CheckLesson(request, title);
+  CourseCheck check(request);
+  for (const std::string& title : titles) faults += check.Check(title);
   if (titles.size() > 1) std::printf("%zu lessons, %ld faults\n", titles.size(), faults);
   return faults == 0 ? 0 : 1;
 }

@@ -1,8 +1,7 @@
 #include <cstdio>
 
 #include "lesson_lab/commands.h"
-#include "lessons/blank_lesson.h"
-#include "lessons/lesson_table.h"
+#include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
 
@@ -10,15 +9,6 @@ namespace lesson_lab {
 namespace {
 
 using course::session;
-
-// The unit of the menu that lists the title, 0 for a lesson outside the units.
-int UnitOf(const std::string& title) {
-  const std::string key = course::UpperCase(title);
-  for (int unit = 1; unit <= session.gUnitCount; ++unit)
-    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
-      if (course::UpperCase(session.gLessonTitle[unit][row]) == key) return unit;
-  return 0;
-}
 
 // A command line is UTF-8, and a title such as "... x^2+bx+c" with its raised 2 is not.
 std::string AsListed(const std::string& title) {
@@ -31,11 +21,28 @@ std::string AsListed(const std::string& title) {
 
 }  // namespace
 
+int UnitOf(const std::string& title) {
+  const std::string key = course::UpperCase(title);
+  for (int unit = 1; unit <= session.gUnitCount; ++unit)
+    for (int row = 1; row <= session.gLessonCount[unit]; ++row)
+      if (course::UpperCase(session.gLessonTitle[unit][row]) == key) return unit;
+  return 0;
+}
+
 std::unique_ptr<course::LessonScript> FindLesson(const std::string& title) {
   auto lesson = course::MakeLesson(AsListed(title));
-  if (!lesson && course::UpperCase(title) == "BLANK LESSON") lesson = course::MakeBlankLesson();
   if (!lesson) std::fprintf(stderr, "No lesson has the title \"%s\".\n", title.c_str());
   return lesson;
+}
+
+std::vector<std::string> TitlesOf(const std::string& title) {
+  std::vector<std::string> titles;
+  if (!title.empty()) {
+    if (const auto lesson = FindLesson(title)) titles.push_back(lesson->Title());
+    return titles;
+  }
+  for (const std::string_view each : course::LessonTitles()) titles.emplace_back(each);
+  return titles;
 }
 
 int List() {

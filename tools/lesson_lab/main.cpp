@@ -54,6 +54,19 @@ int main(int argc, char** argv) {
   CLI::App* forms = app.add_subcommand("forms", "Every form of the course as a picture");
   forms->add_option("--out", folder, "Folder for the pictures")->required();
 
+  std::string root = ".";
+  CLI::App* created = app.add_subcommand("new", "The files of a lesson that is to be written");
+  created->add_option("title", title, "The title, as the catalogue lists it, in any case")
+      ->required();
+  created->add_option("--root", root, "The repository's folder, this one without it");
+
+  CLI::App* prose = app.add_subcommand("prose", "What a lesson, or every lesson, says, as text");
+  prose->add_option("title", title, "The lesson's title, in any case; all without one");
+
+  CLI::App* book = app.add_subcommand("book", "All lessons to be read in a browser");
+  book->add_option("title", title, "The lesson's title, in any case; all without one");
+  book->add_option("--out", folder, "Folder for index.html and its pictures")->required();
+
   lesson_lab::CheckRequest checked;
   CLI::App* check = app.add_subcommand("check", "All problems and pages of a lesson, or of all");
   check->add_option("title", checked.title, "The lesson's title, in any case; all without one");
@@ -61,13 +74,18 @@ int main(int argc, char** argv) {
       "--seeds", [&checked](const std::string& text) { ReadSeeds(text, checked); },
       "Seeds A-B, all without it");
   check->add_flag("--draw-only", checked.drawOnly, "No pages: problems alone");
+  check->add_option("--state", checked.state, "File from which a stopped check goes on");
+  check->add_option("--not-yet", checked.notYet, "File of faults known of lessons to be reworked");
 
   CLI11_PARSE(app, argc, argv);
+  if (created->parsed()) return lesson_lab::WriteNewLesson(title, root);
   // Each of the processes of a check brings up the toolkit for itself.
   if (check->parsed()) return lesson_lab::Check(checked);
   platform::Application application(argc, argv);
   if (problem->parsed()) return lesson_lab::PrintProblems(title, seed, count);
   if (draw->parsed()) return lesson_lab::WritePages(pages);
+  if (prose->parsed()) return lesson_lab::PrintProse(title);
+  if (book->parsed()) return lesson_lab::WriteBook(title, folder);
   if (forms->parsed()) return lesson_lab::WriteForms(folder);
   return lesson_lab::List();
 }

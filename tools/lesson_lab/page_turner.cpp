@@ -1,8 +1,7 @@
 #include "lesson_lab/page_turner.h"
 
-#include "display/panel_views.h"
-#include "display/paragraph.h"
-#include "mathkit/tutor_codes.h"
+#include "display/lesson_window.h"
+#include "lesson_check/prose/page_parts.h"
 
 namespace lesson_lab {
 
@@ -10,18 +9,12 @@ using course::frmPR;
 
 namespace {
 
+// Each part's control and what it says, on lines of their own.
 std::string TextOfPage() {
   std::string text;
-  for (const course::PanelView& view : course::ShownPanels(*frmPR)) {
-    const std::vector<std::string> lines = view.Lines();
-    if (lines.empty()) continue;
-    if (view.kind == course::PanelKind::Answer)
-      text += std::string(1, static_cast<char>('A' + view.index - 1)) + ": ";
-    else if (view.kind != course::PanelKind::Lesson)
-      text += view.control->Name() + ":\n";
-    for (const std::string& line : lines)
-      text += course::ToUtf8(view.kind == course::PanelKind::Answer ? course::LTrim(line) : line) +
-              "\n";
+  for (const lesson_check::PagePart& part : lesson_check::PartsOfPage(*frmPR)) {
+    if (!part.name.empty() && !part.name.starts_with("picAnswer")) text += part.name + ":\n";
+    for (const std::string& line : part.lines) text += line + "\n";
   }
   return text;
 }

@@ -1,4 +1,3 @@
-#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +6,7 @@
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
 #include "lesson_lab/commands.h"
+#include "lesson_lab/contact_sheet.h"
 #include "lesson_lab/page_turner.h"
 #include "lessons/docs/docs.h"
 #include "mathkit/tutor_codes.h"
@@ -33,21 +33,6 @@ int ModeOf(const std::string& name) {
   if (const auto found = kModeNames.find(name); found != kModeNames.end()) return found->second;
   const int number = std::atoi(name.c_str());
   return number >= 1 && number <= 13 && number != mode::Leave ? number : 0;
-}
-
-bool WriteContactSheet(const std::vector<Page>& pages, const std::string& file) {
-  constexpr int kColumns = 3;
-  constexpr int kGap = 12;
-  const int width = pages[0].picture->PixelWidth() / 2;
-  const int height = pages[0].picture->PixelHeight() / 2;
-  const int count = static_cast<int>(pages.size());
-  const int rows = (count + kColumns - 1) / kColumns;
-  platform::Surface sheet(kColumns * (width + kGap) + kGap, rows * (height + kGap) + kGap);
-  for (int i = 0; i < count; ++i)
-    sheet.StretchBlt({kGap + i % kColumns * (width + kGap), kGap + i / kColumns * (height + kGap),
-                      width, height},
-                     *pages[static_cast<std::size_t>(i)].picture);
-  return sheet.SavePng(file);
 }
 
 bool WritePage(const Page& page, const std::string& stem) {

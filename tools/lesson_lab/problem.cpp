@@ -31,7 +31,7 @@ Json ProblemOf(course::LessonScript& lesson, int seed) {
   for (int box = 1; box <= course::ChoiceCountOf(drawn.problem.kind); ++box) {
     const int choice = drawn.order.at(static_cast<std::size_t>(box));
     choices.push_back(course::ToUtf8(course::ChoiceText(drawn.problem, choice)));
-    const std::string& mistake = drawn.problem.choices.at(static_cast<std::size_t>(choice)).mistake;
+    const std::string mistake = course::MistakeOf(drawn.problem, choice);
     mistakes.push_back(mistake.empty() ? Json(nullptr) : Json(mistake));
   }
   return {{"title", course::ToUtf8(lesson.Title())},

@@ -8,10 +8,12 @@
 #include "display/word_wrap.h"
 #include "engine/lesson_script.h"
 #include "engine/navigation.h"
-#include "lessons/blank_lesson.h"
+#include "engine/page.h"
 #include "lessons/docs/docs_form.h"
 #include "lessons/docs/docs_topics.h"
+#include "lessons/registry.h"
 #include "platform/stop.h"
+#include "session/catalogue.h"
 #include "session/session.h"
 
 namespace course {
@@ -54,7 +56,7 @@ class TopicScript final : public LessonScript {
   std::vector<Screen> Screens() override {
     std::vector<Screen> screens;
     for (const Sample& sample : topic_.samples)
-      screens.push_back([this, &sample] { ShowSample(sample); });
+      screens.push_back({[this, &sample] { ShowSample(sample); }});
     return screens;
   }
   void ShowSample(const Sample& sample) {
@@ -129,7 +131,7 @@ void Docs(const std::vector<PictureHolder>& holders) {
     return;
   }
   if (docsRun.choice == DocsChoice::Practice)
-    MakeBlankLesson()->Run();
+    MakeLesson(kBlankLesson)->Run();
   else
     ShowTopic();
   if (session.gRunAgain != 1) docsRun = {};

@@ -8,7 +8,6 @@
 #include "engine/navigation.h"
 #include "engine/rules_and_hints.h"
 #include "lessons/docs/docs_topics.h"
-#include "mathkit/draws.h"
 #include "mathkit/expressions.h"
 #include "session/session.h"
 
@@ -83,7 +82,7 @@ std::vector<Topic> EngineTopics() {
                     session.gMode = mode::Lesson; session.gRulesShown = kFalse),
         DOCS_SAMPLE(ShowRulesPicture(gallery::OrderOfOperations);
                     isPrint("Nothing shows outside practice."))}},
-      {"mathkit/draws.h",
+      {"mathkit/random_stream.h",
        "DrawProblem gets the stream of the problem's seed and draws from it alone.  The same "
        "seed gives the same problem.",
        {DOCS_SAMPLE(RandomStream random(7); isPrint(NumStr(random.Rand(1, 6)))),

@@ -5,65 +5,18 @@
 // neither is a multiple of the other; in the second, with denominators up to 30, they also share a
 // factor, so that the least common denominator is smaller than their product.  Either kind may have
 // a negative second fraction, but the sum is always positive.
-#include "display/grid.h"
-#include "display/word_wrap.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/outside_units/fraction_steps.h"
-#include "lessons/page_lines.h"
-#include "mathkit/expressions.h"
-#include "mathkit/integers.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/fractions/fraction_steps.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace fractions;
 
 using platform::colour::Cyan;
 using platform::colour::Yellow;
 
 constexpr int kLargestCommonDenominator = 180;
-
-class AddingFractions final : public LessonScript {
- public:
-  AddingFractions() : LessonScript("Adding Fractions") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { SameDenominator(); }, [this] { CommonDenominators(); },
-            [this] { WholeSums(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void SameDenominator();
-  void CommonDenominators();
-  void LeastCommonDenominators();
-  void WholeSums();
-  void NegativeFractions();
-
-  static Fraction DrawFraction(RandomStream& random, int kind);
-  bool Unsuitable(int kind) const;
-  int Denominator() const { return LeastCommonDenominator(first_, second_); }
-  int FirstNumerator() const { return RenamedNumerator(first_, Denominator()); }
-  int SecondNumerator() const { return RenamedNumerator(second_, Denominator()); }
-  std::vector<FractionMistake> Mistakes() const;
-  std::string UnreducedSum() const {
-    return OverText(FirstNumerator() + SecondNumerator(), Denominator());
-  }
-  std::string Sum() const { return SumText(ValueText(first_), ValueText(second_)); }
-
-  void ExplainDenominator();
-  void ExplainRenaming();
-  void ExplainOneRenaming(double row, const Fraction& f);
-  void ExplainSum();
-  void ExplainLowestTerms();
-  double ExplainReduction(double row);
-
-  Fraction first_;   // proper, positive
-  Fraction second_;  // proper, of either sign
-};
 
 std::string FactorsLine(int n) {
   const std::vector<int> factors = PrimeFactorsOf(n);
@@ -72,7 +25,7 @@ std::string FactorsLine(int n) {
 
 // --- Teaching screens --------------------------------------------------------
 
-void AddingFractions::SameDenominator() {
+void SameDenominator() {
   NewScreen();
   PrintStackedRow(4, "3/7");
   Locate(3, 7);
@@ -95,7 +48,7 @@ void AddingFractions::SameDenominator() {
   PageEnd();
 }
 
-void AddingFractions::CommonDenominators() {
+void CommonDenominators() {
   NewScreen();
   PrintStackedRow(4, "1/2 + 1/3");
   WrapAt(6.5, "Halves and thirds are parts of different sizes: we cannot add them yet.");
@@ -114,10 +67,9 @@ void AddingFractions::CommonDenominators() {
   DrawStrip(19.8, 3, 36, 6, {{3, Yellow}, {2, Cyan}});
   PrintStackedRow(22.2, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
   PageEnd();
-  LeastCommonDenominators();
 }
 
-void AddingFractions::LeastCommonDenominators() {
+void LeastCommonDenominators() {
   NewScreen();
   PrintStackedRow(4, "5/12 + 7/18");
   WrapAt(6.5, R"(The smallest common denominator is called the \cleast common denominator\z, or )"
@@ -140,7 +92,7 @@ void AddingFractions::LeastCommonDenominators() {
   PageEnd();
 }
 
-void AddingFractions::WholeSums() {
+void WholeSums() {
   NewScreen();
   WrapAt(3, "Let's add two fractions step by step.");
   PrintStackedRow(5.5, "5/6 + 7/10");
@@ -159,10 +111,9 @@ void AddingFractions::WholeSums() {
   WrapAt(22.8, R"(23 is 15 and 8 more: \y1 whole\z, 8 parts.)");
   PrintStackedRow(20.5, "= 1 8/15", 11);
   PageEnd();
-  NegativeFractions();
 }
 
-void AddingFractions::NegativeFractions() {
+void NegativeFractions() {
   NewScreen();
   WrapAt(3, R"(When a fraction is \ynegative\z, its numerator takes the minus sign along.)");
   PrintStackedRow(6.5, "5/6 + (-3/4)");
@@ -178,6 +129,44 @@ void AddingFractions::NegativeFractions() {
   WrapAt(21, "In sixths it is 3 parts and -2 parts, which leaves 1/6.");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class AddingFractions final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{SameDenominator},
+            {CommonDenominators, LeastCommonDenominators},
+            {WholeSums, NegativeFractions}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  static Fraction DrawFraction(RandomStream& random, int kind);
+  bool Unsuitable(int kind) const;
+  int Denominator() const { return LeastCommonDenominator(first_, second_); }
+  int FirstNumerator() const { return RenamedNumerator(first_, Denominator()); }
+  int SecondNumerator() const { return RenamedNumerator(second_, Denominator()); }
+  std::vector<FractionMistake> Mistakes() const;
+  std::string UnreducedSum() const {
+    return OverText(FirstNumerator() + SecondNumerator(), Denominator());
+  }
+  std::string Sum() const { return SumText(ValueText(first_), ValueText(second_)); }
+
+  void ExplainDenominator();
+  void ExplainRenaming();
+  void ExplainOneRenaming(double row, const Fraction& f);
+  void ExplainSum();
+  void ExplainLowestTerms();
+  double ExplainReduction(double row);
+
+  Fraction first_;   // proper, positive
+  Fraction second_;  // proper, of either sign
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -238,7 +227,6 @@ void AddingFractions::ShowProblem() {
   WrapAt(5, problem.question[0]);
   PrintStackedRow(8, Sum(), 5);
   WrapAt(11, "Find the sum in lowest terms.  A sum above 1 is written as a mixed number.");
-  answerRow = 15;
   SetFractionBoxes(14);
 }
 
@@ -330,10 +318,7 @@ double AddingFractions::ExplainReduction(double row) {
   return row + 6;
 }
 
+const LessonRegistration<AddingFractions> kRegistration("Adding Fractions");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeAddingFractions() {
-  return std::make_unique<AddingFractions>();
-}
-
 }  // namespace course

@@ -5,30 +5,15 @@
 // Four kinds of expressions, five shapes each: multiplication or division beside addition or
 // subtraction; operations of the same rank, where the direction decides; parentheses; parentheses
 // inside brackets.  All numbers on the way are whole and above zero.
-#include <cmath>
-#include <optional>
-
-#include "display/animation.h"
-#include "display/grid.h"
-#include "display/images.h"
-#include "display/lesson_window.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "engine/rules_and_hints.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "lessons/unit01_review_of_arithmetic/arithmetic_expression.h"
-#include "lessons/unit01_review_of_arithmetic/evaluation.h"
-#include "lessons/unit01_review_of_arithmetic/stepping_display.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/arithmetic/arithmetic_expression.h"
+#include "lessons/families/arithmetic/evaluation.h"
+#include "lessons/families/arithmetic/stepping_display.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace arithmetic;
 
 constexpr int kKinds = 4;
 constexpr int kShapesOfKind = 5;
@@ -73,38 +58,6 @@ constexpr double kReasonRow = 15;
 constexpr double kLastRow = 23;
 constexpr double kWipeSpeed = 10;
 
-class OrderOfOperations final : public LessonScript {
- public:
-  OrderOfOperations() : LessonScript("Order of Operations") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { WhyThereIsAnOrder(); }, [this] { FromLeftToRight(); },
-            [this] { ParenthesesFirst(); }, [this] { AllRulesTogether(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-  bool OffersRules() const override { return true; }
-
-  void WhyThereIsAnOrder();
-  void SuzyAndPaul();
-  void FromLeftToRight();
-  void ParenthesesFirst();
-  void AllRulesTogether();
-  void WorkOut(std::string_view text, double row);
-  void Ask(std::string_view text, double row);
-  void WorkOutAloud(const ArithmeticExpression& expression, double row);
-
-  void DrawNumbers(std::string_view shape, RandomStream& random);
-  bool IsWorthSolving() const;
-  int MakeMistakes();
-  void DrawFiller(int slot, RandomStream& random);
-  int SlotOf(const std::string& text, int slots) const;
-
-  ArithmeticExpression expression_;  // two to four operations
-};
-
 // As it stands in a sentence, which does not break inside.
 std::string InSentence(std::string_view text) {
   return WithoutBreaks(ExpressionText(ExpressionOf(text)));
@@ -128,7 +81,7 @@ void StartReason(const std::string& given) {
 // --- Teaching screens --------------------------------------------------------
 
 // An evaluation in the middle of the window, a step a page; the last page is the caller's.
-void OrderOfOperations::WorkOut(std::string_view text, double row) {
+void WorkOut(std::string_view text, double row) {
   Evaluation evaluation(ExpressionOf(text), row);
   while (!evaluation.Done()) {
     evaluation.PickOut();
@@ -138,14 +91,14 @@ void OrderOfOperations::WorkOut(std::string_view text, double row) {
 }
 
 // The same for the student to try first.
-void OrderOfOperations::Ask(std::string_view text, double row) {
+void Ask(std::string_view text, double row) {
   Evaluation evaluation(ExpressionOf(text), row);
   PageEnd();
   WorkOut(text, row);
 }
 
 // The same with the reasons told below; ends with the last result.
-void OrderOfOperations::WorkOutAloud(const ArithmeticExpression& expression, double row) {
+void WorkOutAloud(const ArithmeticExpression& expression, double row) {
   Evaluation evaluation(expression, row);
   std::string given;
   while (!evaluation.Done()) {
@@ -159,7 +112,29 @@ void OrderOfOperations::WorkOutAloud(const ArithmeticExpression& expression, dou
   StartReason(given);
 }
 
-void OrderOfOperations::WhyThereIsAnOrder() {
+// Two evaluations side by side, each in its own order.
+void SuzyAndPaul() {
+  const std::string text = ExpressionText(ExpressionOf("3+4*2"));
+  Locate(6, 6);
+  isPrint("Suzy:");
+  Locate(6, 27);
+  isPrint("Paul:");
+  SteppingDisplay suzy(text, 7.2, 6);
+  SteppingDisplay paul(text, 7.2, 27);
+  PageEnd();
+  suzy.PickOut(0, 2);
+  paul.PickOut(2, 4);
+  PageEnd();
+  suzy.ShowResult("7");
+  paul.ShowResult("8");
+  suzy.PickOut(0, 2);
+  paul.PickOut(0, 2);
+  PageEnd();
+  suzy.ShowResult("14");
+  paul.ShowResult("11");
+}
+
+void WhyThereIsAnOrder() {
   NewScreen();
   WrapAt(3, "What is the value of " + InSentence("3+4*2") +
                 "?  Suzy adds first.  Paul multiplies first.");
@@ -191,29 +166,7 @@ void OrderOfOperations::WhyThereIsAnOrder() {
   PageEnd();
 }
 
-// Two evaluations side by side, each in its own order.
-void OrderOfOperations::SuzyAndPaul() {
-  const std::string text = ExpressionText(ExpressionOf("3+4*2"));
-  Locate(6, 6);
-  isPrint("Suzy:");
-  Locate(6, 27);
-  isPrint("Paul:");
-  SteppingDisplay suzy(text, 7.2, 6);
-  SteppingDisplay paul(text, 7.2, 27);
-  PageEnd();
-  suzy.PickOut(0, 2);
-  paul.PickOut(2, 4);
-  PageEnd();
-  suzy.ShowResult("7");
-  paul.ShowResult("8");
-  suzy.PickOut(0, 2);
-  paul.PickOut(0, 2);
-  PageEnd();
-  suzy.ShowResult("14");
-  paul.ShowResult("11");
-}
-
-void OrderOfOperations::FromLeftToRight() {
+void FromLeftToRight() {
   NewScreen();
   WrapAt(3, R"(Addition and subtraction have the same \crank\z.  Neither comes before the other.)");
   PageEnd();
@@ -239,7 +192,7 @@ void OrderOfOperations::FromLeftToRight() {
   PageEnd();
 }
 
-void OrderOfOperations::ParenthesesFirst() {
+void ParenthesesFirst() {
   NewScreen();
   WrapAt(3, "Can we write an expression in which Suzy is right and the addition comes first?");
   PageEnd();
@@ -267,7 +220,7 @@ void OrderOfOperations::ParenthesesFirst() {
   PageEnd();
 }
 
-void OrderOfOperations::AllRulesTogether() {
+void AllRulesTogether() {
   NewScreen();
   WrapAt(3, R"(The \corder of operations\z:)");
   Locate(5, 1);
@@ -296,6 +249,30 @@ void OrderOfOperations::AllRulesTogether() {
   WordWrap("The value of the expression is 19.");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class OrderOfOperations final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{WhyThereIsAnOrder}, {FromLeftToRight}, {ParenthesesFirst}, {AllRulesTogether}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+  bool OffersRules() const override { return true; }
+
+  void DrawNumbers(std::string_view shape, RandomStream& random);
+  bool IsWorthSolving() const;
+  int MakeMistakes();
+  void DrawFiller(int slot, RandomStream& random);
+  int SlotOf(const std::string& text, int slots) const;
+
+  ArithmeticExpression expression_;  // two to four operations
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -411,8 +388,7 @@ void OrderOfOperations::ShowProblem() {
   const double columns = besideRules ? kRulesColumn - 1 : 40;
   Locate(8, std::floor((columns - static_cast<double>(text.size())) / 2) + 1);
   isPrint(text);
-  answerRow = 16.5;
-  picAnswerSetParameters(4, answerRow, 1, 15, 29, 12, 50, 27);
+  picAnswerSetParameters(4, 16.5, 1, 15, 29, 12, 50, 27);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -429,10 +405,7 @@ void OrderOfOperations::ExplainProblem() {
   WordWrap(R"(The value of the expression is \y)" + problem.choices[1].text + R"(\z.)");
 }
 
+const LessonRegistration<OrderOfOperations> kRegistration("Order of Operations");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeOrderOfOperations() {
-  return std::make_unique<OrderOfOperations>();
-}
-
 }  // namespace course

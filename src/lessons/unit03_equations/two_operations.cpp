@@ -1,42 +1,13 @@
 // The student can solve an equation in which the letter was multiplied and then something was
 // added, such as 3x + 4 = 19: remove the number first, then the coefficient, and check.
-#include <algorithm>
-
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/lesson_script.h"
-#include "lessons/equation_explanation.h"
-#include "lessons/equation_machine.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/families/equations/equation_machine.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
-class TwoOperations final : public LessonScript {
- public:
-  TwoOperations() : LessonScript("Solving Linear Equations with 2 Operations") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { ReverseOrder(); }, [this] { RowUnderRow(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void ReverseOrder();
-  void RowUnderRow();
-  void DividingFirst();
-  void TryIt();
-
-  LinearStatement equation_;  // a x + b = c
-};
+using namespace equations;
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -71,13 +42,13 @@ void DrawWay(double row, int from, int to, const std::string& operation) {
                       there ? "NA" : "A", there ? "A" : "NA");
 }
 
-void TwoOperations::ReverseOrder() {
+void ReverseOrder() {
   NewScreen();
   WrapAt(3, R"(These equations need \yone\z operation:)");
   isPrint("   x + 4 = 19     3x = 15");
   PageEnd();
   isPrint();
-  WordWrap("In  " + OnOneLine("3x + 4 = 19") +
+  WordWrap("In  " + WithoutBreaks("3x + 4 = 19") +
            R"(  there are \ytwo\z.  This is what was done to x:)");
   DrawStation(kThereRow, 0, "x");
   DrawWay(kThereRow, 0, 1, tutor::Dot + " 3");
@@ -91,17 +62,17 @@ void TwoOperations::ReverseOrder() {
   DrawWay(kBackRow, 2, 1, "- 4");
   DrawStation(kBackRow, 1, "15");
   WrapAt(18, R"(We undo the \ylast\z one first, as shoes come off before socks:  )" +
-                 OnOneLine("19 - 4 = 15."));
+                 WithoutBreaks("19 - 4 = 15."));
   PageEnd();
   DrawWay(kBackRow, 1, 0, tutor::Divided + " 3");
   DrawStation(kBackRow, 0, "5");
-  WrapAt(20, "Then we undo the first:  " + OnOneLine("15 " + tutor::Divided + " 3 = 5."));
+  WrapAt(20, "Then we undo the first:  " + WithoutBreaks("15 " + tutor::Divided + " 3 = 5."));
   PageEnd();
   WrapAt(22, R"(Operations that undo each other are called \cinverse operations\z.)");
   PageEnd();
 }
 
-void TwoOperations::RowUnderRow() {
+void RowUnderRow() {
   const LinearStatement equation = {"x", {3, 4}, "=", {0, 19}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
@@ -137,13 +108,11 @@ void TwoOperations::RowUnderRow() {
   SaySubstituted(equation, 5);
   SayMore("Both sides are the same number.");
   PageEnd();
-  DividingFirst();
-  TryIt();
 }
 
-void TwoOperations::DividingFirst() {
+void DividingFirst() {
   NewScreen();
-  WrapAt(3, "Could we divide  " + OnOneLine("3x + 4 = 19") + "  by 3 before we remove the 4?");
+  WrapAt(3, "Could we divide  " + WithoutBreaks("3x + 4 = 19") + "  by 3 before we remove the 4?");
   PageEnd();
   isPrint();
   WordWrap(R"(We may, but then \yevery\z term must be divided by 3, and fractions come up:)");
@@ -158,7 +127,7 @@ void TwoOperations::DividingFirst() {
   PageEnd();
 }
 
-void TwoOperations::TryIt() {
+void TryIt() {
   const LinearStatement equation = {"x", {-2, -5}, "=", {0, 7}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
@@ -176,9 +145,27 @@ void TwoOperations::TryIt() {
   sheet.MarkSolution();
   WrapAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
   PageEnd();
-  WrapAt(22, "Check:  " + OnOneLine("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
+  WrapAt(22, "Check:  " + WithoutBreaks("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class TwoOperations final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{ReverseOrder}, {RowUnderRow, DividingFirst, TryIt}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  LinearStatement equation_;  // a x + b = c
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -210,7 +197,6 @@ void TwoOperations::DrawProblem(RandomStream& random) {
 void TwoOperations::ShowProblem() {
   WrapAt(6, problem.question[0]);
   EquationSheet(9, 9, {RowOf(equation_)}).Write(RowOf(equation_), equation_.relation);
-  answerRow = 16.5;
   picAnswerSetParameters(4, 16.5, 1, 14, 27, 12.5, 50, 27);
   answerParameters.lastBoxFontSize = 13;  // three boxes a row are narrow
 }
@@ -218,13 +204,11 @@ void TwoOperations::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void TwoOperations::ExplainProblem() {
-  ExplainLinear(equation_, problem, [this] { PageEnd(); });
+  ExplainLinear(equation_, problem);
 }
+
+// The window's caption writes "with" small, the menu's list "With".
+const LessonRegistration<TwoOperations> kRegistration("Solving Linear Equations with 2 Operations");
 
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeTwoOperations() {
-  return std::make_unique<TwoOperations>();
-}
-
 }  // namespace course

@@ -1,29 +1,14 @@
 // The student can find the distance, the rate or the time of something that moves, maybe with or
 // against a wind or a current, when the other two are known: d = r t and its two other forms.
-#include <cmath>
-#include <string>
-#include <vector>
-
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "lessons/unit04_solving_word_problems/durations.h"
-#include "lessons/unit04_solving_word_problems/motion.h"
-#include "lessons/unit04_solving_word_problems/motion_choices.h"
-#include "mathkit/expressions.h"
-#include "mathkit/fraction.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/motion.h"
+#include "lessons/families/stories/motion_choices.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace stories;
 
 const std::string kDot = " " + tutor::Dot + " ";
 const std::string kDivided = " " + tutor::Divided + " ";
@@ -37,56 +22,9 @@ constexpr double kFactsRow = 8.6;   // of an explanation, below the question
 constexpr double kStepsRow = 14.2;  // of the white box below the facts
 constexpr double kStepsRows = 9;
 
-class DistanceRateTimeProblems final : public LessonScript {
- public:
-  DistanceRateTimeProblems() : LessonScript("Distance-Rate-Time Problems") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { DistanceRateAndTime(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void DistanceRateAndTime();
-  void TheFormula();
-  void OtherForms();
-  void HoursAndMinutes();
-  void WindAndCurrent();
-  void ShowArrow(double row, double from, double to, const std::string& name,
-                 platform::Colour colour);
-
-  void StartBox(double row, double rows);
-  void NextBoxPage();
-  void ShowFacts();
-  void ShowFact(const std::string& name, const std::string& value);
-  void ExplainDrift();
-  void ExplainHours();
-  void ExplainFormula();
-  void Simplify();
-  void ExplainMinutes();
-  void ExplainStillRate();
-  void Check();
-  void CheckDistance();
-  void TellAnswer();
-
-  std::string Question() const { return problem.question[0] + "  " + problem.question[1]; }
-  Motion motion_;
-  double factRow_ = 0;     // where the next fact is printed
-  double unknownRow_ = 0;  // where the fact that is asked for stands
-};
-
 // --- Teaching screen ---------------------------------------------------------
 
-void DistanceRateTimeProblems::DistanceRateAndTime() {
-  TheFormula();
-  OtherForms();
-  HoursAndMinutes();
-  WindAndCurrent();
-}
-
-void DistanceRateTimeProblems::TheFormula() {
+void TheFormula() {
   NewScreen();
   Locate(3, 1);
   isPrint("Three numbers tell of a motion:");
@@ -115,17 +53,17 @@ void DistanceRateTimeProblems::TheFormula() {
 }
 
 // A white box from a row on, for what is worked out beside the text.
-void DistanceRateTimeProblems::StartBox(double row, double rows) {
+void StartBox(double row, double rows) {
   wbPrepare(row, kBoxWidth, rows, platform::colour::White, platform::colour::Black);
   wbShow();
 }
 
-void DistanceRateTimeProblems::NextBoxPage() {
+void NextBoxPage() {
   wbWipeAndErase(kWipeSpeed);
 }
 
 // The two other forms and an example of each, in the box.
-void DistanceRateTimeProblems::OtherForms() {
+void OtherForms() {
   NewScreen();
   WrapAt(3, "The same formula finds the rate, when we know the distance and the time.");
   StartBox(6, 10);
@@ -153,7 +91,7 @@ void DistanceRateTimeProblems::OtherForms() {
   PageEnd();
 }
 
-void DistanceRateTimeProblems::HoursAndMinutes() {
+void HoursAndMinutes() {
   NewScreen();
   WrapAt(3, "A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
   PageEnd();
@@ -175,8 +113,20 @@ void DistanceRateTimeProblems::HoursAndMinutes() {
   PageEnd();
 }
 
+// From one column to another, with its name behind all of them.
+void ShowArrow(double row, double from, double to, const std::string& name,
+               platform::Colour colour) {
+  const double length = std::abs(to - from) + 1;
+  if (from < to)
+    isDrawArrowPointingRightWithColor(row, to, colour, length);
+  else
+    isDrawArrowPointingLeftWithColor(row, to, colour, length);
+  Locate(row, 27);
+  isColorPrint(name, colour);
+}
+
 // Arrows of two columns for a mile an hour, tip to tail.
-void DistanceRateTimeProblems::WindAndCurrent() {
+void WindAndCurrent() {
   NewScreen();
   WrapAt(3, "A boat sails at 10" + tutor::Gap + R"(mph in still water.  A \ccurrent\z of 2)" +
                 tutor::Gap + "mph moves the water, and the boat in it.");
@@ -203,17 +153,37 @@ void DistanceRateTimeProblems::WindAndCurrent() {
   PageEnd();
 }
 
-// From one column to another, with its name behind all of them.
-void DistanceRateTimeProblems::ShowArrow(double row, double from, double to,
-                                         const std::string& name, platform::Colour colour) {
-  const double length = std::abs(to - from) + 1;
-  if (from < to)
-    isDrawArrowPointingRightWithColor(row, to, colour, length);
-  else
-    isDrawArrowPointingLeftWithColor(row, to, colour, length);
-  Locate(row, 27);
-  isColorPrint(name, colour);
-}
+// --- The lesson ------------------------------------------------------------
+
+class DistanceRateTimeProblems final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{TheFormula, OtherForms, HoursAndMinutes, WindAndCurrent}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void ShowFacts();
+  void ShowFact(const std::string& name, const std::string& value);
+  void ExplainDrift();
+  void ExplainHours();
+  void ExplainFormula();
+  void Simplify();
+  void ExplainMinutes();
+  void ExplainStillRate();
+  void Check();
+  void CheckDistance();
+  void TellAnswer();
+
+  std::string Question() const { return problem.question[0] + "  " + problem.question[1]; }
+  Motion motion_;
+  double factRow_ = 0;     // where the next fact is printed
+  double unknownRow_ = 0;  // where the fact that is asked for stands
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -227,10 +197,9 @@ void DistanceRateTimeProblems::DrawProblem(RandomStream& random) {
 
 void DistanceRateTimeProblems::ShowProblem() {
   WrapAt(5, Question());
-  answerRow = 12;
   // "1055 19/20 miles" and "4 hours & 30 minutes" are long.
   const double fontSize = motion_.asked == MotionPart::Time ? 15 : 18;
-  picAnswerSetParameters(2, answerRow, 1, 21, 0, 19, 50, 27, (20 - fontSize) / 2, "", fontSize);
+  picAnswerSetParameters(2, 12, 1, 21, 0, 19, 50, 27, (20 - fontSize) / 2, "", fontSize);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -402,10 +371,7 @@ void DistanceRateTimeProblems::TellAnswer() {
   wbWordWrap("We have found what we were looking for.");
 }
 
+const LessonRegistration<DistanceRateTimeProblems> kRegistration("Distance-Rate-Time Problems");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeDistanceRateTimeProblems() {
-  return std::make_unique<DistanceRateTimeProblems>();
-}
-
 }  // namespace course

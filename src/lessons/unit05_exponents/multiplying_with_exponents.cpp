@@ -4,27 +4,13 @@
 // A problem is a number times powers, one letter of which stands twice; all five choices are
 // simplified products with their letters in the order of the alphabet, so that only the exponents
 // and the number are in question.
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/notes.h"
-#include "display/print.h"
-#include "display/print_cells.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "lessons/paper_box.h"
-#include "lessons/unit05_exponents/power_display.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/powers/power_display.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace powers;
 
 // Letters of the powers, and of the other base that stands beside them.
 constexpr std::string_view kBaseLetters = "bcdfghkmnpqrstuvwxyz";
@@ -60,60 +46,15 @@ enum class Form {
   BareLetter,     // 3b^2 a^5 b: the second b has no exponent
 };
 
-class MultiplyingWithExponents final : public LessonScript {
- public:
-  MultiplyingWithExponents() : LessonScript("Multiplying with Exponents") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { MeaningOfAPower(); }, [this] { CountingFactors(); }, [this] { TheRule(); },
-            [this] { OtherFactors(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void MeaningOfAPower();
-  void CountingFactors();
-  void CompareBasesAndExponents();
-  void TheRule();
-  void OtherFactors();
-  void BringLetterForward(double row);
-  void ShowNote(int index, double row, double col, const std::string& text);
-
-  // The two powers of the base, and the exponent of the other letter, 0 without one.
-  Power First() const { return {base_, firstExponent_}; }
-  Power Second() const { return {base_, form_ == Form::BareLetter ? 1 : secondExponent_}; }
-  int OtherExponent() const;
-  int Sum() const { return First().exponent + Second().exponent; }
-  std::string Expression() const;
-  std::string Product(int number, int exponent, int otherExponent) const;
-  std::string WithExponent(int exponent) const;
-  void WrongOnes();
-  void WrongOnesOfBareLetter();
-  void Filler(RandomStream& random, int slot);
-
-  std::string Front() const;
-  std::string SumText() const;
-
-  void ShowExpression(double row);
-  void ShowRule();
-  void BringTogether();
-  void WriteOutFactors();
-  void AddExponents();
-  void WriteResult();
-
-  Form form_ = Form::OneBase;
-  int number_ = 1;          // 1 to 9; 1 is not printed
-  std::string base_;        // the letter that stands twice
-  std::string other_;       // another letter, in two of the forms
-  int firstExponent_ = 2;   // 2 to 9
-  int secondExponent_ = 2;  // 2 to 9; the other letter's when the second b has none
-};
-
 // --- Teaching screens --------------------------------------------------------
 
-void MultiplyingWithExponents::MeaningOfAPower() {
+void ShowNote(int index, double row, double col, const std::string& text) {
+  lblNotesPrepare(index, row, col, text, platform::colour::Yellow, platform::colour::Black, true,
+                  false, 12);
+  lblNotesShow(index);
+}
+
+void MeaningOfAPower() {
   NewScreen();
   WrapAt(3, R"(A \cpower\z is a short way to write a product of equal factors:)");
   Locate(8, 13);
@@ -135,7 +76,7 @@ void MultiplyingWithExponents::MeaningOfAPower() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::CountingFactors() {
+void CountingFactors() {
   NewScreen();
   WrapAt(3, "What is b^3^ times b^4^?  Let's write both powers out:");
   UnfoldPowers({"b", 3}, {"b", 4}, 5.5);
@@ -144,11 +85,10 @@ void MultiplyingWithExponents::CountingFactors() {
   isPrintLines(0.4);
   WordWrap("   b^3^" + tutor::Dot + "b^4^ = b^7^");
   PageEnd();
-  CompareBasesAndExponents();
 }
 
 // The table says in numbers what the factors have shown.
-void MultiplyingWithExponents::CompareBasesAndExponents() {
+void CompareBasesAndExponents() {
   enum { kFirstBase = 1, kSecondBase, kProductBase, kFirstExponent, kSecondExponent, kSum };
   using platform::colour::Black;
   using platform::colour::Red;
@@ -166,7 +106,7 @@ void MultiplyingWithExponents::CompareBasesAndExponents() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::TheRule() {
+void TheRule() {
   NewScreen();
   ShowRuleBox(kRuleBox, 3, kRuleWidth, kRuleHeading, {kRule});
   WrapAt(6.5, "To multiply powers of the same base, we keep the base and add the exponents.");
@@ -190,7 +130,22 @@ void MultiplyingWithExponents::TheRule() {
   PageEnd();
 }
 
-void MultiplyingWithExponents::OtherFactors() {
+// The a of 4b^2 a b^3 moves to its place in the row below.
+void BringLetterForward(double row) {
+  constexpr double kCol = 4;
+  constexpr double kLetter = kCol + 4;
+  constexpr double kDrop = 1.48;  // rows; whole pixels
+  Locate(row, kCol);
+  WordWraps("4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^");
+  Locate(row + kDrop, kCol);
+  isPrints("4");
+  Anim2(row, kLetter, 1, 1, 2, kDrop, 50, 0);
+  Anim2(row + kDrop, kLetter, 1, 1, 3, 3, 50, 1);
+  Locate(row + kDrop, kCol + 2);
+  WordWrap(tutor::Dot + "b^2^" + tutor::Dot + "b^3^ = 4ab^5^");
+}
+
+void OtherFactors() {
   NewScreen();
   WrapAt(3, "A number in front stays as it is:");
   WordWrap("   6b^2^" + tutor::Dot + "b^5^ = 6b^7^");
@@ -214,27 +169,49 @@ void MultiplyingWithExponents::OtherFactors() {
   PageEnd();
 }
 
-// The a of 4b^2 a b^3 moves to its place in the row below.
-void MultiplyingWithExponents::BringLetterForward(double row) {
-  constexpr double kCol = 4;
-  constexpr double kLetter = kCol + 4;
-  constexpr double kDrop = 1.48;  // rows; whole pixels
-  Locate(row, kCol);
-  WordWraps("4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^");
-  Locate(row + kDrop, kCol);
-  isPrints("4");
-  Anim2(row, kLetter, 1, 1, 2, kDrop, 50, 0);
-  Anim2(row + kDrop, kLetter, 1, 1, 3, 3, 50, 1);
-  Locate(row + kDrop, kCol + 2);
-  WordWrap(tutor::Dot + "b^2^" + tutor::Dot + "b^3^ = 4ab^5^");
-}
+// --- The lesson ------------------------------------------------------------
 
-void MultiplyingWithExponents::ShowNote(int index, double row, double col,
-                                        const std::string& text) {
-  lblNotesPrepare(index, row, col, text, platform::colour::Yellow, platform::colour::Black, true,
-                  false, 12);
-  lblNotesShow(index);
-}
+class MultiplyingWithExponents final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {
+        {MeaningOfAPower}, {CountingFactors, CompareBasesAndExponents}, {TheRule}, {OtherFactors}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  // The two powers of the base, and the exponent of the other letter, 0 without one.
+  Power First() const { return {base_, firstExponent_}; }
+  Power Second() const { return {base_, form_ == Form::BareLetter ? 1 : secondExponent_}; }
+  int OtherExponent() const;
+  int Sum() const { return First().exponent + Second().exponent; }
+  std::string Expression() const;
+  std::string Product(int number, int exponent, int otherExponent) const;
+  std::string WithExponent(int exponent) const;
+  void WrongOnes();
+  void WrongOnesOfBareLetter();
+  void Filler(RandomStream& random, int slot);
+
+  std::string Front() const;
+  std::string SumText() const;
+
+  void ShowExpression(double row);
+  void BringTogether();
+  void WriteOutFactors();
+  void AddExponents();
+  void WriteResult();
+
+  Form form_ = Form::OneBase;
+  int number_ = 1;          // 1 to 9; 1 is not printed
+  std::string base_;        // the letter that stands twice
+  std::string other_;       // another letter, in two of the forms
+  int firstExponent_ = 2;   // 2 to 9
+  int secondExponent_ = 2;  // 2 to 9; the other letter's when the second b has none
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -296,7 +273,7 @@ void MultiplyingWithExponents::WrongOnes() {
 
 void MultiplyingWithExponents::WrongOnesOfBareLetter() {
   problem.Wrong(2, "counts a bare letter as no factor", WithExponent(firstExponent_));
-  problem.Wrong(3, "adds exponents of neighbours",
+  problem.Wrong(3, "adds exponents of neighbors",
                 Product(number_, firstExponent_, secondExponent_ + 1));
   const int all = firstExponent_ + secondExponent_ + 1;
   problem.Wrong(4, "gives the sum to both letters", Product(number_, all, all));
@@ -326,11 +303,14 @@ void MultiplyingWithExponents::ShowExpression(double row) {
 void MultiplyingWithExponents::ShowProblem() {
   WrapAt(5, problem.question[0]);
   ShowExpression(7);
-  answerRow = 11;
   picAnswerSetParameters(2, 11, 1, 21, 0, 16, 50, 27);
 }
 
 // --- Worked explanation ------------------------------------------------------
+
+void ShowRule() {
+  ShowRuleBox(kRuleBox, 7.4, kRuleWidth, kRuleHeading, {kRule});
+}
 
 void MultiplyingWithExponents::ExplainProblem() {
   ProblemBanner();
@@ -343,10 +323,6 @@ void MultiplyingWithExponents::ExplainProblem() {
   WriteOutFactors();
   AddExponents();
   WriteResult();
-}
-
-void MultiplyingWithExponents::ShowRule() {
-  ShowRuleBox(kRuleBox, 7.4, kRuleWidth, kRuleHeading, {kRule});
 }
 
 // The powers of the base side by side; what else there is comes before them.
@@ -407,10 +383,7 @@ void MultiplyingWithExponents::WriteResult() {
   PageEnd();
 }
 
+const LessonRegistration<MultiplyingWithExponents> kRegistration("Multiplying with Exponents");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeMultiplyingWithExponents() {
-  return std::make_unique<MultiplyingWithExponents>();
-}
-
 }  // namespace course

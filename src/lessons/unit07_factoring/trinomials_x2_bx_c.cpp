@@ -3,27 +3,14 @@
 //
 // Every choice is multiplied out: one that is the same product as another, in either order of its
 // factors, gives way to a random one.
-#include <array>
-#include <cstdlib>
-
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "lessons/paper_box.h"
-#include "lessons/unit07_factoring/factor_moves.h"
-#include "lessons/unit07_factoring/trinomial.h"
-#include "mathkit/expressions.h"
-#include "mathkit/integers.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/polynomials/factor_moves.h"
+#include "lessons/families/polynomials/trinomial.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace polynomials;
 
 constexpr int kLargest = 10;  // size of the numbers in the factors
 constexpr int kSlots = 5;
@@ -39,10 +26,6 @@ std::string Identity(const Factors& factors) {
   return TrinomialText(factors.Product()) + " = " + FactorsText(factors);
 }
 
-std::string InParentheses(int n) {
-  return n < 0 ? "(" + NumStr(n) + ")" : NumStr(n);
-}
-
 // Product and sum of a pair, each in its column.
 std::string PairLine(const NumberPair& pair) {
   constexpr std::size_t kSumColumn = 17;
@@ -53,44 +36,9 @@ std::string PairLine(const NumberPair& pair) {
          NumStr(pair.Sum());
 }
 
-class TrinomialsX2BxC final : public LessonScript {
- public:
-  TrinomialsX2BxC() : LessonScript("Trinomials of the Form x" + tutor::SquaredSign + "+bx+c") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { ProductOfTwoFactors(); }, [this] { ProductAndSum(); },
-            [this] { LastNumberPositive(); }, [this] { LastNumberNegative(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void ProductOfTwoFactors();
-  void ProductAndSum();
-  void LastNumberPositive();
-  void LastNumberNegative();
-
-  int First() const { return factors_[1].first.constant; }
-  int Second() const { return factors_[1].second.constant; }
-  Trinomial Asked() const { return factors_[1].Product(); }
-  void DrawFactors(RandomStream& random);
-  Factors RandomChoice(RandomStream& random) const;
-  Factors RightProductWrongSum() const;
-
-  void BeginPage();
-  std::string ProductAndSumSentence() const;
-  std::string SignSentence() const;
-  void ListPairs();
-  void FillIn();
-  void Check();
-
-  std::array<Factors, kSlots + 1> factors_;  // of the choices, from 1; the right ones come first
-};
-
 // --- Teaching screens --------------------------------------------------------
 
-void TrinomialsX2BxC::ProductOfTwoFactors() {
+void ProductOfTwoFactors() {
   const std::string d = tutor::Dot;
   NewScreen();
   WrapAt(3, R"(A \ctrinomial\z is an expression with three terms, such as )" +
@@ -114,7 +62,7 @@ void TrinomialsX2BxC::ProductOfTwoFactors() {
   PageEnd();
 }
 
-void TrinomialsX2BxC::ProductAndSum() {
+void ProductAndSum() {
   const std::string d = tutor::Dot;
   NewScreen();
   WrapAt(3, R"(To \cfactor\z a trinomial means to go the way back, from )" +
@@ -141,7 +89,7 @@ void TrinomialsX2BxC::ProductAndSum() {
   PageEnd();
 }
 
-void TrinomialsX2BxC::LastNumberPositive() {
+void LastNumberPositive() {
   const std::string d = tutor::Dot;
   NewScreen();
   WrapAt(3, R"(When the last number is \cpositive\z, the two numbers have the same sign.  )"
@@ -165,7 +113,7 @@ void TrinomialsX2BxC::LastNumberPositive() {
   PageEnd();
 }
 
-void TrinomialsX2BxC::LastNumberNegative() {
+void LastNumberNegative() {
   const std::string d = tutor::Dot;
   NewScreen();
   WrapAt(3, R"(When the last number is \cnegative\z, one number is positive and the other )"
@@ -192,6 +140,37 @@ void TrinomialsX2BxC::LastNumberNegative() {
   WordWrap("3 and -5:  " + FactorsText({{1, 3}, {1, -5}}));
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class TrinomialsX2BxC final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{ProductOfTwoFactors}, {ProductAndSum}, {LastNumberPositive}, {LastNumberNegative}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  int First() const { return factors_[1].first.constant; }
+  int Second() const { return factors_[1].second.constant; }
+  Trinomial Asked() const { return factors_[1].Product(); }
+  void DrawFactors(RandomStream& random);
+  Factors RandomChoice(RandomStream& random) const;
+  Factors RightProductWrongSum() const;
+
+  void BeginPage();
+  std::string ProductAndSumSentence() const;
+  std::string SignSentence() const;
+  void ListPairs();
+  void FillIn();
+  void Check();
+
+  std::array<Factors, kSlots + 1> factors_;  // of the choices, from 1; the right ones come first
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -252,7 +231,6 @@ void TrinomialsX2BxC::ShowProblem() {
   WrapAt(5, problem.question[0]);
   Locate(7, 4);
   WordWrap(problem.question[1]);
-  answerRow = 11;
   // (x + 10)(x - 10) takes 16 columns beside the letter: two boxes fill the panel.
   picAnswerSetParameters(2, 11, 0.625, 21.375, 0, 20, 50, 27);
 }
@@ -351,10 +329,7 @@ void TrinomialsX2BxC::Check() {
   PageEnd();
 }
 
+const LessonRegistration<TrinomialsX2BxC> kRegistration("Trinomials of the Form x\xB2+bx+c");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeTrinomialsX2BxC() {
-  return std::make_unique<TrinomialsX2BxC>();
-}
-
 }  // namespace course

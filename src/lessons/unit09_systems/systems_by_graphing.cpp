@@ -1,64 +1,19 @@
 // The student can solve a system of two linear equations by graphing both lines and reading the
 // point at which they cross, and knows what parallel lines and one line drawn twice mean.
-#include <algorithm>
-#include <cmath>
-
-#include "display/animation.h"
-#include "display/comment_box.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/wiper_box.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/plane_figure.h"
-#include "lessons/unit09_systems/graphing_board.h"
-#include "lessons/unit09_systems/linear_system.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/systems/graphing_board.h"
+#include "lessons/families/systems/linear_system.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
-namespace board = graphing_board;
+using namespace graphs;
+using namespace systems;
 
 // The systems of the teaching screens.
 constexpr LinearSystem kFirstExample = {{1, 1, 3}, {1, -1, 1}, 2, 1};
 constexpr LinearSystem kStepsExample = {{2, 1, 4}, {1, -1, -1}, 1, 2};
-
-class SystemsByGraphing final : public LessonScript {
- public:
-  SystemsByGraphing() : LessonScript("Solving Systems by Graphing") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { TwoEquations(); }, [this] { GraphOfOneEquation(); },
-            [this] { CrossingPoint(); }, [this] { LinesThatDoNotCross(); },
-            [this] { FourSteps(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void TwoEquations();
-  void GraphOfOneEquation();
-  void CrossingPoint();
-  void LinesThatDoNotCross();
-  void FourSteps();
-  void GraphReadAndCheck(const LinearSystem& system);
-
-  void ShowSystem() const;
-  void SolveForY(int line);
-  void GraphLine(int line);
-  void ReadAndCheck();
-  void CheckLine(const LinearSystem& system, int line);
-  void ExplainNoSinglePoint();
-
-  LinearSystem system_;
-};
 
 const LinearEquation& EquationOf(const LinearSystem& system, int line) {
   return line == 1 ? system.first : system.second;
@@ -80,12 +35,6 @@ void ShowComment(int box, const CommentPlace& place, const std::string& text) {
   picCommentBoxShow(box);
 }
 
-// An equation that no wrap cuts.
-std::string Unbroken(std::string equation) {
-  std::replace(equation.begin(), equation.end(), ' ', tutor::Gap[0]);
-  return equation;
-}
-
 // A pair tried in both equations of the first example.
 void ShowTry(const std::string& pair, const std::string& first, const std::string& second) {
   wbisPrint("Try " + pair + " in both equations:");
@@ -95,7 +44,7 @@ void ShowTry(const std::string& pair, const std::string& first, const std::strin
   wbisPrint(EquationText(kFirstExample.second) + "      " + second);
 }
 
-void SystemsByGraphing::TwoEquations() {
+void TwoEquations() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(Two equations that belong together are called a \csystem of equations\z:)");
@@ -126,7 +75,7 @@ void SystemsByGraphing::TwoEquations() {
   PageEnd();
 }
 
-void SystemsByGraphing::GraphOfOneEquation() {
+void GraphOfOneEquation() {
   NewScreen();
   board::ShowEmptyPlane();
   Locate(3, 1);
@@ -153,7 +102,7 @@ void SystemsByGraphing::GraphOfOneEquation() {
   PageEnd();
 }
 
-void SystemsByGraphing::CrossingPoint() {
+void CrossingPoint() {
   NewScreen();
   board::ShowEmptyPlane();
   board::DrawLine(kFirstExample.first, 1, EquationText(kFirstExample.first));
@@ -179,7 +128,7 @@ void SystemsByGraphing::CrossingPoint() {
   PageEnd();
 }
 
-void SystemsByGraphing::LinesThatDoNotCross() {
+void LinesThatDoNotCross() {
   constexpr int kSquare = 16;  // pixels
   constexpr double kPlaneRow = 4.6;
   constexpr double kCommentRow = 13.3;
@@ -200,7 +149,7 @@ void SystemsByGraphing::LinesThatDoNotCross() {
   DrawPlaneLine(2, -1, 2, ColourOfLine(1));
   LabelPlaneLine(2, -1, 2, "y = -x + 2", ColourOfLine(1));
   ShowComment(2, {kCommentRow, 21.5, 18, 3.6, 14},
-              Unbroken("x + y = 2") + " and " + Unbroken("2x + 2y = 4") +
+              WithoutBreaks("x + y = 2") + " and " + WithoutBreaks("2x + 2y = 4") +
                   R"( share \bthis line\z.  )" + SolutionSentence(SystemClass::SameLine));
   PageEnd();
   Locate(17.3, 1);
@@ -220,7 +169,7 @@ void WriteStep(double row, const std::string& text) {
   board::Write(text);
 }
 
-void SystemsByGraphing::FourSteps() {
+void FourSteps() {
   const LinearSystem& system = kStepsExample;
   NewScreen();
   board::ShowTable(system);
@@ -241,11 +190,19 @@ void SystemsByGraphing::FourSteps() {
   board::FillTable(system, 2);
   PageEnd();
   wbHide();
-  GraphReadAndCheck(system);
+}
+
+void CheckLine(const LinearSystem& system, int line) {
+  const LinearEquation& equation = EquationOf(system, line);
+  wbisPrint("Check line " + NumStr(line) + ":  " + EquationText(equation));
+  wbLocate(2.2, 3);
+  wbWordWrap(board::Substituted(equation, system.x, system.y) + R"(, \btrue\z)");
+  PageEnd();
 }
 
 // The last three steps.
-void SystemsByGraphing::GraphReadAndCheck(const LinearSystem& system) {
+void GraphReadAndCheck() {
+  const LinearSystem& system = kStepsExample;
   WriteStep(7, R"(\y2.\z Graph the lines.)");
   for (const int line : {1, 2}) {
     const LinearEquation& equation = EquationOf(system, line);
@@ -267,6 +224,34 @@ void SystemsByGraphing::GraphReadAndCheck(const LinearSystem& system) {
   WordWrap(R"(The solution of the system is \y)" + PairText(system.x, system.y) + R"(\z.)");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class SystemsByGraphing final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{TwoEquations},
+            {GraphOfOneEquation},
+            {CrossingPoint},
+            {LinesThatDoNotCross},
+            {FourSteps, GraphReadAndCheck}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void ShowSystem() const;
+  void SolveForY(int line);
+  void GraphLine(int line);
+  void ReadAndCheck();
+  void ExplainNoSinglePoint();
+
+  LinearSystem system_;
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -313,8 +298,7 @@ void SystemsByGraphing::ShowProblem() {
   Locate(10, 3);
   isPrint(problem.question[3]);
   board::ShowEmptyPlane();
-  answerRow = 15.2;
-  picAnswerSetParameters(3, answerRow, 3, 22, 0, 17, 50, 13);
+  picAnswerSetParameters(3, 15.2, 3, 22, 0, 17, 50, 13);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -376,14 +360,6 @@ void SystemsByGraphing::GraphLine(int line) {
   isPrint();
   board::Write("We draw the line through both points.");
   board::DrawLine(equation, line, SlopeInterceptText(equation));
-  PageEnd();
-}
-
-void SystemsByGraphing::CheckLine(const LinearSystem& system, int line) {
-  const LinearEquation& equation = EquationOf(system, line);
-  wbisPrint("Check line " + NumStr(line) + ":  " + EquationText(equation));
-  wbLocate(2.2, 3);
-  wbWordWrap(board::Substituted(equation, system.x, system.y) + R"(, \btrue\z)");
   PageEnd();
 }
 
@@ -453,10 +429,7 @@ void SystemsByGraphing::ExplainProblem() {
     ExplainNoSinglePoint();
 }
 
+const LessonRegistration<SystemsByGraphing> kRegistration("Solving Systems by Graphing");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeSystemsByGraphing() {
-  return std::make_unique<SystemsByGraphing>();
-}
-
 }  // namespace course

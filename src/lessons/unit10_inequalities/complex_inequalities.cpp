@@ -3,21 +3,13 @@
 //
 // The right choice stands beside four misreadings of the same two ends, so that every box carries
 // both numbers and only symbols and "or" tell them apart.
-#include <algorithm>
-
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/unit10_inequalities/interval_figure.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/interval_figure.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace graphs;
 
 constexpr double kOpenEnd = 0.1;  // added to a value whose point is left out
 constexpr double kOpenShare = 0.5;
@@ -25,44 +17,6 @@ constexpr double kOpenShare = 0.5;
 constexpr double kProblemGraphRow = 7.6;
 constexpr double kExplanationGraphRow = 5.5;
 constexpr double kGraphCol = 3;
-
-class ComplexInequalities final : public LessonScript {
- public:
-  ComplexInequalities() : LessonScript("Complex Inequalities") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] {
-      BothAtOnce();
-      ReadingTheEnds();
-      OneOrTheOther();
-      TryNumbers();
-      WriteOneYourself();
-    }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void BothAtOnce();
-  void ReadingTheEnds();
-  void OneOrTheOther();
-  void TryNumbers();
-  void WriteOneYourself();
-
-  void DrawEnds(RandomStream& random);
-  void DescribeFigure();
-  void DrawGraph() const;
-  void BeginExplanation() const;
-  void ExplainEnd(double end, bool isLow);
-  void JoinParts();
-  void JoinArrows();
-  void CheckEnds();
-
-  bool union_ = false;  // two arrows; otherwise the segment between the ends
-  double low_ = 0;      // -6 to 6; + 0.1 when the point is left out
-  double high_ = 0;     // above low_, up to 7; the same
-};
 
 // --- Texts of inequalities ---------------------------------------------------
 
@@ -103,7 +57,7 @@ double Flipped(double end) {
 
 // --- Teaching screen, in five parts ------------------------------------------
 
-void ComplexInequalities::BothAtOnce() {
+void BothAtOnce() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(A \ccomplex inequality\z joins two simple inequalities.)");
@@ -132,7 +86,7 @@ void ComplexInequalities::BothAtOnce() {
   PageEnd();
 }
 
-void ComplexInequalities::ReadingTheEnds() {
+void ReadingTheEnds() {
   NewScreen();
   DrawNumberLine(3, kGraphCol);
   DrawGraphOnLine(-3 + kOpenEnd, 4);
@@ -166,7 +120,7 @@ void ShowTwoArrows() {
   DrawGraphOnLine(3 + kOpenEnd, kFarRight);
 }
 
-void ComplexInequalities::OneOrTheOther() {
+void OneOrTheOther() {
   const std::string left = "x " + tutor::LessOrEqual + " -2";
   NewScreen();
   ShowTwoArrows();
@@ -186,7 +140,7 @@ void ComplexInequalities::OneOrTheOther() {
   PageEnd();
 }
 
-void ComplexInequalities::TryNumbers() {
+void TryNumbers() {
   const std::string left = "x " + tutor::LessOrEqual + " -2";
   NewScreen();
   ShowTwoArrows();
@@ -208,7 +162,7 @@ void ComplexInequalities::TryNumbers() {
   PageEnd();
 }
 
-void ComplexInequalities::WriteOneYourself() {
+void WriteOneYourself() {
   NewScreen();
   DrawNumberLine(3, kGraphCol, 1);
   DrawGraphOnLine(-5, 1 + kOpenEnd, 1);
@@ -232,6 +186,34 @@ void ComplexInequalities::WriteOneYourself() {
   isPrint("            x < 0 or x " + tutor::GreaterOrEqual + " 6");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class ComplexInequalities final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{BothAtOnce, ReadingTheEnds, OneOrTheOther, TryNumbers, WriteOneYourself}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void DrawEnds(RandomStream& random);
+  void DescribeFigure();
+  void DrawGraph() const;
+  void BeginExplanation() const;
+  void ExplainEnd(double end, bool isLow);
+  void JoinParts();
+  void JoinArrows();
+  void CheckEnds();
+
+  bool union_ = false;  // two arrows; otherwise the segment between the ends
+  double low_ = 0;      // -6 to 6; + 0.1 when the point is left out
+  double high_ = 0;     // above low_, up to 7; the same
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -313,8 +295,7 @@ void ComplexInequalities::ShowProblem() {
   Locate(4.8, 1);
   WordWrapNarrow(problem.question[0], 30);
   DrawGraph();
-  answerRow = 11.5;
-  picAnswerSetParameters(1, answerRow, 9, 0, 0, 21, 44, 12, -3);
+  picAnswerSetParameters(1, 11.5, 9, 0, 0, 21, 44, 12, -3);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -410,10 +391,7 @@ void ComplexInequalities::ExplainProblem() {
   PageEnd();
 }
 
+const LessonRegistration<ComplexInequalities> kRegistration("Complex Inequalities");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeComplexInequalities() {
-  return std::make_unique<ComplexInequalities>();
-}
-
 }  // namespace course

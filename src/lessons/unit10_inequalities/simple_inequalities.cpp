@@ -1,52 +1,19 @@
 // The student can say in words and in symbols which numbers an arrow on the number line covers, and
 // whether its starting point is one of them.
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/lesson_script.h"
-#include "lessons/lessons.h"
-#include "lessons/unit10_inequalities/interval_figure.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/graphs/interval_figure.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
+using namespace graphs;
+
 // The four relations, in the order of the answer boxes.
 const std::string kRelations[] = {"", tutor::LessOrEqual, tutor::GreaterOrEqual, "<", ">"};
 
-class SimpleInequalities final : public LessonScript {
- public:
-  SimpleInequalities() : LessonScript("Simple Inequalities") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { MeaningOfInequality(); }, [this] { FourSymbols(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void MeaningOfInequality();
-  void FourSymbols();
-
-  bool PointsRight() const { return endValue_ == kFarRight; }
-  bool Open() const { return IsOpen(startValue_); }
-  std::string Number() const { return NumStr(WholeOf(startValue_)); }
-  std::string MistakeOf(int slot) const;
-  void ShowGraph();
-  void ExplainDirection();
-  void ExplainStart();
-  void WriteAnswer();
-
-  double startValue_ = 0;  // where the arrow starts, -6 to 6; + 0.1 when the circle is open
-  int endValue_ = 0;       // kFarLeft or kFarRight
-};
-
 // --- Teaching screens --------------------------------------------------------
 
-void SimpleInequalities::MeaningOfInequality() {
+void MeaningOfInequality() {
   NewScreen();
   Locate(3, 1);
   WordWrap(R"(An \cinequality\z is a statement which shows that two quantities are not equal.  )"
@@ -70,7 +37,7 @@ void SimpleInequalities::MeaningOfInequality() {
   PageEnd();
 }
 
-void SimpleInequalities::FourSymbols() {
+void FourSymbols() {
   NewScreen();
   Locate(3, 1);
   isPrint("Examine the following examples closely.");
@@ -95,6 +62,32 @@ void SimpleInequalities::FourSymbols() {
            R"( 6 represents all numbers to the right of 6 \cand\z 6 itself.)");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class SimpleInequalities final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
+
+ private:
+  std::vector<Screen> Screens() override { return {{MeaningOfInequality}, {FourSymbols}}; }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  bool PointsRight() const { return endValue_ == kFarRight; }
+  bool Open() const { return IsOpen(startValue_); }
+  std::string Number() const { return NumStr(WholeOf(startValue_)); }
+  std::string MistakeOf(int slot) const;
+  void ShowGraph();
+  void ExplainDirection();
+  void ExplainStart();
+  void WriteAnswer();
+
+  double startValue_ = 0;  // where the arrow starts, -6 to 6; + 0.1 when the circle is open
+  int endValue_ = 0;       // kFarLeft or kFarRight
+};
 
 // --- Generator: three draws, none rejected -----------------------------------
 
@@ -141,7 +134,6 @@ void SimpleInequalities::ShowProblem() {
   ShowGraph();
   Locate(9, 1);
   for (const std::string& line : problem.question) isPrint(line);
-  answerRow = 15;
   picAnswerSetParameters(2, 14, 1, 21, 0, 16, 50, 27);
 }
 
@@ -194,10 +186,7 @@ void SimpleInequalities::WriteAnswer() {
   isPrint("x " + kRelations[problem.correct] + " " + Number());
 }
 
+const LessonRegistration<SimpleInequalities> kRegistration("Simple Inequalities");
+
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeSimpleInequalities() {
-  return std::make_unique<SimpleInequalities>();
-}
-
 }  // namespace course

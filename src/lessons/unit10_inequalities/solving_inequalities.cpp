@@ -3,54 +3,17 @@
 //
 // Two of the choices carry the reversed relation, one of them with the right number, so that the
 // turn is always part of the question.  Answers that are not whole are mixed numbers.
-#include <algorithm>
-#include <cstdlib>
-#include <utility>
-
-#include "display/animation.h"
-#include "display/drawing.h"
-#include "display/grid.h"
-#include "display/print.h"
-#include "display/print_cells.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/lesson_script.h"
-#include "lessons/equation_explanation.h"
-#include "lessons/equation_machine.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/families/equations/equation_machine.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
+using namespace equations;
+
 const std::string kRelations[] = {"", tutor::GreaterOrEqual, tutor::LessOrEqual, "<", ">"};
 constexpr int kWholeTries = 6;  // draws with a fractional answer that are thrown away
-
-class SolvingInequalities final : public LessonScript {
- public:
-  SolvingInequalities() : LessonScript("Solving Inequalities") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { AddingKeeps(); }, [this] { MultiplyingMayTurn(); }, [this] { SolvingOne(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void AddingKeeps();
-  void SolvingByAdding();
-  void MultiplyingMayTurn();
-  void SolvingOne();
-  void WhenToTurn();
-
-  bool DrawNumbers(RandomStream& random);
-
-  LinearStatement inequality_;  // a x + b < d x + c
-};
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -100,21 +63,22 @@ void SlideNumbers(int smaller, int larger, int distance) {
   }
 }
 
-void SolvingInequalities::AddingKeeps() {
+void AddingKeeps() {
   NewScreen();
-  WrapAt(3, "An inequality such as  " + OnOneLine("x + 5 < 8") +
+  WrapAt(3, "An inequality such as  " + WithoutBreaks("x + 5 < 8") +
                 "  is solved in the steps of an equation.  But do both sides keep their relation?");
   PageEnd();
   isPrint();
-  WordWrap("Take  " + OnOneLine("2 < 6") + R"(.  On the number line 2 lies \yto the left of\z 6.)");
+  WordWrap("Take  " + WithoutBreaks("2 < 6") +
+           R"(.  On the number line 2 lies \yto the left of\z 6.)");
   DrawLine();
   MarkNumber(2);
   MarkNumber(6);
   PageEnd();
-  WrapAt(15, "We add 3 to both sides:  " + OnOneLine(R"(2 + 3 \y<\z 6 + 3)") + ".");
+  WrapAt(15, "We add 3 to both sides:  " + WithoutBreaks(R"(2 + 3 \y<\z 6 + 3)") + ".");
   SlideNumbers(2, 6, 3);
   PageEnd();
-  WrapAt(16, "Then we subtract 10:  " + OnOneLine(R"(5 - 10 \y<\z 9 - 10)") + ".");
+  WrapAt(16, "Then we subtract 10:  " + WithoutBreaks(R"(5 - 10 \y<\z 9 - 10)") + ".");
   SlideNumbers(5, 9, -10);
   PageEnd();
   WrapAt(18, "Both numbers go the same way, so the smaller one stays on the left.");
@@ -123,15 +87,14 @@ void SolvingInequalities::AddingKeeps() {
   WordWrap(
       R"(By the \cAddition and Subtraction Properties for Inequalities\z the relation stays.)");
   PageEnd();
-  SolvingByAdding();
 }
 
-void SolvingInequalities::SolvingByAdding() {
+void SolvingByAdding() {
   const LinearStatement inequality = {"x", {1, 5}, "<", {0, 8}};
   const Addition addition = AdditionsOf(inequality)[0];
   EquationSheet sheet = SheetFor(inequality);
   NewScreen();
-  WrapAt(3, "Now we can solve  " + OnOneLine("x + 5 < 8") + ".");
+  WrapAt(3, "Now we can solve  " + WithoutBreaks("x + 5 < 8") + ".");
   sheet.Write(RowOf(inequality), "<");
   OpenWordBox();
   SayAnew("What do we add to both sides, to remove 5 from the left-hand side?");
@@ -192,9 +155,9 @@ void FillRow(int row) {
   picPrintCellPrint(cell + 1, done.turns ? "turns around" : "stays", colour, kCellFontSize);
 }
 
-void SolvingInequalities::MultiplyingMayTurn() {
+void MultiplyingMayTurn() {
   NewScreen();
-  WrapAt(3, "Now we multiply and divide  " + OnOneLine("2 < 6") + ".");
+  WrapAt(3, "Now we multiply and divide  " + WithoutBreaks("2 < 6") + ".");
   ShowMultiplications();
   OpenWordBox();
   SayAnew("First we multiply by 3:  2 becomes 6, and 6 becomes 18.");
@@ -218,7 +181,7 @@ void SolvingInequalities::MultiplyingMayTurn() {
   PageEnd();
 }
 
-void SolvingInequalities::SolvingOne() {
+void SolvingOne() {
   const LinearStatement inequality = {"x", {-2, 3}, tutor::GreaterOrEqual, {0, 11}};
   const Addition addition = AdditionsOf(inequality)[0];
   const std::string& relation = inequality.relation;
@@ -250,10 +213,9 @@ void SolvingInequalities::SolvingOne() {
   SayAnew("Now we try one that is greater, 0:");
   SaySubstituted(inequality, 0, R"(   \rfalse\z)");
   PageEnd();
-  WhenToTurn();
 }
 
-void SolvingInequalities::WhenToTurn() {
+void WhenToTurn() {
   NewScreen();
   WrapAt(3, R"(\rA usual mistake\z is to turn the relation whenever a minus sign is seen.)");
   PageEnd();
@@ -279,6 +241,25 @@ void SolvingInequalities::WhenToTurn() {
   WordWrap(R"(What counts is the number that we \ydivide or multiply by\z.)");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class SolvingInequalities final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{AddingKeeps, SolvingByAdding}, {MultiplyingMayTurn}, {SolvingOne, WhenToTurn}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  bool DrawNumbers(RandomStream& random);
+
+  LinearStatement inequality_;  // a x + b < d x + c
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -322,24 +303,20 @@ void SolvingInequalities::ShowProblem() {
   const bool high = std::ranges::any_of(problem.choices, [](const Choice& choice) {
     return choice.text.find('/') != std::string::npos;
   });
-  answerRow = high ? 13 : 14;
   if (high)
-    picAnswerSetParameters(2, answerRow, 1, 21, 0, 17, 75, 16, 12);
+    picAnswerSetParameters(2, 13, 1, 21, 0, 17, 75, 16, 12);
   else
-    picAnswerSetParameters(2, answerRow, 1, 21, 0, 17, 50, 27);
+    picAnswerSetParameters(2, 14, 1, 21, 0, 17, 50, 27);
   answerParameters.printChoice = picAnswerPrintStackedText;
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void SolvingInequalities::ExplainProblem() {
-  ExplainLinear(inequality_, problem, [this] { PageEnd(); });
+  ExplainLinear(inequality_, problem);
 }
+
+const LessonRegistration<SolvingInequalities> kRegistration("Solving Inequalities");
 
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeSolvingInequalities() {
-  return std::make_unique<SolvingInequalities>();
-}
-
 }  // namespace course

@@ -8,22 +8,13 @@
 // is kept, 4ac is added, the division by 2a is forgotten; where two of these agree, a neighbouring
 // mistake takes the place.  When there are no real roots the mistakes also lose the minus sign
 // under the radical.
-#include <cstdlib>
-
-#include "display/drawing.h"
-#include "display/stacked_text.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/distinct_choices.h"
-#include "engine/header.h"
-#include "lessons/lessons.h"
-#include "lessons/page_lines.h"
-#include "lessons/unit12_quadratic_equations/formula_steps.h"
-#include "mathkit/expressions.h"
-#include "mathkit/tutor_codes.h"
+#include "lessons/families/quadratics/formula_steps.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
+
+using namespace quadratics;
 
 using Roots = std::optional<RootPair>;
 
@@ -46,51 +37,22 @@ constexpr DiscriminantRow kDiscriminants[] = {
     {11, "x^2^ - 6x + 9 = 0", 1, R"((-6)^2^ - 4\248\1\248\9 = 36 - 36 = )", "0", "one"},
     {13, "x^2^ + 2x + 5 = 0", 5, R"(2^2^ - 4\248\1\248\5 = 4 - 20 = )", "-16", "none"}};
 
-class TheQuadraticFormula final : public FormulaSteps {
- public:
-  TheQuadraticFormula() : FormulaSteps("The Quadratic Formula") {}
-
- private:
-  std::vector<Screen> Screens() override {
-    return {[this] { StandardForm(); }, [this] { UsingTheFormula(); },
-            [this] { TheDiscriminant(); }};
-  }
-  void DrawProblem(RandomStream& random) override;
-  void ShowProblem() override;
-  void ExplainProblem() override;
-
-  void StandardForm();
-  void BringToStandardForm();
-  void WhereItComesFrom();
-  void NameTheFormula();
-  void UsingTheFormula();
-  void TheDiscriminant();
-  void FillRow(const DiscriminantRow& row);
-  void NoRootOfANegative();
-
-  void DrawChoices(RandomStream& random);
-};
-
 // --- Teaching screens --------------------------------------------------------
 
-void TheQuadraticFormula::StandardForm() {
+void StandardForm() {
   NewScreen();
   WrapAt(3, R"(A \cquadratic equation\z has a term with x^2^.  In \cstandard form\z its terms )"
             "stand in this order, with 0 on the right side:");
   PrintStandardForm(7);
   PageEnd();
-  equation_ = kExample;
-  PrintSpreadEquation();
+  PrintSpreadEquation(kExample);
   PageEnd();
-  TurnTermsIntoValues();
+  TurnTermsIntoValues(kExample);
   WrapAt(14, R"(\rThe sign belongs to the number\z: here b is -4, not 4.)");
   PageEnd();
-  BringToStandardForm();
-  WhereItComesFrom();
-  NameTheFormula();
 }
 
-void TheQuadraticFormula::BringToStandardForm() {
+void BringToStandardForm() {
   constexpr int kRow = 18;
   WrapAt(16.5, "Other equations are put into it first:");
   PrintRow(kRow, "x^2^ - 5x     = 6");
@@ -104,7 +66,7 @@ void TheQuadraticFormula::BringToStandardForm() {
   PageEnd();
 }
 
-void TheQuadraticFormula::WhereItComesFrom() {
+void WhereItComesFrom() {
   NewScreen();
   WrapAt(3, "We can solve the standard form itself.");
   PrintRow(4, "ax^2^ + bx + c = 0");
@@ -131,7 +93,7 @@ void TheQuadraticFormula::WhereItComesFrom() {
 }
 
 // The last line of the derivation slides to the top and stays alone.
-void TheQuadraticFormula::NameTheFormula() {
+void NameTheFormula() {
   AnimHere(19, 1, 40, 4, 1, 16, 30, 1);
   isDrawRoundRect(3.2, 2, 6.6, 22, 2, platform::colour::Cyan);
   WrapAt(9, R"(This is the \cquadratic formula\z.  The sign \c)" + tutor::PlusOrMinus +
@@ -145,31 +107,14 @@ void TheQuadraticFormula::NameTheFormula() {
   PageEnd();
 }
 
-void TheQuadraticFormula::UsingTheFormula() {
-  equation_ = kExample;
+void UsingTheFormula() {
   NewScreen();
-  WrapAt(3, "Let's solve " + EquationText(equation_) + ".");
-  SolveByFormula();
-}
-
-void TheQuadraticFormula::TheDiscriminant() {
-  NewScreen();
-  WrapAt(3, "The number under the radical, b^2^" + tutor::Gap + "-" + tutor::Gap +
-                R"(4ac, is the \cdiscriminant\z.  It tells how many real roots there are.)");
-  PrintRow(7, R"(\yb^2^ - 4ac\z)", kValueColumn - 3);
-  PrintRow(7, R"(\yroots\z)", kRootsColumn);
-  PageEnd();
-  for (const DiscriminantRow& row : kDiscriminants) FillRow(row);
-  ClearRows(17, 1);
-  WrapAt(16, R"(When it is \ypositive\z, + and - give two different roots.)");
-  PageEnd();
-  WrapAt(19, R"(When it is \y0\z, nothing is added or taken away, and both signs give one root.)");
-  PageEnd();
-  NoRootOfANegative();
+  WrapAt(3, "Let's solve " + EquationText(kExample) + ".");
+  SolveByFormula(kExample);
 }
 
 // The value slides from its computation up into the table.
-void TheQuadraticFormula::FillRow(const DiscriminantRow& row) {
+void FillRow(const DiscriminantRow& row) {
   constexpr int kWorkRow = 17;
   const std::string value = row.value;
   PrintRow(row.row, row.equation, 1);
@@ -182,7 +127,22 @@ void TheQuadraticFormula::FillRow(const DiscriminantRow& row) {
   PageEnd();
 }
 
-void TheQuadraticFormula::NoRootOfANegative() {
+void TheDiscriminant() {
+  NewScreen();
+  WrapAt(3, "The number under the radical, b^2^" + tutor::Gap + "-" + tutor::Gap +
+                R"(4ac, is the \cdiscriminant\z.  It tells how many real roots there are.)");
+  PrintRow(7, R"(\yb^2^ - 4ac\z)", kValueColumn - 3);
+  PrintRow(7, R"(\yroots\z)", kRootsColumn);
+  PageEnd();
+  for (const DiscriminantRow& row : kDiscriminants) FillRow(row);
+  ClearRows(17, 1);
+  WrapAt(16, R"(When it is \ypositive\z, + and - give two different roots.)");
+  PageEnd();
+  WrapAt(19, R"(When it is \y0\z, nothing is added or taken away, and both signs give one root.)");
+  PageEnd();
+}
+
+void NoRootOfANegative() {
   NewScreen();
   PrintStackedRow(5, "x = " + RootsOver(-2, "`-16`", 2));
   WrapAt(8, R"(Why are there no roots when the discriminant is \ynegative\z?)");
@@ -197,6 +157,27 @@ void TheQuadraticFormula::NoRootOfANegative() {
   WrapAt(21.5, "None, because 1 - 4 = -3 is negative.");
   PageEnd();
 }
+
+// --- The lesson ------------------------------------------------------------
+
+class TheQuadraticFormula final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{StandardForm, BringToStandardForm, WhereItComesFrom, NameTheFormula},
+            {UsingTheFormula},
+            {TheDiscriminant, NoRootOfANegative}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void DrawChoices(RandomStream& random);
+
+  Quadratic equation_;
+};
 
 // --- Generator ---------------------------------------------------------------
 
@@ -249,7 +230,6 @@ void TheQuadraticFormula::DrawChoices(RandomStream& random) {
 void TheQuadraticFormula::ShowProblem() {
   WrapAt(5, problem.question[0]);
   PrintRow(8, problem.question[1], 7);
-  answerRow = 12;
   picAnswerSetParameters(2, 11, 1, 21, 0, 19, 68, 16, 9);
   answerParameters.printChoice = picAnswerPrintStackedText;
 }
@@ -258,13 +238,10 @@ void TheQuadraticFormula::ShowProblem() {
 
 void TheQuadraticFormula::ExplainProblem() {
   ProblemBanner();
-  SolveByFormula();
+  SolveByFormula(equation_);
 }
+
+const LessonRegistration<TheQuadraticFormula> kRegistration("The Quadratic Formula");
 
 }  // namespace
-
-std::unique_ptr<LessonScript> MakeTheQuadraticFormula() {
-  return std::make_unique<TheQuadraticFormula>();
-}
-
 }  // namespace course

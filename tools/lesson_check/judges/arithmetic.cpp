@@ -1,6 +1,6 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 
 namespace lesson_check {
 namespace {
@@ -29,8 +29,7 @@ void AddMistakesAtProduct(const Expression& product, Reading& reading) {
   reading.mistakes["multiplies all three numbers"] = {(factor * first * second).Text()};
 }
 
-}  // namespace
-
+// "What is the value of 3(4 + 5)?": the expression in the question, worked out.
 Reading ReadArithmetic(const course::Problem& problem) {
   const Expression expression = ParseExpression(ExpressionOf(problem));
   Reading reading;
@@ -40,4 +39,7 @@ Reading ReadArithmetic(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadArithmetic, {"Blank Lesson"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -3,7 +3,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 
 namespace lesson_check {
 namespace {
@@ -104,8 +104,7 @@ void AddMistakes(const std::vector<FigureItem>& figure, Reading& reading) {
   }
 }
 
-}  // namespace
-
+// Which inequality describes the rays and segments of the figure.
 Reading ReadIntervalFigure(const course::Problem& problem) {
   if (problem.figure.empty()) throw Unreadable("there is no figure");
   NumberSet covered;
@@ -117,4 +116,8 @@ Reading ReadIntervalFigure(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadIntervalFigure,
+                                      {"Simple Inequalities", "Complex Inequalities"});
+
+}  // namespace
 }  // namespace lesson_check

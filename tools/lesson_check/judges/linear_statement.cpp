@@ -2,7 +2,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/judges/number_form.h"
 
 namespace lesson_check {
@@ -47,23 +47,20 @@ std::string NumberText(const std::string& choice) {
   return digits ? cut.sides.back() : cut.sides.front();
 }
 
-// What the mistakes of adding and dividing make of the numbers, by their names.
-struct WrongNumber {
-  const char* name;
-  Rational value;
-};
-std::vector<WrongNumber> WrongNumbers(const LinearStatement& s) {
-  std::vector<WrongNumber> numbers = {
-      {"moves the right number across with its sign", -(s.b + s.c) / (s.a - s.d)},
-      {"subtracts the numbers the wrong way round", (s.b - s.c) / (s.a - s.d)}};
-  if (s.a + s.d != 0)
-    numbers.push_back(
-        {"moves the whole right side across with its signs", -(s.b + s.c) / (s.a + s.d)});
-  return numbers;
+Rational MovedAcross(const LinearStatement& s) {
+  return -(s.b + s.c) / (s.a - s.d);
+}
+Rational SubtractedTheWrongWay(const LinearStatement& s) {
+  return (s.b - s.c) / (s.a - s.d);
 }
 
-}  // namespace
+void CheckRanges(const LinearStatement& s, Reading& reading) {
+  for (const Rational& coefficient : {s.a, s.d})
+    reading.Within("a coefficient", coefficient, -9, 9);
+  for (const Rational& number : {s.b, s.c}) reading.Within("a number", number, -15, 15);
+}
 
+// The number, or the numbers, for which a linear statement in one letter holds.
 Reading ReadLinearEquation(const course::Problem& problem) {
   const LinearStatement statement = ReadStatement(StatementLine(problem));
   const char letter = statement.letter;
@@ -77,8 +74,11 @@ Reading ReadLinearEquation(const course::Problem& problem) {
     return NumberIn(cut.sides.back()).get_str();
   };
   reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
-  for (const WrongNumber& wrong : WrongNumbers(statement))
-    reading.mistakes[wrong.name] = {wrong.value.get_str()};
+  reading.mistakes["moves the right number across with its sign"] = {
+      MovedAcross(statement).get_str()};
+  reading.mistakes["subtracts the numbers the wrong way round"] = {
+      SubtractedTheWrongWay(statement).get_str()};
+  CheckRanges(statement, reading);
   return reading;
 }
 
@@ -96,8 +96,9 @@ Reading ReadLinearInequality(const course::Problem& problem) {
     return SolutionOf(choice).Text();
   };
   reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
-  for (const WrongNumber& wrong : WrongNumbers(s))
-    reading.mistakes[wrong.name] = {SetOf(right, wrong.value).Text()};
+  reading.mistakes["subtracts the numbers the wrong way round"] = {
+      SetOf(right, SubtractedTheWrongWay(s)).Text()};
+  CheckRanges(s, reading);
   if (s.a + s.d != 0)
     reading.mistakes["moves the whole right side across, the relation turned wrongly"] = {
         SetOf(ReversedRelation(right), -(s.b + s.c) / (s.a + s.d)).Text()};
@@ -108,4 +109,9 @@ Reading ReadLinearInequality(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kEquations(ReadLinearEquation,
+                                   {"Solving Linear Equations With 2 Operations"});
+const JudgeRegistration kInequalities(ReadLinearInequality, {"Solving Inequalities"});
+
+}  // namespace
 }  // namespace lesson_check

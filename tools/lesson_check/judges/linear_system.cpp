@@ -2,7 +2,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 
 namespace lesson_check {
 namespace {
@@ -57,8 +57,7 @@ std::string ValueOfChoice(const std::string& choice) {
                    ValueOf(text.substr(comma + 1, text.size() - comma - 2)).Number());
 }
 
-}  // namespace
-
+// Two lines in x and y, and the point on both.
 Reading ReadLinearSystem(const course::Problem& problem) {
   std::vector<Line> lines;
   for (const std::string& line : problem.question)
@@ -70,4 +69,7 @@ Reading ReadLinearSystem(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadLinearSystem, {"Solving Systems by Graphing"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -4,7 +4,7 @@
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/judges/number_form.h"
 
 namespace lesson_check {
@@ -202,8 +202,7 @@ Rational AnswerOf(const Motion& m, Reading& reading) {
   throw Unreadable("the question does not tell enough");
 }
 
-}  // namespace
-
+// How far, how fast or how long something moves.
 Reading ReadMotionProblem(const course::Problem& problem) {
   const Motion motion = ReadMotion(problem);
   Reading reading;
@@ -216,4 +215,7 @@ Reading ReadMotionProblem(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadMotionProblem, {"Distance-Rate-Time Problems"});
+
+}  // namespace
 }  // namespace lesson_check

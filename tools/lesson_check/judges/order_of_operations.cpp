@@ -5,7 +5,7 @@
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -138,8 +138,7 @@ std::string ExpressionLine(const course::Problem& problem) {
   throw Unreadable("no line of the question has a number");
 }
 
-}  // namespace
-
+// An expression of several operations, brackets included.
 Reading ReadOrderOfOperations(const course::Problem& problem) {
   const std::string line = ExpressionLine(problem);
   const Expression expression = ParseExpression(line);
@@ -154,4 +153,7 @@ Reading ReadOrderOfOperations(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadOrderOfOperations, {"Order of Operations"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -4,7 +4,7 @@
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 
 namespace lesson_check {
 namespace {
@@ -94,7 +94,7 @@ void AddMistakes(const TwoPowers& two, Reading& reading) {
   // The sum of the equal bases' exponents, or of all that are there to be added.
   add("gives the sum to both letters", {number * PowerOf(x, m + n) * PowerOf(y, m + n),
                                         number * PowerOf(x, m + n + k) * PowerOf(y, m + n + k)});
-  add("adds exponents of neighbours",
+  add("adds exponents of neighbors",
       {number * PowerOf(x, m) * PowerOf(y, k + n), number * PowerOf(x, n) * PowerOf(y, k + m)});
 }
 
@@ -121,8 +121,7 @@ std::string ExpressionLine(const course::Problem& problem) {
   throw Unreadable("no line of the question has an exponent");
 }
 
-}  // namespace
-
+// Powers of letters to be multiplied.
 Reading ReadProductOfPowers(const course::Problem& problem) {
   const std::string line = ExpressionLine(problem);
   Reading reading;
@@ -133,4 +132,7 @@ Reading ReadProductOfPowers(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadProductOfPowers, {"Multiplying with Exponents"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -6,7 +6,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -75,7 +75,7 @@ void AddMistakes(const Quadratic& q, Reading& reading) {
   reading.mistakes[name("keeps the sign of b")] = {RootsText(q.b, under, 2 * q.a)};
   reading.mistakes[name("forgets to divide by 2a")] = {RootsText(-q.b, under, 1)};
   reading.mistakes[name("divides by a")] = {RootsText(-q.b, under, q.a)};
-  reading.mistakes[name("divides by 2")] = {RootsText(-q.b, under, 2)};
+  if (!real) reading.mistakes[name("divides by 2")] = {RootsText(-q.b, under, 2)};
   reading.mistakes["leaves out the 4 of 4ac"] = {RootsText(-q.b, q.b * q.b - q.a * q.c, 2 * q.a)};
   reading.mistakes["adds 4ac"] = {RootsText(-q.b, q.b * q.b + 4 * q.a * q.c, 2 * q.a)};
 }
@@ -119,8 +119,7 @@ std::string FlawOfRoots(const std::string& choice) {
   return first.empty() ? FlawOfRoot(text.substr(at + 4)) : first;
 }
 
-}  // namespace
-
+// The real roots of a quadratic equation.
 Reading ReadQuadraticEquation(const course::Problem& problem) {
   const Quadratic equation = ReadEquation(problem);
   Reading reading;
@@ -131,4 +130,7 @@ Reading ReadQuadraticEquation(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadQuadraticEquation, {"The Quadratic Formula"});
+
+}  // namespace
 }  // namespace lesson_check

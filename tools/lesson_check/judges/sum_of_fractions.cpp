@@ -1,7 +1,7 @@
 // Two fractions to be added: "13/24 + 13/18", "6/13 + (-2/5)".
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/judges/number_form.h"
 
 namespace lesson_check {
@@ -61,8 +61,7 @@ Expression SumIn(const course::Problem& problem) {
   throw Unreadable("the question has no sum of two fractions");
 }
 
-}  // namespace
-
+// Two fractions to be added; subtracting is adding a negative one.
 Reading ReadSumOfFractions(const course::Problem& problem) {
   const Expression sum = SumIn(problem);
   Reading reading;
@@ -73,4 +72,7 @@ Reading ReadSumOfFractions(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadSumOfFractions, {"Adding Fractions"});
+
+}  // namespace
 }  // namespace lesson_check

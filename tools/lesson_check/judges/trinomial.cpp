@@ -4,7 +4,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
 #include "lesson_check/exact/unreadable.h"
-#include "lesson_check/judges/judges.h"
+#include "lesson_check/judge.h"
 
 namespace lesson_check {
 namespace {
@@ -53,8 +53,7 @@ void AddMistakes(char letter, const Factors& right, Reading& reading) {
       sameProduct.push_back(ProductText(letter, other, c / other));
 }
 
-}  // namespace
-
+// A trinomial that begins with the bare square, to be factored.
 Reading ReadMonicTrinomial(const course::Problem& problem) {
   const std::string line = TrinomialLine(problem);
   const Polynomial trinomial = ValueOf(line);
@@ -75,4 +74,7 @@ Reading ReadMonicTrinomial(const course::Problem& problem) {
   return reading;
 }
 
+const JudgeRegistration kRegistration(ReadMonicTrinomial, {"Trinomials of the Form x\xB2+bx+c"});
+
+}  // namespace
 }  // namespace lesson_check

@@ -29,7 +29,6 @@ const InkParts& PartsOf(int level) {
   return level > 0 ? kRaised : kLowered;
 }
 
-constexpr double kBrush = 3;          // pixels of ink that two boxes may share
 constexpr double kSamePlace = 0.25;   // cells
 constexpr double kFractionReach = 2;  // rows
 
@@ -124,11 +123,6 @@ class Standing {
 
 }  // namespace
 
-bool Overlap(const InkBox& a, const InkBox& b) {
-  return std::min(a.right, b.right) - std::max(a.left, b.left) > kBrush &&
-         std::min(a.bottom, b.bottom) - std::max(a.top, b.top) > kBrush;
-}
-
 std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   const InkParts& parts = PartsOf(fragment.level);
   const double line = panel.layout.cellHeight * (fragment.whole ? 1 : fragment.height);
@@ -144,6 +138,7 @@ std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   };
   if (fragment.whole) return {glyphAt(fragment.col, fragment.text)};
   std::vector<Glyph> glyphs;
+  glyphs.reserve(fragment.text.size());
   for (std::size_t i = 0; i < fragment.text.size(); ++i)
     glyphs.push_back(
         glyphAt(fragment.col + static_cast<double>(i) * advance, fragment.text.substr(i, 1)));

@@ -1,6 +1,7 @@
 // Where the ink of a printed text lies on its panel.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,12 @@ struct InkBox {
   double bottom = 0;
 };
 
-// Whether more than a brush of ink lies in both.
-bool Overlap(const InkBox& a, const InkBox& b);
+// Whether more than a brush of ink, some pixels, lies in both.
+inline bool Overlap(const InkBox& a, const InkBox& b) {
+  constexpr double kBrush = 3;
+  return std::min(a.bottom, b.bottom) - std::max(a.top, b.top) > kBrush &&
+         std::min(a.right, b.right) - std::max(a.left, b.left) > kBrush;
+}
 
 // A character, the place of its cell, and its ink as far as its kind tells: small characters hang
 // above or below the line, others keep to the height of capitals.  A built-up fraction or radical

@@ -1,8 +1,11 @@
 #include "lesson_check/pages/page_check.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 
+#include "display/panel_views.h"
+#include "engine/header.h"
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/pages/page_layout.h"
 #include "mathkit/tutor_codes.h"
@@ -31,6 +34,8 @@ std::string NameOf(int entry) {
       return "explanation in a lesson test";
     case mode::UnitTestReview:
       return "review in a unit test";
+    case mode::DiagnosticProblem:
+      return "problem of the diagnostic test";
     case mode::UnitTestExplanation:
       return "explanation in a unit test";
     default:
@@ -42,10 +47,49 @@ std::string Quoted(const std::string& text) {
   return "\"" + course::ToUtf8(text) + "\"";
 }
 
+// Everything that the checks of a page read, as bytes.
+class Look {
+ public:
+  void Add(const platform::PictureBox& box, const course::TextPanel* text) {
+    bytes_ += box.Name() + box.AccessibleText();
+    for (const int twips : {box.Left(), box.Top(), box.Width(), box.Height()}) Add(twips);
+    if (text == nullptr) return;
+    for (const course::Fragment& fragment : text->Transcript()) {
+      for (const double place :
+           {fragment.row, fragment.col, fragment.width, fragment.rise, fragment.height})
+        Add(place);
+      Add(fragment.level);
+      bytes_ += fragment.text + '\0';
+    }
+  }
+  std::string Take() { return std::move(bytes_); }
+
+ private:
+  template <class Number>
+  void Add(Number number) {
+    bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
+  }
+
+  std::string bytes_;
+};
+
+std::string LookOf(course::LessonWindow& window) {
+  Look look;
+  for (const course::PanelView& view : course::ShownPanels(window))
+    look.Add(*view.control, view.text);
+  return look.Take() + course::BannerText();
+}
+
+// Pages of prose, as against a problem's.
+bool IsWritten(int entry) {
+  return entry == mode::Lesson || entry == mode::Example || entry == mode::Explanation ||
+         entry == mode::LessonTestExplanation || entry == mode::UnitTestExplanation;
+}
+
 // The banner alone tells a practice problem from its review.
 PageText WithoutBanner(PageText page) {
   constexpr std::string_view kBanners[] = {"Try the following problem", "Lesson Test Problem",
-                                           "Unit Test Problem"};
+                                           "Unit Test Problem", "Diagnostic Test Problem"};
   std::erase_if(page.lines, [&](const std::string& line) {
     const std::string text = Trimmed(line);
     return std::ranges::any_of(kBanners,
@@ -91,17 +135,31 @@ std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& prob
   return "";
 }
 
+// A problem's explanation comes again as an example and in tests, and small lessons have few
+// problems.
+const PageChecker::SeenPage& PageChecker::See() {
+  constexpr std::size_t kMostSeen = 2000;
+  if (seen_.size() > kMostSeen) seen_.clear();
+  const auto [page, isNew] = seen_.try_emplace(LookOf(*frmPR));
+  if (isNew) page->second = {ReadPage(*frmPR), LayoutFaults(*frmPR)};
+  return page->second;
+}
+
 std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& complain) {
   std::vector<PageText> pages;
-  std::vector<std::string> told;  // a fault that stands on several pages is told once
+  std::set<std::string> told;  // a fault that stands on several pages is told once
+  style_.Begin();
   const auto look = [&] {
     ++pagesRead_;
-    pages.push_back(ReadPage(*frmPR));
-    for (const std::string& fault : LayoutFaults(*frmPR)) {
-      if (std::ranges::find(told, fault) != told.end()) continue;
-      told.push_back(fault);
-      complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
-    }
+    const SeenPage& page = See();
+    pages.push_back(page.text);
+    std::vector<std::string> faults = page.faults;
+    if (IsWritten(entry))
+      for (std::string& fault : style_.FaultsOf(*frmPR, drawn_.problem.question))
+        faults.push_back(std::move(fault));
+    for (const std::string& fault : faults)
+      if (told.insert(fault).second)
+        complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
   };
   try {
     reader_.Read(lesson_, entry, seed, look);
@@ -169,13 +227,14 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
   CheckEnd(explanation, complain);
   CheckSameProblem(explanation, complain);
-  // The other ways lead through the same routines; five of eight seeds walk one of them.
-  constexpr int kOtherWays[] = {mode::Example, mode::LessonTestReview, mode::LessonTestExplanation,
-                                mode::UnitTestReview, mode::UnitTestExplanation};
+  // The other ways lead through the same routines; six of eight seeds walk one of them.
+  constexpr int kOtherWays[] = {
+      mode::Example,        mode::LessonTestReview,    mode::LessonTestExplanation,
+      mode::UnitTestReview, mode::UnitTestExplanation, mode::DiagnosticProblem};
   const auto turn = static_cast<std::size_t>(seed % 8);
   if (turn >= std::size(kOtherWays)) return;
   const int way = kOtherWays[turn];
-  if (way == mode::LessonTestReview || way == mode::UnitTestReview)
+  if (!IsWritten(way))
     CheckReview(way, seed, problem[0], complain);
   else
     CheckEnd(Read(way, seed, complain), complain);

@@ -4,10 +4,12 @@
 
 #include <functional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "engine/lesson_script.h"
 #include "lesson_check/pages/page_reader.h"
+#include "lesson_check/pages/page_style.h"
 #include "lesson_check/pages/page_text.h"
 
 namespace lesson_check {
@@ -27,6 +29,12 @@ class PageChecker {
   long PagesRead() const { return pagesRead_; }
 
  private:
+  struct SeenPage {
+    PageText text;
+    std::vector<std::string> faults;  // of its layout
+  };
+  // The page that the window shows now.
+  const SeenPage& See();
   std::vector<PageText> Read(int entry, int seed, const Complain& complain);
   void CheckQuestion(const PageText& page, const Complain& complain);
   void CheckEnd(const std::vector<PageText>& pages, const Complain& complain);
@@ -36,6 +44,8 @@ class PageChecker {
   course::LessonScript& lesson_;
   course::LessonScript::DrawnProblem drawn_;
   PageReader reader_;
+  PageStyle style_;
+  std::unordered_map<std::string, SeenPage> seen_;  // by all that is looked at
   long pagesRead_ = 0;
 };
 

@@ -4,8 +4,10 @@
 #include <cmath>
 #include <cstdio>
 #include <map>
+#include <utility>
 
 #include "display/panel_views.h"
+#include "lesson_check/pages/box_overlap.h"
 #include "lesson_check/pages/glyph_boxes.h"
 #include "mathkit/tutor_codes.h"
 
@@ -52,6 +54,20 @@ struct OverlappedRow {
   }
 };
 
+// The glyphs of one row, and the heights between which their ink lies.
+struct InkRow {
+  double top = 1e9;
+  double bottom = -1e9;
+  std::vector<const Glyph*> glyphs;
+
+  void Add(const Glyph& glyph) {
+    top = std::min(top, glyph.ink.top);
+    bottom = std::max(bottom, glyph.ink.bottom);
+    glyphs.push_back(&glyph);
+  }
+  bool Meets(const InkBox& ink) const { return ink.top < bottom && top < ink.bottom; }
+};
+
 std::string WordOf(const std::vector<Glyph>& glyphs, const Glyph& part) {
   std::string word;
   for (const Glyph& glyph : glyphs)
@@ -72,10 +88,11 @@ InkBox Outline(const platform::Control& box, const platform::Control& on) {
           top + double(box.Height()) / platform::TwipsPerPixelY};
 }
 
-void FindTextUnder(const TextPanel& panel, const PanelView& box, std::vector<std::string>& faults) {
-  const InkBox outline = Outline(*box.control, panel.surface);
+void FindTextUnder(const StandingText& text, const platform::Control& panel, const PanelView& box,
+                   std::vector<std::string>& faults) {
+  const InkBox outline = Outline(*box.control, panel);
   std::string hidden;
-  for (const Glyph& glyph : StandingTextOf(panel).glyphs)
+  for (const Glyph& glyph : text.glyphs)
     if (Overlap(glyph.ink, outline)) hidden += glyph.text;
   if (!hidden.empty())
     faults.push_back("text under " + box.control->Name() + ": " + Quoted(hidden));
@@ -87,18 +104,6 @@ void FindOutsidePanel(LessonWindow& window, const PanelView& box,
   if (outline.left < -1 || outline.top < -1 || outline.right > window.pnlLesson.PixelWidth() + 1 ||
       outline.bottom > window.pnlLesson.PixelHeight() + 1)
     faults.push_back(box.control->Name() + " reaches out of the lesson panel");
-}
-
-void FindBoxesOverEachOther(const std::vector<PanelView>& boxes, std::vector<std::string>& faults) {
-  for (std::size_t i = 0; i < boxes.size(); ++i) {
-    for (std::size_t j = i + 1; j < boxes.size(); ++j) {
-      const platform::PictureBox& upper = *boxes[j].control;
-      const InkBox own{0, 0, double(upper.PixelWidth()), double(upper.PixelHeight())};
-      if (Overlap(Outline(*boxes[i].control, upper), own))
-        faults.push_back(boxes[i].control->Name() + " and " + upper.Name() +
-                         " lie over each other");
-    }
-  }
 }
 
 // --- Texts inside their panels -------------------------------------------------------------------
@@ -129,26 +134,21 @@ void FindOutsideBox(const PanelView& box, std::vector<std::string>& faults) {
   }
 }
 
-}  // namespace
-
-std::vector<std::string> Overprints(const TextPanel& panel) {
-  const StandingText text = StandingTextOf(panel);
+std::vector<std::string> OverprintsOf(const StandingText& text) {
   std::vector<std::string> faults;
   for (const Glyph& rest : text.cutAt)
     faults.push_back("of a word that was printed over there still stands " +
                      Quoted(WordOf(text.glyphs, rest)) + Place(rest.row, rest.col));
-  // Only glyphs of near rows can meet.  Overlaps of one row are told as one.
-  std::map<long, std::vector<const Glyph*>> rows;
+  // Most rows have no ink at a glyph's height.  Overlaps of one row are told as one.
+  std::map<long, InkRow> rows;
   std::map<long, OverlappedRow> overlapped;
   for (const Glyph& glyph : text.glyphs) {
-    const long row = std::lround(glyph.row);
-    for (long near = row - 2; near <= row + 2; ++near) {
-      const auto found = rows.find(near);
-      if (found == rows.end()) continue;
-      for (const Glyph* earlier : found->second)
-        if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
-    }
-    rows[row].push_back(&glyph);
+    for (const auto& [near, inked] : rows)
+      if (inked.Meets(glyph.ink))
+        for (const Glyph* earlier : inked.glyphs)
+          if (Overlap(earlier->ink, glyph.ink))
+            overlapped[std::lround(glyph.row)].Add(*earlier, glyph);
+    rows[std::lround(glyph.row)].Add(glyph);
   }
   for (const auto& [row, overlap] : overlapped)
     faults.push_back(Quoted(overlap.later) + " over " + Quoted(overlap.earlier) +
@@ -156,10 +156,16 @@ std::vector<std::string> Overprints(const TextPanel& panel) {
   return faults;
 }
 
+}  // namespace
+
+std::vector<std::string> Overprints(const TextPanel& panel) {
+  return OverprintsOf(StandingTextOf(panel));
+}
+
 std::vector<std::string> LayoutFaults(LessonWindow& window) {
-  std::vector<std::string> faults = Overprints(window.lessonText);
+  const StandingText text = StandingTextOf(window.lessonText);
+  std::vector<std::string> faults = OverprintsOf(text);
   FindOutsideGrid(window.lessonText, faults);
-  std::vector<PanelView> boxes;  // over the lesson panel
   for (const PanelView& view : course::ShownPanels(window)) {
     if (view.kind == PanelKind::Lesson) continue;
     if (view.text != nullptr) {
@@ -169,10 +175,9 @@ std::vector<std::string> LayoutFaults(LessonWindow& window) {
     }
     if (view.kind == PanelKind::Cell) continue;  // lies in its table
     FindOutsidePanel(window, view, faults);
-    FindTextUnder(window.lessonText, view, faults);
-    boxes.push_back(view);
+    FindTextUnder(text, window.pnlLesson, view, faults);
   }
-  FindBoxesOverEachOther(boxes, faults);
+  for (std::string& fault : OverlappingBoxes(window)) faults.push_back(std::move(fault));
   return faults;
 }
 

@@ -3,6 +3,7 @@
 #include "display/lesson_window.h"
 #include "engine/navigation.h"
 #include "lesson_check/pages/entry.h"
+#include "platform/events.h"
 #include "session/session.h"
 
 namespace lesson_check {
@@ -29,6 +30,7 @@ bool EndsBeforeResults(int entry) {
 }  // namespace
 
 PageReader::PageReader(WindowLook look) {
+  if (look == WindowLook::Hidden) paintingOff_.emplace();
   course::LoadLessonWindow();
   if (look == WindowLook::Hidden) frmPR->form.Hide();
 }
@@ -44,6 +46,7 @@ void PageReader::Read(course::LessonScript& lesson, int entry, int seed,
   look_ = std::move(look);
   WantEntry(entry, seed);
   lesson.Run();
+  platform::PumpPaintEvents();  // what the run has left in the toolkit's queue
   if (EndsBeforeResults(entry)) look_();
 }
 

@@ -4,15 +4,16 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "engine/lesson_script.h"
 #include "lesson_check/pages/stop_catcher.h"
+#include "platform/painting.h"
 
 namespace lesson_check {
 
-// Hidden: the surfaces are drawn and can be read all the same; painting them on a screen would cost
-// half the time.
+// Hidden: the texts can be read, the surfaces are never painted, which would cost most of the time.
 enum class WindowLook { Hidden, Shown };
 
 class PageReader : public StopCatcher {
@@ -28,6 +29,7 @@ class PageReader : public StopCatcher {
   platform::Answer AtMessage(const platform::Message& message) override;
 
  private:
+  std::optional<platform::PaintingOff> paintingOff_;
   std::function<void()> look_;
 };
 

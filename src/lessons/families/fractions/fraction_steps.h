@@ -1,0 +1,52 @@
+// What the lessons on fractions share: common denominators by prime factors, the lines in which a
+// fraction is renamed, choices with built-up fractions, and strips cut into equal parts.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/problem.h"
+#include "mathkit/fraction.h"
+#include "mathkit/random_stream.h"
+#include "platform/geometry.h"
+
+namespace course::fractions {
+
+// Prime factors of n in ascending order, with repetition; n from 2 on, its primes up to 97.
+std::vector<int> PrimeFactorsOf(int n);
+// "2.2.3", with multiplication dots.
+std::string ProductText(const std::vector<int>& factors);
+int LeastCommonDenominator(const Fraction& a, const Fraction& b);
+
+// "15/36", as it stands, and "-15/36".
+std::string OverText(int num, int den);
+// "5/12 + 7/18"; a negative second fraction stands in parentheses.
+std::string SumText(const std::string& first, const std::string& second);
+// "5/12 = 5.3/12.3 = 15/36", the factor in yellow.  den is a multiple of f.den.
+std::string RenamedLine(const Fraction& f, int den);
+int RenamedNumerator(const Fraction& f, int den);
+
+// A wrong answer and the mistake that leads to it.
+struct FractionMistake {
+  std::string name;
+  int num;
+  int den;
+};
+// Five shuffled choices, the right one first, written as mixed numbers.  A mistake that gives no
+// positive number, or the value of another choice, is passed over; random neighbours of the right
+// answer over the denominator den fill what stays free.
+void FillFractionChoices(Problem& problem, const Fraction& right,
+                         const std::vector<FractionMistake>& mistakes, int den,
+                         RandomStream& random);
+// Three answer boxes in a row, high enough for a built-up fraction, from the row on.
+void SetFractionBoxes(double row);
+
+// A strip over wd columns from (row, col), one row high, cut into equal parts.  The first parts
+// are filled with one colour, the next ones with another.
+struct StripFill {
+  int parts;
+  platform::Colour colour;
+};
+void DrawStrip(double row, double col, double wd, int parts, const std::vector<StripFill>& fills);
+
+}  // namespace course::fractions

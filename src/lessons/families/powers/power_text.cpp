@@ -1,0 +1,44 @@
+#include "lessons/families/powers/power_text.h"
+
+#include <algorithm>
+
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course::powers {
+
+std::string PowerText(const Power& power) {
+  return power.base + ExponentText(power.exponent);
+}
+
+std::string JoinedByDots(const std::vector<std::string>& factors) {
+  std::string product;
+  for (const std::string& factor : factors) {
+    if (!product.empty()) product += tutor::Dot;
+    product += factor;
+  }
+  return product;
+}
+
+std::string WrittenOut(const Power& power) {
+  return JoinedByDots(
+      std::vector<std::string>(static_cast<std::size_t>(power.exponent), power.base));
+}
+
+std::string ProductText(int number, std::vector<Power> powers) {
+  std::ranges::sort(powers, {}, &Power::base);
+  std::string text = CoefText(number);
+  for (const Power& power : powers) text += PowerText(power);
+  return text;
+}
+
+std::string DrawOtherLetter(RandomStream& random, std::string_view alphabet,
+                            const std::string& taken) {
+  std::string letter;
+  do {
+    letter = random.OneOf(alphabet);
+  } while (letter == taken);
+  return letter;
+}
+
+}  // namespace course::powers
