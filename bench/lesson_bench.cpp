@@ -1,5 +1,7 @@
 // What each lesson costs: a drawn problem with its choices, and the pages of its teaching screens,
 // its problem and its explanation.
+#include "lesson_bench.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -88,8 +90,9 @@ void PagesOf(benchmark::State& state, const std::string& title, int entry) {
   session = Session{};
 }
 
-// One benchmark a lesson and kind of run, under the lesson's title.
-bool RegisterLessons() {
+}  // namespace
+
+void RegisterLessonBenchmarks() {
   for (const std::string_view each : LessonTitles()) {
     const std::string title(each);
     const std::string name = ToUtf8(title);
@@ -102,9 +105,4 @@ bool RegisterLessons() {
     pages("ProblemPage/", mode::SameProblem);
     pages("ExplanationPages/", mode::Explanation);
   }
-  return true;
 }
-
-[[maybe_unused]] const bool registered = RegisterLessons();
-
-}  // namespace

@@ -75,10 +75,6 @@ void KeepUnderWhite(platform::Surface& target, const platform::Surface& before,
 
 }  // namespace
 
-platform::PixelPoint GalleryImageSize(int image) {
-  return platform::PictureExtent(PicGallery(image, "GalleryImageSize").picture);
-}
-
 std::unique_ptr<platform::Surface> GalleryImage(int image) {
   const char* picture = PicGallery(image, "GalleryImage").picture;
   const platform::PixelPoint size = platform::PictureExtent(picture);

@@ -30,8 +30,6 @@ void picGalleryImagePrepare(int slot, int image, double row, double col,
                             ImageBorder border = ImageBorder::Keep);
 void picGalleryImageShow(int slot);
 void picGalleryImageHide(int slot);
-// The picture's size in pixels.
-platform::PixelPoint GalleryImageSize(int image);
 // The picture itself, on white.
 std::unique_ptr<platform::Surface> GalleryImage(int image);
 

@@ -117,6 +117,11 @@ std::string ExpandMacros(const std::string& s) {
   return expanded;
 }
 
+bool IsColourLetter(char letter) {
+  return std::string_view("bcgkmrwyz").find(static_cast<char>(letter | 0x20)) !=
+         std::string_view::npos;
+}
+
 std::vector<Segment> CutAtColours(const std::string& s, platform::Colour current) {
   std::vector<Segment> segments{{current, ""}};
   std::size_t i = 0;

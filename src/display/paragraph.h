@@ -23,6 +23,9 @@ struct Segment {
 // program.
 std::vector<Segment> CutAtColours(const std::string& s, platform::Colour current);
 
+// The letters of the colour codes, in either case.
+bool IsColourLetter(char letter);
+
 // What a paragraph is printed on.
 struct ParagraphTarget {
   platform::Colour current;  // the surface's text colour

@@ -49,8 +49,8 @@ struct Problem {
 // Boxes of a kind: 4 or 5.
 int ChoiceCountOf(int kind);
 bool HasNoneOfTheAbove(int kind);
-// Name of the mistake that leads to a choice 1 to 5; none for the right one and "None of the above",
-// whatever its slot holds.
+// Name of the mistake that leads to a choice 1 to 5; none for the right one and "None of the
+// above", whatever its slot holds.
 std::string MistakeOf(const Problem& problem, int choice);
 // Text of a choice 1 to 5 as the student reads it, "None of the above" included.
 std::string ChoiceText(const Problem& problem, int choice);

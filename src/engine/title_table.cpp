@@ -15,12 +15,16 @@ std::size_t PlaceInCourse(std::string_view title) {
   }();
   const auto place = std::ranges::find(keys, UpperCase(std::string(title)));
   if (place == keys.end())
-    platform::Stop("InCourseOrder: the catalogue has no lesson \"" + std::string(title) + "\"");
+    platform::Stop("TitleTable: the catalogue has no lesson \"" + std::string(title) + "\"");
   return static_cast<std::size_t>(place - keys.begin());
 }
 
 void StopAtRepeatedTitle(std::string_view title) {
-  platform::Stop("InCourseOrder: \"" + std::string(title) + "\" stands twice");
+  platform::Stop("TitleTable: \"" + std::string(title) + "\" stands twice");
+}
+
+void StopAtLateTitle(std::string_view title) {
+  platform::Stop("TitleTable: \"" + std::string(title) + "\" comes after the table was read");
 }
 
 }  // namespace course

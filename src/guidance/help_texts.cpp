@@ -67,8 +67,10 @@ std::string RecordsText() {
          "test), the date, how many problems were tried, and how many were correct.\n\n"
          "THE DIAGNOSTICS MENU shows the results of diagnostic tests, with an analysis of "
          "skills and a plan of study for each student.\n\n"
-         "On a network the teacher manages names and records from a program of the teacher's "
-         "own.";
+         "ON A NETWORK students also choose their class, and type their password if they have one. "
+         " Names, records and results are then managed with the program roster-tool, which comes "
+         "with the course: it makes the lists of names, and shows and erases what the students "
+         "did.";
 }
 
 }  // namespace course

@@ -14,22 +14,17 @@ namespace {
 // CONTINUE is pressed.
 void MeaningOfParentheses() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(\cParentheses\z show which part of an expression is worked out first.)");
+  Say(R"(\cParentheses\z show which part of an expression is worked out first.)");
   PageEnd();
-  isPrint();
-  WordWrap("A number in front of them multiplies what they hold:");
-  isPrint("  2(3 + 4) = 2" + tutor::Dot + "7 = 14");
+  Say("A number in front of them multiplies what they hold:");
+  Show("2(3 + 4) = 2 " + tutor::Times + " 7 = 14");
   PageEnd();
-  isPrint();
-  WordWrap(R"(Without parentheses it multiplies \yonly the first number\z:)");
-  isPrint("  2" + tutor::Dot + "3 + 4 = 6 + 4 = 10");
+  Say(R"(Without parentheses it multiplies \yonly the first number\z:)");
+  Show("2 " + tutor::Times + " 3 + 4 = 6 + 4 = 10");
   PageEnd();
-  isPrint();
-  WordWrap("What is the value of 5(1 + 2)?");
+  Say(Text("What is the value of {}?", "5(1 + 2)"));
   PageEnd();
-  isPrint();
-  WordWrap("The sum is 3, and 5 times 3 is 15.");
+  Say("The sum is 3, and 5 times 3 is 15.");
   PageEnd();
 }
 
@@ -71,20 +66,19 @@ void BlankLesson::DrawProblem(RandomStream& random) {
   } while (first_ == factor_ || first_ == second_);  // with 2, two of the mistakes can agree
 
   problem.question = {"What is the value of " + Expression() + "?"};
-  problem.kind = choice_kind::FourShuffled;
-  problem.Right(1, NumStr(factor_ * Sum()));
-  problem.Wrong(2, "multiplies the first number only", NumStr(factor_ * first_ + second_));
-  problem.Wrong(3, "adds the number in front", NumStr(factor_ + Sum()));
-  problem.Wrong(4, "multiplies all three numbers", NumStr(factor_ * first_ * second_));
+  Choices choices(problem, choice_kind::FourShuffled, NumStr);
+  choices.Right(factor_ * Sum());
+  choices.Wrong("multiplies the first number only", factor_ * first_ + second_);
+  choices.Wrong("adds the number in front", factor_ + Sum());
+  choices.Wrong("multiplies all three numbers", factor_ * first_ * second_);
 }
 
 // --- Problem page ------------------------------------------------------------
 
 // The banner stands on rows 2 and 3 already.
 void BlankLesson::ShowProblem() {
-  Locate(6, 1);
-  for (const std::string& line : problem.question) isPrint(line);
-  picAnswerSetParameters(2, 10, 1, 21, 0, 16, 50, 27);
+  SayAt(5, problem.question[0]);
+  ShowAnswersInTwoColumns(problem);
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -92,19 +86,15 @@ void BlankLesson::ShowProblem() {
 // Explains this problem with its own numbers, a step a page, and ends at the right choice.
 void BlankLesson::ExplainProblem() {
   ProblemBanner();
-  Locate(5, 1);
-  WordWrap("We want the value of " + Expression() + ".");
+  SayAt(5, Text("We want the value of {}.", Expression()));
   PageEnd();
-  isPrint();
-  WordWrap(R"(The parentheses tell us to \yadd first\z:)");
-  isPrint("  " + NumStr(first_) + " + " + NumStr(second_) + " = " + NumStr(Sum()));
+  Say(R"(The parentheses tell us to \yadd first\z:)");
+  Show(Text("{} + {} = {}", first_, second_, Sum()));
   PageEnd();
-  isPrint();
-  WordWrap(R"(The number in front \ymultiplies\z the sum:)");
-  isPrint("  " + NumStr(factor_) + tutor::Dot + NumStr(Sum()) + " = " + problem.choices[1].text);
+  Say(R"(The number in front \ymultiplies\z the sum:)");
+  Show(Text("{} {} {} = {}", factor_, tutor::Times, Sum(), RightText(problem)));
   PageEnd();
-  isPrint();
-  isPrint(Expression() + " = " + problem.choices[1].text);
+  Conclude(problem);
   PageEnd();
 }
 

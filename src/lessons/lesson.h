@@ -1,6 +1,6 @@
 // All that a lesson's file includes, beside the families (lessons/families/) that it draws from:
 // what stands on the screen, the contract of a script, numbers and their texts, and the vocabulary
-// of pages.  It is read once for all lessons.
+// of pages.
 #pragma once
 
 #include <algorithm>
@@ -30,14 +30,18 @@
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/distinct_choices.h"
+#include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/lesson_script.h"
 #include "engine/page.h"
 #include "engine/rules_and_hints.h"
+#include "lessons/page/answer_boxes.h"
+#include "lessons/page/boxes.h"
 #include "lessons/page/page_lines.h"
 #include "lessons/page/paper_box.h"
+#include "lessons/page/say.h"
+#include "lessons/page/show.h"
+#include "lessons/page/slides.h"
 #include "lessons/registry.h"
 #include "mathkit/expressions.h"
 #include "mathkit/fraction.h"

@@ -5,33 +5,25 @@
 namespace course {
 namespace {
 
-using LessonRows = std::vector<TitledRow<LessonMaker>>;
-
-// Filled before main begins; put in order when the first lesson is asked for.
-LessonRows& Registered() {
-  static LessonRows rows;
-  return rows;
-}
-
-const LessonRows& Lessons() {
-  static const LessonRows rows = InCourseOrder(Registered());
-  return rows;
+TitleTable<LessonMaker>& Lessons() {
+  static TitleTable<LessonMaker> lessons;
+  return lessons;
 }
 
 }  // namespace
 
 void RegisterLesson(std::string_view title, LessonMaker make) {
-  Registered().push_back({title, make});
+  Lessons().Add(title, make);
 }
 
 std::unique_ptr<LessonScript> MakeLesson(std::string_view title) {
-  const auto* row = FindTitle(Lessons(), title);
+  const auto* row = Lessons().Find(title);
   return row == nullptr ? nullptr : row->value(std::string(row->title));
 }
 
 std::vector<std::string_view> LessonTitles() {
   std::vector<std::string_view> titles;
-  for (const auto& row : Lessons()) titles.push_back(row.title);
+  for (const auto& row : Lessons().Rows()) titles.push_back(row.title);
   return titles;
 }
 

@@ -131,12 +131,4 @@ std::string ExponentText(int n) {
   return n == 1 ? "" : "^" + std::to_string(n) + "^";
 }
 
-std::string PointInserted(const std::string& digits, int places) {
-  if (places <= 0) return digits;
-  const std::size_t decimals = static_cast<std::size_t>(places);
-  if (digits.size() <= decimals) return "." + std::string(decimals - digits.size(), '0') + digits;
-  std::string result = digits;
-  return result.insert(digits.size() - decimals, ".");
-}
-
 }  // namespace course

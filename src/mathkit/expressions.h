@@ -35,8 +35,5 @@ std::string MoneyText(double x);
 std::string PluralSuffix(double n);
 // "^n^", an exponent in an expression; "" for 1.
 std::string ExponentText(int n);
-// Digits with a point so many places from their right end: "125" with 2 is "1.25", "8" with 2
-// ".08". Without places, no point.
-std::string PointInserted(const std::string& digits, int places);
 
 }  // namespace course

@@ -23,11 +23,6 @@ double RoundToMultiple(double x, double step) {
   return std::floor(x / step + kHalfAndABit) * step;
 }
 
-[[noreturn]] void StopAtSlot(const char* routine, std::string_view table, int i) {
-  platform::Stop(std::string(routine) + ": there is no slot " + std::to_string(i) + " in \"" +
-                 std::string(table) + "\"");
-}
-
 }  // namespace
 
 int PrimeAt(int i) {
@@ -120,19 +115,6 @@ std::string DropLastChars(const std::string& s, int n) {
   if (n <= 0) return s;
   const std::size_t dropped = static_cast<std::size_t>(n);
   return dropped >= s.size() ? std::string() : s.substr(0, s.size() - dropped);
-}
-
-int TableNumber(std::string_view table, int i) {
-  constexpr int kSlotWidth = 3;
-  if (i < 1 || i > static_cast<int>(table.size()) / kSlotWidth) StopAtSlot("TableNumber", table, i);
-  const std::string_view slot =
-      table.substr(static_cast<std::size_t>(i - 1) * kSlotWidth, kSlotWidth);
-  return std::atoi(std::string(slot).c_str());
-}
-
-int TableCode(std::string_view table, int i) {
-  if (i < 1 || i > static_cast<int>(table.size())) StopAtSlot("TableCode", table, i);
-  return static_cast<unsigned char>(table[static_cast<std::size_t>(i) - 1]);
 }
 
 int IntOf(double x) {

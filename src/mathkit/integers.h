@@ -37,12 +37,6 @@ double SmallerOf(double a, double b);  // b when they are equal
 // s without its last n characters; empty when it has no more than these.
 std::string DropLastChars(const std::string& s, int n);
 
-// Slot i, from 1, of a table string of numbers, three characters each: "  5 12123" holds 5, 12 and
-// 123.
-int TableNumber(std::string_view table, int i);
-// Character i, from 1, of a table string as a number 0 to 255: often the slot of a second table.
-int TableCode(std::string_view table, int i);
-
 // Floor, as whole number: IntOf(-2.9) is -3.  Beyond 32 bits it stops the program.
 int IntOf(double x);
 // -1, 0 or 1.

@@ -125,10 +125,6 @@ std::string Control::AccessibleText() const {
   return FromText(impl_->widget->accessibleDescription());
 }
 
-void Control::SetToolTip(const std::string& text) {
-  impl_->widget->setToolTip(ToText(text));
-}
-
 void Control::SetFont(const std::string& face, double points, bool bold, bool italic) {
   impl_->widget->setFont(ToFont(face, points, bold, italic));
 }

@@ -47,7 +47,6 @@ class Control {
   void SetAccessibleText(const std::string& text);
   std::string AccessibleName() const;
   std::string AccessibleText() const;
-  void SetToolTip(const std::string& text);
   // The face in points, "MS Sans Serif" 10 when not set.
   void SetFont(const std::string& face, double points, bool bold = false, bool italic = false);
   void SetColours(Colour fore, Colour back);

@@ -4,7 +4,6 @@
 #include <cctype>
 #include <cerrno>
 #include <cstring>
-#include <optional>
 #include <string_view>
 
 #include "platform/file_calls.h"
@@ -154,6 +153,13 @@ bool WriteReplacement(const std::string& path, const std::string& bytes, const F
 }
 
 }  // namespace
+
+std::optional<std::string> PathOnDisk(const std::string& path) {
+  const Place place = PlaceOf(path);
+  const std::optional<std::string> name = NameOnDisk(place);
+  if (!name) return std::nullopt;
+  return place.folder + *name;
+}
 
 RecordFile::RecordFile(const std::string& path, int recordLength, Access access, Sharing sharing)
     : recordLength_(recordLength) {

@@ -8,6 +8,7 @@
 // that nobody who may write to a shared folder turns a write aside.
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -29,6 +30,10 @@ enum class Sharing {
   Shared,     // all but exclusive ones, which are kept out until this one is closed
   Plain,      // all: kept out by an exclusive one, keeps out nobody
 };
+
+// The file, or the link to one, that an open of this path takes in whatever spelling; none when it
+// is missing.  Throws FileError.
+std::optional<std::string> PathOnDisk(const std::string& path);
 
 // One open file; the end of its life closes it and lets others in.  All members but the destructor
 // throw FileError.

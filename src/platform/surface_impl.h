@@ -19,8 +19,8 @@ inline Colour ToColour(QRgb rgb) {
 }
 
 struct Surface::Impl {
-  QImage image;  // Format_RGB32, device pixel ratio 1
-  QRect dirty;   // drawn on since the last Refresh; empty when nothing was
+  QImage image;        // Format_RGB32, device pixel ratio 1
+  QRect dirty;         // drawn on since the last Refresh; empty when nothing was
   bool paints = true;  // see platform/painting.h
   bool scaled = false;
   QRectF scale;  // user coordinates of the surface: upper left corner, signed width and height

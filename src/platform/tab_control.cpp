@@ -36,8 +36,4 @@ int TabControl::PageCount() const {
   return static_cast<int>(pages_.size());
 }
 
-std::string TabControl::PageCaption(int page) const {
-  return FromText(WidgetOf<QTabWidget>(*this).tabText(page));
-}
-
 }  // namespace platform

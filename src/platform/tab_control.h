@@ -21,7 +21,6 @@ class TabControl final : public Control {
   int Page() const;
   void SetPage(int page);
   int PageCount() const;
-  std::string PageCaption(int page) const;
 
  private:
   std::vector<std::unique_ptr<Frame>> pages_;

@@ -56,23 +56,6 @@ void TakeKind(ExpandedRecord& record) {
   }
 }
 
-void CheckBounds(const ExpandedRecord& record) {
-  if (record.unit <= kMaxUnits && record.lesson <= kMaxLessons) return;
-  platform::Stop("RecordTitle: unit " + std::to_string(record.unit) + ", lesson " +
-                 std::to_string(record.lesson) + " is not in the catalogue");
-}
-
-const char* ActivityName(RecordKind kind) {
-  switch (kind) {
-    case RecordKind::LessonTest:
-      return "Lesson Test";
-    case RecordKind::UnitTest:
-      return "Unit Test";
-    default:
-      return "Practice";
-  }
-}
-
 // At least so many characters, the number at the right end.
 std::string AtRight(int number, std::size_t width) {
   const std::string digits = std::to_string(number);
@@ -142,6 +125,17 @@ ExpandedRecord ExpandRecord(std::string_view record, std::string_view name) {
   return expanded;
 }
 
+const char* ActivityName(RecordKind kind) {
+  switch (kind) {
+    case RecordKind::LessonTest:
+      return "Lesson Test";
+    case RecordKind::UnitTest:
+      return "Unit Test";
+    default:
+      return "Practice";
+  }
+}
+
 std::string CourseTitleFromCode(std::string_view code) {
   for (const Course& course : kCourses)
     if (course.code == code) return course.title;
@@ -160,10 +154,16 @@ std::string PracticeGrade(int attempted, int percent) {
   return percent >= 70 ? "C" : "D";
 }
 
+bool HasTitle(const ExpandedRecord& record) {
+  return !HasTests(record.code) || (record.unit <= kMaxUnits && record.lesson <= kMaxLessons);
+}
+
 std::string RecordTitle(const ExpandedRecord& record, UnitTitles unitTitles) {
   if (!HasTests(record.code))
     return record.unit == kMixedPractice ? "Test...various prob types" : "";
-  CheckBounds(record);
+  if (!HasTitle(record))
+    platform::Stop("RecordTitle: unit " + std::to_string(record.unit) + ", lesson " +
+                   std::to_string(record.lesson) + " is not in the catalogue");
   if (record.kind != RecordKind::UnitTest)
     return session.gLessonShortTitle[record.unit][record.lesson];
   return "Unit " + std::to_string(record.unit) + ": " +

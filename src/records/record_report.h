@@ -27,6 +27,9 @@ int StudentOfRecord(std::string_view record);
 // A record of 25 characters or an entry of the session, which begins like one.
 ExpandedRecord ExpandRecord(std::string_view record, std::string_view name);
 
+// "Practice", "Lesson Test" or "Unit Test".
+const char* ActivityName(RecordKind kind);
+
 // The printed title of a course of the series, "" for an unknown code.
 std::string CourseTitleFromCode(std::string_view code);
 
@@ -37,6 +40,8 @@ std::string PracticeGrade(int attempted, int percent);
 
 // Where the title of a unit test's unit comes from: the full views have no titles of units.
 enum class UnitTitles { None, Catalogue };
+// Whether the catalogue has a place for unit and lesson, or the course has no catalogue here.
+bool HasTitle(const ExpandedRecord& record);
 // Lessons by their short titles.  A unit or lesson beyond the catalogue's bounds stops the program.
 std::string RecordTitle(const ExpandedRecord& record, UnitTitles unitTitles);
 

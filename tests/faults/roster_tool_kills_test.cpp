@@ -1,5 +1,7 @@
 // The roster tool dies, or the disk fails, at every single file operation: each roster file holds
 // the old rosters or the new ones, results stay, and the next run completes the work.
+#include <sys/stat.h>
+
 #include <sstream>
 
 #include "records/record_text.h"
@@ -17,11 +19,12 @@ const std::string kOldClass = Padded("Old class", 30) + "1 ";
 const std::string kNewClass = Padded("New class", 30) + "2 ";
 const std::string kOldStudent = Padded("Ada", 21) + "1 1 " + std::string(6, ' ');
 const std::string kNewStudent = Padded("Bob", 21) + "1 2 " + std::string(6, ' ');
-const std::string kResults = "C202010115260101005005001";
+const std::string kResults = "C201010115260101005005001";
 
 class RosterToolKills : public RecordsTest {
  protected:
   void PutOld() {
+    chmod(folder.Path().c_str(), 02770);  // a folder that is shared
     folder.Put("CLASSES.DAT", kOldClass);
     folder.Put("STUDENTS.DAT", kOldStudent);
     folder.Put("RECORDS.DAT", kResults);

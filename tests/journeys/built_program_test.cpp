@@ -14,8 +14,8 @@ namespace course::testing {
 namespace {
 
 // A first user enters her name and logs in, looks at all forms that other rooms hand to the menu,
-// does a lesson test with its results, practises, and is logged out by the machine.  No press may do
-// harm when it is repeated: a second one on the tab of the test that runs would ask a question.
+// does a lesson test with its results, practises, and is logged out by the machine.  No press may
+// do harm when it is repeated: a second one on the tab of the test that runs would ask a question.
 constexpr const char* kFirstVisit = R"(press Command1 until cmdOK
 press cmdOK until cmdStudent(1)
 press cmdStudent(1) until txtName

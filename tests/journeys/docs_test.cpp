@@ -132,13 +132,37 @@ TEST_F(DocsTest, TheGalleryRefusesANumberThatItDoesNotHold) {
   ShowGallery({});
 }
 
+std::string Repeated(const std::string& text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
 TEST_F(DocsTest, TheChartAndTheLayoutUtilityOpenFromTheMenuOfTopics) {
   user.At("frmDocs").Click("cmdCharacters");
   user.At("frmTutorCharsDisplay").Click("cmdClose");
   user.At("frmDocs").Click("cmdLayout");
+  // What cannot be printed stays in its box, and the next try is as good as ever.
+  const std::vector<std::string> bad = {"x^2",
+                                        "x^\\r2^",
+                                        "a\\q b",
+                                        "a`2",
+                                        std::string(47, 'x'),
+                                        "a^" + std::string(46, ' ') + "^",
+                                        std::string(46, '\xD8'),
+                                        Repeated("\\ra", 20),
+                                        Repeated("a^2^ ", 20)};
+  user.At("frmGeoUtility").Do("type what cannot be printed", [&bad] {
+    for (const std::string& text : bad) {
+      The<platform::TextBox>("txtStatement").SetText(text);
+      The<platform::Button>("cmdAdd").Click();
+      EXPECT_EQ(The<platform::TextBox>("txtStatement").Text(), text);
+    }
+  });
+  for (std::size_t i = 0; i < bad.size(); ++i) user.Answer(platform::Answer::Ok);
   user.At("frmGeoUtility").Do("add statements until the panel is full", [] {
     for (int i = 1; i <= 12; ++i) {
-      The<platform::TextBox>("txtStatement").SetText("AB = CD");
+      The<platform::TextBox>("txtStatement").SetText("AB^2^ = \\rCD\\z");
       The<platform::TextBox>("txtReason").SetText("given");
       The<platform::Button>("cmdAdd").Click();
     }

@@ -55,7 +55,7 @@ TEST_P(EveryLesson, DrawsTeachesShowsAndExplainsWithoutFault) {
   CheckHabits(report, make_()->ChoicesAreLaidDown());
   Pardon(ReadNotYet(std::string(std::getenv("COURSE_SOURCE_DIR")) +
                     "/tests/lessons/not_yet_brought_over.txt"),
-         course::ToUtf8(make_()->Title()), report);
+         course::ToUtf8(make_()->Title()), true, report);
   EXPECT_EQ(FaultsOf(GetParam(), report), "");
 }
 

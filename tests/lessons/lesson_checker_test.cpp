@@ -1,8 +1,11 @@
 // The checker must find what it is there for: each test hands it a lesson, a problem or a page with
 // one fault.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 #include "display/grid.h"
 #include "display/lesson_window.h"
@@ -11,6 +14,7 @@
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/page.h"
+#include "lesson_check/check_state.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/not_yet.h"
 #include "lesson_check/pages/page_check.h"
@@ -18,10 +22,12 @@
 #include "lesson_check/pages/page_style.h"
 #include "lesson_check/problem_check.h"
 #include "lesson_check/workers.h"
+#include "lessons/registry.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
 #include "session/session.h"
+#include "support/scratch_folder.h"
 
 namespace lesson_check {
 namespace {
@@ -189,6 +195,44 @@ TEST_F(LessonCheckTest, AReportSurvivesItsWayThroughAPipe) {
   EXPECT_EQ(read.Text(), report.Text());
   EXPECT_EQ(read.findings.at(0).fault, "a fault: \"x\" and more");
   EXPECT_EQ(read.tally.mistakes.at("a name with blanks").derived, 2);
+}
+
+TEST_F(LessonCheckTest, UnpaintedPagesReadAsPaintedOnes) {
+  const auto lesson = course::MakeLesson("Solving Systems by Graphing");
+  const auto read = [&](WindowLook look) {
+    PageReader reader(look);
+    std::vector<std::vector<std::string>> pages;
+    reader.Read(*lesson, course::mode::Explanation, 17, [&] {
+      const PageText page = ReadPage(*course::frmPR);
+      pages.push_back(page.lines);
+      pages.push_back(LayoutFaults(*course::frmPR));
+    });
+    return pages;
+  };
+  const auto painted = read(WindowLook::Shown);
+  EXPECT_GT(painted.size(), 20u);
+  EXPECT_EQ(read(WindowLook::Hidden), painted);
+}
+
+TEST(CheckStateTest, APieceOnceDoneIsKeptAndAStopLosesTheUnfinishedOneOnly) {
+  const course::testing::ScratchFolder folder;
+  const std::string path = folder.Path() + "check.state";
+  Report report;
+  report.problems = 8192;
+  report.Add(5, "a fault");
+  {
+    CheckState state(path);
+    EXPECT_EQ(state.Find("A#0-8191"), nullptr);
+    state.Keep("A#0-8191", report);
+    state.Keep("A#8192-16383", report);
+  }
+  std::filesystem::resize_file(path, std::filesystem::file_size(path) - 3);
+  const CheckState state(path);
+  EXPECT_EQ(state.Find("A#8192-16383"), nullptr);
+  ASSERT_NE(state.Find("A#0-8191"), nullptr);
+  EXPECT_EQ(state.Find("A#0-8191")->Text(), report.Text());
+  std::ofstream(path) << "check of another program\nA#0-8191\n3\n1 2";
+  EXPECT_EQ(CheckState(path).Find("A#0-8191"), nullptr);
 }
 
 TEST(WorkersTest, SharesAreAddedUp) {
@@ -409,9 +453,9 @@ TEST(NotYet, KnownFaultsArePardonedUntilTheyAreGone) {
   report.Add(7, "\"2\" is not right");
   const NotYet notYet = {{"A Lesson", {"red on blue", "an exclamation mark"}}};
   Report other = Report::FromText(report.Text());
-  Pardon(notYet, "Another Lesson", other);
+  Pardon(notYet, "Another Lesson", true, other);
   EXPECT_EQ(other.faults, 21);
-  Pardon(notYet, "A Lesson", report);
+  Pardon(notYet, "A Lesson", true, report);
   EXPECT_EQ(report.faults, 2);
   ASSERT_EQ(report.findings.size(), 2u);
   EXPECT_EQ(report.findings[0].fault, "\"2\" is not right");

@@ -11,27 +11,36 @@
 namespace course::testing {
 namespace {
 
-using Rows = std::vector<TitledRow<int>>;
-
-class RegistryTest : public CourseTest {};
+class RegistryTest : public CourseTest {
+ protected:
+  // Each title with its place in the list.
+  static TitleTable<int> TableOf(const std::vector<std::string_view>& titles) {
+    TitleTable<int> table;
+    int place = 0;
+    for (const std::string_view title : titles) table.Add(title, ++place);
+    return table;
+  }
+};
 
 TEST_F(RegistryTest, RowsStandInTheOrderOfTheCourse) {
-  const Rows rows = InCourseOrder(Rows{{kBlankLesson, 4},
-                                       {"Adding Fractions", 3},
-                                       {"SIMPLE INEQUALITIES", 2},
-                                       {"Order of Operations", 1}});
-  for (std::size_t i = 0; i < rows.size(); ++i) EXPECT_EQ(rows[i].value, static_cast<int>(i) + 1);
-  EXPECT_EQ(FindTitle(rows, "adding fractions")->value, 3);
-  EXPECT_EQ(FindTitle(rows, "Adding Fractions "), nullptr);
+  auto table =
+      TableOf({kBlankLesson, "Adding Fractions", "SIMPLE INEQUALITIES", "Order of Operations"});
+  int place = 4;
+  for (const auto& row : table.Rows()) EXPECT_EQ(row.value, place--) << row.title;
+  EXPECT_EQ(table.Find("adding fractions")->value, 2);
+  EXPECT_EQ(table.Find("Adding Fractions "), nullptr);
 }
 
 TEST_F(RegistryTest, ARowTooManyStops) {
-  ExpectStop("InCourseOrder: \"ORDER OF OPERATIONS\" stands twice", [] {
-    InCourseOrder(Rows{{"ORDER OF OPERATIONS", 1}, {"Addition", 2}, {"ORDER OF OPERATIONS", 3}});
-  });
-  ExpectStop("InCourseOrder: the catalogue has no lesson \"Order of Operation\"", [] {
-    InCourseOrder(Rows{{"Order of Operation", 1}});
-  });
+  auto twice = TableOf({"ORDER OF OPERATIONS", "Addition", "Order of Operations"});
+  ExpectStop("TitleTable: \"O", [&] { twice.Rows(); });
+  auto unknown = TableOf({"Order of Operation"});
+  ExpectStop("TitleTable: the catalogue has no lesson \"Order of Operation\"",
+             [&] { unknown.Rows(); });
+  auto late = TableOf({"Addition"});
+  late.Rows();
+  ExpectStop("TitleTable: \"Multiplication\" comes after the table was read",
+             [&] { late.Add("Multiplication", 2); });
 }
 
 TEST_F(RegistryTest, LessonsHaveTheScreensThatTheCatalogueTells) {

@@ -135,16 +135,12 @@ TEST(MoneyTextTest, CentsAreFilledAndNeverCut) {
   EXPECT_EQ(MoneyText(0), "$0.00");
 }
 
-TEST(SmallTextsTest, PluralsExponentsAndPoints) {
+TEST(SmallTextsTest, PluralsAndExponents) {
   EXPECT_EQ(PluralSuffix(1), "");
   EXPECT_EQ(PluralSuffix(0), "s");
   EXPECT_EQ(PluralSuffix(2), "s");
   EXPECT_EQ("x" + ExponentText(2) + "y" + ExponentText(1), "x^2^y");
   EXPECT_EQ(ExponentText(0) + ExponentText(-12), "^0^^-12^");
-  EXPECT_EQ(PointInserted("125", 2), "1.25");
-  EXPECT_EQ(PointInserted("125", 3), ".125");
-  EXPECT_EQ(PointInserted("8", 2), ".08");
-  EXPECT_EQ(PointInserted("125", 0), "125");
 }
 
 TEST(ToUtf8Test, TheCoursesCharactersBecomeLetters) {

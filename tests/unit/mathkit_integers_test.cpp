@@ -107,14 +107,7 @@ TEST_F(IntegersTest, WholePartsAndSigns) {
   EXPECT_EQ(SmallerOf(2, 5), 2);
 }
 
-TEST_F(IntegersTest, TablesInStrings) {
-  EXPECT_EQ(TableNumber("  5 12123", 1), 5);
-  EXPECT_EQ(TableNumber("  5 12123", 3), 123);
-  EXPECT_EQ(TableNumber(" -7  0", 1), -7);
-  EXPECT_EQ(TableCode("A\xFF", 1), 65);
-  EXPECT_EQ(TableCode("A\xFF", 2), 255);
-  ExpectStop("TableNumber: there is no slot 3 in \"  5 12\"", [] { TableNumber("  5 12", 3); });
-  ExpectStop("TableCode: there is no slot 0 in \"A\"", [] { TableCode("A", 0); });
+TEST_F(IntegersTest, DropLastCharsKeepsTheFirst) {
   EXPECT_EQ(DropLastChars("12.50", 3), "12");
   EXPECT_EQ(DropLastChars("12", 3), "");
   EXPECT_EQ(DropLastChars("12", 0), "12");

@@ -61,7 +61,7 @@ TEST_F(ImagesTest, ABoxTakesItsPicturesSizeAndKeepsItsBorder) {
   EXPECT_LE(box.PixelHeight(), 10 * gCellHeight);
   EXPECT_FALSE(box.Visible());
   picGalleryImagePrepare(1, gallery::InequalityFlip, 6, 2);
-  EXPECT_EQ(box.PixelHeight(), GalleryImageSize(gallery::InequalityFlip).y);
+  EXPECT_EQ(box.PixelHeight(), GalleryImage(gallery::InequalityFlip)->PixelHeight());
   EXPECT_TRUE(box.Border());
   picGalleryImagePrepare(1, gallery::InequalityFlip, 6, 2, NOBORDER);
   EXPECT_FALSE(box.Border());
@@ -79,7 +79,8 @@ TEST_F(ImagesTest, WhiteIsTransparentAndTheScreenComesBack) {
   RestorepnlLesson();  // nothing was shown: nothing happens
   Locate(4, 5);
   isPrint("====");
-  const platform::PixelPoint size = GalleryImageSize(gallery::CheckMark);
+  const auto image = GalleryImage(gallery::CheckMark);
+  const platform::PixelPoint size = {image->PixelWidth(), image->PixelHeight()};
   const PixelPicture before = PictureOf(Panel(), 64, 30, 100, 80);
   const PixelPicture underCorner = PictureOf(Panel(), 80, 68, 7, 12);
   ASSERT_TRUE(HasInk(Panel(), 80, 68, 87, 80, colour::Blue));

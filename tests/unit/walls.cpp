@@ -362,6 +362,23 @@ Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compi
   return complaints;
 }
 
+Complaints RoomsNotDescribed(const Files& files) {
+  std::set<std::string> rooms;
+  std::string description;
+  for (const SourceFile& file : files) {
+    if (file.path == "ARCHITECTURE.md") description = file.text;
+    const std::size_t end = file.path.find('/', 4);
+    if (file.path.starts_with("src/") && end != std::string::npos)
+      rooms.insert(file.path.substr(4, end - 4));
+  }
+  Complaints complaints;
+  for (const std::string& room : rooms)
+    for (const std::string& mention : {"   " + room + "/  ", "- `" + room + "/`: "})
+      if (description.find(mention) == std::string::npos)
+        complaints.push_back("ARCHITECTURE.md: \"" + mention + "\" is missing");
+  return complaints;
+}
+
 Files ReadTree(const std::filesystem::path& root) {
   namespace fs = std::filesystem;
   Files files;

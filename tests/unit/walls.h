@@ -39,6 +39,8 @@ Complaints ToolkitOutsidePlatform(const Files& files);
 Complaints MachineOutsidePlatform(const Files& files);
 // Sources that are not among the compiled ones, and headers that no compiled source includes.
 Complaints LeftOutOfBuild(const Files& files, const std::set<std::string>& compiled);
+// Folders of src/ that ARCHITECTURE.md leaves out of its picture or of its list of rooms.
+Complaints RoomsNotDescribed(const Files& files);
 
 // All text files of the tree but those of builds and of the version control.
 Files ReadTree(const std::filesystem::path& root);

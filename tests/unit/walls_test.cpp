@@ -55,6 +55,9 @@ TEST(WallsTest, TestsMakeFoldersOfTheirOwn) {
       EXPECT_EQ(code.find(shared), std::string::npos) << file.path << ": " << shared;
   }
 }
+TEST(WallsTest, EveryRoomIsDescribed) {
+  EXPECT_EQ(Lines(RoomsNotDescribed(Tree())), "");
+}
 
 TEST(WallsTest, EveryFileIsInTheBuild) {
   const std::set<std::string> compiled = CompiledSources("compile_commands.json", Root());
@@ -168,6 +171,14 @@ TEST(WallChecksTest, ForgottenFilesAreFound) {
   EXPECT_EQ(LeftOutOfBuild({hook}, {}).size(), 1u);
   EXPECT_EQ(LeftOutOfBuild({hook, {"scripts/a.sh", "c++ scripts/hook.cpp\n"}}, {}), Complaints{});
   EXPECT_EQ(LeftOutOfBuild(files, {"src/engine/a.cpp", "bench/b_bench.cpp"}).size(), 3u);
+}
+
+TEST(WallChecksTest, RoomsLeftOutAreFound) {
+  const Files files = {{"ARCHITECTURE.md", "floor 1   a/  x\n   b/  y\n- `a/`: z\n"},
+                       {"src/a/a.h", ""},
+                       {"src/b/deep/b.h", ""},
+                       {"src/main.cpp", ""}};
+  EXPECT_EQ(RoomsNotDescribed(files), Complaints{"ARCHITECTURE.md: \"- `b/`: \" is missing"});
 }
 
 }  // namespace

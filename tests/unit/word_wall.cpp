@@ -34,13 +34,6 @@ const std::vector<Pointer>& Pointers() {
         // tools of a workplace
         {"orktree", R"(\b[w]orktrees?\b)"},
         {"ssistant", R"(\b[a]ssistants?\b)"},
-        {"agent", R"(\b([s]ub-?|[a]i )agents?\b)"},
-        {"laude", R"(\b[c]laude\b)"},
-        {"nthropic", R"(\b[a]nthropic\b)"},
-        {"gp", R"(\b(chat)?-?[g]pt\b)"},
-        {"opilot", R"(\b[c]opilot\b)"},
-        {"lm", R"(\b[l]lms?\b)"},
-        {"anguage model", R"(\b[l]anguage models?\b)"},
         {"uthored-by", R"(\bco-[a]uthored-by\b)"},
     };
     std::vector<Pointer> made;

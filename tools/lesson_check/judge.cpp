@@ -5,23 +5,19 @@
 namespace lesson_check {
 namespace {
 
-using JudgeRows = std::vector<course::TitledRow<Judge>>;
-
-// Filled before main begins; put in order when the first judge is asked for.
-JudgeRows& Registered() {
-  static JudgeRows rows;
-  return rows;
+course::TitleTable<Judge>& Judges() {
+  static course::TitleTable<Judge> judges;
+  return judges;
 }
 
 }  // namespace
 
 JudgeRegistration::JudgeRegistration(Judge judge, std::initializer_list<std::string_view> titles) {
-  for (const std::string_view title : titles) Registered().push_back({title, judge});
+  for (const std::string_view title : titles) Judges().Add(title, judge);
 }
 
 Judge JudgeOf(std::string_view title) {
-  static const JudgeRows judges = course::InCourseOrder(Registered());
-  const auto* row = course::FindTitle(judges, title);
+  const auto* row = Judges().Find(title);
   return row == nullptr ? nullptr : row->value;
 }
 

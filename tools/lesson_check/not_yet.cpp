@@ -17,11 +17,11 @@ NotYet ReadNotYet(const std::string& path) {
   return notYet;
 }
 
-void Pardon(const NotYet& notYet, const std::string& title, Report& report) {
+void Pardon(const NotYet& notYet, const std::string& title, bool withPages, Report& report) {
   const auto listed = notYet.find(title);
   if (listed == notYet.end()) return;
   for (const std::string& known : listed->second)
-    if (report.Forget(known) == 0)
+    if (report.Forget(known) == 0 && withPages)
       report.Add(kNoSeed,
                  "is listed as not yet brought over for \"" + known + "\", and has no such fault");
 }

@@ -18,7 +18,7 @@ using NotYet = std::map<std::string, std::set<std::string>>;
 NotYet ReadNotYet(const std::string& path);
 
 // Takes the findings that are listed for the title out of the report, and adds one for each listed
-// fault that the lesson does not have.
-void Pardon(const NotYet& notYet, const std::string& title, Report& report);
+// fault that the lesson does not have, which only a check of problems and pages can tell.
+void Pardon(const NotYet& notYet, const std::string& title, bool withPages, Report& report);
 
 }  // namespace lesson_check

@@ -8,11 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "lesson_check/check_state.h"
 #include "lesson_check/judge.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/not_yet.h"
 #include "lesson_check/workers.h"
-#include "lesson_lab/check_state.h"
 #include "lesson_lab/commands.h"
 #include "lesson_lab/tally.h"
 #include "lessons/registry.h"
@@ -101,8 +101,8 @@ void PrintReport(const std::string& title, const Report& report, double seconds)
 // The seeds in pieces that a stop loses at most one of.
 constexpr int kPiece = 8192;
 
-Report CheckPiece(const CheckRequest& request, const std::string& title, CheckState& state,
-                  const std::function<void(long)>& progress) {
+Report CheckPiece(const CheckRequest& request, const std::string& title,
+                  lesson_check::CheckState& state, const std::function<void(long)>& progress) {
   const std::string piece = course::ToUtf8(title) + "#" + std::to_string(request.first) + "-" +
                             std::to_string(request.last) + (request.drawOnly ? " drawn" : "");
   if (const Report* done = state.Find(piece)) return *done;
@@ -116,7 +116,8 @@ Report CheckPiece(const CheckRequest& request, const std::string& title, CheckSt
   return report;
 }
 
-Report CheckSeeds(const CheckRequest& request, const std::string& title, CheckState& state) {
+Report CheckSeeds(const CheckRequest& request, const std::string& title,
+                  lesson_check::CheckState& state) {
   const int stages = request.drawOnly ? 1 : 2;
   ProgressBar bar(course::ToUtf8(title), (request.last - request.first + 1L) * stages);
   Report report;
@@ -170,14 +171,14 @@ class CourseCheck {
     const auto lesson = FindLesson(title);
     lesson_check::CheckHabits(report, lesson->ChoicesAreLaidDown());
     if (AllSeeds(request_)) recipes_.Add(title, report);
-    lesson_check::Pardon(notYet_, course::ToUtf8(lesson->Title()), report);
+    lesson_check::Pardon(notYet_, course::ToUtf8(lesson->Title()), !request_.drawOnly, report);
     PrintReport(title, report, Now() - start);
     return report.faults;
   }
 
  private:
   const CheckRequest& request_;
-  CheckState state_;
+  lesson_check::CheckState state_;
   lesson_check::NotYet notYet_;
   RecipeCheck recipes_;
 };

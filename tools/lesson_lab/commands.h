@@ -50,7 +50,8 @@ int WriteBook(const std::string& title, const std::string& folder);
 // copy of the repository.
 int WriteNewLesson(const std::string& title, const std::string& root);
 
-// Every form of the course in a folder, as NAME.png.
+// Every form of the course in a folder, as NAME.png.  What stops the program ends this one, too,
+// and is told with the name of the form.
 int WriteForms(const std::string& folder);
 
 // The script of a title; nullptr, and a message, when there is none.

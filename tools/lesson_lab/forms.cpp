@@ -1,7 +1,3 @@
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-
 #include "lesson_lab/commands.h"
 #include "lesson_lab/form_camera.h"
 #include "lesson_lab/form_gallery.h"
@@ -20,29 +16,26 @@ void ShowMenu(FormCamera& camera) {
   course::frmMenu.reset();
 }
 
-}  // namespace
-
-int WriteForms(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  std::string records = std::filesystem::temp_directory_path() / "lesson-lab-XXXXXX";
-  if (mkdtemp(records.data()) == nullptr) {
-    std::fprintf(stderr, "Cannot make the folder \"%s\".\n", records.c_str());
-    return 1;
-  }
-  FormCamera camera(folder);
+void TakeAll(FormCamera& camera, const std::string& folder, const std::string& records) {
+  camera.nextName = "menu";
   ShowMenu(camera);
-  for (const GalleryForm& form : ModalForms(records + "/")) {
+  for (const GalleryForm& form : ModalForms(records)) {
     camera.nextName = form.name;
     form.Show();
   }
-  for (const GalleryDocument& paper : Documents(records + "/")) {
+  for (const GalleryDocument& paper : Documents(records)) {
+    camera.nextName = paper.name;
     const auto printer = platform::MakePaperPrinter(folder + "/" + paper.name + ".pdf");
     camera.written = platform::PrintOut(*printer, paper.document) && camera.written;
   }
-  std::filesystem::remove_all(records, error);
-  if (!camera.written) std::fprintf(stderr, "Cannot write the forms to \"%s\".\n", folder.c_str());
-  return camera.written ? 0 : 1;
+}
+
+}  // namespace
+
+int WriteForms(const std::string& folder) {
+  return TakePictures(folder, [&folder](FormCamera& camera, const std::string& records) {
+    TakeAll(camera, folder, records);
+  });
 }
 
 }  // namespace lesson_lab

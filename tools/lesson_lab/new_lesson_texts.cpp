@@ -9,13 +9,7 @@ namespace {
 constexpr const char* kLesson = R"text(// The student can ...
 //
 // What the student can do afterwards, in two or three lines.
-#include "display/grid.h"
-#include "display/word_wrap.h"
-#include "engine/answers.h"
-#include "engine/header.h"
-#include "engine/page.h"
-#include "lessons/registry.h"
-#include "mathkit/expressions.h"
+#include "lessons/lesson.h"
 
 namespace course {
 namespace {
@@ -133,7 +127,7 @@ std::string LessonText(const NewLesson& lesson) {
   std::string names;
   for (int i = 1; i <= lesson.screens; ++i) {
     screens += Replaced(kScreen, "{NUMBER}", std::to_string(i));
-    names += (i == 1 ? "Screen" : ", Screen") + std::to_string(i);
+    names += (i == 1 ? "{Screen" : ", {Screen") + std::to_string(i) + "}";
   }
   return Filled(Replaced(Replaced(kLesson, "{SCREENS}", screens), "{SCREEN_NAMES}", names), lesson);
 }

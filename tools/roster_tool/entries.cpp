@@ -7,6 +7,7 @@
 
 #include "records/name_order.h"
 #include "records/rosters.h"
+#include "roster_tool/terminal_text.h"
 
 namespace roster_tool {
 namespace {
@@ -14,10 +15,6 @@ namespace {
 using course::NameInUpperCase;
 
 constexpr std::size_t kPasswordLength = 6;
-
-std::string Quoted(const std::string& text) {
-  return "\"" + text + "\"";
-}
 
 bool IsPercent(const std::string& text) {
   if (text.size() > 3 || text.find_first_not_of("0123456789") != std::string::npos) return false;
@@ -53,9 +50,9 @@ void CheckPassword(const StudentEntry& student, Complaints& complaints) {
 }
 
 // The first number from 1 on that is in neither set; 0 when there is none.
-int FreeNumber(const std::set<int>& taken, const std::set<int>& old, int most) {
+int FreeNumber(const std::set<int>& taken, const std::set<int>& before, int most) {
   for (int number = 1; number <= most; ++number)
-    if (!taken.contains(number) && !old.contains(number)) return number;
+    if (!taken.contains(number) && !before.contains(number)) return number;
   return 0;
 }
 
@@ -78,11 +75,11 @@ void CheckClassesTogether(const std::vector<ClassEntry>& classes, Complaints& co
   Seen<int> numbers;
   for (const ClassEntry& entry : classes) {
     const std::string other = names.Earlier(NameInUpperCase(entry.name), entry.place);
+    const std::string same = entry.number == 0 ? "" : numbers.Earlier(entry.number, entry.place);
     if (!other.empty())
       complaints.push_back(entry.place + ": another class has the name " + Quoted(entry.name) +
                            ": " + other);
-    const std::string same = entry.number == 0 ? "" : numbers.Earlier(entry.number, entry.place);
-    if (!same.empty())
+    else if (!same.empty())
       complaints.push_back(entry.place + ": another class has the number " +
                            std::to_string(entry.number) + ": " + same);
   }
@@ -94,23 +91,25 @@ std::string ClassOf(const StudentEntry& student) {
                                    : NameInUpperCase(student.className);
 }
 
+// At most one complaint a student: a line that is there twice has name and number of the first.
 void CheckStudentsTogether(const std::vector<StudentEntry>& students, Complaints& complaints) {
   Seen<std::pair<std::string, std::string>> names;
   Seen<std::pair<std::string, int>> numbers;
   std::map<std::string, int> sizes;
   for (const StudentEntry& student : students) {
     const std::string inClass = ClassOf(student);
+    const int size = ++sizes[inClass];
     const std::string other =
         names.Earlier({inClass, NameInUpperCase(student.name)}, student.place);
+    const std::string same =
+        student.number == 0 ? "" : numbers.Earlier({inClass, student.number}, student.place);
     if (!other.empty())
       complaints.push_back(student.place + ": another student of the class has the name " +
                            Quoted(student.name) + ": " + other);
-    const std::string same =
-        student.number == 0 ? "" : numbers.Earlier({inClass, student.number}, student.place);
-    if (!same.empty())
+    else if (!same.empty())
       complaints.push_back(student.place + ": another student of the class has the number " +
                            std::to_string(student.number) + ": " + same);
-    if (++sizes[inClass] == kMostStudents + 1)
+    else if (size == kMostStudents + 1)
       complaints.push_back(student.place + ": a class has place for " +
                            std::to_string(kMostStudents) + " students");
   }
@@ -126,9 +125,12 @@ const ClassEntry* FindClass(const Rosters& rosters, const StudentEntry& student)
   return nullptr;
 }
 
+// A class that is missing is told where its first student stands.
 void CheckClassesOfStudents(const Rosters& rosters, Complaints& complaints) {
+  std::set<std::string> missing;
   for (const StudentEntry& student : rosters.students) {
-    if (FindClass(rosters, student) != nullptr) continue;
+    if (FindClass(rosters, student) != nullptr || !missing.insert(ClassOf(student)).second)
+      continue;
     const std::string name = student.className.empty()
                                  ? "with the number " + std::to_string(student.classNumber)
                                  : Quoted(student.className);
@@ -136,16 +138,16 @@ void CheckClassesOfStudents(const Rosters& rosters, Complaints& complaints) {
   }
 }
 
-// One kind of entry, within one class or over all: known numbers stay, the others are found.
+// One kind of entry, within one class or over all: known numbers stay, the others are found.  The
+// numbers from before the rosters are in nobody's hands.
 template <class Entry>
 Complaints Number(const std::vector<Entry*>& entries, const std::vector<const Entry*>& old,
-                  int most) {
+                  std::set<int> before, int most) {
   std::set<int> taken;
-  std::set<int> oldNumbers;
   std::map<std::string, int> oldNumberOf;
   for (const Entry* entry : entries) taken.insert(entry->number);
   for (const Entry* entry : old) {
-    oldNumbers.insert(entry->number);
+    before.insert(entry->number);
     oldNumberOf[NameInUpperCase(entry->name)] = entry->number;
   }
   for (Entry* entry : entries) {
@@ -157,7 +159,7 @@ Complaints Number(const std::vector<Entry*>& entries, const std::vector<const En
   Complaints complaints;
   for (Entry* entry : entries) {
     if (entry->number != 0) continue;
-    entry->number = FreeNumber(taken, oldNumbers, most);
+    entry->number = FreeNumber(taken, before, most);
     taken.insert(entry->number);
     if (entry->number == 0)
       complaints.push_back(entry->place + ": no number of 1 to " + std::to_string(most) +
@@ -188,16 +190,19 @@ Complaints CheckTogether(const Rosters& rosters) {
   Complaints complaints;
   CheckClassesTogether(rosters.classes, complaints);
   CheckStudentsTogether(rosters.students, complaints);
-  CheckClassesOfStudents(rosters, complaints);
+  if (!rosters.classes.empty()) CheckClassesOfStudents(rosters, complaints);
   return complaints;
 }
 
-Complaints AssignNumbers(Rosters& rosters, const Rosters& old) {
+Complaints AssignNumbers(Rosters& rosters, const Rosters& old, const UsedNumbers& used) {
   std::vector<ClassEntry*> classes;
   std::vector<const ClassEntry*> oldClasses;
   for (ClassEntry& entry : rosters.classes) classes.push_back(&entry);
   for (const ClassEntry& entry : old.classes) oldClasses.push_back(&entry);
-  Complaints complaints = Number(classes, oldClasses, kMostClasses);
+  std::set<int> usedClasses;
+  for (const auto& [classNumber, students] : used) usedClasses.insert(classNumber);
+  Complaints complaints = Number(classes, oldClasses, usedClasses, kMostClasses);
+  if (!complaints.empty()) return complaints;
 
   std::map<int, std::vector<StudentEntry*>> students;
   for (StudentEntry& student : rosters.students) {
@@ -208,7 +213,9 @@ Complaints AssignNumbers(Rosters& rosters, const Rosters& old) {
     std::vector<const StudentEntry*> before;
     for (const StudentEntry& student : old.students)
       if (student.classNumber == classNumber) before.push_back(&student);
-    const Complaints more = Number(entries, before, kMostStudents);
+    const auto found = used.find(classNumber);
+    const Complaints more = Number(
+        entries, before, found == used.end() ? std::set<int>() : found->second, kMostStudents);
     complaints.insert(complaints.end(), more.begin(), more.end());
   }
   return complaints;

@@ -2,6 +2,8 @@
 // what is wrong with them.
 #pragma once
 
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -42,8 +44,12 @@ Complaints CheckFields(const Rosters& rosters);
 // a class.  Only for fields that can be kept.
 Complaints CheckTogether(const Rosters& rosters);
 
+// Numbers that stand in records and results: those of classes, and of students within each.
+using UsedNumbers = std::map<int, std::set<int>>;
+
 // Gives every entry without a number one: the number of the same name in the old rosters, else the
-// smallest that neither they nor the new ones use, so that nobody inherits another one's records.
-Complaints AssignNumbers(Rosters& rosters, const Rosters& old);
+// smallest that neither they nor the new ones nor any record use, so that nobody inherits another
+// one's records.
+Complaints AssignNumbers(Rosters& rosters, const Rosters& old, const UsedNumbers& used);
 
 }  // namespace roster_tool

@@ -1,16 +1,11 @@
 #include "roster_tool/installation.h"
 
-#include <cerrno>
-#include <chrono>
-#include <memory>
-#include <optional>
-#include <thread>
-
-#include "platform/record_file.h"
-#include "records/activity_records.h"
-#include "records/diagnostic_file.h"
+#include "platform/program.h"
 #include "records/record_text.h"
 #include "records/rosters.h"
+#include "roster_tool/files.h"
+#include "roster_tool/rights.h"
+#include "roster_tool/terminal_text.h"
 
 namespace roster_tool {
 namespace {
@@ -20,64 +15,10 @@ using course::ParseNumber;
 using course::Trimmed;
 using platform::Access;
 using platform::FileError;
-using platform::RecordFile;
 using platform::Sharing;
-
-struct KindOfFile {
-  const char* name;
-  int recordLength;
-};
-constexpr KindOfFile kClasses = {"CLASSES.DAT", 32};
-constexpr KindOfFile kStudents = {"STUDENTS.DAT", 31};
-constexpr KindOfFile kRecords = {"RECORDS.DAT", course::kActivityRecordLength};
-constexpr KindOfFile kDiagnostics = {"Diag.dat", course::kDiagnosticRecordLength};
 
 constexpr int kPasswordShift = 10;  // codes of a stored password lie that much higher
 constexpr int kNotReadLength = 2;   // of a class record
-
-[[noreturn]] void ThrowNamed(const KindOfFile& kind, const FileError& error) {
-  throw FileError(error.number, std::string(kind.name) + ": " + error.what());
-}
-
-// A workstation holds a file for an instant only.
-std::unique_ptr<RecordFile> Open(const std::string& folder, const KindOfFile& kind, Access access,
-                                 Sharing sharing) {
-  constexpr int kAttempts = 200;
-  constexpr std::chrono::milliseconds kBetween(10);
-  for (int attempt = 1;; ++attempt) {
-    try {
-      return std::make_unique<RecordFile>(folder + "/" + kind.name, kind.recordLength, access,
-                                          sharing);
-    } catch (const FileError& error) {
-      if (error.number != EAGAIN || attempt == kAttempts) ThrowNamed(kind, error);
-      std::this_thread::sleep_for(kBetween);
-    }
-  }
-}
-
-// The bytes of a file; none when it is missing.
-std::optional<std::string> BytesOf(const std::string& folder, const KindOfFile& kind) {
-  try {
-    return Open(folder, kind, Access::Read, Sharing::Shared)->ReadBytes();
-  } catch (const FileError& error) {
-    if (error.number == ENOENT) return std::nullopt;
-    throw;
-  }
-}
-
-// Whole records; what a file's end lacks of one is left out.
-std::vector<std::string> RecordsOf(const std::optional<std::string>& bytes,
-                                   const KindOfFile& kind) {
-  std::vector<std::string> records;
-  const auto length = static_cast<std::size_t>(kind.recordLength);
-  for (std::size_t at = 0; bytes && at + length <= bytes->size(); at += length)
-    records.push_back(bytes->substr(at, length));
-  return records;
-}
-
-std::string PlaceOf(const KindOfFile& kind, std::size_t index) {
-  return std::string(kind.name) + ", record " + std::to_string(index + 1);
-}
 
 std::string Shifted(std::string password, int shift) {
   for (char& c : password) c = static_cast<char>(c + shift);
@@ -130,9 +71,41 @@ void Append(Complaints& complaints, const Complaints& more) {
   complaints.insert(complaints.end(), more.begin(), more.end());
 }
 
-void MakeIfMissing(const std::string& folder, const KindOfFile& kind) {
-  Open(folder, kind, Access::ReadWrite, Sharing::Shared);
-}
+// Writes file after file, and can tell how far it came.
+class Writer {
+ public:
+  explicit Writer(std::string folder) : folder_(std::move(folder)) {}
+
+  void MakeResults(const KindOfFile& kind) {
+    if (MakeIfMissing(kind)) IsNewNow(kind);
+  }
+  // So that it has its rights before it holds anything.
+  void PrepareRoster(const KindOfFile& kind) { MakeIfMissing(kind); }
+  void ReplaceAll(const std::vector<std::pair<KindOfFile, std::vector<std::string>>>& contents) {
+    // All are held before the first is changed.
+    std::vector<std::unique_ptr<platform::RecordFile>> files;
+    for (const auto& [kind, records] : contents)
+      files.push_back(Open(folder_, kind, Access::ReadWrite, Sharing::Exclusive));
+    for (std::size_t i = 0; i < files.size(); ++i) {
+      Replace(*files[i], contents[i].first, contents[i].second);
+      IsNewNow(contents[i].first);
+    }
+  }
+  const std::string& NewFiles() const { return newFiles_; }
+
+ private:
+  bool MakeIfMissing(const KindOfFile& kind) {
+    if (BytesOf(folder_, kind)) return false;
+    Open(folder_, kind, Access::ReadWrite, Sharing::Shared);
+    return true;
+  }
+  void IsNewNow(const KindOfFile& kind) {
+    newFiles_ += (newFiles_.empty() ? "" : ", ") + std::string(kind.name);
+  }
+
+  std::string folder_;
+  std::string newFiles_;  // names
+};
 
 }  // namespace
 
@@ -155,25 +128,50 @@ std::vector<std::string> StudentRecords(const Rosters& rosters) {
 }
 
 Rosters ReadRosters(const std::string& folder) {
-  return RostersFrom(RecordsOf(BytesOf(folder, kClasses), kClasses),
-                     RecordsOf(BytesOf(folder, kStudents), kStudents));
+  return RostersFrom(RecordsIn(folder, kClasses), RecordsIn(folder, kStudents));
 }
 
-Complaints WriteInstallation(const std::string& folder, const Rosters& rosters, bool overwrite) {
-  Complaints complaints;
-  for (const KindOfFile& kind : {kClasses, kStudents})
-    if (!overwrite && !BytesOf(folder, kind).value_or("").empty())
-      complaints.push_back(std::string(kind.name) + " is there already and holds something");
-  if (!complaints.empty()) return complaints;
+UsedNumbers ReadUsedNumbers(const std::string& folder) {
+  UsedNumbers used;
+  for (const KindOfFile& kind : {kRecords, kDiagnostics})
+    for (const std::string& record : RecordsIn(folder, kind))
+      used[ParseNumber(record.substr(2, 2))].insert(ParseNumber(record.substr(4, 2)));
+  return used;
+}
 
-  MakeIfMissing(folder, kRecords);
-  MakeIfMissing(folder, kDiagnostics);
-  // The classes come last: before them nobody can log in.
-  const auto students = Open(folder, kStudents, Access::ReadWrite, Sharing::Exclusive);
-  const auto classes = Open(folder, kClasses, Access::ReadWrite, Sharing::Exclusive);
-  students->ReplaceAll(StudentRecords(rosters));
-  classes->ReplaceAll(ClassRecords(rosters));
-  return {};
+Complaints WhatKeepsFromWriting(const Writing& writing) {
+  Complaints complaints = ForeignLinks(writing.folder);
+  if (!complaints.empty()) return complaints;
+  for (const KindOfFile& kind : {kClasses, kStudents})
+    if (!writing.overwrite && !BytesOf(writing.folder, kind).value_or("").empty())
+      complaints.push_back(std::string(kind.name) +
+                           " is there already and holds something; --overwrite replaces it");
+  if (!complaints.empty()) return complaints;
+  if (!platform::IsWritable(writing.folder))
+    return {ShownPath(writing.folder) + " cannot be written"};
+  for (const KindOfFile& kind : {kClasses, kStudents})
+    if (BytesOf(writing.folder, kind))
+      Open(writing.folder, kind, Access::ReadWrite, Sharing::Exclusive);
+  return WhatKeepsFromGiving(writing.folder, writing.group);
+}
+
+Complaints WriteInstallation(const Writing& writing, const Rosters& rosters) {
+  Writer writer(writing.folder);
+  try {
+    for (const KindOfFile& kind : {kRecords, kDiagnostics}) writer.MakeResults(kind);
+    for (const KindOfFile& kind : {kStudents, kClasses}) writer.PrepareRoster(kind);
+    // Before a password stands there.
+    const Complaints complaints = GiveToGroup(writing.folder, writing.group);
+    // The classes come last: before them nobody can log in.
+    writer.ReplaceAll({{kStudents, StudentRecords(rosters)}, {kClasses, ClassRecords(rosters)}});
+    return complaints;
+  } catch (const FileError& error) {
+    if (writer.NewFiles().empty()) throw;
+    throw FileError(error.number,
+                    std::string(error.what()) +
+                        "\nThe work is half done, and has to be done again; new are " +
+                        writer.NewFiles());
+  }
 }
 
 Inspection InspectInstallation(const std::string& folder) {
@@ -186,9 +184,11 @@ Inspection InspectInstallation(const std::string& folder) {
   found.diagnosticResults =
       CountRecords(BytesOf(folder, kDiagnostics), kDiagnostics, found.complaints);
   const Rosters rosters = RostersFrom(RecordsOf(classes, kClasses), RecordsOf(students, kStudents));
-  Append(found.complaints, CheckFields(rosters));
-  AddMissingNumbers(rosters, found.complaints);
-  Append(found.complaints, CheckTogether(rosters));
+  Complaints fields = CheckFields(rosters);
+  AddMissingNumbers(rosters, fields);
+  Append(found.complaints, fields.empty() ? CheckTogether(rosters) : fields);
+  Append(found.complaints, ForeignLinks(folder));
+  Append(found.complaints, CheckRights(folder));
   return found;
 }
 

@@ -1,69 +1,67 @@
 #include "roster_tool/roster_csv.h"
 
-#include <iconv.h>
 #include <libfccp/csv.h>
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <sstream>
-#include <stdexcept>
+
+#include "roster_tool/terminal_text.h"
 
 namespace roster_tool {
 namespace {
 
 template <unsigned columns>
-using Csv = io::CSVReader<columns, io::trim_chars<' ', '\t'>, io::double_quote_escape<',', '"'>,
+using Csv = io::CSVReader<columns, io::trim_chars<' '>, io::double_quote_escape<',', '"'>,
                           io::throw_on_overflow, io::empty_line_comment>;
 
 constexpr int kUnreadable = -1;
 
 std::string Place(const std::string& fileName, unsigned line) {
-  return fileName + ":" + std::to_string(line);
+  return ShownPath(fileName) + ":" + std::to_string(line);
 }
 
-// The single bytes of the course for a line of UTF-8.  False when a character has none.
-bool ToSingleBytes(std::string& line) {
-  struct Converter {
-    Converter() : handle(iconv_open("ISO-8859-1", "UTF-8")) {
-      if (handle == reinterpret_cast<iconv_t>(-1))
-        throw std::runtime_error("the system cannot convert UTF-8 to ISO-8859-1");
-    }
-    ~Converter() { iconv_close(handle); }
-    iconv_t handle;
-  };
-  static const Converter converter;
-  std::string bytes(line.size(), '\0');
-  char* from = line.data();
-  char* to = bytes.data();
-  std::size_t left = line.size();
-  std::size_t room = bytes.size();
-  iconv(converter.handle, nullptr, nullptr, nullptr, nullptr);
-  if (iconv(converter.handle, &from, &left, &to, &room) == static_cast<std::size_t>(-1))
-    return false;
-  bytes.resize(bytes.size() - room);
-  line = bytes;
-  return true;
+// Tabs and hard blanks, which nobody sees, count as blanks.
+void MakeBlanks(std::string& line) {
+  constexpr char kHardBlank = '\xA0';
+  std::replace(line.begin(), line.end(), '\t', ' ');
+  std::replace(line.begin(), line.end(), kHardBlank, ' ');
 }
 
-bool IsControl(char c) {
-  const int code = static_cast<unsigned char>(c);
-  return (code < 32 && c != '\t') || (code >= 127 && code < 160);
+// The course's single bytes for a line of the file; "" after a complaint.
+std::string ConvertedLine(const std::string& place, std::string line, Complaints& complaints) {
+  if (line.ends_with('\r')) line.pop_back();
+  std::optional<std::string> bytes = Latin1From(line);
+  if (!bytes) {
+    complaints.push_back(place + ": a character that the course cannot show, or no UTF-8 text");
+    return "";
+  }
+  MakeBlanks(*bytes);
+  if (std::any_of(bytes->begin(), bytes->end(), IsControl)) {
+    complaints.push_back(place + ": a control character");
+    return "";
+  }
+  return *bytes;
 }
 
-// The whole text in single bytes, line for line.
+char InLowerCase(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// The whole text in single bytes, line for line; the heading, which is the first line that is not
+// empty, in small letters.
 std::string Converted(const std::string& fileName, const std::string& text,
                       Complaints& complaints) {
   const std::string mark = "\xEF\xBB\xBF";  // that some programs begin UTF-8 with
   std::istringstream lines(text.starts_with(mark) ? text.substr(mark.size()) : text);
   std::string converted;
-  std::string line;
-  for (unsigned number = 1; std::getline(lines, line); ++number) {
-    if (line.ends_with('\r')) line.pop_back();
-    if (!ToSingleBytes(line))
-      complaints.push_back(Place(fileName, number) +
-                           ": a character that the course cannot show, or no UTF-8 text");
-    else if (std::any_of(line.begin(), line.end(), IsControl))
-      complaints.push_back(Place(fileName, number) + ": a control character");
+  std::string raw;
+  bool headingIsDone = false;
+  for (unsigned number = 1; std::getline(lines, raw); ++number) {
+    std::string line = ConvertedLine(Place(fileName, number), raw, complaints);
+    if (!headingIsDone) std::transform(line.begin(), line.end(), line.begin(), InLowerCase);
+    headingIsDone = headingIsDone || line.find_first_not_of(' ') != std::string::npos;
     converted += line + "\n";
   }
   return converted;
@@ -84,6 +82,25 @@ std::string PasswordFrom(std::string field) {
   return field;
 }
 
+// What is wrong with a line or with the heading.
+std::string Reason(const io::error::base& error) {
+  using namespace io::error;
+  const auto* column = dynamic_cast<const with_column_name*>(&error);
+  const std::string name = column == nullptr ? "" : Quoted(column->column_name);
+  if (dynamic_cast<const extra_column_in_header*>(&error)) return "there is no column " + name;
+  if (dynamic_cast<const missing_column_in_header*>(&error))
+    return "the column " + name + " is missing";
+  if (dynamic_cast<const duplicated_column_in_header*>(&error))
+    return "the column " + name + " stands there twice";
+  if (dynamic_cast<const header_missing*>(&error))
+    return "the line with the columns' names is missing";
+  if (dynamic_cast<const too_few_columns*>(&error)) return "there are fewer fields than columns";
+  if (dynamic_cast<const too_many_columns*>(&error)) return "there are more fields than columns";
+  if (dynamic_cast<const escaped_string_not_closed*>(&error)) return "a double quote is not closed";
+  if (dynamic_cast<const line_length_limit_exceeded*>(&error)) return "the line is too long";
+  return "the line cannot be read";
+}
+
 // A line that is no row ends the reading: what follows it may be meant otherwise.
 Complaints Read(const std::string& fileName, const std::string& text,
                 const std::function<void(const std::string& converted)>& read) {
@@ -95,7 +112,7 @@ Complaints Read(const std::string& fileName, const std::string& text,
   } catch (const io::error::base& error) {
     const auto* where = dynamic_cast<const io::error::with_file_line*>(&error);
     const int line = where == nullptr ? 1 : where->file_line;  // else the heading
-    complaints.push_back(Place(fileName, static_cast<unsigned>(line)) + ": " + error.what());
+    complaints.push_back(Place(fileName, static_cast<unsigned>(line)) + ": " + Reason(error));
   }
   return complaints;
 }

@@ -28,7 +28,9 @@ struct Topic {
 // A sample is drawn from this row of the lesson screen on.
 inline constexpr int kSampleRow = 12;
 
-// What prints and draws on the lesson screen.
+// The words with which a page is written.
+std::vector<Topic> PageTopics();
+// What prints and draws on the lesson screen beneath them.
 std::vector<Topic> TextTopics();
 // Figures, motion, and what lies over the lesson screen.
 std::vector<Topic> FigureTopics();

@@ -2,8 +2,6 @@
 #include "display/images.h"
 #include "display/print.h"
 #include "engine/answers.h"
-#include "engine/choice_pass.h"
-#include "engine/distinct_choices.h"
 #include "engine/header.h"
 #include "engine/navigation.h"
 #include "engine/rules_and_hints.h"
@@ -27,12 +25,6 @@ Problem SampleProblem(int kind) {
 Problem FourChoices() {
   return SampleProblem(choice_kind::FourShuffled);
 }
-Problem TwoEqualChoices() {
-  Problem problem = FourChoices();
-  problem.choices[2].text = problem.choices[1].text;
-  return problem;
-}
-using NumberChoices = DistinctChoices<double, decltype(&NumStr)>;
 Problem FourChoicesAndNone() {
   return SampleProblem(choice_kind::FourShuffledAndNone);
 }
@@ -61,19 +53,6 @@ std::vector<Topic> EngineTopics() {
        {DOCS_SAMPLE(Problem problem; problem.Right(1, "7"); problem.Wrong(2, "adds", "9");
                     isPrint(ChoiceText(problem, 1) + ", not " + ChoiceText(problem, 2))),
         DOCS_SAMPLE(isPrint(NumStr(ChoiceCountOf(choice_kind::FourShuffledAndNone)) + " boxes"))}},
-      {"engine/choice_pass.h",
-       "The later of two equal choices is drawn anew, until all differ.",
-       {DOCS_SAMPLE(Problem problem = TwoEqualChoices(); ReplaceRepeatedTexts(
-                        problem, [&](int slot) { problem.Wrong(slot, "filler", "x = 8"); });
-                    isPrint(problem.choices[2].text)),
-        DOCS_SAMPLE(Problem problem = TwoEqualChoices();
-                    isPrint(problem.choices[1].text + ", " + problem.choices[2].text))}},
-      {"engine/distinct_choices.h",
-       "Offers values to the slots that are free; one that a choice has already is not taken.",
-       {DOCS_SAMPLE(Problem problem; NumberChoices choices(problem, 4, &NumStr); choices.Right(5);
-                    choices.Offer("adds", 9); isPrint(problem.choices[2].text)),
-        DOCS_SAMPLE(Problem problem; NumberChoices choices(problem, 1, &NumStr); choices.Right(5);
-                    isPrint(choices.Full() ? "full" : "slots are free"))}},
       {"engine/rules_and_hints.h",
        "A lesson may offer a card of rules beside its practice problems, which the student shows "
        "and hides.",
@@ -99,8 +78,8 @@ std::vector<Topic> EngineTopics() {
 }
 
 std::vector<Topic> DocsTopics() {
-  std::vector<Topic> topics = TextTopics();
-  for (const auto& more : {FigureTopics(), EngineTopics()})
+  std::vector<Topic> topics = PageTopics();
+  for (const auto& more : {TextTopics(), FigureTopics(), EngineTopics()})
     topics.insert(topics.end(), more.begin(), more.end());
   return topics;
 }

@@ -6,6 +6,7 @@
 #include "display/text_panel.h"
 #include "display/word_wrap.h"
 #include "guidance/form_frame.h"
+#include "lessons/docs/typed_text.h"
 #include "platform/dialogs.h"
 #include "platform/picture_box.h"
 #include "platform/text_box.h"
@@ -76,8 +77,8 @@ class GeoUtilityForm {
   void cmdAdd_Click() {
     const std::string line = "Statement #" + std::to_string(count_ + 1) + ": " +
                              txtStatement_.Text() + " - Reason: " + txtReason_.Text();
-    if (!Fits(line)) {
-      platform::MessageBox({.text = "The panel is full.", .title = "Layout Utility"});
+    if (const std::string fault = Fault(line); !fault.empty()) {
+      platform::MessageBox({.text = fault, .title = "Layout Utility"});
       return;
     }
     ++count_;
@@ -87,6 +88,11 @@ class GeoUtilityForm {
     txtStatement_.SetText("");
     txtReason_.SetText("");
     txtStatement_.SetFocus();
+  }
+
+  std::string Fault(const std::string& line) {
+    const std::string fault = FaultOfTyped(line, kColumns);
+    return fault.empty() && !Fits(line) ? "The panel is full." : fault;
   }
 
   bool Fits(const std::string& line) {

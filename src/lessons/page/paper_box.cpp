@@ -5,8 +5,10 @@
 #include "display/comment_box.h"
 #include "display/drawing.h"
 #include "display/exponents.h"
+#include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/paragraph.h"
+#include "display/scoped_value.h"
 
 namespace course::page {
 namespace {
@@ -21,10 +23,13 @@ constexpr double kHeadingCells = 1.8;  // height of a heading
 constexpr platform::Colour kPaper = platform::Rgb(255, 250, 205);
 constexpr platform::Colour kHeadingShadow = platform::Rgb(170, 200, 240);
 
+// Rows of the screen; the last line's letters reach below its cell.
+double HeightOf(double cells) {
+  return (cells * kCellHeight + 2 * kPadding + 3) / gCellHeight;
+}
+
 double Prepare(int box, double row, double width, double headingCells, int lines) {
-  const double cells = headingCells + 1 + kLineStep * (lines - 1);
-  // The last line's letters reach below its cell.
-  const double height = (cells * kCellHeight + 2 * kPadding + 3) / gCellHeight;
+  const double height = HeightOf(headingCells + 1 + kLineStep * (lines - 1));
   picCommentBoxPrepare2(box, row, -1, width, height, kPaper, platform::colour::Black, kSize,
                         kPadding);
   picCommentBoxShow(box);
@@ -58,6 +63,24 @@ double ShowPaperBox(int box, double row, const std::vector<std::string>& lines) 
   int number = 0;
   for (const std::string& line : lines) PrintOnPaper(box, ++number, line);
   return below;
+}
+
+void ShowParagraphOnPaper(int box, double row, double col, double width,
+                          const std::string& paragraph) {
+  const auto prepare = [&](double height) {
+    picCommentBoxPrepare2(box, row, col, width, height, kPaper, platform::colour::Black, kSize,
+                          kPadding);
+  };
+  prepare(1);
+  TextPanel& panel = *frmPR->commentText[static_cast<std::size_t>(box)];
+  {
+    const ScopedValue measure(screenState.gMeasureOnly, 1);
+    picCommentBoxWordWrap(box, paragraph);
+  }
+  panel.UpdateCursorCell();
+  prepare(HeightOf(panel.cursorRow - 1));
+  picCommentBoxWordWrap(box, paragraph);
+  picCommentBoxShow(box);
 }
 
 double ShowRuleBox(int box, double row, double width, const std::string& heading,

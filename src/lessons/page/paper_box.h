@@ -13,6 +13,10 @@ double ShowPaperBox(int box, double row, const std::vector<std::string>& lines);
 // The same with a heading above the lines, which are centred; width in columns of the screen.
 double ShowRuleBox(int box, double row, double width, const std::string& heading,
                    const std::vector<std::string>& lines);
+// A paragraph in a box of so many columns of the screen, as high as it needs; col -1 centres the
+// box.
+void ShowParagraphOnPaper(int box, double row, double col, double width,
+                          const std::string& paragraph);
 // An empty box with room for so many lines of so many characters, and the text of one of them,
 // from 1.
 double ShowEmptyPaperBox(int box, double row, int characters, int lines);

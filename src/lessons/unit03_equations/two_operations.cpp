@@ -44,12 +44,10 @@ void DrawWay(double row, int from, int to, const std::string& operation) {
 
 void ReverseOrder() {
   NewScreen();
-  WrapAt(3, R"(These equations need \yone\z operation:)");
-  isPrint("   x + 4 = 19     3x = 15");
+  Say(R"(These equations need \yone\z operation:)");
+  Show("x + 4 = 19     3x = 15", 4);
   PageEnd();
-  isPrint();
-  WordWrap("In  " + WithoutBreaks("3x + 4 = 19") +
-           R"(  there are \ytwo\z.  This is what was done to x:)");
+  Say(Text(R"(In  {}  there are \ytwo\z.  This is what was done to x:)", "3x + 4 = 19"));
   DrawStation(kThereRow, 0, "x");
   DrawWay(kThereRow, 0, 1, tutor::Dot + " 3");
   DrawStation(kThereRow, 1, "3x");
@@ -57,18 +55,18 @@ void ReverseOrder() {
   DrawStation(kThereRow, 2, "3x + 4");
   PageEnd();
   DrawStation(kBackRow, 2, "19");
-  WrapAt(15, "3x + 4 is 19, and from there we go back to x.  Which operation do we undo first?");
+  SayAt(15, "3x + 4 is 19, and from there we go back to x.  Which operation do we undo first?");
   PageEnd();
   DrawWay(kBackRow, 2, 1, "- 4");
   DrawStation(kBackRow, 1, "15");
-  WrapAt(18, R"(We undo the \ylast\z one first, as shoes come off before socks:  )" +
-                 WithoutBreaks("19 - 4 = 15."));
+  SayAt(18, Text(R"(We undo the \ylast\z one first, as shoes come off before socks:  {})",
+                 "19 - 4 = 15."));
   PageEnd();
   DrawWay(kBackRow, 1, 0, tutor::Divided + " 3");
   DrawStation(kBackRow, 0, "5");
-  WrapAt(20, "Then we undo the first:  " + WithoutBreaks("15 " + tutor::Divided + " 3 = 5."));
+  SayAt(20, Text("Then we undo the first:  {}", "15 " + tutor::Divided + " 3 = 5."));
   PageEnd();
-  WrapAt(22, R"(Operations that undo each other are called \cinverse operations\z.)");
+  Say(R"(Operations that undo each other are called \cinverse operations\z.)");
   PageEnd();
 }
 
@@ -77,7 +75,7 @@ void RowUnderRow() {
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  WrapAt(3, "We solve the same equation on paper.");
+  Say("We solve the same equation on paper.");
   sheet.Write(RowOf(equation), "=");
   OpenWordBox();
   SayAnew(
@@ -112,18 +110,15 @@ void RowUnderRow() {
 
 void DividingFirst() {
   NewScreen();
-  WrapAt(3, "Could we divide  " + WithoutBreaks("3x + 4 = 19") + "  by 3 before we remove the 4?");
+  Say(Text("Could we divide  {}  by 3 before we remove the 4?", "3x + 4 = 19"));
   PageEnd();
-  isPrint();
-  WordWrap(R"(We may, but then \yevery\z term must be divided by 3, and fractions come up:)");
-  Locate(9.5, 10);
-  isPrintStackedText("3x/3 + 4/3  =  19/3");
-  Locate(13, 10);
-  isPrintStackedText(" x + 4/3  =  19/3");
+  Say(R"(We may, but then \yevery\z term must be divided by 3, and fractions come up:)");
+  Show("3x/3 + 4/3  =  19/3", 10);
+  Show(" x + 4/3  =  19/3", 10);
   PageEnd();
-  WrapAt(16, R"(\rThe usual mistake\z is to divide 3x and 19, and to forget the 4.)");
+  Say(R"(\rThe usual mistake\z is to divide 3x and 19, and to forget the 4.)");
   PageEnd();
-  WrapAt(19, R"(It is simpler to remove \yfirst the number\z, \ythen the coefficient\z.)");
+  Say(R"(It is simpler to remove \yfirst the number\z, \ythen the coefficient\z.)");
   PageEnd();
 }
 
@@ -132,20 +127,20 @@ void TryIt() {
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  WrapAt(3, "Now solve this equation yourself:");
+  Say("Now solve this equation yourself:");
   sheet.Write(RowOf(equation), "=");
-  WrapAt(17, "What do we add to both sides?  What do we divide both sides by?");
+  SayAt(17, "What do we add to both sides?  What do we divide both sides by?");
   PageEnd();
   sheet.AddUnder(AddendRow(addition.term, "x"));
   sheet.WriteSum(RowOf(addition.after), "=");
-  WrapAt(19.5, R"(To remove \y-5\z we add \y+5\z.)");
+  SayAt(19.5, R"(To remove \y-5\z we add \y+5\z.)");
   PageEnd();
   sheet.WriteQuotients({"-2x", "12", "-2"}, "=");
   sheet.WriteSolved("x", "=", "-6");
   sheet.MarkSolution();
-  WrapAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
+  SayAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
   PageEnd();
-  WrapAt(22, "Check:  " + WithoutBreaks("-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
+  SayAt(22, Text("Check:  {}", "-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
   PageEnd();
 }
 
@@ -195,10 +190,9 @@ void TwoOperations::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void TwoOperations::ShowProblem() {
-  WrapAt(6, problem.question[0]);
+  SayAt(6, problem.question[0]);
   EquationSheet(9, 9, {RowOf(equation_)}).Write(RowOf(equation_), equation_.relation);
-  picAnswerSetParameters(4, 16.5, 1, 14, 27, 12.5, 50, 27);
-  answerParameters.lastBoxFontSize = 13;  // three boxes a row are narrow
+  ShowAnswersInThreeColumns(problem, {.row = 16.5});
 }
 
 // --- Worked explanation ------------------------------------------------------

@@ -15,51 +15,41 @@ const std::string kRelations[] = {"", tutor::LessOrEqual, tutor::GreaterOrEqual,
 
 void MeaningOfInequality() {
   NewScreen();
-  Locate(3, 1);
-  WordWrap(R"(An \cinequality\z is a statement which shows that two quantities are not equal.  )"
-           R"(If two quantities are not equal, then one must be greater than the other.)");
+  Say(R"(An \cinequality\z is a statement which shows that two quantities are not equal.  If two )"
+      R"(quantities are not equal, then one must be greater than the other.)");
   PageEnd();
-  isPrint();
-  WordWrap(R"(The \csymbol for equality\z is =.)");
-  isPrint("  examples:  6 = 6 and 7-1 = 5+1.");
+  Say(R"(The \csymbol for equality\z is =.)");
+  Show("examples:  6 = 6 and 7-1 = 5+1.");
   PageEnd();
-  isPrint();
-  WordWrap(R"(The \csymbol for inequality\z is )" + tutor::NotEqual + ".");
-  isPrint("  examples:  3 " + tutor::NotEqual + " 5, -6-2 " + tutor::NotEqual + " -5-2.");
+  Say(Text(R"(The \csymbol for inequality\z is {}.)", tutor::NotEqual));
+  Show("examples:  3 " + tutor::NotEqual + " 5, -6-2 " + tutor::NotEqual + " -5-2.");
   PageEnd();
-  isPrint();
-  WordWrap(R"(The \csymbol for less than\z is <.)");
-  isPrint("  examples:  3 < 5, -6 < -4, and -7 < 2.");
+  Say(R"(The \csymbol for less than\z is <.)");
+  Show("examples:  3 < 5, -6 < -4, and -7 < 2.");
   PageEnd();
-  isPrint();
-  WordWrap(R"(The \csymbol for greater than\z is >.)");
-  isPrint("  examples:  5 > 3, -4 > -6, and 2 > -7.");
+  Say(R"(The \csymbol for greater than\z is >.)");
+  Show("examples:  5 > 3, -4 > -6, and 2 > -7.");
   PageEnd();
 }
 
+constexpr TextPlace kMeaning = {.indent = 8, .lastCol = 38};  // under "means"
+
 void FourSymbols() {
   NewScreen();
-  Locate(3, 1);
-  isPrint("Examine the following examples closely.");
+  Say("Examine the following examples closely.");
   PageEnd();
-  isPrint();
-  WordWrap(" x > 6 means x is greater than 6.");
+  Say(" x > 6 means x is greater than 6.");
   PageEnd();
-  isPrint();
-  WordWrapIndentNarrow(" x " + tutor::GreaterOrEqual + " 6 means x is greater than or equal to 6.",
-                       8, 38);
+  Say(Text(" x {} 6 means x is greater than or equal to 6.", tutor::GreaterOrEqual), kMeaning);
   PageEnd();
-  isPrint();
-  WordWrap(" x < 6 means x is less than 6.");
+  Say(" x < 6 means x is less than 6.");
   PageEnd();
-  isPrint();
-  WordWrapIndentNarrow(" x " + tutor::LessOrEqual + " 6 means that x is less than or equal to 6.",
-                       8, 38);
+  Say(Text(" x {} 6 means that x is less than or equal to 6.", tutor::LessOrEqual), kMeaning);
   PageEnd();
-  isPrint();
-  WordWrap("On the number line, x > 6 represents all numbers to the right of 6, while x " +
-           tutor::GreaterOrEqual +
-           R"( 6 represents all numbers to the right of 6 \cand\z 6 itself.)");
+  Say(
+      Text("On the number line, x > 6 represents all numbers to the right of 6, while x {} 6 "
+           R"(represents all numbers to the right of 6 \cand\z 6 itself.)",
+           tutor::GreaterOrEqual));
   PageEnd();
 }
 
@@ -132,17 +122,16 @@ void SimpleInequalities::ShowGraph() {
 
 void SimpleInequalities::ShowProblem() {
   ShowGraph();
-  Locate(9, 1);
-  for (const std::string& line : problem.question) isPrint(line);
-  picAnswerSetParameters(2, 14, 1, 21, 0, 16, 50, 27);
+  SayAt(9, problem.question[0]);
+  AddLine(problem.question[1]);
+  ShowAnswersInTwoColumns(problem, {.row = 14});
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void SimpleInequalities::ExplainProblem() {
   ShowGraph();
-  Locate(6.5, 1);
-  WordWrap("Let's make an inequality for the above graph.");
+  SayAt(6.5, "Let's make an inequality for the above graph.");
   PageEnd();
   ExplainDirection();
   ExplainStart();
@@ -151,39 +140,32 @@ void SimpleInequalities::ExplainProblem() {
 
 void SimpleInequalities::ExplainDirection() {
   const std::string side = PointsRight() ? "right" : "left";
-  Locate(9, 1);
-  WordWrap("We can see that the arrow contains points to the " + side + " of " + Number() + ".");
+  SayAt(9, Text("We can see that the arrow contains points to the {} of {}.", side, Number()));
   PageEnd();
-  isPrint();
-  WordWrap("We know from studying the number line that points to the " + side +
-           " of a given point are " + (PointsRight() ? "greater" : "less") +
-           " than the point.  So the arrow covers points " + (PointsRight() ? "GREATER" : "LESS") +
-           " THAN " + Number() + ".");
+  Say(Text(
+      "We know from studying the number line that points to the {} of a given point are {} than "
+      "the point.  So the arrow covers points {} THAN {}.",
+      side, PointsRight() ? "greater" : "less", PointsRight() ? "GREATER" : "LESS", Number()));
   PageEnd();
 }
 
 void SimpleInequalities::ExplainStart() {
-  isPrint();
-  WordWrap("Does the arrow include " + Number() + "?");
+  Say(Text("Does the arrow include {}?", Number()));
   PageEnd();
-  isPrint();
-  WordWrap(Open() ? "No, because there is an open circle over the number."
-                  : "Yes, because the beginning point is covered.");
+  Say(Open() ? "No, because there is an open circle over the number."
+             : "Yes, because the beginning point is covered.");
   PageEnd();
-  isPrint();
-  WordWrap("The arrow's range includes " + (Open() ? "" : Number() + " and ") + "all numbers " +
-           (PointsRight() ? "greater" : "less") + " than " + Number() + ".");
+  Say(Text("The arrow's range includes {}all numbers {} than {}.",
+           Words{Open() ? "" : Number() + " and "}, PointsRight() ? "greater" : "less", Number()));
   PageEnd();
 }
 
 void SimpleInequalities::WriteAnswer() {
   // The last sentence stands on rows 22 and 23; it slides up to row 9 and wipes the steps away.
-  AnimHere(22, 1, 40, 2, 1, 13, 30, 1);
+  SlideUp(WholeRows(22, 2), 13, Leaving::Nothing, Pace::Brisk);
   PageEnd();
-  Locate(12, 3);
-  isPrint("This is written as:");
-  Locate(14, 17);
-  isPrint("x " + kRelations[problem.correct] + " " + Number());
+  SayAt(12, "This is written as:", {.col = 3});
+  ShowAt(14, RightText(problem), 17);
 }
 
 const LessonRegistration<SimpleInequalities> kRegistration("Simple Inequalities");

@@ -205,24 +205,23 @@ void TheQuadraticFormula::DrawChoices(RandomStream& random) {
   const int under = std::abs(discriminant);
   // Without real roots a student who finds some has lost the minus sign first.
   const std::string lost = real ? "" : "loses the minus sign under the radical, ";
-  problem.kind = choice_kind::FiveShuffled;
-  DistinctChoices<Roots, decltype(&RootsText)> choices(problem, 5, &RootsText);
+  Choices choices(problem, choice_kind::FiveShuffled, RootsText);
   choices.Right(RootsOf(-b, discriminant, 2 * a));
   if (real)
-    choices.Offer("takes the discriminant to be negative", {});
+    choices.Wrong("takes the discriminant to be negative", {});
   else
-    choices.Offer("loses the minus sign under the radical", RootsOf(-b, under, 2 * a));
-  choices.Offer(lost + "keeps the sign of b", RootsOf(b, under, 2 * a));
-  choices.Offer("adds 4ac", RootsOf(-b, b * b + 4 * a * c, 2 * a));
-  choices.Offer(lost + "forgets to divide by 2a", RootsOf(-b, under, 1));
-  choices.Offer(lost + "divides by a", RootsOf(-b, under, a));
-  choices.Offer("leaves out the 4 of 4ac", RootsOf(-b, b * b - a * c, 2 * a));
-  choices.Offer(lost + "divides by 2", RootsOf(-b, under, 2));
-  while (!choices.Full()) {
+    choices.Wrong("loses the minus sign under the radical", RootsOf(-b, under, 2 * a));
+  choices.Wrong(lost + "keeps the sign of b", RootsOf(b, under, 2 * a));
+  choices.Wrong("adds 4ac", RootsOf(-b, b * b + 4 * a * c, 2 * a));
+  choices.Wrong(lost + "forgets to divide by 2a", RootsOf(-b, under, 1));
+  choices.Wrong(lost + "divides by a", RootsOf(-b, under, a));
+  choices.Wrong("leaves out the 4 of 4ac", RootsOf(-b, b * b - a * c, 2 * a));
+  choices.Wrong(lost + "divides by 2", RootsOf(-b, under, 2));
+  choices.Fill([&] {
     const int first = random.Rand(-9, 9);
     const int second = random.Rand(-9, 9);
-    choices.Offer("filler", RootsOf(first + second, (first - second) * (first - second), 2));
-  }
+    return RootsOf(first + second, (first - second) * (first - second), 2);
+  });
 }
 
 // --- Problem page ------------------------------------------------------------

@@ -113,6 +113,10 @@ Reading ReadIntervalFigure(const course::Problem& problem) {
   reading.answer = covered.Text();
   reading.value = [](const std::string& choice) { return SolutionOf(choice).Text(); };
   AddMistakes(problem.figure, reading);
+  for (const FigureItem& item : problem.figure)
+    for (const auto& [name, value] : item.values)
+      if (name == "from" || name == "to")
+        reading.Within("an end on the number line", Rational(value), -7, 7);
   return reading;
 }
 

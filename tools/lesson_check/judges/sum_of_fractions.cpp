@@ -68,7 +68,11 @@ Reading ReadSumOfFractions(const course::Problem& problem) {
   reading.answer = ValueOf(sum).Number().get_str();
   reading.value = [](const std::string& choice) { return NumberIn(choice).get_str(); };
   reading.flaw = FlawOfMixedNumber;
-  AddMistakes(ReadFraction(sum.parts[0]), ReadFraction(sum.parts[1]), reading);
+  const Fraction first = ReadFraction(sum.parts[0]);
+  const Fraction second = ReadFraction(sum.parts[1]);
+  for (const Fraction& fraction : {first, second})
+    reading.Within("a denominator", Rational(fraction.below), 2, 30);
+  AddMistakes(first, second, reading);
   return reading;
 }
 

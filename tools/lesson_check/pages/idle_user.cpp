@@ -10,6 +10,11 @@ namespace lesson_check {
 
 using course::session;
 
+void EndProcess(int status) {
+  std::fflush(nullptr);
+  std::_Exit(status);
+}
+
 IdleUser::IdleUser() {
   platform::InstallUser(this);
   platform::InstallClock(&clock_);
@@ -33,11 +38,11 @@ std::optional<std::string> IdleUser::AtInput(const std::string&) {
 void IdleUser::AtStop(const std::string& message) {
   std::fprintf(stderr, "%s#%d: %s\n", course::ToUtf8(session.gLessonName).c_str(),
                session.gProblemSeed, message.c_str());
-  std::exit(1);
+  EndProcess(1);
 }
 
 void IdleUser::AtEnd() {
-  std::exit(0);
+  EndProcess(0);
 }
 
 }  // namespace lesson_check

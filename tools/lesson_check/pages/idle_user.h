@@ -1,5 +1,5 @@
 // A user who wants nothing, with a clock that stands: the program runs without a person and without
-// waiting. Installed as long as it lives.
+// waiting.
 #pragma once
 
 #include "platform/manual_clock.h"
@@ -7,6 +7,10 @@
 
 namespace lesson_check {
 
+// Ends this program at once: the toolkit is in use further up the stack, and is not taken down.
+[[noreturn]] void EndProcess(int status);
+
+// Installed as long as it lives.
 class IdleUser : public platform::User {
  public:
   IdleUser();

@@ -5,7 +5,7 @@
 
 #include "display/lesson_window.h"
 #include "lesson_check/prose/page_parts.h"
-#include "lesson_check/prose/problem_kinds.h"
+#include "lesson_check/prose/sample_seeds.h"
 #include "lesson_check/report.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
@@ -139,7 +139,7 @@ Prose ReadProse(course::LessonScript& lesson, PageReader& reader, int problems) 
   reader.Read(lesson, mode::Lesson, 0,
               [&] { teaching.TakePage("Screen " + std::to_string(course::session.gScreenNum)); });
   prose.screens = std::move(teaching.screens);
-  for (const int seed : SeedsOfSeveralKinds(lesson, problems))
+  for (const int seed : SampleSeeds(lesson, problems))
     prose.problems.push_back(ReadProblem(lesson, reader, seed));
   return prose;
 }

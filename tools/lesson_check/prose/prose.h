@@ -32,7 +32,7 @@ struct Prose {
   std::string Text() const;
 };
 
-// Problems of several kinds, always the same ones.  Throws StoppedRun.
+// Problems of several shapes, always the same ones.  Throws StoppedRun.
 Prose ReadProse(course::LessonScript& lesson, PageReader& reader, int problems = 3);
 
 }  // namespace lesson_check

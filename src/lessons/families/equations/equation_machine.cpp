@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
@@ -16,9 +16,6 @@ constexpr int kLargestCoefficient = 9;
 constexpr int kLargestNumber = 15;
 constexpr int kLargestFiller = 38;  // no answer is larger
 constexpr double kFillerShare = 0.5;
-constexpr double kNoneShare = 0.2;
-
-const std::string kFiller = "filler";
 
 LinearSide operator+(const LinearSide& a, const LinearSide& b) {
   return {a.coef + b.coef, a.number + b.number};
@@ -43,7 +40,7 @@ class LinearChoices {
   void Set() {
     SetRecipes();
     ReplaceRepeats();
-    if (random_.Rnd() < kNoneShare) HideTheAnswer();
+    HideRightAtTimes(problem_, random_);
   }
 
  private:
@@ -72,12 +69,6 @@ class LinearChoices {
     ReplaceRepeated(
         5, [this](int i, int j) { return problem_.choices[i].text == problem_.choices[j].text; },
         [this](int slot) { Fill(slot); });
-  }
-
-  // The answer goes behind "None of the above".
-  void HideTheAnswer() {
-    std::swap(problem_.choices[1], problem_.choices[5]);
-    problem_.correct = 5;
   }
 
   void Wrong(int slot, const std::string& mistake, const Fraction& value) {

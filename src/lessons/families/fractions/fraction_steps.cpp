@@ -3,9 +3,7 @@
 #include <algorithm>
 
 #include "display/drawing.h"
-#include "display/stacked_text.h"
-#include "engine/answers.h"
-#include "engine/distinct_choices.h"
+#include "engine/choices.h"
 #include "mathkit/expressions.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
@@ -56,18 +54,12 @@ std::string RenamedLine(const Fraction& f, int den) {
 void FillFractionChoices(Problem& problem, const Fraction& right,
                          const std::vector<FractionMistake>& mistakes, int den,
                          RandomStream& random) {
-  problem.kind = choice_kind::FiveShuffled;
-  DistinctChoices<Fraction, decltype(&MixedText)> choices(problem, 5, &MixedText);
+  Choices choices(problem, choice_kind::FiveShuffled, MixedText);
   choices.Right(right);
   for (const FractionMistake& mistake : mistakes)
-    if (mistake.num > 0) choices.Offer(mistake.name, Reduced(mistake.num, mistake.den));
+    if (mistake.num > 0) choices.Wrong(mistake.name, Reduced(mistake.num, mistake.den));
   const int nearest = std::max(1, right.num * (den / right.den) - 9);
-  while (!choices.Full()) choices.Offer("filler", Reduced(random.Rand(nearest, nearest + 18), den));
-}
-
-void SetFractionBoxes(double row) {
-  picAnswerSetParameters(4, row, 1, 14, 27, 12.5, 68, 16, 9);
-  answerParameters.printChoice = picAnswerPrintStackedText;
+  choices.Fill([&] { return Reduced(random.Rand(nearest, nearest + 18), den); });
 }
 
 void DrawStrip(double row, double col, double wd, int parts, const std::vector<StripFill>& fills) {

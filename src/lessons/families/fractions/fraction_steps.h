@@ -38,8 +38,6 @@ struct FractionMistake {
 void FillFractionChoices(Problem& problem, const Fraction& right,
                          const std::vector<FractionMistake>& mistakes, int den,
                          RandomStream& random);
-// Three answer boxes in a row, high enough for a built-up fraction, from the row on.
-void SetFractionBoxes(double row);
 
 // A strip over wd columns from (row, col), one row high, cut into equal parts.  The first parts
 // are filled with one colour, the next ones with another.

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 
 namespace course::stories {
 namespace {
@@ -11,7 +11,6 @@ constexpr int kChoices = 5;
 constexpr int kLargestDenominator = 20;  // of a choice; a stranger fraction gives itself away
 constexpr int kLargestRateShare = 10;    // of a wrong rate to the right one
 constexpr int kLongestTime = 10;         // hours, of a choice; no motion lasts longer
-constexpr double kNoneOfTheAboveShare = 0.2;
 constexpr int kMinutesOfHour = 60;
 
 bool CanBeChoice(const Motion& motion, const Fraction& value) {
@@ -38,7 +37,7 @@ Choice Filler(const Motion& motion, RandomStream& random) {
     const int twentieths = random.Rand(0, 19);
     if (answer.den > 1) value = value + Reduced(twentieths, 20);  // or it stands out
   } while (value.num == 0);
-  return {motion.ValueText(value), "filler"};
+  return {motion.ValueText(value), kFiller};
 }
 
 // Puts the mistakes into the slots from 2 on; returns the first slot that is left.
@@ -109,10 +108,7 @@ void FillChoices(const Motion& motion, Problem& problem, RandomStream& random) {
   ReplaceRepeated(
       kChoices, [&](int i, int j) { return choice(i).text == choice(j).text; },
       [&](int slot) { choice(slot) = Filler(motion, random); });
-  if (random.Rnd() < kNoneOfTheAboveShare) {
-    std::swap(choice(1), choice(kChoices));
-    problem.correct = kChoices;
-  }
+  HideRightAtTimes(problem, random);
 }
 
 }  // namespace course::stories

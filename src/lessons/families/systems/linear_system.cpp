@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "engine/choice_pass.h"
+#include "engine/choices.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 

@@ -1,4 +1,4 @@
-#include "lesson_check/prose/problem_kinds.h"
+#include "lesson_check/prose/sample_seeds.h"
 
 #include <algorithm>
 #include <cctype>
@@ -27,29 +27,31 @@ std::string WithoutValues(const std::string& text) {
   return plain;
 }
 
-}  // namespace
-
-std::string KindOf(const course::Problem& problem) {
-  std::string kind;
-  for (const std::string& line : problem.question) kind += WithoutValues(line) + "\n";
-  for (const course::FigureItem& item : problem.figure) kind += item.shape + "\n";
-  return kind + WithoutValues(course::ChoiceText(problem, problem.correct));
+// Question, figure and right answer without their numbers and letters.  Signs stay: a problem is
+// explained in other words when one differs.
+std::string ShapeOf(const course::Problem& problem) {
+  std::string shape;
+  for (const std::string& line : problem.question) shape += WithoutValues(line) + "\n";
+  for (const course::FigureItem& item : problem.figure) shape += item.shape + "\n";
+  return shape + WithoutValues(course::ChoiceText(problem, problem.correct));
 }
 
-std::vector<int> SeedsOfSeveralKinds(course::LessonScript& lesson, int count) {
+}  // namespace
+
+std::vector<int> SampleSeeds(course::LessonScript& lesson, int count) {
   constexpr int kSample = 200;
   std::map<std::string, std::vector<int>> seedsOf;
   for (int seed = 0; seed < kSample; ++seed)
-    seedsOf[KindOf(lesson.Draw(seed).problem)].push_back(seed);
+    seedsOf[ShapeOf(lesson.Draw(seed).problem)].push_back(seed);
 
-  std::vector<std::vector<int>> kinds;
-  for (auto& [kind, seeds] : seedsOf) kinds.push_back(std::move(seeds));
-  std::ranges::sort(kinds, [](const std::vector<int>& a, const std::vector<int>& b) {
+  std::vector<std::vector<int>> shapes;
+  for (auto& [shape, seeds] : seedsOf) shapes.push_back(std::move(seeds));
+  std::ranges::sort(shapes, [](const std::vector<int>& a, const std::vector<int>& b) {
     return a.size() != b.size() ? a.size() > b.size() : a.front() < b.front();
   });
   std::vector<int> picked;
   for (std::size_t round = 0; picked.size() < static_cast<std::size_t>(count); ++round)
-    for (const std::vector<int>& seeds : kinds)
+    for (const std::vector<int>& seeds : shapes)
       if (round < seeds.size() && picked.size() < static_cast<std::size_t>(count))
         picked.push_back(seeds[round]);
   return picked;

@@ -6,7 +6,7 @@
 
 #include "lesson_check/report.h"
 
-namespace lesson_lab {
+namespace lesson_check {
 
 // Pieces of a check by name, each with its report.  Without a path nothing is kept.
 class CheckState {
@@ -16,13 +16,13 @@ class CheckState {
   explicit CheckState(std::string path);
 
   // nullptr for a piece that has not been done.
-  const lesson_check::Report* Find(const std::string& piece) const;
+  const Report* Find(const std::string& piece) const;
   // Adds it to the file at once.
-  void Keep(const std::string& piece, const lesson_check::Report& report);
+  void Keep(const std::string& piece, const Report& report);
 
  private:
   std::string path_;
-  std::map<std::string, lesson_check::Report> done_;
+  std::map<std::string, Report> done_;
 };
 
-}  // namespace lesson_lab
+}  // namespace lesson_check

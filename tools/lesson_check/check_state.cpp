@@ -1,11 +1,11 @@
-#include "lesson_lab/check_state.h"
+#include "lesson_check/check_state.h"
 
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <utility>
 
-namespace lesson_lab {
+namespace lesson_check {
 namespace {
 
 // Another program may find other faults.
@@ -30,7 +30,7 @@ CheckState::CheckState(std::string path) : path_(std::move(path)) {
   while (own && std::getline(file, piece) && file >> size && file.get() == '\n') {
     std::string text(size, ' ');
     if (!file.read(text.data(), static_cast<std::streamsize>(size))) break;
-    done_[piece] = lesson_check::Report::FromText(text);
+    done_[piece] = Report::FromText(text);
   }
   file.close();
   std::ofstream anew(path_, std::ios::binary | std::ios::trunc);
@@ -39,12 +39,12 @@ CheckState::CheckState(std::string path) : path_(std::move(path)) {
   for (const auto& [name, report] : std::exchange(done_, {})) Keep(name, report);
 }
 
-const lesson_check::Report* CheckState::Find(const std::string& piece) const {
+const Report* CheckState::Find(const std::string& piece) const {
   const auto found = done_.find(piece);
   return found == done_.end() ? nullptr : &found->second;
 }
 
-void CheckState::Keep(const std::string& piece, const lesson_check::Report& report) {
+void CheckState::Keep(const std::string& piece, const Report& report) {
   if (path_.empty()) return;
   done_[piece] = report;
   const std::string text = report.Text();
@@ -53,4 +53,4 @@ void CheckState::Keep(const std::string& piece, const lesson_check::Report& repo
   if (!file.flush()) throw std::runtime_error("cannot write the state file " + path_);
 }
 
-}  // namespace lesson_lab
+}  // namespace lesson_check
