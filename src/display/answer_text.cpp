@@ -5,6 +5,7 @@
 #include "display/exponents.h"
 #include "display/fractions.h"
 #include "display/grid.h"
+#include "display/one_fragment.h"
 #include "display/print.h"
 #include "display/radical_text.h"
 #include "display/scoped_value.h"
@@ -18,9 +19,8 @@ double gAnswerBaseY = 0;
 
 namespace {
 
-constexpr double kBoxColumns = 1000;  // texts in a box are clipped by it, never broken
-constexpr int kBarThickness = 3;      // pixels
-constexpr double kBarDrop = 0.05;     // rows
+constexpr int kBarThickness = 3;   // pixels
+constexpr double kBarDrop = 0.05;  // rows
 
 TextPanel& Text(int box) {
   return *frmPR->answerText.at(static_cast<std::size_t>(box));
@@ -44,6 +44,7 @@ Cell CursorCell(int box) {
 
 void PrintStacked(int box, const std::string& num, const std::string& den, int minWidth,
                   double barShift, double tighten) {
+  const OneFragment fraction(Text(box), TypedFraction(num, den));
   const Cell at = CursorCell(box);
   const int numLength = FractionPartLength(num);
   const int denLength = FractionPartLength(den);
@@ -57,6 +58,7 @@ void PrintStacked(int box, const std::string& num, const std::string& den, int m
 }
 
 void PrintRadicand(int box, const std::string& text, double widen) {
+  const OneFragment radical(Text(box), TypedText("`" + text + "`"));
   const Cell at = CursorCell(box);
   const double width = static_cast<double>(StripCarets(text).size()) + widen;
   picAnswerLocate(box, at.row, at.col - widen);
@@ -86,7 +88,8 @@ void picAnswerSetFont(int box, const std::string& name, bool bold, double size) 
   panel.surface.FontName = UpperCase(name) == "TNR" ? "Times New Roman" : name;
   panel.surface.FontBold = bold;
   panel.surface.FontSize = size;
-  // The print font is 0.8 pixel wide a point: a smaller one makes room for longer texts.
+  // The print font is 0.8 pixel wide a point: a smaller one makes room for longer texts.  Another
+  // face has widths of its own, and the cell only measures them.
   panel.layout.fontSize = size;
   panel.layout.cellWidth = panel.surface.FontName == "Courier New"
                                ? static_cast<int>(RoundHalfEven(0.8 * size))
@@ -101,7 +104,7 @@ void picAnswerRestoreFont(int box) {
 }
 
 void picAnswerisPrint(int box, const std::string& s) {
-  PrintOn(Text(box), s, kBoxColumns);
+  PrintOn(Text(box), s, RightColumnOf(Text(box)));
 }
 
 void picAnswerisPrints(int box, const std::string& s) {
@@ -147,13 +150,14 @@ void picAnswerPrintFractionValue(int box, int num, int den, double gap, int minW
   }
   picAnswerLocate(box, at.row, at.col);
   if (parts.den == 1) return picAnswerisPrints(box, std::to_string(parts.num));
-  if (parts.num > parts.den) {
-    const std::string whole = std::to_string(parts.num / parts.den);
-    picAnswerisPrints(box, whole);
-    picAnswerLocate(box, at.row, at.col + static_cast<double>(whole.size()) + gap);
-  }
-  PrintStacked(box, std::to_string(parts.num % parts.den), std::to_string(parts.den), minWidth, 0,
-               0);
+  const std::string above = std::to_string(parts.num % parts.den);
+  const std::string below = std::to_string(parts.den);
+  if (parts.num < parts.den) return PrintStacked(box, above, below, minWidth, 0, 0);
+  const std::string whole = std::to_string(parts.num / parts.den);
+  const OneFragment mixed(Text(box), whole + " " + TypedFraction(above, below));
+  picAnswerisPrints(box, whole);
+  picAnswerLocate(box, at.row, at.col + static_cast<double>(whole.size()) + gap);
+  PrintStacked(box, above, below, minWidth, 0, 0);
 }
 
 void picAnswerPrintRadicalText(int box, const std::string& s, double widen) {

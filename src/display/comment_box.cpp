@@ -49,8 +49,8 @@ struct BoxPlace {
 void Place(TextPanel& panel, const BoxPlace& place, platform::Colour backColor,
            const TextPanel::Layout& layout) {
   const double col = place.col > 0 ? place.col : (kScreenColumns - place.wd) / 2 + 1;
-  panel.surface.Move(RowOrColumnInTwips("C", col), RowOrColumnInTwips("R", place.row),
-                     Twips(gCellWidth * place.wd), Twips(gCellHeight * place.ht));
+  const platform::PixelPoint at = CellInTwips(place.row, col);
+  panel.surface.Move(at.x, at.y, Twips(gCellWidth * place.wd), Twips(gCellHeight * place.ht));
   panel.layout = layout;
   panel.RestoreFont();
   panel.surface.BackColor = backColor;

@@ -2,8 +2,8 @@
 //
 // A box is placed and sized in cells of the lesson screen, and printed on in its own smaller cells,
 // row 1, column 1 being its first.  Prepare it, print, then show it.  Texts have a transparent
-// background; what was printed before stays until the next prepare.  Only the codes 130, 141, 248,
-// 249 and the hard blank are drawn in sizes below 20.  A box outside 1 to 5 stops the program.
+// background; what was printed before stays until the next prepare.  A box outside 1 to 5 stops the
+// program.
 #pragma once
 
 #include <string>

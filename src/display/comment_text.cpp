@@ -38,9 +38,8 @@ platform::PixelPoint UsedSize(const TextPanel& panel) {
   double right = panel.layout.leftMargin;
   double bottom = panel.layout.topMargin;
   for (const Fragment& fragment : panel.Transcript()) {
-    const auto length = static_cast<double>(fragment.text.size());
-    right = std::max(right, panel.CellX(fragment.col + length));
-    bottom = std::max(bottom, panel.CellY(fragment.row) + rowHeight);
+    right = std::max(right, panel.CellX(fragment.Right()));
+    bottom = std::max(bottom, panel.CellY(fragment.Bottom() - 1) + rowHeight);
   }
   return {static_cast<int>(std::ceil(right)) + panel.layout.leftMargin,
           static_cast<int>(std::ceil(bottom)) + panel.layout.topMargin};

@@ -73,21 +73,22 @@ void PrintScriptOn(TextPanel& panel, const std::string& s, double size, double r
   if (s.empty()) return;
   panel.UpdateCursorCell();
   const float baseRow = panel.cursorRow;
-  const float baseCol = panel.cursorCol;
+  double col = panel.cursorCol;
   const ScopedValue keepLine(screenState.gNoNewline, 1);
   const ScopedValue keepLevel(panel.scriptLevel, level);
   const ScopedValue keepRow(panel.scriptBaseRow, baseRow);
   const int wholeSize = static_cast<int>(size);
   if (level > 0) rowShift -= CommentLift(panel, wholeSize);
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    const Shift shift =
-        level > 0 ? ExponentShift(wholeSize, s[i]) : SubscriptShift(wholeSize, s[i]);
+  for (const char c : s) {
+    const Shift shift = level > 0 ? ExponentShift(wholeSize, c) : SubscriptShift(wholeSize, c);
     panel.UpdateCursorCell();
     panel.SetFontSize(size);
     panel.Locate(panel.cursorRow + shift.row + rowShift, panel.cursorCol + shift.col);
-    PrintOn(panel, std::string(1, s[i]), RightColumnOf(panel));
+    const std::string letter(1, c);
+    PrintOn(panel, letter, RightColumnOf(panel));
+    col += panel.WidthOf(letter) / panel.layout.cellWidth;
     panel.SetFontSize(panel.layout.fontSize);
-    panel.Locate(baseRow, baseCol + static_cast<double>(i) + 1);
+    panel.Locate(baseRow, col);
   }
 }
 

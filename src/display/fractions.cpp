@@ -7,6 +7,7 @@
 #include "display/drawing.h"
 #include "display/exponents.h"
 #include "display/grid.h"
+#include "display/one_fragment.h"
 #include "display/print.h"
 #include "display/radicals.h"
 #include "display/word_wrap.h"
@@ -40,6 +41,7 @@ int LengthWithRadicals(const std::string& s) {
 
 void PrintStacked(const FractionLook& look, const std::string& num, const std::string& den,
                   int minWidth) {
+  const OneFragment fraction(frmPR->lessonText, TypedFraction(num, den));
   UpdateCursorCell();
   const double row = frmPR->lessonText.cursorRow;
   const double col = frmPR->lessonText.cursorCol;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "display/panel_views.h"
 #include "display/word_wrap.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
@@ -57,16 +58,21 @@ double isCursorCol() {
   return frmPR->lessonText.cursorCol;
 }
 
-int RowOrColumnInTwips(const std::string& which, double value) {
+double RowOrColumnInTwips(const std::string& which, double value) {
   const std::string letter = UpperCase(which);
   const TextPanel& panel = frmPR->lessonText;
-  if (letter == "R")
-    return static_cast<int>(RoundHalfEven(platform::TwipsPerPixelY * panel.CellY(value))) +
-           frmPR->pnlLesson.Top();
-  if (letter == "C")
-    return static_cast<int>(RoundHalfEven(platform::TwipsPerPixelX * panel.CellX(value))) +
-           frmPR->pnlLesson.Left();
+  if (letter == "R") return platform::TwipsPerPixelY * panel.CellY(value) + frmPR->pnlLesson.Top();
+  if (letter == "C") return platform::TwipsPerPixelX * panel.CellX(value) + frmPR->pnlLesson.Left();
   platform::Stop("Function RowOrColumnInTwips: Improper parameter");
+}
+
+platform::PixelPoint CellInTwips(double row, double col) {
+  const TextPanel& panel = frmPR->lessonText;
+  const auto twips = [](double pixel) {
+    return static_cast<int>(RoundHalfEven(pixel)) * platform::TwipsPerPixelX;
+  };
+  return {twips(panel.CellX(col)) + frmPR->pnlLesson.Left(),
+          twips(panel.CellY(row)) + frmPR->pnlLesson.Top()};
 }
 
 void ctrlCentreCell(const platform::Control& control) {
@@ -146,17 +152,13 @@ void ResetScreen() {
   screenState.gLineGap = 0;
   screenState.gWbLineGap = 0;
   wrapState = WrapState{};
-  window.picWiperBox.SetVisible(false);
-  window.picWiperBox2.SetVisible(false);
-  for (int i = 1; i <= 5; ++i) {
-    window.picGraph2D[i].SetVisible(false);
-    window.picCommentBox[i].SetVisible(false);
-    window.picNotes[i].SetVisible(false);
-    window.picGalleryImage[i].SetVisible(false);
-    window.answerText[i]->RestoreFont();
-  }
+  // The panel itself stays, the answers go with their problem, and cells with their table.
+  for (const PanelView& view : ShownPanels(window))
+    if (view.kind != PanelKind::Lesson && view.kind != PanelKind::Cell &&
+        view.kind != PanelKind::Answer)
+      view.control->SetVisible(false);
+  for (int i = 1; i <= window.picAnswer.Last(); ++i) window.answerText[i]->RestoreFont();
   HideNavigationButtons();
-  window.picPrintCellBox.SetVisible(false);
   window.picRules1.SetVisible(false);
 }
 

@@ -36,9 +36,12 @@ void UpdateCursorCell();
 void wbUpdateCursorCell();
 double isCursorCol();
 
-// Twips on the form of a grid line: "R" row or "C" column, either case.  Any other letter ends the
-// program.
-int RowOrColumnInTwips(const std::string& which, double value);
+// Twips on the form of a grid line, half ones too: "R" row or "C" column, either case.  Any other
+// letter ends the program.
+double RowOrColumnInTwips(const std::string& which, double value);
+// Where a control stands whose corner lies at a cell: on the very pixel on which Locate puts a
+// text. In twips of the form.
+platform::PixelPoint CellInTwips(double row, double col);
 // Writes the cell of a control's centre to gCtrlCell: row, then column.
 void ctrlCentreCell(const platform::Control& control);
 

@@ -1,4 +1,5 @@
 // The shadowed heading, in a proportional face.
+#include <algorithm>
 #include <string>
 
 #include "display/comment_panel.h"
@@ -16,7 +17,9 @@ void RecordHeading(TextPanel& panel, const std::string& text, int x, int y) {
   const int keptX = panel.cursorX;
   const int keptY = panel.cursorY;
   panel.SetCursor(x, y);
-  panel.Record(text);
+  std::string words = text;
+  std::ranges::replace(words, '~', '"');
+  panel.Record(words, PlainWidth(panel.surface, InPlainFace(text)));
   panel.SetCursor(keptX, keptY);
 }
 
@@ -41,7 +44,7 @@ void PrintHeadingOn(TextPanel& panel, const std::string& text, int x, int y,
   }
   surface.ForeColor = style.foreColor;
   PrintPlain(surface, words, x, y);
-  RecordHeading(panel, words, x, y);
+  RecordHeading(panel, text, x, y);
 }
 
 void PrintNiceHeading(int indx, const std::string& text, double row, double col,
@@ -52,7 +55,7 @@ void PrintNiceHeading(int indx, const std::string& text, double row, double col,
   platform::Surface& surface = panel.surface;
   const HeadingStyle style{font, bold, italic, size, foreColor, shadowColor, shadowThickness};
   SetHeadingFont(surface, style);
-  const double free = surface.ScaleWidth() - surface.TextWidth(StripCarets(InPlainFace(text)));
+  const double free = surface.ScaleWidth() - PlainWidth(surface, StripCarets(InPlainFace(text)));
   const int x = RoundedPixel(col == -1 ? free / 2 : panel.CellX(col));
   PrintHeadingOn(panel, text, x, RoundedPixel(panel.CellY(row)), style);
   panel.RestoreFont();

@@ -87,8 +87,8 @@ void picGalleryImagePrepare(int slot, int image, double row, double col, ImageBo
   platform::PictureBox& box = ImageBox(slot, "picGalleryImagePrepare");
   const StoredPicture& stored = PicGallery(image, "picGalleryImagePrepare");
   const platform::PixelPoint size = platform::PictureExtent(stored.picture);
-  box.Move(RowOrColumnInTwips("C", col), RowOrColumnInTwips("R", row),
-           size.x * platform::TwipsPerPixelX, size.y * platform::TwipsPerPixelY);
+  const platform::PixelPoint at = CellInTwips(row, col);
+  box.Move(at.x, at.y, size.x * platform::TwipsPerPixelX, size.y * platform::TwipsPerPixelY);
   if (border != ImageBorder::Keep) box.SetBorder(border == ImageBorder::Thin);
   box.BackColor = platform::colour::White;
   box.Cls();

@@ -36,6 +36,8 @@ const TextPanel::Layout kWiperLayout = {.leftMargin = gWbLeftMargin,
                                         .characters = CharacterSet::WiperBox,
                                         .restoredColour = Black};
 const TextPanel::Layout kCommentLayout = {.characters = CharacterSet::CommentBox};
+// Cells and notes hold one text anywhere, in a face with widths of its own.
+const TextPanel::Layout kLabelLayout = {.characters = CharacterSet::CommentBox};
 const TextPanel::Layout kAnswerLayout = {.characters = CharacterSet::AnswerBox};
 
 constexpr std::string_view kTabPictures[] = {"", "lesson", "examples", "practice", "test"};
@@ -128,12 +130,7 @@ void LessonWindow::PlacePanels() {
 // Each kind lies over the ones made before it: comments over figures, notes over comments.
 void LessonWindow::PlaceBoxes() {
   picWiperBox.SetAccessibleName("Explanation");
-  picPrintCellBox.SetVisible(false);
-  picPrintCellBox.SetAccessibleName("Table");
-  picPrintCell.Make("picPrintCell", picPrintCellBox);
-  lblPrintCell.Make("lblPrintCell", picPrintCellBox);
-  for (int i = 1; i <= picPrintCell.Last(); ++i)
-    picPrintCell[i].SetAccessibleName("Cell " + std::to_string(i));
+  PlaceTable();
   picGraph2D.Make("picGraph2D", form);
   picGalleryImage.Make("picGalleryImage", form);
   picCommentBox.Make("picCommentBox", form);
@@ -145,10 +142,21 @@ void LessonWindow::PlaceBoxes() {
     picGalleryImage[i].SetAccessibleName("Picture");
     picCommentBox[i].SetVisible(false);
     picCommentBox[i].SetAccessibleName("Comment");
-    commentText[static_cast<std::size_t>(i)] =
-        std::make_unique<TextPanel>(picCommentBox[i], kCommentLayout);
+    commentText[i] = std::make_unique<TextPanel>(picCommentBox[i], kCommentLayout);
+    noteText[i] = std::make_unique<TextPanel>(picNotes[i], kLabelLayout);
     picNotes[i].SetVisible(false);
     lblNotes.MakeOne(i, "lblNotes", picNotes[i]);
+  }
+}
+
+void LessonWindow::PlaceTable() {
+  picPrintCellBox.SetVisible(false);
+  picPrintCellBox.SetAccessibleName("Table");
+  picPrintCell.Make("picPrintCell", picPrintCellBox);
+  lblPrintCell.Make("lblPrintCell", picPrintCellBox);
+  for (int i = 1; i <= picPrintCell.Last(); ++i) {
+    picPrintCell[i].SetAccessibleName("Cell " + std::to_string(i));
+    cellText[i] = std::make_unique<TextPanel>(picPrintCell[i], kLabelLayout);
   }
 }
 
@@ -158,8 +166,7 @@ void LessonWindow::PlaceAnswers() {
     picAnswer[i].BackColor = AnswerBox;
     picAnswer[i].SetVisible(false);
     picAnswer[i].SetTabStop(true);
-    answerText[static_cast<std::size_t>(i)] =
-        std::make_unique<TextPanel>(picAnswer[i], kAnswerLayout);
+    answerText[i] = std::make_unique<TextPanel>(picAnswer[i], kAnswerLayout);
   }
   cmdAnswer.Make("cmdAnswer", form);
   for (int i = 0; i <= 4; ++i) {

@@ -7,7 +7,9 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "display/figure_item.h"
 #include "display/text_panel.h"
 #include "platform/form.h"
 #include "platform/picture_box.h"
@@ -42,6 +44,10 @@ class ControlArray {
   std::array<std::unique_ptr<T>, last - first + 1> items_;
 };
 
+// The texts of such controls by their numbers, which begin at 1.
+template <int last>
+using TextPanels = std::array<std::unique_ptr<TextPanel>, last + 1>;
+
 class LessonWindow {
  public:
   LessonWindow();
@@ -72,8 +78,12 @@ class LessonWindow {
   TextPanel lessonText;
   TextPanel wiperText;
   TextPanel wiperText2;
-  std::array<std::unique_ptr<TextPanel>, 6> commentText;  // 1 to 5
-  std::array<std::unique_ptr<TextPanel>, 6> answerText;   // 1 to 5
+  TextPanels<12> cellText;
+  TextPanels<5> commentText;
+  TextPanels<5> noteText;  // where the label shows it
+  TextPanels<5> answerText;
+  // What picGraph2D(1) to (5) show.
+  std::array<std::vector<FigureItem>, 6> figureItems;
 
   // Answers.
   platform::Label lblSelect;
@@ -128,6 +138,7 @@ class LessonWindow {
  private:
   void PlacePanels();
   void PlaceAnswers();
+  void PlaceTable();
   void PlaceBoxes();
   void PlaceNavigation();
   void PlaceRules();

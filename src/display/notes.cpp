@@ -1,5 +1,7 @@
 #include "display/notes.h"
 
+#include <algorithm>
+
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/plain_face.h"
@@ -27,6 +29,19 @@ platform::Label::Align AlignmentOf(const std::string& alignment) {
   return platform::Label::Align::Left;
 }
 
+// The label shows the text; a reader of the transcript finds it line by line.
+void RecordLines(TextPanel& panel, const std::string& text, double lineHeight) {
+  panel.Cls();
+  double y = 0;
+  for (std::size_t start = 0; start <= text.size(); y += lineHeight) {
+    const std::size_t end = std::min(text.find('\r', start), text.size());
+    const std::string line = text.substr(start, end - start);
+    panel.SetCursor(0, y);
+    panel.Record(line, PlainWidth(panel.surface, InPlainFace(line)));
+    start = end + 1;
+  }
+}
+
 }  // namespace
 
 void lblNotesPrepare(int index, double row, double col, const std::string& text,
@@ -36,15 +51,20 @@ void lblNotesPrepare(int index, double row, double col, const std::string& text,
   platform::PictureBox& holder = frmPR->picNotes[index];
   platform::Label& label = frmPR->lblNotes[index];
   holder.SetVisible(false);
-  label.SetCaption(InPlainFace(text));
+  label.SetUtf8Caption(PlainUtf8(text));
   label.SetFont(FaceOf(font), fontSize, bold, italic);
   label.SetColours(foreColor, backColor);
   label.SetAlignment(AlignmentOf(alignment));
   label.SizeToCaption();
   holder.BackColor = backColor;
-  holder.Move(RowOrColumnInTwips("C", col), RowOrColumnInTwips("R", row), label.Width(),
-              label.Height());
-  holder.Cls();
+  const platform::PixelPoint at = CellInTwips(row, col);
+  holder.Move(at.x, at.y, label.Width(), label.Height());
+  holder.FontName = FaceOf(font);
+  holder.FontBold = bold;
+  holder.FontItalic = italic;
+  holder.FontSize = fontSize;
+  holder.ForeColor = foreColor;
+  RecordLines(*frmPR->noteText[index], text, holder.TextHeight(text));
 }
 
 void lblNotesShow(int index) {
@@ -55,7 +75,7 @@ void lblNotesShow(int index) {
 
 void lblNotesHide(int index) {
   CheckIndex(index, "lblNotesHide");
-  frmPR->picNotes[index].Cls();
+  frmPR->noteText[index]->Cls();
   frmPR->picNotes[index].SetVisible(false);
 }
 

@@ -12,6 +12,7 @@ namespace course {
 namespace {
 
 constexpr std::size_t kMaxLines = 10;
+constexpr double kClipped = 1000;  // columns: texts in an answer box are clipped, never broken
 
 std::vector<std::string> SplitLines(const std::string& s) {
   std::vector<std::string> lines;
@@ -37,6 +38,7 @@ void MoveRows(TextPanel& panel, double rows) {
 
 double RightColumnOf(const TextPanel& panel) {
   if (&panel == &frmPR->wiperText) return screenState.gWbWidth;
+  if (panel.layout.characters == CharacterSet::AnswerBox) return kClipped;
   if (panel.layout.characters != CharacterSet::CommentBox) return screenState.gRightColumn;
   const int inner = panel.surface.PixelWidth() - 2 * panel.layout.leftMargin;
   return inner / panel.layout.cellWidth;
@@ -65,8 +67,7 @@ void PrintOn(TextPanel& panel, const std::string& s, double rightColumn) {
   }
   panel.TextOut(rest);
   if (screenState.gNoNewline != 0) {
-    panel.SetCursor(panel.cursorX + static_cast<double>(rest.size()) * panel.layout.cellWidth,
-                    panel.cursorY);
+    panel.SetCursor(panel.cursorX + panel.WidthOf(rest), panel.cursorY);
   } else {
     NewLineOn(panel);
   }

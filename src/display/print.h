@@ -31,7 +31,7 @@ void wbisPrintLines();
 void PrintOn(TextPanel& panel, const std::string& s, double rightColumn);
 void NewLineOn(TextPanel& panel);
 // The last column that a text may fill: of the screen, of the wiper box, or inside the padding of a
-// comment box.
+// comment box.  An answer box clips its text and has none.
 double RightColumnOf(const TextPanel& panel);
 
 }  // namespace course

@@ -82,7 +82,7 @@ void HideAll() {
 
 void PlaceBox(double row, const PrintCellTable& table) {
   platform::PictureBox& box = frmPR->picPrintCellBox;
-  box.Move(frmPR->pnlLesson.Left() + Twips(kLeftColumns * gCellWidth), RowOrColumnInTwips("R", row),
+  box.Move(frmPR->pnlLesson.Left() + Twips(kLeftColumns * gCellWidth), CellInTwips(row, 1).y,
            Twips(table.widthPixels), Twips(table.heightPixels));
   box.BackColor = kGround;
   box.SetBorder(true);
@@ -106,7 +106,7 @@ void PlaceLabel(int index, const PrintCellTable::Label& place) {
   const double height = std::min(place.height, kHundred - 1 - place.top);
   MoveInside(label, place.left, place.top, place.width, height);
   label.SetAlignment(place.centred ? platform::Label::Align::Centre : platform::Label::Align::Left);
-  label.SetCaption(InPlainFace(place.caption));
+  label.SetUtf8Caption(PlainUtf8(place.caption));
   label.SetFont("MS Sans Serif", place.fontSize, true);
   label.SetColours(place.colour, kGround);
   label.SetVisible(true);
@@ -132,12 +132,11 @@ void Prepare(double row, const PrintCellTable& table) {
   for (const PrintCellTable::Mark& mark : table.marks) PrintMark(mark);
 }
 
-platform::PictureBox& Cell(int cell, const char* routine) {
-  auto& cells = frmPR->picPrintCell;
-  if (cell < cells.First() || cell > cells.Last())
+TextPanel& Cell(int cell, const char* routine) {
+  if (cell < frmPR->picPrintCell.First() || cell > frmPR->picPrintCell.Last())
     platform::Stop(std::string(routine) + ": cell " + std::to_string(cell) +
                    ".  Cells 1 to 12 exist.");
-  return cells[cell];
+  return *frmPR->cellText[cell];
 }
 
 }  // namespace
@@ -169,22 +168,27 @@ void picPrintCellBoxHide() {
 }
 
 void picPrintCellPrint(int cell, const std::string& s, platform::Colour colour, double fontSize) {
-  platform::PictureBox& box = Cell(cell, "picPrintCellPrint");
+  TextPanel& panel = Cell(cell, "picPrintCellPrint");
+  platform::PictureBox& box = panel.surface;
   const std::string text = InPlainFace(s);
   box.ForeColor = colour;
   box.ScalePixels();
+  box.FontName = "MS Sans Serif";
+  box.FontBold = false;
   box.FontSize = fontSize;
-  PrintPlain(box, text, (box.ScaleWidth() - PlainWidth(box, text)) / 2,
-             (box.ScaleHeight() - box.TextHeight(text)) / 2);
+  const double width = PlainWidth(box, text);
+  const double x = (box.ScaleWidth() - width) / 2;
+  const double y = (box.ScaleHeight() - box.TextHeight(text)) / 2;
+  PrintPlain(box, text, x, y);
   box.Refresh();
-  box.SetAccessibleText(s);
+  panel.SetCursor(x, y);
+  panel.Record(s, width);
 }
 
 void picPrintCellCls(int cell) {
-  platform::PictureBox& box = Cell(cell, "picPrintCellCls");
-  box.Cls();
-  box.Refresh();
-  box.SetAccessibleText("");
+  TextPanel& panel = Cell(cell, "picPrintCellCls");
+  panel.Cls();
+  panel.surface.Refresh();
 }
 
 }  // namespace course

@@ -61,7 +61,7 @@ void PrintHere(const std::string& s) {
   }
   TextPanel& text = frmPR->lessonText;
   text.SetCursor(screenState.gLocateX, screenState.gLocateY);
-  text.Record(StripExponentMarks(s));
+  text.Record(StripExponentMarks(s), x - screenState.gLocateX);
   screenState.gLocateX = static_cast<int>(std::lround(x));
   Panel().Refresh();
 }

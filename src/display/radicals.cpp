@@ -5,6 +5,7 @@
 #include "display/drawing.h"
 #include "display/exponents.h"
 #include "display/grid.h"
+#include "display/one_fragment.h"
 #include "display/print.h"
 #include "display/radical_text.h"
 #include "display/word_wrap.h"
@@ -42,6 +43,7 @@ void isPrintRadicalText(const std::string& s, double widen) {
       WordWraps(part.text);
       continue;
     }
+    const OneFragment radical(frmPR->lessonText, TypedText("`" + part.text + "`"));
     UpdateCursorCell();
     const double row = frmPR->lessonText.cursorRow;
     const double col = frmPR->lessonText.cursorCol;

@@ -1,8 +1,10 @@
 #include "display/special_characters.h"
 
 #include <algorithm>
-#include <span>
+#include <iterator>
 
+#include "display/drawing_cells.h"
+#include "display/plain_face.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
 
@@ -73,7 +75,8 @@ constexpr SymbolGlyph kInfinityOnWiper = {218, '\xA5', 16, 0, 0};
 constexpr SymbolGlyph kPi = {249, '\x70', 18, 0, -1};
 constexpr SymbolGlyph kPiInAnswer = {249, '\x70', 16, 0, -1};
 
-// Comment boxes draw four characters for their own sizes: 10, 12 and 15.
+// Comment boxes draw four characters in shapes of their own for the sizes 10, 12 and 15; the others
+// are those of the lesson panel, made smaller.
 struct SizedStroke {
   int size;
   Stroke stroke;
@@ -100,11 +103,6 @@ constexpr SizedStroke kCommentStrokes[] = {
 constexpr int kDrawnCodes[] = {127, 129, 130, 131, 132, 133, 134, 135, 136, 141, 157, 161, 162,
                                163, 164, 165, 166, 167, 168, 169, 170, 171, 173, 174, 176, 177,
                                191, 216, 217, 218, 219, 221, 226, 230, 231, 248, 249, 253, 255};
-constexpr int kCommentCodes[] = {130, 141, 248, 249, 255};
-
-bool Holds(std::span<const int> codes, int code) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 void DrawStroke(platform::Surface& surface, const Stroke& stroke, int x, int y) {
   surface.DrawWidth = stroke.width;
@@ -168,11 +166,74 @@ int CommentDrawingSize(double fontSize) {
   return fontSize < 15 ? 12 : 15;
 }
 
+// A cell that is smaller than the one for which the characters were drawn.
+struct Scaled {
+  double x;
+  double y;
+  int X(int at) const { return RoundedPixel(at * x); }
+  int Y(int at) const { return RoundedPixel(at * y); }
+};
+
+Scaled ScaleOf(const TextPanel& panel) {
+  constexpr double kWidth = 16;
+  constexpr double kHeight = 25;
+  return {panel.layout.cellWidth / kWidth, panel.layout.cellHeight / kHeight};
+}
+
+void DrawSmallLetters(TextPanel& panel, int code, int x, int y) {
+  constexpr double kFull = 20;  // points
+  const double size = panel.layout.fontSize;
+  const Scaled scale = ScaleOf(panel);
+  for (const Letter& letter : kLetters) {
+    if (letter.code != code) continue;
+    if (letter.size != 0) panel.SetFontSize(letter.size * size / kFull);
+    panel.surface.TextOut(x + scale.X(letter.x), y + scale.Y(letter.y),
+                          std::string(1, letter.character), panel.layout.cellWidth);
+    panel.SetFontSize(size);
+  }
+}
+
+bool DrawSmallShape(TextPanel& panel, int code, int x, int y) {
+  platform::Surface& surface = panel.surface;
+  const Scaled scale = ScaleOf(panel);
+  switch (code) {
+    case 135:
+    case 136:
+    case 218:
+    case 226:
+      surface.FontSize = panel.layout.fontSize * 0.8;
+      PrintPlain(surface, Chr(code), x, y + scale.Y(1));
+      surface.FontSize = panel.layout.fontSize;
+      return true;
+    case 161:
+      surface.PSet(x + scale.X(8), y + scale.Y(15));
+      surface.Circle(x + scale.X(8), y + scale.Y(15), scale.X(6));
+      return true;
+    case 253:
+      surface.FilledBox(x + scale.X(4), y + scale.Y(12), x + scale.X(11), y + scale.Y(19));
+      return true;
+    default:
+      return false;
+  }
+}
+
 void DrawCommentCharacter(TextPanel& panel, int code, int x, int y) {
   const int size = CommentDrawingSize(panel.layout.fontSize);
-  for (const SizedStroke& sized : kCommentStrokes)
-    if (sized.size == size && sized.stroke.code == code)
-      DrawStroke(panel.surface, sized.stroke, x, y);
+  bool own = false;
+  for (const SizedStroke& sized : kCommentStrokes) {
+    if (sized.stroke.code != code) continue;
+    own = true;
+    if (sized.size == size) DrawStroke(panel.surface, sized.stroke, x, y);
+  }
+  if (own || DrawSmallShape(panel, code, x, y)) return;
+  DrawSmallLetters(panel, code, x, y);
+  const Scaled scale = ScaleOf(panel);
+  for (const Stroke& s : kStrokes)
+    if (s.code == code)
+      DrawStroke(panel.surface,
+                 {code, std::max(1, scale.X(s.width)), scale.X(s.x1), scale.Y(s.y1), scale.X(s.x2),
+                  scale.Y(s.y2)},
+                 x, y);
 }
 
 bool DrawSymbolOf(TextPanel& panel, int code, int x, int y) {
@@ -194,10 +255,8 @@ bool DrawSymbolOf(TextPanel& panel, int code, int x, int y) {
 
 }  // namespace
 
-bool IsDrawnCharacter(CharacterSet characters, int code) {
-  if (code < 127) return false;
-  return characters == CharacterSet::CommentBox ? Holds(kCommentCodes, code)
-                                                : Holds(kDrawnCodes, code);
+bool IsDrawnCharacter(int code) {
+  return code >= 127 && std::ranges::find(kDrawnCodes, code) != std::end(kDrawnCodes);
 }
 
 void DrawSprite(platform::Surface& target, int code, int x, int y, int surfaceKind) {

@@ -9,8 +9,8 @@
 
 namespace course {
 
-// Whether a panel of this kind draws the code, 0 to 255, by itself.
-bool IsDrawnCharacter(CharacterSet characters, int code);
+// Whether a panel draws the code, 0 to 255, by itself.
+bool IsDrawnCharacter(int code);
 
 // Draws the character with its cell's top left at pixel (x, y), in the surface's ForeColor.  The
 // Symbol glyphs 136, 218 and 249 restore the panel's font afterwards, and with it its text colour.

@@ -6,6 +6,7 @@
 #include "display/answer_text.h"
 #include "display/fractions.h"
 #include "display/lesson_window.h"
+#include "display/one_fragment.h"
 #include "display/radicals.h"
 #include "mathkit/tutor_codes.h"
 #include "platform/stop.h"
@@ -89,12 +90,13 @@ std::vector<StackedPiece> CutAtFractions(const std::string& s) {
     const std::size_t end = EndOfPart(s, slash + 1);
     if (start == slash || end == slash + 1 || start < printed)
       platform::Stop("CutAtFractions: a fraction lacks a part in \"" + s + "\"");
-    if (start > printed) pieces.push_back({s.substr(printed, start - printed), ""});
+    if (start > printed) pieces.push_back({s.substr(printed, start - printed), "", ""});
     pieces.push_back({WithoutParentheses(s.substr(start, slash - start)),
-                      WithoutParentheses(s.substr(slash + 1, end - slash - 1))});
+                      WithoutParentheses(s.substr(slash + 1, end - slash - 1)),
+                      TypedText(s.substr(start, end - start))});
     printed = slash = end;
   }
-  if (printed < s.size()) pieces.push_back({s.substr(printed), ""});
+  if (printed < s.size()) pieces.push_back({s.substr(printed), "", ""});
   return pieces;
 }
 
@@ -113,6 +115,7 @@ void isPrintStackedText(const std::string& s) {
       isPrintRadicalText(text);
       if (EndsInSign(text)) MoveBehindSign(frmPR->lessonText);
     } else {
+      const OneFragment fraction(frmPR->lessonText, piece.typed);
       isPrintColouredFraction(text, RadicalsMarked(piece.den));
     }
   }
@@ -122,23 +125,16 @@ void picAnswerPrintStackedText(int box, const std::string& s) {
   TextPanel& panel = *frmPR->answerText.at(static_cast<std::size_t>(box));
   // A box is lower than three rows of the screen.
   constexpr double kTightened = 0.3;
-  const int x = panel.cursorX;
-  const int y = panel.cursorY;
   for (const StackedPiece& piece : CutAtFractions(s)) {
     const std::string text = RadicalsMarked(piece.text);
     if (piece.den.empty()) {
       picAnswerPrintRadicalText(box, text);
       if (EndsInSign(text)) MoveBehindSign(panel);
     } else {
+      const OneFragment fraction(panel, piece.typed);
       picAnswerPrintFraction(box, text, RadicalsMarked(piece.den), 0, 0, kTightened);
     }
   }
-  const int endX = panel.cursorX;
-  const int endY = panel.cursorY;
-  panel.ClearTranscript();
-  panel.SetCursor(x, y);
-  panel.Record(s);
-  panel.SetCursor(endX, endY);
 }
 
 }  // namespace course

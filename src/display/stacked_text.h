@@ -5,7 +5,7 @@
 // A part of a fraction is what stands without a blank beside the "/" (letters, digits, radicals,
 // points, exponents, colour codes), or what stands in parentheses there, which are then not
 // printed.  A radical reaches over the digits behind its sign; longer radicands stand between
-// backquotes, as for isPrintRadicalText.
+// backquotes, as for isPrintRadicalText.  The transcript holds each fraction as it is typed here.
 #pragma once
 
 #include <string>
@@ -16,14 +16,14 @@ namespace course {
 // The line is the fractions' middle row, and the cursor stays behind the text.  At most one screen
 // line long; nothing is cleared above and below.
 void isPrintStackedText(const std::string& s);
-// In an answer box 1 to 5, at its cursor.  The box's transcript holds the line as it is written
-// here, which is what a screen reader should speak.
+// In an answer box 1 to 5, at its cursor.
 void picAnswerPrintStackedText(int box, const std::string& s);
 
 // The line cut at its fractions.  A plain piece has no denominator.
 struct StackedPiece {
   std::string text;  // plain text, or the numerator
   std::string den;
+  std::string typed;  // of a fraction: as it stands in the line, without colour codes
 };
 std::vector<StackedPiece> CutAtFractions(const std::string& s);
 // Every radical sign with its digits becomes a radicand between backquotes.

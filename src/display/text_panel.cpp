@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <map>
 
 #include "display/grid.h"
 #include "display/special_characters.h"
@@ -22,11 +21,11 @@ struct Run {
   int code;  // 0 for plain text
 };
 
-std::vector<Run> SplitIntoRuns(const std::string& s, CharacterSet characters) {
+std::vector<Run> SplitIntoRuns(const std::string& s) {
   std::vector<Run> runs;
   for (std::size_t i = 0; i < s.size(); ++i) {
     const int code = static_cast<unsigned char>(s[i]);
-    if (IsDrawnCharacter(characters, code)) {
+    if (IsDrawnCharacter(code)) {
       runs.push_back({i, 1, code});
     } else if (!runs.empty() && runs.back().code == 0) {
       ++runs.back().length;
@@ -36,6 +35,16 @@ std::vector<Run> SplitIntoRuns(const std::string& s, CharacterSet characters) {
   }
   if (runs.size() > kMaxRuns) platform::Stop("isTextOut: more than 30 runs in \"" + s + "\"");
   return runs;
+}
+
+bool HasPrintFont(const platform::Surface& surface) {
+  return surface.FontName == "Courier New";
+}
+
+double WidthOfRun(const TextPanel& panel, const std::string& s, const Run& run) {
+  if (HasPrintFont(panel.surface) || run.code != 0)
+    return static_cast<double>(run.length) * panel.layout.cellWidth;
+  return panel.surface.TextWidth(std::string_view(s).substr(run.first, run.length));
 }
 
 int CheckedPixel(double value, const char* name) {
@@ -102,6 +111,13 @@ void TextPanel::Cls() {
   transcript_.clear();
 }
 
+double TextPanel::WidthOf(const std::string& s) const {
+  if (HasPrintFont(surface)) return static_cast<double>(s.size()) * layout.cellWidth;
+  double width = 0;
+  for (const Run& run : SplitIntoRuns(s)) width += WidthOfRun(*this, s, run);
+  return width;
+}
+
 void TextPanel::TextOut(const std::string& s) {
   // The flag is tested first: a text that is measured while the background is kept is drawn.
   const bool keepsBackground = erases && dontEraseBackground == 1;
@@ -109,27 +125,30 @@ void TextPanel::TextOut(const std::string& s) {
   if (s.empty()) return;
   if (erases && !keepsBackground)
     surface.FillRect(
-        {cursorX, cursorY + 4, static_cast<int>(s.size()) * layout.cellWidth, layout.cellHeight},
+        {cursorX, cursorY + 4, static_cast<int>(std::ceil(WidthOf(s))), layout.cellHeight},
         eraseColour);
   Record(s);
-  int x = cursorX;
-  for (const Run& run : SplitIntoRuns(s, layout.characters)) {
-    if (run.code == 0) {
-      // Another face than the print font keeps its own widths; only the cursor counts cells.
-      const int cell = surface.FontName == "Courier New" ? layout.cellWidth : 0;
-      surface.TextOut(x, cursorY, std::string_view(s).substr(run.first, run.length), cell);
-    } else {
-      DrawSpecialCharacter(*this, run.code, x, cursorY);
-    }
-    x += static_cast<int>(run.length) * layout.cellWidth;
+  double x = cursorX;
+  for (const Run& run : SplitIntoRuns(s)) {
+    const int left = static_cast<int>(RoundHalfEven(x));
+    if (run.code == 0)
+      surface.TextOut(left, cursorY, std::string_view(s).substr(run.first, run.length),
+                      HasPrintFont(surface) ? layout.cellWidth : 0);
+    else
+      DrawSpecialCharacter(*this, run.code, left, cursorY);
+    x += WidthOfRun(*this, s, run);
     surface.Refresh();
   }
 }
 
-void TextPanel::Record(const std::string& s) {
+void TextPanel::Record(const std::string& s, double width) {
+  if (s.empty()) return;
   UpdateCursorCell();
   const double row = scriptLevel == 0 ? cursorRow : scriptBaseRow;
-  transcript_.push_back({row, cursorCol, surface.ForeColor, scriptLevel, s});
+  const double pixels = width > 0 ? width : WidthOf(s);
+  const double height = HasPrintFont(surface) ? 1 : surface.TextHeight(s) / layout.cellHeight;
+  transcript_.push_back(
+      {row, cursorCol, surface.ForeColor, scriptLevel, s, pixels / layout.cellWidth, 0, height});
 }
 
 namespace {
@@ -145,24 +164,41 @@ platform::PixelRect Swept(const platform::PixelRect& rect, int dx, int dy) {
           rect.height + std::abs(dy)};
 }
 
-// Adds one character of a fragment, to the stretch that is being built when it goes on there.
-void Append(std::vector<Fragment>& pieces, const Fragment& whole, std::size_t i, double row,
-            double col) {
-  if (!pieces.empty()) {
+// Calls each letter of a fragment, or the fragment itself where it cannot be cut.
+template <class Each>
+void ForEachLetter(const Fragment& fragment, Each each) {
+  if (fragment.whole) return each(fragment);
+  Fragment letter = fragment;
+  letter.width = fragment.Advance();
+  for (std::size_t i = 0; i < fragment.text.size(); ++i) {
+    letter.text = fragment.text[i];
+    letter.col = fragment.col + static_cast<double>(i) * letter.width;
+    each(letter);
+  }
+}
+
+// Adds a letter, to the stretch that is being built when it goes on there.
+void Append(std::vector<Fragment>& pieces, const Fragment& letter) {
+  constexpr double kHair = 1e-6;
+  if (!pieces.empty() && !letter.whole && !pieces.back().whole) {
     Fragment& last = pieces.back();
-    if (last.row == row && last.col + static_cast<double>(last.text.size()) == col) {
-      last.text += whole.text[i];
+    if (last.row == letter.row && std::fabs(last.Right() - letter.col) < kHair) {
+      last.text += letter.text;
+      last.width += letter.width;
       return;
     }
   }
-  pieces.push_back({row, col, whole.colour, whole.level, whole.text.substr(i, 1)});
+  pieces.push_back(letter);
 }
 
 }  // namespace
 
-platform::PixelPoint TextPanel::CentreOf(const Fragment& fragment, std::size_t i) const {
-  const double col = fragment.col + static_cast<double>(i) + 0.5;
-  return {static_cast<int>(CellX(col)), static_cast<int>(CellY(fragment.row + 0.66))};
+platform::PixelPoint TextPanel::CentreOf(const Fragment& fragment) const {
+  // Ink hangs a little low in its cell, as the band does that is erased behind a text.
+  constexpr double kLow = 0.16;
+  const double middle = (fragment.Top() + fragment.Bottom()) / 2 + kLow;
+  return {static_cast<int>(CellX(fragment.col + fragment.width / 2)),
+          static_cast<int>(CellY(middle))};
 }
 
 void TextPanel::MoveTranscript(const platform::PixelRect& rect, int dx, int dy,
@@ -175,14 +211,17 @@ void TextPanel::MoveTranscript(const platform::PixelRect& rect, int dx, int dy,
   for (const Fragment& fragment : transcript_) {
     std::vector<Fragment> staying;
     std::vector<Fragment> moving;
-    for (std::size_t i = 0; i < fragment.text.size(); ++i) {
-      const platform::PixelPoint centre = CentreOf(fragment, i);
+    ForEachLetter(fragment, [&](const Fragment& letter) {
+      const platform::PixelPoint centre = CentreOf(letter);
       const bool inside = Contains(rect, centre);
-      const double col = fragment.col + static_cast<double>(i);
-      if (inside) Append(moving, fragment, i, fragment.row + rows, col + cols);
       const bool copied = inside && keepsOriginal && !Contains(target, centre);
-      if (copied || !Contains(swept, centre)) Append(staying, fragment, i, fragment.row, col);
-    }
+      if (copied || !Contains(swept, centre)) Append(staying, letter);
+      if (!inside) return;
+      Fragment moved = letter;
+      moved.row += rows;
+      moved.col += cols;
+      Append(moving, moved);
+    });
     left.insert(left.end(), staying.begin(), staying.end());
     left.insert(left.end(), moving.begin(), moving.end());
   }
@@ -193,50 +232,16 @@ void TextPanel::EraseTranscript(const platform::PixelRect& rect) {
   std::vector<Fragment> left;
   for (const Fragment& fragment : transcript_) {
     std::vector<Fragment> staying;
-    for (std::size_t i = 0; i < fragment.text.size(); ++i)
-      if (!Contains(rect, CentreOf(fragment, i)))
-        Append(staying, fragment, i, fragment.row, fragment.col + static_cast<double>(i));
+    ForEachLetter(fragment, [&](const Fragment& letter) {
+      if (!Contains(rect, CentreOf(letter))) Append(staying, letter);
+    });
     left.insert(left.end(), staying.begin(), staying.end());
   }
   transcript_ = std::move(left);
 }
 
 std::vector<std::string> TranscriptLines(const TextPanel& panel) {
-  struct Cell {
-    char character;
-    int level;
-  };
-  // Rows are told apart by halves: text between two rows is a line of its own.
-  std::map<long, std::map<long, Cell>> rows;
-  for (const Fragment& fragment : panel.Transcript()) {
-    long col = std::lround(fragment.col);
-    auto& cells = rows[std::lround(fragment.row * 2)];
-    for (char c : fragment.text) cells[col++] = {c, fragment.level};
-  }
-  std::vector<std::string> lines;
-  for (const auto& [row, cells] : rows) {
-    std::string line;
-    int level = 0;
-    const auto setLevel = [&](int wanted) {
-      if (level != 0 && wanted != level) line += level > 0 ? "^" : tutor::SubscriptMark;
-      if (wanted != 0 && wanted != level) line += wanted > 0 ? "^" : tutor::SubscriptMark;
-      level = wanted;
-    };
-    long next = 1;
-    for (const auto& [col, cell] : cells) {
-      if (col > next) {
-        setLevel(0);
-        line.append(static_cast<std::size_t>(col - next), ' ');
-      }
-      setLevel(cell.level);
-      line += cell.character;
-      next = col + 1;
-    }
-    setLevel(0);
-    line.erase(line.find_last_not_of(' ') + 1);
-    if (!line.empty()) lines.push_back(line);
-  }
-  return lines;
+  return LinesOf(panel.Transcript());
 }
 
 }  // namespace course

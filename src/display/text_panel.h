@@ -10,20 +10,13 @@
 #include <utility>
 #include <vector>
 
+#include "display/transcript.h"
 #include "platform/picture_box.h"
 
 namespace course {
 
 // Which of the course's own characters a panel draws by itself, and how.
 enum class CharacterSet { LessonWindow, WiperBox, AnswerBox, CommentBox };
-
-struct Fragment {
-  double row = 0;
-  double col = 0;
-  platform::Colour colour = 0;
-  int level = 0;  // 1 raised, -1 lowered, 0 on the line
-  std::string text;
-};
 
 class TextPanel {
  public:
@@ -66,6 +59,10 @@ class TextPanel {
   double CellX(double col) const;
   double CellY(double row) const;
 
+  // Pixels by which a text moves the cursor: a cell a letter in the print font, another face's own
+  // widths.
+  double WidthOf(const std::string& s) const;
+
   void SetFontSize(double size);
   // "Courier New" bold at the panel's size, upright, in restoredColour.
   void RestoreFont();
@@ -77,26 +74,25 @@ class TextPanel {
   // Clears the surface and the transcript; the cursor stays.
   void Cls();
   // Adds a text at the cursor to the transcript: for texts that reach the surface in another way.
-  void Record(const std::string& s);
+  // Width in pixels; 0 is WidthOf(s).
+  void Record(const std::string& s, double width = 0);
 
   // What a reader finds after a part of the surface was moved by (dx, dy) pixels over what lay on
-  // its way, or copied there, or painted over: the transcript follows the letters' centres.
+  // its way, or copied there, or painted over: the transcript follows the centres of the letters,
+  // and of the whole box of a built-up fraction.
   void MoveTranscript(const platform::PixelRect& rect, int dx, int dy, bool keepsOriginal);
   void EraseTranscript(const platform::PixelRect& rect);
 
   const std::vector<Fragment>& Transcript() const { return transcript_; }
-  void ClearTranscript() { transcript_.clear(); }
   void SetTranscript(std::vector<Fragment> fragments) { transcript_ = std::move(fragments); }
 
  private:
-  platform::PixelPoint CentreOf(const Fragment& fragment, std::size_t i) const;
+  platform::PixelPoint CentreOf(const Fragment& fragment) const;
 
   std::vector<Fragment> transcript_;
 };
 
-// The transcript as lines of text from top to bottom, empty ones left out, in single bytes:
-// exponents as "^2^", subscripts between code 250.  A later text stands in place of an earlier one
-// in its cells.
+// See LinesOf.
 std::vector<std::string> TranscriptLines(const TextPanel& panel);
 
 }  // namespace course

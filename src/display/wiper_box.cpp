@@ -11,7 +11,7 @@ constexpr int kMarginColumns = 2;  // one on either side of the text
 constexpr double kLowestRow = 25;  // of the lesson screen
 
 struct WiperPlace {
-  double left;  // pixels of the lesson panel
+  double col;  // of the lesson screen
   double row;
   double wd;  // columns of text
   double ht;  // rows
@@ -22,12 +22,12 @@ int Twips(double pixels) {
 }
 
 void Prepare(const WiperPlace& place, platform::Colour backColor, platform::Colour foreColor) {
-  const platform::PictureBox& panel = frmPR->pnlLesson;
   const double ht = place.ht == 0 ? kLowestRow - place.row : place.ht;
   screenState.gWbWidth = static_cast<int>(RoundHalfEven(place.wd));
   screenState.gWbHeight = static_cast<int>(RoundHalfEven(ht));
-  frmPR->picWiperBox.Move(panel.Left() + Twips(place.left), RowOrColumnInTwips("R", place.row),
-                          Twips((place.wd + kMarginColumns) * gCellWidth), Twips(ht * gCellHeight));
+  const platform::PixelPoint at = CellInTwips(place.row, place.col);
+  frmPR->picWiperBox.Move(at.x, at.y, Twips((place.wd + kMarginColumns) * gCellWidth),
+                          Twips(ht * gCellHeight));
   wbSetColor(foreColor);
   wbSetBackColor(backColor);
   frmPR->wiperText.Cls();
@@ -39,13 +39,14 @@ void Prepare(const WiperPlace& place, platform::Colour backColor, platform::Colo
 void wbPrepare(double row, double wd, double ht, platform::Colour backColor,
                platform::Colour foreColor) {
   const double columnsInPanel = static_cast<double>(frmPR->pnlLesson.PixelWidth()) / gCellWidth;
-  const double left = gCellWidth * (columnsInPanel - (wd + kMarginColumns)) / 2;
-  Prepare({left, row, wd, ht}, backColor, foreColor);
+  // The panel's margin is as wide as a column.
+  const double col = (columnsInPanel - (wd + kMarginColumns)) / 2;
+  Prepare({col, row, wd, ht}, backColor, foreColor);
 }
 
 void wbPrepareAtColumn(double row, double col, double wd, double ht, platform::Colour backColor,
                        platform::Colour foreColor) {
-  Prepare({frmPR->lessonText.CellX(col), row, wd, ht}, backColor, foreColor);
+  Prepare({col, row, wd, ht}, backColor, foreColor);
 }
 
 void wbShow() {

@@ -67,12 +67,11 @@ void PlaceBoxes() {
   const int width = TwipsOf(p.boxWidth * gCellWidth);
   const int height = TwipsOf(p.boxHeight);
   const int step = TwipsOf(p.boxHeight + p.rowGap);
-  const int top = RowOrColumnInTwips("R", p.answerRow);
   for (int i = 1; i <= kBoxes; ++i) {
     const Place& place =
         kLayouts[static_cast<std::size_t>(p.layout - 1)][static_cast<std::size_t>(i - 1)];
-    frmPR->picAnswer[i].Move(RowOrColumnInTwips("C", ColumnOf(place.column)),
-                             top + place.steps * step, width, height);
+    const platform::PixelPoint first = CellInTwips(p.answerRow, ColumnOf(place.column));
+    frmPR->picAnswer[i].Move(first.x, first.y + place.steps * step, width, height);
   }
 }
 

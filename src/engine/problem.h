@@ -7,19 +7,14 @@
 #include <utility>
 #include <vector>
 
+#include "display/figure_item.h"
+
 namespace course {
 
 // One answer choice.  A wrong one carries the name of the mistake that leads to it.
 struct Choice {
   std::string text;
   std::string mistake;
-};
-
-// One thing that is drawn beside the question: shape "interval", "point", "line" ..., and its
-// numbers by name, such as {"from", -3}, {"closed", 1}.
-struct FigureItem {
-  std::string shape;
-  std::vector<std::pair<std::string, double>> values;
 };
 
 // How many boxes there are, which of them are shuffled, and what stands in the fifth.

@@ -2,8 +2,9 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
-#include "display/lesson_window.h"
+#include "display/panel_views.h"
 #include "platform/painting.h"
 
 namespace course {
@@ -62,9 +63,9 @@ void AppendWords(std::string& text, std::string_view words) {
   if (isWord) text += ' ';
 }
 
-std::string Joined(const TextPanel& panel, const char* separator) {
+std::string Joined(const std::vector<std::string>& lines, const char* separator) {
   std::string text;
-  for (const std::string& line : TranscriptLines(panel)) {
+  for (const std::string& line : lines) {
     if (!text.empty()) text += separator;
     text += SpokenText(line);
   }
@@ -96,17 +97,23 @@ std::string SpokenText(const std::string& text) {
 
 void UpdateAccessibleTexts() {
   if (platform::PaintingOff::Active()) return;  // no screen, no screen reader
-  frmPR->pnlLesson.SetAccessibleText(Joined(frmPR->lessonText, "\n"));
-  frmPR->picWiperBox.SetAccessibleText(Joined(frmPR->wiperText, "\n"));
-  for (int i = 1; i <= 5; ++i) {
-    frmPR->picCommentBox[i].SetAccessibleText(
-        Joined(*frmPR->commentText[static_cast<std::size_t>(i)], "\n"));
-    const std::string letter(1, static_cast<char>('A' + i - 1));
-    const std::string text = Joined(*frmPR->answerText[static_cast<std::size_t>(i)], " ");
-    if (frmPR->picAnswer[i].Visible()) frmPR->picAnswer[i].SetAccessibleText(letter + ": " + text);
+  for (const PanelView& view : ShownPanels(*frmPR)) {
+    switch (view.kind) {
+      case PanelKind::Table:
+      case PanelKind::Figure:
+      case PanelKind::Picture:  // has its description
+        break;
+      case PanelKind::Note:  // is read from its label
+        frmPR->lblNotes[view.index].SetAccessibleName(Joined(view.Lines(), " "));
+        break;
+      case PanelKind::Answer:
+        view.control->SetAccessibleText(std::string(1, static_cast<char>('A' + view.index - 1)) +
+                                        ": " + Joined(view.Lines(), " "));
+        break;
+      default:
+        view.control->SetAccessibleText(Joined(view.Lines(), "\n"));
+    }
   }
-  for (int i = 1; i <= frmPR->picPrintCell.Last(); ++i)
-    frmPR->picPrintCell[i].SetAccessibleText(SpokenText(frmPR->picPrintCell[i].AccessibleText()));
 }
 
 }  // namespace course

@@ -32,6 +32,11 @@ void Label::SetMarkedCaption(const std::string& marked) {
   label.setText(html);
 }
 
+void Label::SetUtf8Caption(const std::string& caption) {
+  QString text = QString::fromStdString(caption);
+  WidgetOf<QLabel>(*this).setText(text.replace('\r', '\n'));
+}
+
 std::string Label::Caption() const {
   const QLabel& label = WidgetOf<QLabel>(*this);
   if (label.textFormat() == Qt::PlainText) return FromText(label.text());

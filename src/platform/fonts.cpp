@@ -85,9 +85,16 @@ char16_t SymbolOf(unsigned char code) {
   static const bool hasUnicode =
       QRawFont::fromFont(FindTypeface("Symbol", 16, true, false).font).supportsCharacter(u'\u03C0');
   if (!hasUnicode) return code;
-  if (code == 112) return 0x03C0;  // pi
-  if (code == 165) return 0x221E;  // infinity
-  if (code == 174) return 0x2192;  // right arrow
+  struct Named {
+    unsigned char code;
+    char16_t letter;
+  };
+  static constexpr Named kNamed[] = {{0x44, 0x0394}, {0x70, 0x03C0}, {0x71, 0x03B8},
+                                     {0xA3, 0x2264}, {0xA5, 0x221E}, {0xAC, 0x2190},
+                                     {0xAE, 0x2192}, {0xB3, 0x2265}, {0xB9, 0x2260},
+                                     {0xBB, 0x2248}, {0xD0, 0x2220}, {0xD6, 0x221A}};
+  for (const Named& named : kNamed)
+    if (named.code == code) return named.letter;
   return code;
 }
 

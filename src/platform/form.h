@@ -82,6 +82,8 @@ class Label final : public Control {
   Label(Control& parent, std::string name, const std::string& caption = "");
   // '\r' or '\n' breaks the line; long lines are wrapped.
   void SetCaption(const std::string& caption);
+  // For letters beyond Latin-1.
+  void SetUtf8Caption(const std::string& caption);
   // The same of a text in which what stands between two bars is bold; Caption gives it without
   // them.
   void SetMarkedCaption(const std::string& marked);

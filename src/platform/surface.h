@@ -74,7 +74,8 @@ class Surface {
               double start = 0, double end = 360, double aspect = 1);
 
   // One string in the surface's font and ForeColor, its top left at CurrentX, CurrentY; CurrentX
-  // moves behind it.  In "Symbol" the codes 112, 165 and 174 are pi, infinity and the right arrow.
+  // moves behind it.  "Symbol" has a code page of its own: 112 is pi, 163 less
+  // than or equal, 165 infinity, 174 the right arrow ...
   void Print(std::string_view text);
   // The same at an angle in degrees, counter-clockwise around (x, y), in a face and size of its
   // own.

@@ -10,6 +10,7 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "display/print.h"
+#include "display/stacked_text.h"
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/page.h"
@@ -284,9 +285,8 @@ class PageLayoutTest : public Test {
 TEST_F(PageLayoutTest, APageOfLinesFractionsAndColoursHasNoFault) {
   for (int row = 2; row <= 23; ++row) Print(row, 1, std::string(40, 'x'));
   course::frmPR->lessonText.Cls();
-  Print(5, 1, "x = ");
-  Print(4.3, 5, "3");
-  Print(5.7, 5, "4");
+  course::Locate(5, 1);
+  course::isPrintStackedText("x = 3/4 - 1/12");
   Print(8, 3, "a word in white");
   course::Locate(8, 5);
   course::isColorPrint("word", platform::colour::Yellow);
@@ -300,6 +300,24 @@ TEST_F(PageLayoutTest, AWordThatIsPrintedOverInPartIsFound) {
                             "column 3.0"});
   Print(5, 1, "a longer line");
   EXPECT_EQ(Found(), Faults{});
+}
+
+TEST_F(PageLayoutTest, AFractionIsOneThingOfItsOwnSize) {
+  const auto fraction = [](double row, double col, const std::string& text) {
+    course::Locate(row, col);
+    course::isPrintStackedText(text);
+  };
+  fraction(5, 5, "12/345");
+  fraction(5, 5, "\\y12\\z/345");  // another colour
+  Print(5, 8, "x");
+  Print(7, 5, "abc");
+  EXPECT_EQ(Found(), Faults{});
+  Print(6.3, 7, "d");
+  EXPECT_EQ(Found(), Faults{"\"d\" over \"12/345\" at row 6.3, column 7.0"});
+  course::frmPR->lessonText.Cls();
+  fraction(5, 5, "12/345");
+  fraction(5, 4, "67/8");
+  EXPECT_EQ(Found(), Faults{"\"67/8\" over \"12/345\" at row 5.0, column 4.0"});
 }
 
 TEST_F(PageLayoutTest, TextBetweenRowsLiesOverTheirs) {
@@ -461,11 +479,11 @@ TEST(PageText, NoneOfTheAboveNeedsTheTrueAnswerAndTheWords) {
   problem.kind = choice_kind::FourShuffledAndNone;
   problem.Right(5, "3/4");
   PageText page;
-  page.lesson = {{5, 1, 0, 0, "1/2 + 1/4 = 3/4"}};
+  page.panels = {{"pnlLesson", {{5, 1, 0, 0, "1/2 + 1/4 = 3/4", 15}}}};
   page.lines = {"1/2 + 1/4 = 3/4"};
   EXPECT_NE(MissingAtEnd({page}, problem), "");
   PageText told = page;
-  told.lesson.push_back({7, 1, 0, 0, course::kNoneOfTheAbove});
+  told.panels[0].fragments.push_back({7, 1, 0, 0, course::kNoneOfTheAbove, 17});
   told.lines.push_back(course::kNoneOfTheAbove);
   EXPECT_EQ(MissingAtEnd({page, told}, problem), "");
 }

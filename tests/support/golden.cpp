@@ -5,12 +5,17 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
+#include <utility>
 
 namespace course::testing {
 namespace {
 
-constexpr int kTolerance = 48;          // of a colour component, 0 to 255
-constexpr double kWorsePixels = 0.002;  // share of pixels that may differ by more
+constexpr int kTolerance = 48;   // of a colour component, 0 to 255
+constexpr int kWorsePixels = 1;  // of a tile, that may differ by more
+// A cell of the lesson screen: a fault in one small sign fills no picture, but a tile.
+constexpr int kTileWidth = 16;
+constexpr int kTileHeight = 25;
 
 int Difference(platform::Colour a, platform::Colour b) {
   int most = 0;
@@ -20,17 +25,22 @@ int Difference(platform::Colour a, platform::Colour b) {
   return most;
 }
 
-// Pixels that differ too much; they are marked red on the sheet.
-int CompareInto(platform::Surface& sheet, const platform::Surface& actual,
-                const platform::Surface& golden) {
-  int worse = 0;
+// Tiles with too many pixels that differ too much; those pixels are marked red on the sheet.
+std::string CompareInto(platform::Surface& sheet, const platform::Surface& actual,
+                        const platform::Surface& golden) {
+  std::map<std::pair<int, int>, int> worse;  // by tile
   for (int y = 0; y < actual.PixelHeight(); ++y)
     for (int x = 0; x < actual.PixelWidth(); ++x) {
       const bool differs = Difference(actual.Pixel(x, y), golden.Pixel(x, y)) > kTolerance;
-      worse += differs ? 1 : 0;
+      if (differs) ++worse[{x / kTileWidth, y / kTileHeight}];
       sheet.PSet(x, y, differs ? platform::colour::Red : actual.Pixel(x, y));
     }
-  return worse;
+  std::string faults;
+  for (const auto& [tile, count] : worse)
+    if (count > kWorsePixels)
+      faults += " " + std::to_string(count) + " at (" + std::to_string(tile.first * kTileWidth) +
+                ", " + std::to_string(tile.second * kTileHeight) + ")";
+  return faults;
 }
 
 }  // namespace
@@ -51,12 +61,11 @@ void ExpectGolden(const platform::Surface& actual, const std::string& name) {
   ASSERT_EQ(actual.PixelWidth(), golden->PixelWidth()) << name;
   ASSERT_EQ(actual.PixelHeight(), golden->PixelHeight()) << name;
   platform::Surface sheet(actual.PixelWidth(), actual.PixelHeight());
-  const int worse = CompareInto(sheet, actual, *golden);
-  const double allowed = kWorsePixels * actual.PixelWidth() * actual.PixelHeight();
-  if (worse <= allowed) return;
+  const std::string faults = CompareInto(sheet, actual, *golden);
+  if (faults.empty()) return;
   sheet.SavePng("golden/" + name + ".difference.png");
-  ADD_FAILURE() << name << ": " << worse << " pixels differ from " << file << "; see " << actualFile
-                << " and golden/" << name << ".difference.png in the build folder";
+  ADD_FAILURE() << name << ": pixels differ from " << file << ":" << faults << "; see "
+                << actualFile << " and golden/" << name << ".difference.png in the build folder";
 }
 
 }  // namespace course::testing

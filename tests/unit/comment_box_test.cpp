@@ -53,10 +53,13 @@ TEST_F(CommentBoxTest, TakesCellsAndExponentsFromItsSize) {
     return std::vector<int>{layout.cellWidth, layout.cellHeight, layout.exponentSize,
                             layout.leftMargin};
   };
-  EXPECT_EQ(info(9), (std::vector{7, 11, 8, 3}));
-  EXPECT_EQ(info(13), (std::vector{10, 15, 8, 3}));
-  EXPECT_EQ(info(20), (std::vector{16, 25, 14, 3}));
-  EXPECT_EQ(info(18), (std::vector{14, 22, 10, 3}));  // 14.4 by 22.5, which is in no table
+  const std::vector<int> sizes[] = {
+      // Points, and the cell's width and height, the exponent's size, the padding.
+      {9, 7, 11, 8, 3},    {10, 8, 12, 8, 3},   {11, 9, 13, 8, 3},   {12, 10, 14, 10, 3},
+      {13, 10, 15, 8, 3},  {14, 11, 17, 10, 3}, {15, 12, 18, 10, 3}, {16, 13, 20, 10, 3},
+      {18, 14, 22, 10, 3}, {20, 16, 25, 14, 3}};
+  for (const std::vector<int>& row : sizes)
+    EXPECT_EQ(info(row[0]), std::vector<int>(row.begin() + 1, row.end())) << row[0];
   ExpectStop("picCommentBoxPrepare2: size 8", [&] { info(8); });
   ExpectStop("picCommentBoxPrepare2: size 21", [&] { info(21); });
   ExpectStop("picCommentBoxShow: comment box 6", [] { picCommentBoxShow(6); });

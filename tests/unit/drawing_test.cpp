@@ -262,7 +262,7 @@ TEST_F(DrawingTest, PaintStaysInsideItsBoundary) {
   gPoly[3] = {9, 10};
   gPoly[4] = {9, 5};
   isDrawPoly(4, colour::Green);
-  Paint2(7, 7, colour::Magenta, colour::Green);
+  Paint2(8.5, 6, colour::Magenta, colour::Green);
   EXPECT_EQ(Extent(colour::Green), "(88, 93) 81 x 101");
   EXPECT_EQ(Extent(colour::Magenta), "(89, 94) 79 x 99");
   EXPECT_EQ(CountOf(colour::Magenta), 79u * 99);

@@ -48,6 +48,7 @@ TEST_F(GridTest, ACursorBeyondSixteenBitsStopsTheProgram) {
 
 TEST_F(GridTest, ControlsArePlacedOverTheGridInTwips) {
   EXPECT_EQ(RowOrColumnInTwips("R", 2), 60 + 5 * 15);
+  EXPECT_EQ(RowOrColumnInTwips("R", 16.5), 5572.5);
   EXPECT_EQ(RowOrColumnInTwips("c", 21), 1500 + (16 + 20 * 16) * 15);
   try {
     RowOrColumnInTwips("X", 1);
@@ -56,7 +57,7 @@ TEST_F(GridTest, ControlsArePlacedOverTheGridInTwips) {
     EXPECT_EQ(stopped.message, "Function RowOrColumnInTwips: Improper parameter");
   }
   platform::PictureBox& box = frmPR->picGraph2D[1];
-  box.Move(RowOrColumnInTwips("C", 10), RowOrColumnInTwips("R", 8), 4 * 16 * 15, 2 * 25 * 15);
+  box.Move(CellInTwips(8, 10).x, CellInTwips(8, 10).y, 4 * 16 * 15, 2 * 25 * 15);
   ctrlCentreCell(box);
   EXPECT_DOUBLE_EQ(screenState.gCtrlCell[0], 9);
   EXPECT_DOUBLE_EQ(screenState.gCtrlCell[1], 12);

@@ -24,7 +24,8 @@ TEST_F(NotesTest, TakeTheSizeOfTheirText) {
   };
   const auto [width, height] = prepare("text");
   EXPECT_EQ(frmPR->picNotes[1].Left(), RowOrColumnInTwips("C", 30));
-  EXPECT_EQ(frmPR->picNotes[1].Top(), RowOrColumnInTwips("R", 7.5));
+  Locate(7.5, 30);  // a text of that row stands on the same pixel
+  EXPECT_EQ(frmPR->picNotes[1].Top(), Panel().Top() + 15 * Text().cursorY);
   EXPECT_EQ(frmPR->picNotes[1].Width(), width);
   EXPECT_EQ(frmPR->picNotes[1].Height(), height);
   EXPECT_FALSE(frmPR->picNotes[1].Visible());
@@ -43,6 +44,7 @@ TEST_F(NotesTest, TakeTheSizeOfTheirText) {
 TEST_F(NotesTest, ReadTheCoursesCharactersAndGoWithTheScreen) {
   lblNotesPrepare(5, 3, 3, "3" + tutor::Gap + tutor::Times + " ~a~", 0xFFFFFF, 0, false, false, 10);
   EXPECT_EQ(frmPR->lblNotes[5].Caption(), "3 \xD7 \"a\"");
+  EXPECT_EQ(TranscriptLines(*frmPR->noteText[5]).size(), 1u);
   lblNotesShow(5);
   ResetScreen();
   EXPECT_FALSE(frmPR->picNotes[5].Visible());

@@ -131,13 +131,54 @@ TEST_F(TranscriptTest, KeepsTheOriginalOfACopyAndSplitsLines) {
 
 class ExponentTest : public DisplayTest {};
 
+// Each size and some signs stand a little beside their cell: by so many pixels to the right and
+// down from where the same letter stands on the line.
+TEST_F(ExponentTest, EverySizeAndSignHasItsNudge) {
+  struct Case {
+    int size;
+    char sign;
+    std::string raised, lowered;
+  };
+  const Case cases[] = {
+      {10, '2', "1,1", "1,19"},  {10, 'p', "4,1", "1,19"},  {10, '.', "1,-3", "1,15"},
+      {11, '2', "0,0", "0,17"},  {12, '2', "0,-8", "0,10"}, {12, 'p', "3,-8", "0,10"},
+      {12, '.', "0,-8", "0,10"}, {14, '2', "0,0", "2,17"},  {14, 'p', "3,0", "2,17"},
+      {14, '.', "1,-3", "1,15"}, {15, '2', "0,-3", "0,15"}, {15, 'p', "3,-3", "0,15"}};
+  const auto inkOf = [](const std::function<void()>& print) {
+    Panel().FillRect({0, 0, 672, 589}, platform::colour::Blue);
+    Locate(10, 10);
+    print();
+    int left = 672;
+    int top = 589;
+    for (int y = 150; y < 300; ++y)
+      for (int x = 150; x < 200; ++x)
+        if (Panel().Pixel(x, y) != Blue) {
+          left = std::min(left, x);
+          top = std::min(top, y);
+        }
+    return platform::PixelPoint{left, top};
+  };
+  for (const Case& c : cases) {
+    const std::string text(1, c.sign);
+    const platform::PixelPoint plain = inkOf([&] {
+      SetFontSize(c.size);
+      Text().TextOut(text);
+    });
+    const auto nudge = [&](void (*print)(const std::string&, int, double)) {
+      const platform::PixelPoint at = inkOf([&] { print(text, c.size, 0); });
+      return std::to_string(at.x - plain.x) + "," + std::to_string(at.y - plain.y);
+    };
+    EXPECT_EQ(nudge(isPrintExponent1), c.raised) << c.size << c.sign;
+    EXPECT_EQ(nudge(isPrintSubscript1), c.lowered) << c.size << c.sign;
+  }
+}
+
 TEST_F(ExponentTest, EachCharacterTakesACellAndTheCursorEndsOnTheBaseRow) {
   Locate(10, 5);
   isPrintExponent1("23", 12);
   EXPECT_EQ(Row(), 10);
   EXPECT_EQ(Col(), 7);
   EXPECT_EQ(Panel().FontSize, 20);
-  // Size 12 is raised 0.3 row: the first of its ink lies above that of a size 14 exponent.
   EXPECT_EQ(Lines(), std::vector<std::string>{"    ^23^"});
 }
 

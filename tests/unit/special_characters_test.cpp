@@ -1,7 +1,12 @@
 #include "display/special_characters.h"
 
+#include "display/comment_box.h"
+#include "display/drawing.h"
+#include "display/notes.h"
+#include "display/print_cells.h"
 #include "mathkit/tutor_codes.h"
 #include "support/display_fixture.h"
+#include "support/expect_stop.h"
 #include "support/golden.h"
 
 namespace course::testing {
@@ -12,18 +17,6 @@ constexpr int kCodes[] = {127, 129, 130, 131, 132, 133, 134, 135, 136, 141, 157,
                           191, 216, 217, 218, 219, 221, 226, 230, 231, 248, 249, 253, 255};
 
 class SpecialCharacterTest : public DisplayTest {};
-
-TEST_F(SpecialCharacterTest, ThirtyNineCodesAreDrawnAndInCommentBoxesFourAndTheHardBlank) {
-  int drawn = 0;
-  int drawnInComments = 0;
-  for (int code = 0; code <= 255; ++code) {
-    drawn += IsDrawnCharacter(CharacterSet::LessonWindow, code) ? 1 : 0;
-    drawnInComments += IsDrawnCharacter(CharacterSet::CommentBox, code) ? 1 : 0;
-  }
-  EXPECT_EQ(drawn, 39);
-  EXPECT_EQ(drawnInComments, 5);
-  EXPECT_TRUE(IsDrawnCharacter(CharacterSet::CommentBox, 255));
-}
 
 TEST_F(SpecialCharacterTest, EachLeavesInkInItsCellAndTheBlankOnesNone) {
   for (const int code : kCodes) {
@@ -66,6 +59,31 @@ TEST_F(SpecialCharacterTest, ChartOfAllCharacters) {
     top += 130;
   }
   ExpectGolden(chart, "special_characters");
+}
+
+// Where a face has no such letter the signs are drawn all the same: in headings, cells and
+// comments.
+TEST_F(SpecialCharacterTest, SignsInOtherFacesAndSizes) {
+  const std::string text = "x" + tutor::GreaterOrEqual + "2" + tutor::LessOrEqual + "3" +
+                           tutor::NotEqual + tutor::SquareRoot + "5" + tutor::Infinity + tutor::Pi;
+  platform::Surface chart(320, 200);
+  PrintNiceHeading(0, text, 2, 1, "", true, false, 20, platform::colour::White, 0, 0);
+  picPrintCellBoxPrepare1(4);
+  picPrintCellPrint(1, text, platform::colour::Black, 10);
+  chart.BitBlt(0, 0, 320, 40, Panel(), 0, 0);
+  chart.BitBlt(0, 40, 160, 40, frmPR->picPrintCell[1], 0, 0);
+  int top = 80;
+  for (const int size : {10, 12, 15, 18}) {
+    picCommentBoxPrepare2(1, 3, 1, 20, 2, platform::colour::White, 0, size, 2);
+    picCommentBoxisPrint(1, text + tutor::PlusOrMinus + tutor::Divided + tutor::Degree);
+    chart.BitBlt(0, top, 320, 30, frmPR->picCommentBox[1], 0, 0);
+    top += 30;
+  }
+  ExpectGolden(chart, "signs_in_other_faces");
+  lblNotesPrepare(1, 3, 3, text, platform::colour::White, 0, false, false, 12);
+  EXPECT_EQ(frmPR->lblNotes[1].Caption(), "x?2?3??5??") << "letters beyond Latin-1";
+  ExpectStop("InPlainFace: no face of letters has the character 169",
+             [] { picPrintCellPrint(1, "a " + Chr(169) + " b", 0, 10); });
 }
 
 }  // namespace

@@ -44,16 +44,28 @@ TEST_F(StackedTextTest, ALineStandsOnTheFractionsMiddleRow) {
   isPrintStackedText("1/24 + x");
   EXPECT_EQ(Row(), 10);
   EXPECT_EQ(Col(), 3 + 2 + 4);
-  EXPECT_EQ(Lines(), (Texts{"   1", "     + x", "  24"}));
+  EXPECT_EQ(Lines(), Texts{"  1/24 + x"});
+  // As it is typed: no colours, the signs' extra room and narrow parts make no blanks.
+  for (const std::string typed :
+       {"1/4 + 5/6 = 13/12 = 1 1/12", "(-3)/4 - (-7/18) or -1/2", "(2(a + 1) - 3)/(2x) = 1/100"}) {
+    Text().Cls();
+    Locate(10, 3);
+    isPrintStackedText(typed);
+    EXPECT_EQ(Lines(), Texts{"  " + typed});
+  }
+  Text().Cls();
+  isPrintStackedText(R"(\y3\z/4x^2^)");
+  EXPECT_EQ(Text().Transcript().back().text, "3/4x^2^");
 }
 
-TEST_F(StackedTextTest, ABoxSpeaksTheLineAsItIsWritten) {
+TEST_F(StackedTextTest, ABoxHoldsTheSameText) {
   picAnswerLocate(2, 2, 3);
-  const std::string text = "(-3 + " + tutor::SquareRoot + "17)/4";
+  const std::string text = "x = (-3 + " + tutor::SquareRoot + "17)/4 or -1/2";
   picAnswerPrintStackedText(2, text);
   EXPECT_EQ(TranscriptLines(*frmPR->answerText[2]), Texts{"  " + text});
+  EXPECT_EQ(frmPR->answerText[2]->Transcript()[1].width, 8);
   picAnswerUpdateCursorCell(2);
-  EXPECT_EQ(frmPR->answerText[2]->cursorCol, 3 + 8);
+  EXPECT_EQ(frmPR->answerText[2]->cursorCol, 3 + 4 + 8 + 5 + 1.25);
 }
 
 }  // namespace

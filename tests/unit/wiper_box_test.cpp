@@ -34,7 +34,7 @@ TEST_F(WiperBoxTest, StandsInTheMiddleOrAtItsColumn) {
   EXPECT_EQ(Cursor(), "16,5");
   EXPECT_FALSE(Box().Visible());
   wbPrepare(4.5, 20, 3, colour::White, colour::Black);
-  EXPECT_EQ(Place(), "(160, 67) 352 x 75");
+  EXPECT_EQ(Place(), "(160, 68) 352 x 75");
   wbPrepareAtColumn(12, 20, 18, 6.5, colour::White, colour::Black);
   EXPECT_EQ(Place(), "(320, 255) 320 x 162");
 }

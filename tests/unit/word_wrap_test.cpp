@@ -190,26 +190,59 @@ class WiperWrapTest : public DisplayTest {
   static Lines_ WiperLines() { return TranscriptLines(frmPR->wiperText); }
 };
 
-TEST_F(WiperWrapTest, BreaksBackwardFromTheMargin) {
-  wbWordWrap("aaaa bbbb cccc dddd eeee ffff");
-  EXPECT_EQ(WiperLines(), (Lines_{"aaaa bbbb cccc dddd", "eeee ffff"}));
-  wbUpdateCursorCell();
-  EXPECT_EQ(frmPR->wiperText.cursorRow, 3);
-}
-
 TEST_F(WiperWrapTest, MayBreakInsideAnExponent) {
   wbWordWrap("0123456789 x^12 34567890123^");
   EXPECT_EQ(WiperLines(), (Lines_{"0123456789 x^12^", "^34567890123^"}));
 }
 
-TEST_F(WiperWrapTest, AnExactlyFullGluedPieceMovesDownWhole) {
-  wbWordWrap(R"(aaaaaaaaaaaa bbbbbbb\rccc)");
-  EXPECT_EQ(WiperLines(), (Lines_{"aaaaaaaaaaaa", "bbbbbbbccc"}));
+// Twenty columns; where the cursor ends tells what a line has swallowed.
+TEST_F(WiperWrapTest, EveryWayToFillALine) {
+  struct Case {
+    const char* text;
+    Lines_ lines;
+    double col;
+  };
+  const Case cases[] = {{"aaaa bbbb cccc ddddd", {"aaaa bbbb cccc ddddd"}, 21},
+                        {"aaaa bbbb cccc dddd ee", {"aaaa bbbb cccc dddd", "ee"}, 3},
+                        {"aaaa bbbb cccc ddddd ee", {"aaaa bbbb cccc ddddd", "ee"}, 3},
+                        {"aaaa bbbb cccc dddd ", {"aaaa bbbb cccc dddd"}, 21},
+                        {"aaaa bbbb cccc ddddd ", {"aaaa bbbb cccc ddddd"}, 22},
+      {"aaaa\rbbbb cccc", {"aaaa", "bbbb cccc"}, 10},
+                        // A word that goes on in another colour, and one that does not.
+                        {R"(aaaa bbbb cccc \rddddd\z e)", {"aaaa bbbb cccc ddddd", "e"}, 2},
+                        {R"(aaaa bbbb cccc \rddddd\ze f)", {"aaaa bbbb cccc", "ddddde f"}, 9},
+                        {R"(aaaa bbbb cccc \rdddd\ze f)", {"aaaa bbbb cccc dddde", "f"}, 2},
+                        {R"(\raaaaaaaaaa bbbbbbbbb\zc)", {"aaaaaaaaaa", "bbbbbbbbbc"}, 11},
+                        {"aaaa bbbb cccc ddd^2^ e", {"aaaa bbbb cccc ddd^2^", "e"}, 2},
+                        {"aaaa bbbb cccc dddd^2^ e", {"aaaa bbbb cccc dddd^2^", "e"}, 2},
+                        {"aaaa bbbb cccc ddddd^2^ e", {"aaaa bbbb cccc", "ddddd^2^ e"}, 9}};
+  for (const Case& c : cases) {
+    frmPR->wiperText.Cls();
+    wbLocate(1, 1);
+    wbWordWraps(c.text);
+    wbUpdateCursorCell();
+    EXPECT_EQ(WiperLines(), c.lines) << c.text;
+    EXPECT_EQ(frmPR->wiperText.cursorCol, c.col) << c.text;
+  }
+}
+
+TEST_F(WiperWrapTest, IndentsAndNarrowsLikeTheOthers) {
+  wbWordWrapIndent("1. aaaa bbbb cccc dddd eeee", 4);
+  EXPECT_EQ(WiperLines(), (Lines_{"1. aaaa bbbb cccc", "   dddd eeee"}));
+  frmPR->wiperText.Cls();
+  wbLocate(1, 1);
+  wbWordWrapNarrow("aaaa bbbb cccc", 10);
+  EXPECT_EQ(WiperLines(), (Lines_{"aaaa bbbb", "cccc"}));
+  screenState.gWbLineGap = 5;
+  frmPR->wiperText.Cls();
+  wbLocate(1, 1);
+  wbWordWraps("aaaa bbbb cccc dddd eeee");
+  EXPECT_EQ(frmPR->wiperText.cursorY, 5 + 25 + 5);
 }
 
 TEST_F(WiperWrapTest, AWordTooLongStopsTheProgram) {
   EXPECT_THROW(wbWordWrap(std::string(21, 'x')), StoppedProgram);
-  EXPECT_THROW(wbWordWrap("x\\r" + std::string(21, 'x')), StoppedProgram);
+  EXPECT_THROW(wbWordWrap("x\r" + std::string(21, 'x')), StoppedProgram);
 }
 
 class ProportionalWrapTest : public DisplayTest {};

@@ -65,8 +65,7 @@ class TutorCharsForm {
     const ChartedCharacter& entry = TutorCharacters()[static_cast<std::size_t>(index)];
     const int left = index / kRowsPerColumn * kColumnWidth;
     const int top = index % kRowsPerColumn * kRowHeight;
-    Picture1_.ForeColor =
-        IsDrawnCharacter(kLayout.characters, entry.code) ? platform::colour::White : kPlain;
+    Picture1_.ForeColor = IsDrawnCharacter(entry.code) ? platform::colour::White : kPlain;
     Picture1_.FontName = "MS Sans Serif";
     Picture1_.FontSize = kTextSize;
     Picture1_.FontBold = false;

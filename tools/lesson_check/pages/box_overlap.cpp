@@ -1,5 +1,6 @@
 #include "lesson_check/pages/box_overlap.h"
 
+#include "display/panel_views.h"
 #include "lesson_check/pages/glyph_boxes.h"
 
 namespace lesson_check {
@@ -16,9 +17,7 @@ InkBox OutlineOf(const Control& box) {
 // Boxes with one parent, whose places can be compared.
 class Siblings {
  public:
-  void Add(const Control& box) {
-    if (box.Visible()) boxes_.push_back(&box);
-  }
+  void Add(const Control& box) { boxes_.push_back(&box); }
 
   void FindOverlaps(std::vector<std::string>& faults) const {
     for (std::size_t i = 0; i < boxes_.size(); ++i)
@@ -37,20 +36,12 @@ class Siblings {
 std::vector<std::string> OverlappingBoxes(course::LessonWindow& window) {
   std::vector<std::string> faults;
   Siblings boxes;
-  boxes.Add(window.picWiperBox);
-  boxes.Add(window.picWiperBox2);
-  boxes.Add(window.picPrintCellBox);
-  for (int i = 1; i <= 5; ++i) {
-    boxes.Add(window.picCommentBox[i]);
-    boxes.Add(window.picGalleryImage[i]);
-    boxes.Add(window.picNotes[i]);
-    boxes.Add(window.picGraph2D[i]);
-    boxes.Add(window.picAnswer[i]);
+  Siblings cells;
+  for (const course::PanelView& view : course::ShownPanels(window)) {
+    if (view.kind == course::PanelKind::Lesson) continue;
+    (view.kind == course::PanelKind::Cell ? cells : boxes).Add(*view.control);
   }
   boxes.FindOverlaps(faults);
-  if (!window.picPrintCellBox.Visible()) return faults;
-  Siblings cells;
-  for (int i = 1; i <= window.picPrintCell.Last(); ++i) cells.Add(window.picPrintCell[i]);
   cells.FindOverlaps(faults);
   return faults;
 }

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <string>
+#include <utility>
 
-#include "display/lesson_window.h"
-#include "engine/header.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -31,30 +29,33 @@ const InkParts& PartsOf(int level) {
   return level > 0 ? kRaised : kLowered;
 }
 
-constexpr double kSamePlace = 0.25;  // cells
-
-// Columns that a letter takes: one, but fewer in the banner, whose face has widths of its own.
-double ColumnsOf(const Fragment& fragment) {
-  const std::string banner = course::BannerText();
-  if (banner.empty() || fragment.text.find(banner) == std::string::npos) return 1;
-  static std::map<std::string, double> widths;  // each banner is measured once
-  const auto [width, isNew] = widths.try_emplace(fragment.text);
-  if (isNew) width->second = course::frmPR->picTextWidth.TextWidth(fragment.text);
-  return width->second / course::gCellWidth / static_cast<double>(fragment.text.size());
-}
+constexpr double kSamePlace = 0.25;   // cells
+constexpr double kFractionReach = 2;  // rows
 
 bool SamePlace(const Glyph& a, const Glyph& b) {
   return std::fabs(a.row - b.row) <= kSamePlace && std::fabs(a.col - b.col) <= kSamePlace;
 }
 
-bool SameText(const Glyph& later, const Glyph& earlier) {
-  return later.character == earlier.character && later.level == earlier.level &&
-         SamePlace(later, earlier);
+bool HoldsMiddle(const InkBox& box, const InkBox& other) {
+  const double x = (other.left + other.right) / 2;
+  const double y = (other.top + other.bottom) / 2;
+  return x > box.left && x < box.right && y > box.top && y < box.bottom;
 }
 
-// The band behind a later glyph takes away what stood in its cell.
+bool SameText(const Glyph& later, const Glyph& earlier) {
+  return later.text == earlier.text && later.level == earlier.level && SamePlace(later, earlier);
+}
+
+// The band behind a later glyph takes away what stood in its cell, and a fraction what stood in its
+// rows.  A fraction goes with the middle of its bar.
 bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
-  return panel.erases && (later.blank || (later.level == 0 && earlier.level == 0)) &&
+  if (!panel.erases) return false;
+  if (later.whole || (earlier.whole && later.blank)) {
+    const Glyph& box = later.whole ? later : earlier;
+    const Glyph& other = later.whole ? earlier : later;
+    return HoldsMiddle(box.ink, other.ink) || HoldsMiddle(other.ink, box.ink);
+  }
+  return (later.blank || (later.level == 0 && earlier.level == 0)) && !earlier.whole &&
          std::fabs(later.row - earlier.row) <= kSamePlace &&
          std::fabs(later.col - earlier.col) < 0.5;
 }
@@ -88,15 +89,13 @@ class Standing {
 
  private:
   static Glyph RightOf(Glyph glyph) {
-    ++glyph.col;
+    glyph.col += glyph.width;
     return glyph;
   }
 
   void Replace(const Fragment& fragment, const std::vector<Glyph>& printed) {
     std::erase_if(glyphs_, [&](const Glyph& earlier) {
-      if (std::fabs(earlier.row - fragment.row) > kSamePlace) return false;
-      const double place = earlier.col - fragment.col;
-      if (place < -1 || place > static_cast<double>(printed.size())) return false;
+      if (!CanMeet(fragment, earlier)) return false;
       bool gone = false;
       for (const Glyph& later : printed) {
         const bool same = SameText(later, earlier);
@@ -109,6 +108,13 @@ class Standing {
     });
   }
 
+  static bool CanMeet(const Fragment& fragment, const Glyph& earlier) {
+    const double reach = fragment.whole || earlier.whole ? kFractionReach : kSamePlace;
+    return std::fabs(earlier.row - fragment.row) <= reach &&
+           earlier.col + earlier.width >= fragment.col - kSamePlace &&
+           earlier.col <= fragment.Right() + kSamePlace;
+  }
+
   const TextPanel& panel_;
   std::vector<Glyph> glyphs_;
   std::vector<int> replaced_;  // words that lost a glyph to another text
@@ -119,24 +125,23 @@ class Standing {
 
 std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   const InkParts& parts = PartsOf(fragment.level);
-  const double advance = ColumnsOf(fragment);
-  const double width = panel.layout.cellWidth * advance;
-  const double height = panel.layout.cellHeight;
+  const double line = panel.layout.cellHeight * (fragment.whole ? 1 : fragment.height);
+  const double top = panel.CellY(fragment.Top()) + parts.top * line;
+  const double bottom = panel.CellY(fragment.Bottom()) - (1 - parts.bottom) * line;
+  const double advance = fragment.whole ? fragment.width : fragment.Advance();
+  const double side = parts.side * std::min(advance, 1.0) * panel.layout.cellWidth;
+  const auto glyphAt = [&](double col, std::string text) {
+    const bool blank = text == " " || text == course::tutor::Gap;
+    const InkBox ink{panel.CellX(col) + side, top, panel.CellX(col + advance) - side, bottom};
+    return Glyph{std::move(text), blank, fragment.whole, fragment.level,
+                 fragment.row,    col,   advance,        ink};
+  };
+  if (fragment.whole) return {glyphAt(fragment.col, fragment.text)};
   std::vector<Glyph> glyphs;
   glyphs.reserve(fragment.text.size());
-  double col = fragment.col;
-  for (const char c : fragment.text) {
-    const double x = panel.CellX(col);
-    const double y = panel.CellY(fragment.row);
-    glyphs.push_back({c,
-                      c == ' ' || c == course::tutor::Gap[0],
-                      fragment.level,
-                      fragment.row,
-                      col,
-                      {x + parts.side * width, y + parts.top * height, x + (1 - parts.side) * width,
-                       y + parts.bottom * height}});
-    col += advance;
-  }
+  for (std::size_t i = 0; i < fragment.text.size(); ++i)
+    glyphs.push_back(
+        glyphAt(fragment.col + static_cast<double>(i) * advance, fragment.text.substr(i, 1)));
   return glyphs;
 }
 

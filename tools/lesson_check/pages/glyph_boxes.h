@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "display/text_panel.h"
@@ -24,18 +25,21 @@ inline bool Overlap(const InkBox& a, const InkBox& b) {
 }
 
 // A character, the place of its cell, and its ink as far as its kind tells: small characters hang
-// above or below the line, others keep to the height of capitals.
+// above or below the line, others keep to the height of capitals.  A built-up fraction or radical
+// is one glyph.
 struct Glyph {
-  char character = ' ';
+  std::string text;
   bool blank = false;
+  bool whole = false;  // built up
   int level = 0;
   double row = 0;
   double col = 0;
+  double width = 1;  // columns
   InkBox ink;
   int word = 0;  // glyphs that stand side by side without a blank share a number
 };
 
-// The characters of a fragment, from left to right.
+// The glyphs of a fragment, from left to right.
 std::vector<Glyph> GlyphsOf(const course::TextPanel& panel, const course::Fragment& fragment);
 
 // What stands on the panel, and the words that a later text has cut.

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <cstdio>
 #include <map>
+#include <utility>
 
-#include "display/exponents.h"
-#include "engine/answers.h"
+#include "display/panel_views.h"
 #include "lesson_check/pages/box_overlap.h"
 #include "lesson_check/pages/glyph_boxes.h"
 #include "mathkit/tutor_codes.h"
@@ -49,8 +49,8 @@ struct OverlappedRow {
       row = over.row;
       col = over.col;
     }
-    earlier += under.character;
-    later += over.character;
+    earlier += under.text;
+    later += over.text;
   }
 };
 
@@ -71,36 +71,14 @@ struct InkRow {
 std::string WordOf(const std::vector<Glyph>& glyphs, const Glyph& part) {
   std::string word;
   for (const Glyph& glyph : glyphs)
-    if (glyph.word == part.word) word += glyph.character;
+    if (glyph.word == part.word) word += glyph.text;
   return word;
 }
 
 // --- Boxes over the lesson -----------------------------------------------------------------------
 
-struct ShownBox {
-  std::string name;
-  platform::PictureBox* box;
-  const TextPanel* text;  // nullptr for a figure
-};
-
-std::vector<ShownBox> ShownBoxes(LessonWindow& window) {
-  std::vector<ShownBox> boxes;
-  const auto add = [&](platform::PictureBox& box, const TextPanel* text) {
-    if (box.Visible()) boxes.push_back({box.Name(), &box, text});
-  };
-  add(window.picWiperBox, &window.wiperText);
-  add(window.picWiperBox2, &window.wiperText2);
-  add(window.picPrintCellBox, nullptr);
-  for (int i = 1; i <= 5; ++i) {
-    const auto place = static_cast<std::size_t>(i);
-    add(window.picCommentBox[i], window.commentText[place].get());
-    add(window.picGalleryImage[i], nullptr);
-    add(window.picNotes[i], nullptr);
-    add(window.picGraph2D[i], nullptr);
-    add(window.picAnswer[i], window.answerText[place].get());
-  }
-  return boxes;
-}
+using course::PanelKind;
+using course::PanelView;
 
 // The box's place in pixels of another control's surface.
 InkBox Outline(const platform::Control& box, const platform::Control& on) {
@@ -110,24 +88,22 @@ InkBox Outline(const platform::Control& box, const platform::Control& on) {
           top + double(box.Height()) / platform::TwipsPerPixelY};
 }
 
-void FindTextUnder(const StandingText& text, const platform::Control& panel, const ShownBox& box,
+void FindTextUnder(const StandingText& text, const platform::Control& panel, const PanelView& box,
                    std::vector<std::string>& faults) {
-  const InkBox outline = Outline(*box.box, panel);
+  const InkBox outline = Outline(*box.control, panel);
   std::string hidden;
   for (const Glyph& glyph : text.glyphs)
-    if (Overlap(glyph.ink, outline)) hidden += glyph.character;
-  if (!hidden.empty()) faults.push_back("text under " + box.name + ": " + Quoted(hidden));
+    if (Overlap(glyph.ink, outline)) hidden += glyph.text;
+  if (!hidden.empty())
+    faults.push_back("text under " + box.control->Name() + ": " + Quoted(hidden));
 }
 
-void FindBoxesOutside(LessonWindow& window, const std::vector<ShownBox>& boxes,
+void FindOutsidePanel(LessonWindow& window, const PanelView& box,
                       std::vector<std::string>& faults) {
-  for (const ShownBox& box : boxes) {
-    const InkBox outline = Outline(*box.box, window.pnlLesson);
-    if (outline.left < -1 || outline.top < -1 ||
-        outline.right > window.pnlLesson.PixelWidth() + 1 ||
-        outline.bottom > window.pnlLesson.PixelHeight() + 1)
-      faults.push_back(box.name + " reaches out of the lesson panel");
-  }
+  const InkBox outline = Outline(*box.control, window.pnlLesson);
+  if (outline.left < -1 || outline.top < -1 || outline.right > window.pnlLesson.PixelWidth() + 1 ||
+      outline.bottom > window.pnlLesson.PixelHeight() + 1)
+    faults.push_back(box.control->Name() + " reaches out of the lesson panel");
 }
 
 // --- Texts inside their panels -------------------------------------------------------------------
@@ -135,7 +111,7 @@ void FindBoxesOutside(LessonWindow& window, const std::vector<ShownBox>& boxes,
 void FindOutsideGrid(const TextPanel& panel, std::vector<std::string>& faults) {
   for (const Fragment& fragment : panel.Transcript()) {
     if (IsBlank(fragment.text)) continue;
-    const double end = fragment.col + static_cast<double>(fragment.text.size()) - 1;
+    const double end = fragment.Right() - 1;
     if (fragment.row < kFirstRow - kTolerance || fragment.row > kLastRow + kTolerance ||
         fragment.col < 1 - kTolerance || end > kLastColumn + kTolerance)
       faults.push_back("text outside the grid: " + Quoted(fragment.text) +
@@ -143,54 +119,18 @@ void FindOutsideGrid(const TextPanel& panel, std::vector<std::string>& faults) {
   }
 }
 
-void FindOutsideBox(const ShownBox& box, std::vector<std::string>& faults) {
+void FindOutsideBox(const PanelView& box, std::vector<std::string>& faults) {
+  const platform::PictureBox& surface = *box.control;
   for (const Fragment& fragment : box.text->Transcript()) {
     for (const Glyph& glyph : GlyphsOf(*box.text, fragment)) {
       if (glyph.blank) continue;
-      if (glyph.ink.left >= 0 && glyph.ink.top >= 0 && glyph.ink.right <= box.box->PixelWidth() &&
-          glyph.ink.bottom <= box.box->PixelHeight())
+      if (glyph.ink.left >= 0 && glyph.ink.top >= 0 && glyph.ink.right <= surface.PixelWidth() &&
+          glyph.ink.bottom <= surface.PixelHeight())
         continue;
-      faults.push_back("text outside " + box.name + ": " + Quoted(fragment.text) +
+      faults.push_back("text outside " + surface.Name() + ": " + Quoted(fragment.text) +
                        Place(fragment.row, fragment.col));
       break;
     }
-  }
-}
-
-// A cell of a table holds one text in the middle, in the font that its surface has.
-void FindOutsideCells(LessonWindow& window, std::vector<std::string>& faults) {
-  if (!window.picPrintCellBox.Visible()) return;
-  for (int i = 1; i <= window.picPrintCell.Last(); ++i) {
-    platform::PictureBox& cell = window.picPrintCell[i];
-    const std::string text = course::StripCarets(cell.AccessibleText());
-    if (cell.Visible() && cell.TextWidth(text) > cell.ScaleWidth())
-      faults.push_back("text wider than " + cell.Name() + ": " + Quoted(text));
-  }
-}
-
-// A face with widths of its own is measured, since its letters keep to no cells.
-double PixelsOf(platform::PictureBox& box, const std::string& text) {
-  const course::AnswerParameters& p = course::answerParameters;
-  const bool none = box.Name() == "picAnswer(5)" && text == course::kNoneOfTheAbove;
-  const std::string face = box.FontName;
-  const double size = box.FontSize;
-  box.FontName = none ? "Times New Roman" : p.fontName;
-  box.FontSize = none ? (p.lastBoxFontSize != 0 ? p.lastBoxFontSize : 18) : p.fontSize;
-  const double width = box.TextWidth(text);
-  box.FontName = face;
-  box.FontSize = size;
-  return width;
-}
-
-void FindOutsideAnswer(const ShownBox& box, std::vector<std::string>& faults) {
-  const bool printFont = course::answerParameters.fontName == "Courier New";
-  const auto& transcript = box.text->Transcript();
-  const bool none = transcript.size() == 1 && transcript[0].text == course::kNoneOfTheAbove;
-  if (printFont && !none) return FindOutsideBox(box, faults);
-  for (const Fragment& fragment : transcript) {
-    const double right = box.text->CellX(fragment.col) + PixelsOf(*box.box, fragment.text);
-    if (right > box.box->PixelWidth())
-      faults.push_back("text outside " + box.name + ": " + Quoted(fragment.text));
   }
 }
 
@@ -225,20 +165,19 @@ std::vector<std::string> Overprints(const TextPanel& panel) {
 std::vector<std::string> LayoutFaults(LessonWindow& window) {
   const StandingText text = StandingTextOf(window.lessonText);
   std::vector<std::string> faults = OverprintsOf(text);
-  const std::vector<ShownBox> boxes = ShownBoxes(window);
   FindOutsideGrid(window.lessonText, faults);
-  FindBoxesOutside(window, boxes, faults);
-  for (std::string& fault : OverlappingBoxes(window)) faults.push_back(std::move(fault));
-  FindOutsideCells(window, faults);
-  for (const ShownBox& box : boxes) {
-    FindTextUnder(text, window.pnlLesson, box, faults);
-    if (box.text == nullptr) continue;
-    for (std::string& fault : Overprints(*box.text)) faults.push_back(box.name + ": " + fault);
-    if (box.name.starts_with("picAnswer"))
-      FindOutsideAnswer(box, faults);
-    else
-      FindOutsideBox(box, faults);
+  for (const PanelView& view : course::ShownPanels(window)) {
+    if (view.kind == PanelKind::Lesson) continue;
+    if (view.text != nullptr) {
+      const std::string name = view.control->Name();
+      for (const std::string& fault : Overprints(*view.text)) faults.push_back(name + ": " + fault);
+      FindOutsideBox(view, faults);
+    }
+    if (view.kind == PanelKind::Cell) continue;  // lies in its table
+    FindOutsidePanel(window, view, faults);
+    FindTextUnder(text, window.pnlLesson, view, faults);
   }
+  for (std::string& fault : OverlappingBoxes(window)) faults.push_back(std::move(fault));
   return faults;
 }
 

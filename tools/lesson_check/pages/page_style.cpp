@@ -1,9 +1,9 @@
 #include "lesson_check/pages/page_style.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 
+#include "display/panel_views.h"
 #include "engine/header.h"
 #include "lesson_check/exact/notation.h"
 #include "mathkit/tutor_codes.h"
@@ -11,71 +11,29 @@
 namespace lesson_check {
 namespace {
 
-using course::Fragment;
 using course::TextPanel;
 using platform::Colour;
 
 constexpr std::size_t kMostNewLines = 4;
 constexpr std::size_t kMostColours = 2;
-constexpr double kSameLine = 0.8;  // rows: a numerator, its bar and its denominator are one line
+constexpr double kSameLine = 0.8;  // rows: what stands a little higher or lower belongs to its line
 
 // What begins so in red is printed as it always was.
 constexpr std::string_view kRedAsEver[] = {"d = r", "The answer is: "};
 
 using Line = PageStyle::Line;
 
-struct Cell {
-  char character = ' ';
-  Colour colour = 0;
-};
-
-// The cells of one row, and of some columns beside the panel.
-struct Row {
-  static constexpr long kBeside = 8;
-  double row = 0;
-  std::array<Cell, 64> cells{};
-
-  void Set(long col, const Cell& cell) {
-    const auto place = static_cast<std::size_t>(col + kBeside);
-    if (col + kBeside >= 0 && place < cells.size()) cells[place] = cell;
-  }
-};
-
-std::vector<Row> RowsOf(const TextPanel& panel) {
-  std::vector<Row> rows;
-  for (const Fragment& fragment : panel.Transcript()) {
-    const double place = std::round(fragment.row * 10) / 10;
-    auto row = std::ranges::find(rows, place, &Row::row);
-    if (row == rows.end()) row = rows.insert(rows.end(), Row{.row = place});
-    long col = std::lround(fragment.col);
-    for (const char c : fragment.text) row->Set(col++, {c, fragment.colour});
-  }
-  std::ranges::sort(rows, {}, &Row::row);
-  return rows;
-}
-
-bool IsBlank(const Cell& cell) {
-  return cell.character == ' ' || cell.character == course::tutor::Gap[0];
-}
-
-void AddRow(const Row& row, Line& line) {
-  const auto first = std::ranges::find_if_not(row.cells, IsBlank);
-  const auto last = std::find_if_not(row.cells.rbegin(), row.cells.rend(), IsBlank).base();
-  if (!line.text.empty()) line.text += ' ';
-  for (auto cell = first; cell != last; ++cell) {
-    line.text += cell->character;
-    if (!IsBlank(*cell) && std::ranges::find(line.colours, cell->colour) == line.colours.end())
-      line.colours.push_back(cell->colour);
-  }
-  line.lastRow = row.row;
-}
-
 std::vector<Line> LinesOf(const TextPanel& panel) {
   std::vector<Line> lines;
-  for (const Row& row : RowsOf(panel)) {
-    if (std::ranges::all_of(row.cells, IsBlank)) continue;
+  for (course::TextLine& row : course::TextLinesOf(panel.Transcript())) {
     if (lines.empty() || row.row - lines.back().lastRow > kSameLine) lines.emplace_back();
-    AddRow(row, lines.back());
+    Line& line = lines.back();
+    if (!line.text.empty()) line.text += ' ';
+    line.text += Trimmed(row.text);
+    for (const Colour colour : row.colours)
+      if (std::ranges::find(line.colours, colour) == line.colours.end())
+        line.colours.push_back(colour);
+    line.lastRow = row.row;
   }
   return lines;
 }
@@ -119,17 +77,12 @@ void FindColours(const Line& line, bool onBlue, std::vector<std::string>& faults
   if (onBlue && red && !IsRedAsEver(line.text)) faults.push_back(style::kRed + Quoted(line.text));
 }
 
-// The question may come back behind "Line 1:", in parts, or with its fractions built up.
+// The question may come back behind "Line 1:", or in parts.
 bool IsOfQuestion(const std::string& line, const std::vector<std::string>& question) {
   const std::string text = WithoutBlanks(Comparable(line));
-  std::vector<std::string> numbers = NumbersIn(line);
-  std::ranges::sort(numbers);
   return std::ranges::any_of(question, [&](const std::string& asked) {
     const std::string whole = WithoutBlanks(Comparable(asked));
-    if (text.find(whole) != std::string::npos || whole.find(text) != std::string::npos) return true;
-    std::vector<std::string> asks = NumbersIn(asked);
-    std::ranges::sort(asks);
-    return asked.find('/') != std::string::npos && asks == numbers;
+    return text.find(whole) != std::string::npos || whole.find(text) != std::string::npos;
   });
 }
 
@@ -138,15 +91,11 @@ bool IsBanner(const std::string& line) {
   return !banner.empty() && line.find(banner) != std::string::npos;
 }
 
-// Panels with text, the lesson's own first.
-std::vector<const TextPanel*> ShownPanels(const course::LessonWindow& window) {
-  std::vector<const TextPanel*> panels = {&window.lessonText};
-  if (window.picWiperBox.Visible()) panels.push_back(&window.wiperText);
-  if (window.picWiperBox2.Visible()) panels.push_back(&window.wiperText2);
-  for (int i = 1; i <= 5; ++i)
-    if (window.picCommentBox[i].Visible())
-      panels.push_back(window.commentText[static_cast<std::size_t>(i)].get());
-  return panels;
+// Tables, notes and answers have a look of their own.
+bool IsProse(const course::PanelView& view) {
+  using course::PanelKind;
+  return view.kind == PanelKind::Lesson || view.kind == PanelKind::Wiper ||
+         view.kind == PanelKind::Comment;
 }
 
 }  // namespace
@@ -169,14 +118,15 @@ const PageStyle::Verdict& PageStyle::Judge(const Line& line, bool onBlue) {
   return found->second;
 }
 
-std::vector<std::string> PageStyle::FaultsOf(const course::LessonWindow& window,
+std::vector<std::string> PageStyle::FaultsOf(course::LessonWindow& window,
                                              const std::vector<std::string>& question) {
   std::vector<std::string> faults;
   std::vector<std::string> lines;
   std::size_t added = 0;
-  for (const TextPanel* panel : ShownPanels(window)) {
-    for (const Line& line : LinesOf(*panel)) {
-      const Verdict& verdict = Judge(line, panel == &window.lessonText);
+  for (const course::PanelView& view : course::ShownPanels(window)) {
+    if (!IsProse(view)) continue;
+    for (const Line& line : LinesOf(*view.text)) {
+      const Verdict& verdict = Judge(line, view.kind == course::PanelKind::Lesson);
       faults.insert(faults.end(), verdict.faults.begin(), verdict.faults.end());
       lines.push_back(verdict.text);
       const bool old = std::ranges::find(before_, verdict.text) != before_.end();

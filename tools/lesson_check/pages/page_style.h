@@ -26,7 +26,7 @@ inline constexpr std::array kStyleFaults = {style::kNewLines, style::kColours,  
 // The pages of one run after another.
 class PageStyle {
  public:
-  // What stands in one line; of a fraction's rows those above come first.
+  // What stands in one line, a fraction as it is typed.
   struct Line {
     double lastRow = 0;
     std::string text;
@@ -36,8 +36,8 @@ class PageStyle {
   // The next page is the first of its run.
   void Begin();
   // The faults of the page that the window shows now.  Lines of the page before and of the question
-  // are not new; nor are the rows of a fraction lines of their own.
-  std::vector<std::string> FaultsOf(const course::LessonWindow& window,
+  // are not new.
+  std::vector<std::string> FaultsOf(course::LessonWindow& window,
                                     const std::vector<std::string>& question);
 
  private:

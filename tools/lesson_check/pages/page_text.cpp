@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "display/exponents.h"
+#include "display/panel_views.h"
 #include "lesson_check/exact/notation.h"
 #include "mathkit/tutor_codes.h"
 
@@ -11,15 +11,15 @@ namespace lesson_check {
 namespace {
 
 using course::Fragment;
-using course::TextPanel;
-
-void AddPanel(PageText& page, const TextPanel& panel) {
-  page.lesson.insert(page.lesson.end(), panel.Transcript().begin(), panel.Transcript().end());
-  for (const std::string& line : course::TranscriptLines(panel)) page.lines.push_back(line);
-}
 
 bool Same(const Fragment& a, const Fragment& b) {
   return a.row == b.row && a.col == b.col && a.text == b.text;
+}
+
+std::string Joined(const std::vector<std::string>& lines) {
+  std::string whole;
+  for (const std::string& line : lines) whole += line + " ";
+  return Comparable(whole);
 }
 
 bool IsDigit(char c) {
@@ -43,47 +43,36 @@ bool JoinsRight(const std::string& text, std::size_t at) {
 }  // namespace
 
 std::string PageText::Whole() const {
-  std::string whole;
-  for (const std::string& line : lines) whole += line + " ";
-  return Comparable(whole);
+  return Joined(lines);
 }
 
-PageText ReadPage(const course::LessonWindow& window) {
+PageText ReadPage(course::LessonWindow& window) {
   PageText page;
-  AddPanel(page, window.lessonText);
-  if (window.picWiperBox.Visible()) AddPanel(page, window.wiperText);
-  if (window.picWiperBox2.Visible()) AddPanel(page, window.wiperText2);
-  for (int i = 1; i <= 5; ++i) {
-    const auto place = static_cast<std::size_t>(i);
-    if (window.picCommentBox[i].Visible()) AddPanel(page, *window.commentText[place]);
-    if (!window.picAnswer[i].Visible()) continue;
-    std::string answer;
-    for (const std::string& line : course::TranscriptLines(*window.answerText[place]))
-      answer += line + " ";
-    page.answers.push_back(Comparable(answer));
+  for (const course::PanelView& view : course::ShownPanels(window)) {
+    if (view.text == nullptr) continue;
+    const std::vector<std::string> lines = view.Lines();
+    if (view.kind == course::PanelKind::Answer) {
+      page.answers.push_back(Joined(lines));
+      continue;
+    }
+    page.panels.push_back({view.control->Name(), view.text->Transcript()});
+    page.lines.insert(page.lines.end(), lines.begin(), lines.end());
   }
   return page;
 }
 
 PageText NewOn(const PageText& page, const PageText& before) {
   PageText added;
-  for (const Fragment& fragment : page.lesson) {
-    const bool old = std::ranges::any_of(
-        before.lesson, [&](const Fragment& earlier) { return Same(earlier, fragment); });
-    if (old) continue;
-    const bool goesOn = !added.lesson.empty() && added.lesson.back().row == fragment.row &&
-                        fragment.col > added.lesson.back().col;
-    std::string text = fragment.text;
-    if (fragment.level > 0) text.insert(0, "^").append("^");
-    if (!goesOn) {
-      added.lines.push_back(text);
-    } else {
-      const Fragment& last = added.lesson.back();
-      const double gap = fragment.col - last.col - static_cast<double>(last.text.size());
-      if (gap > 0.5) added.lines.back() += " ";
-      added.lines.back() += text;
-    }
-    added.lesson.push_back(fragment);
+  for (const PageText::Panel& panel : page.panels) {
+    const auto earlier = std::ranges::find(before.panels, panel.name, &PageText::Panel::name);
+    PageText::Panel fresh{panel.name, panel.fragments};
+    if (earlier != before.panels.end())
+      std::erase_if(fresh.fragments, [&](const Fragment& fragment) {
+        return std::ranges::any_of(earlier->fragments,
+                                   [&](const Fragment& old) { return Same(old, fragment); });
+      });
+    for (std::string& line : course::LinesOf(fresh.fragments)) added.lines.push_back(line);
+    added.panels.push_back(std::move(fresh));
   }
   return added;
 }

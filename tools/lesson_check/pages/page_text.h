@@ -9,22 +9,25 @@
 namespace lesson_check {
 
 struct PageText {
-  std::vector<course::Fragment> lesson;  // of the lesson panel, then of the boxes that are shown
-  std::vector<std::string> lines;        // of all panels but the answers
-  std::vector<std::string> answers;      // one a visible answer box
+  struct Panel {
+    std::string name;
+    std::vector<course::Fragment> fragments;
+  };
+  std::vector<Panel> panels;         // that are shown, from back to front, but the answers
+  std::vector<std::string> lines;    // of them all
+  std::vector<std::string> answers;  // one a visible answer box
 
   // All lines as one text, single blanks between words.
   std::string Whole() const;
 };
 
-PageText ReadPage(const course::LessonWindow& window);
+PageText ReadPage(course::LessonWindow& window);
 
 // The lines of what a page shows and the page before did not.
 PageText NewOn(const PageText& page, const PageText& before);
 
 // Whether the part stands in the whole as words of its own: "5" does not stand in "15", "-5" or
-// "5/2".  Both are texts to be
-// compared, see Comparable.
+// "5/2".  Both are texts to be compared, see Comparable.
 bool ContainsAsWords(const std::string& whole, const std::string& part);
 
 }  // namespace lesson_check

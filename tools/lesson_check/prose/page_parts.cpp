@@ -1,9 +1,10 @@
 #include "lesson_check/prose/page_parts.h"
 
 #include <algorithm>
-#include <sstream>
 #include <utility>
 
+#include "display/panel_views.h"
+#include "lesson_check/exact/notation.h"
 #include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
@@ -24,32 +25,16 @@ std::string Raised(const std::string& exponent) {
   return raised;
 }
 
-std::vector<std::string> LinesOf(const course::TextPanel& panel) {
+std::vector<std::string> LinesOf(const course::PanelView& view) {
+  using course::PanelKind;
   std::vector<std::string> lines;
-  for (const std::string& line : course::TranscriptLines(panel))
-    lines.push_back(ReadableText(line));
-  return lines;
-}
-
-std::vector<std::string> LinesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(ReadableText(text));
-  // A note's caption has blanks at its ends, for air.
-  for (std::string line; std::getline(in >> std::ws, line);) {
-    line.erase(line.find_last_not_of(' ') + 1);
-    lines.push_back(line);
+  for (const std::string& line : view.Lines()) {
+    // Blanks at the ends are for air in a note; in a box they tell nothing.
+    const bool bare = view.kind == PanelKind::Note || view.kind == PanelKind::Answer;
+    lines.push_back(ReadableText(bare ? Trimmed(line) : line));
   }
   return lines;
 }
-
-class Collector {
- public:
-  void Add(const platform::Control& control, std::vector<std::string> lines) {
-    if (control.Visible() && !lines.empty()) parts.push_back({control.Name(), std::move(lines)});
-  }
-
-  std::vector<PagePart> parts;
-};
 
 }  // namespace
 
@@ -68,22 +53,17 @@ std::string ReadableText(const std::string& text) {
   return readable;
 }
 
-std::vector<PagePart> PartsOfPage(const course::LessonWindow& window) {
-  Collector page;
-  page.parts.push_back({"", LinesOf(window.lessonText)});
-  page.Add(window.picWiperBox, LinesOf(window.wiperText));
-  page.Add(window.picWiperBox2, LinesOf(window.wiperText2));
-  for (int i = 1; i <= 5; ++i) {
-    page.Add(window.picCommentBox[i], LinesOf(*window.commentText[static_cast<std::size_t>(i)]));
-    page.Add(window.picNotes[i], LinesOf(window.lblNotes[i].Caption()));
-    page.Add(window.picGalleryImage[i], LinesOf(window.picGalleryImage[i].AccessibleText()));
+std::vector<PagePart> PartsOfPage(course::LessonWindow& window) {
+  std::vector<PagePart> parts;
+  for (const course::PanelView& view : course::ShownPanels(window)) {
+    const bool isLesson = view.kind == course::PanelKind::Lesson;
+    std::vector<std::string> lines = LinesOf(view);
+    if (view.kind == course::PanelKind::Answer && !lines.empty())
+      lines[0].insert(0, std::string(1, static_cast<char>('A' + view.index - 1)) + ": ");
+    if (isLesson || !lines.empty())
+      parts.push_back({isLesson ? "" : view.control->Name(), std::move(lines)});
   }
-  if (window.picPrintCellBox.Visible())
-    for (int i = 1; i <= window.picPrintCell.Last(); ++i)
-      page.Add(window.picPrintCell[i], LinesOf(window.picPrintCell[i].AccessibleText()));
-  for (int i = 1; i <= 5; ++i)
-    page.Add(window.picAnswer[i], LinesOf(window.picAnswer[i].AccessibleText()));
-  return std::move(page.parts);
+  return parts;
 }
 
 }  // namespace lesson_check

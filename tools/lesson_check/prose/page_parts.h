@@ -14,7 +14,7 @@ struct PagePart {
 };
 
 // The parts that are shown and say something; the answer boxes come last.
-std::vector<PagePart> PartsOfPage(const course::LessonWindow& window);
+std::vector<PagePart> PartsOfPage(course::LessonWindow& window);
 
 // UTF-8, with exponents as raised characters: x², or x^(a/b) where there is no raised one.
 std::string ReadableText(const std::string& text);
