@@ -72,7 +72,7 @@ void FullPageWrapped(benchmark::State& state) {
       R"(We \ymultiply\z x^2^ by each term of the second factor, and then \cadd\z the like )"
       R"(terms x^4^ and 3x^4^ of the product.)";
   for (auto _ : state) {
-    frmPR->lessonText.ClearTranscript();
+    frmPR->lessonText.SetTranscript({});
     Locate(2, 1);
     for (int part = 0; part < 5; ++part) WordWrap(fourLines);
     WordWrap(threeLines);

@@ -207,7 +207,7 @@ TEST_F(WiperWrapTest, EveryWayToFillALine) {
                         {"aaaa bbbb cccc ddddd ee", {"aaaa bbbb cccc ddddd", "ee"}, 3},
                         {"aaaa bbbb cccc dddd ", {"aaaa bbbb cccc dddd"}, 21},
                         {"aaaa bbbb cccc ddddd ", {"aaaa bbbb cccc ddddd"}, 22},
-      {"aaaa\rbbbb cccc", {"aaaa", "bbbb cccc"}, 10},
+                        {"aaaa\rbbbb cccc", {"aaaa", "bbbb cccc"}, 10},
                         // A word that goes on in another colour, and one that does not.
                         {R"(aaaa bbbb cccc \rddddd\z e)", {"aaaa bbbb cccc ddddd", "e"}, 2},
                         {R"(aaaa bbbb cccc \rddddd\ze f)", {"aaaa bbbb cccc", "ddddde f"}, 9},

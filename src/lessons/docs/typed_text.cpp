@@ -45,7 +45,7 @@ int RunsIn(const std::string& line) {
   int runs = 0;
   bool plain = false;
   for (const char c : line) {
-    const bool drawn = IsDrawnCharacter(CharacterSet::WiperBox, c);
+    const bool drawn = IsDrawnCharacter(c);
     if (drawn || !plain) ++runs;
     plain = !drawn;
   }
