@@ -67,8 +67,8 @@ void LessonScript::Run() {
   SetDefaults();
   // Numbers outside a problem differ from run to run; the problem's own seed comes after it.
   Randomize();
-  SetUpScriptRun();
   try {
+    SetUpScriptRun();
     Enter();
   } catch (const RunAbandoned&) {
   }

@@ -6,6 +6,7 @@
 #include "engine/hooks.h"
 #include "engine/navigation.h"
 #include "engine/result_form.h"
+#include "engine/run_exit.h"
 #include "engine/screen_reader.h"
 #include "platform/events.h"
 #include "platform/stop.h"
@@ -77,7 +78,7 @@ void GradeUnitTest(const Pick& pick) {
     const auto& graded = session.gChapterTestData.at(static_cast<std::size_t>(i));
     if (graded[CorrectLetter] == graded[StudentLetter]) ++session.gProblemsCorrect;
   }
-  SaveTestRecord();
+  SaveThenExitIfLeft(SaveTestRecord);
 }
 
 void GradeLessonTest(const Pick& pick) {
@@ -91,7 +92,7 @@ void GradeLessonTest(const Pick& pick) {
     const Session::AnswerLetters& graded = session.gLessonTestAnswers[i];
     if (graded.correct == graded.student) ++session.gProblemsCorrect;
   }
-  SaveTestRecord();
+  SaveThenExitIfLeft(SaveTestRecord);
 }
 
 void GradeDiagnosticTest(const Pick& pick) {
@@ -102,7 +103,8 @@ void GradeDiagnosticTest(const Pick& pick) {
   EndTestProblem();
   if (++session.gDiagnosticProb <= session.gDiagnosticProbCount) return;
   session.gDiagnosticStatus = 2;
-  CallHook(engineHooks.SaveDiagnosticRecord, session.gDiagnosticRecordNum);
+  SaveThenExitIfLeft(
+      [] { CallHook(engineHooks.SaveDiagnosticRecord, session.gDiagnosticRecordNum); });
 }
 
 }  // namespace

@@ -13,6 +13,12 @@ void ExitIfWanted() {
   if (WantsElsewhere()) throw RunAbandoned{};
 }
 
+void SaveThenExitIfLeft(const std::function<void()>& save) {
+  const bool askedBefore = session.gLeaveLesson == 1;
+  save();
+  if (session.gLeaveLesson == 1 && !askedBefore) throw RunAbandoned{};
+}
+
 void RunAgain() {
   session.gRunAgain = 1;
   throw RunAbandoned{};

@@ -2,6 +2,8 @@
 // inside a delay, an animation or a handler.
 #pragma once
 
+#include <functional>
+
 namespace course {
 
 // Leaves the run.
@@ -12,6 +14,9 @@ struct PagesEnded {};
 bool WantsElsewhere();
 // Leaves the run when the student wants to go elsewhere.
 void ExitIfWanted();
+// Saves, and leaves the run when the student asked to leave the lesson while the save waited for its
+// file: what comes next in the run is not for him.
+void SaveThenExitIfLeft(const std::function<void()>& save);
 // Ends the run; the dispatcher starts the next one.
 [[noreturn]] void RunAgain();
 [[noreturn]] void GoToActivity(int index);

@@ -6,6 +6,7 @@
 #include "display/lesson_window.h"
 #include "engine/hooks.h"
 #include "engine/practice.h"
+#include "engine/run_exit.h"
 #include "mathkit/draws.h"
 #include "platform/stop.h"
 #include "session/session.h"
@@ -147,7 +148,7 @@ void EnterActivity() {
 void SetUpScriptRun() {
   if (session.gActivity == activity::None) session.gActivity = activity::Lesson;
   if (session.gActivity != activity::Practice && session.gLastActivity == kPracticeText)
-    SavePracticeRecord();
+    SaveThenExitIfLeft(SavePracticeRecord);
   ShowTabs();
   ShowStatusLabels();
   session.gLastActivity = std::to_string(session.gActivity);

@@ -36,8 +36,9 @@ std::optional<FileError> TryFor45Seconds(const std::function<void()>& attempt) {
       attempt();
       return std::nullopt;
     } catch (const FileError& error) {
-      PauseBetweenAttempts();
+      // Looked at before the pause, in which a question may stand open as long as it likes.
       if (start + kPatience <= platform::TheClock().SecondsSinceMidnight()) return error;
+      PauseBetweenAttempts();
     }
   }
 }

@@ -1,7 +1,9 @@
 // A lesson test from its tab to its results, and from there to every problem and back.
 #include "journeys/assessment_fixture.h"
 #include "lessons/registry.h"
+#include "platform/record_file.h"
 #include "records/activity_records.h"
+#include "records/patience.h"
 
 namespace course::testing {
 namespace {
@@ -202,6 +204,63 @@ TEST_F(LessonTest, SetsTheMarkByTheLastTest) {
 TEST_F(LessonTest, AReviewOutsideATestStopsTheProgram) {
   ExpectStop("frmTestProbReview: neither gLessonTest% nor gChapterTest% is 1",
              [] { engineHooks.ShowTestProbReview(); });
+}
+
+// A file is held by somebody else for three attempts, and the student wants to leave meanwhile.
+class LeavingDuringASave : public AssessmentJourney {
+ protected:
+  static constexpr int kUnit = 10;
+
+  void SetUp() override {
+    AssessmentJourney::SetUp();
+    const auto save = [this] {
+      if (session.gProblemsAttempted == 0) return;
+      int attempts = 0;
+      user.OnPause = [this](double) {
+        clock.Advance(60);  // the question stands open for longer than a save is tried
+        EXPECT_TRUE(frmPR->form.Press(27));
+      };
+      EXPECT_FALSE(TryFor45Seconds([&] {
+        if (++attempts < 2) throw platform::FileError(EAGAIN, "The file is in use");
+      }));
+      user.OnPause = nullptr;
+      saved.push_back(std::to_string(session.gProblemsAttempted));
+      session.gProblemsAttempted = 0;
+    };
+    engineHooks.SavePracticeRecord = save;
+    engineHooks.SaveTestRecord = save;
+    user.Answer(Answer::Yes);  // to "Do you want to end the test?"
+  }
+  using Answer = platform::Answer;
+};
+
+TEST_F(LeavingDuringASave, OnTheWayFromPracticeToTheTestLeaves) {
+  Click("PageEnd", "picNav(3)");
+  AssessmentJourney::Answer("picAnswer(1)", kDifferent);
+  Click("AnswerWait", "picNav(4)");
+  RunRow(kUnit, 1);
+  EXPECT_EQ(saved, std::vector<std::string>{"1"});
+  EXPECT_EQ(user.messages.size(), 1u);
+  EXPECT_EQ(runs.back().substr(0, 2), "2:") << "nothing runs behind the save";
+}
+
+TEST_F(LeavingDuringASave, BehindTheLastAnswerOfATestLeaves) {
+  Click("PageEnd", "picNav(4)");
+  PickBoxes("AAAAA");
+  RunRow(kUnit, 1);
+  EXPECT_EQ(saved, std::vector<std::string>{"5"});
+  EXPECT_EQ(user.messages.size(), 1u);
+  EXPECT_EQ(runs.size(), 6u) << "a screen and five problems";
+  EXPECT_EQ(session.gLessonTest, 0);
+}
+
+TEST_F(LeavingDuringASave, BehindTheLastAnswerOfAUnitTestLeaves) {
+  BeginUnitTest(2);
+  PickBoxes("AAAAAA");
+  RunUnitTest(kUnit);
+  EXPECT_EQ(saved, std::vector<std::string>{"6"});
+  EXPECT_EQ(titles.size(), 6u);
+  EXPECT_EQ(session.gChapterTest, 0);
 }
 
 }  // namespace
