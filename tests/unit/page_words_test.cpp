@@ -114,6 +114,8 @@ TEST_F(PageWordsTest, TextsStayOnTheirRowsAndColumns) {
 }
 
 TEST_F(PageWordsTest, BoxesStandUnderAllThatIsThere) {
+  ShowAt(4, "1/2");  // on rows 3 to 5
+  EXPECT_EQ(RowBelow(), 6.5);
   SayAt(6, "text");
   EXPECT_EQ(RowBelow(), 7.5);
   EXPECT_EQ(PaperBox({"2 + 2 = 4"}), 1);  // 1.56 rows high

@@ -8,6 +8,7 @@
 #include "display/drawing.h"
 #include "display/grid.h"
 #include "display/notes.h"
+#include "display/panel_views.h"
 #include "display/print.h"
 #include "display/print_cells.h"
 #include "display/wiper_box.h"
@@ -40,16 +41,13 @@ double BottomOf(const platform::Control& control) {
   return RowOfTwips(control.Top() + control.Height());
 }
 
-// Everything that can lie over the lesson screen, answers aside.
+// Everything that lies over the lesson screen, answers aside.
 std::vector<platform::Control*> Overlays() {
-  std::vector<platform::Control*> overlays = {&frmPR->picWiperBox, &frmPR->picWiperBox2,
-                                              &frmPR->picPrintCellBox};
-  for (int i = 1; i <= 5; ++i)
-    for (platform::Control* control : {static_cast<platform::Control*>(&frmPR->picCommentBox[i]),
-                                       static_cast<platform::Control*>(&frmPR->picNotes[i]),
-                                       static_cast<platform::Control*>(&frmPR->picGalleryImage[i]),
-                                       static_cast<platform::Control*>(&frmPR->picGraph2D[i])})
-      overlays.push_back(control);
+  std::vector<platform::Control*> overlays;
+  for (const PanelView& view : ShownPanels(*frmPR))
+    if (view.kind != PanelKind::Lesson && view.kind != PanelKind::Cell &&
+        view.kind != PanelKind::Answer)
+      overlays.push_back(view.control);
   return overlays;
 }
 
@@ -88,9 +86,8 @@ double RowBelow() {
   double bottom = kPanelTop - 1 + kAir;  // so that the first row is found on an empty screen
   for (const Fragment& fragment : frmPR->lessonText.Transcript())
     if (fragment.text.find_first_not_of(' ') != std::string::npos)
-      bottom = std::max(bottom, fragment.row + 1);
-  for (const platform::Control* overlay : Overlays())
-    if (overlay->Visible()) bottom = std::max(bottom, BottomOf(*overlay));
+      bottom = std::max(bottom, fragment.Bottom());
+  for (const platform::Control* overlay : Overlays()) bottom = std::max(bottom, BottomOf(*overlay));
   constexpr double kTolerance = 0.1;  // a box that ends a pixel lower takes no further half row
   return std::ceil(2 * (bottom + kAir - kTolerance)) / 2;
 }
@@ -105,7 +102,7 @@ void ClearBelow(double row) {
   isDrawBoxFilled(row + kBandTop, 1, kPanelBottom - 1 + kBandTop, screenState.gRightColumn,
                   screenState.gBackColor);
   for (platform::Control* overlay : Overlays())
-    if (overlay->Visible() && TopOf(*overlay) >= row - kBandTop) overlay->SetVisible(false);
+    if (TopOf(*overlay) >= row - kBandTop) overlay->SetVisible(false);
   Locate(row, 1);
 }
 
