@@ -390,9 +390,7 @@ TEST_F(PageLayoutTest, AnyTwoBoxesThatOverlapAreFound) {
 
 class PageStyleTest : public PageLayoutTest {
  protected:
-  std::vector<std::string> Style(const std::vector<std::string>& question = {}) {
-    return style_.FaultsOf(*course::frmPR, question);
-  }
+  std::vector<std::string> Style() { return style_.FaultsOf(*course::frmPR); }
   static void PrintIn(platform::Colour colour, double row, double col, const std::string& text) {
     course::Locate(row, col);
     course::isColorPrint(text, colour);
@@ -405,7 +403,8 @@ TEST_F(PageStyleTest, MoreThanFourNewLinesAreFound) {
   for (int row = 5; row <= 8; ++row) Print(row, 1, "line " + std::to_string(row));
   Print(3, 1, "Line 1:  2x + y = 5");  // the question's
   Print(9.3, 1, "3");
-  EXPECT_EQ(Style({"2x + y = 5"}), Faults{"more than four new lines: 5"});
+  style_.Begin({"2x + y = 5"});
+  EXPECT_EQ(Style(), Faults{"more than four new lines: 5"});
   EXPECT_EQ(Style(), Faults{});  // nothing new
   for (int row = 11; row <= 14; ++row) Print(row, 1, "again " + std::to_string(row));
   Print(13.3, 12, "1");  // part of a line that is built up

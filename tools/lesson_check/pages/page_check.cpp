@@ -148,15 +148,14 @@ const PageChecker::SeenPage& PageChecker::See() {
 std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& complain) {
   std::vector<PageText> pages;
   std::set<std::string> told;  // a fault that stands on several pages is told once
-  style_.Begin();
+  style_.Begin(drawn_.problem.question);
   const auto look = [&] {
     ++pagesRead_;
     const SeenPage& page = See();
     pages.push_back(page.text);
     std::vector<std::string> faults = page.faults;
     if (IsWritten(entry))
-      for (std::string& fault : style_.FaultsOf(*frmPR, drawn_.problem.question))
-        faults.push_back(std::move(fault));
+      for (std::string& fault : style_.FaultsOf(*frmPR)) faults.push_back(std::move(fault));
     for (const std::string& fault : faults)
       if (told.insert(fault).second)
         complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);

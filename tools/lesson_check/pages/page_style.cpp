@@ -77,15 +77,6 @@ void FindColours(const Line& line, bool onBlue, std::vector<std::string>& faults
   if (onBlue && red && !IsRedAsEver(line.text)) faults.push_back(style::kRed + Quoted(line.text));
 }
 
-// The question may come back behind "Line 1:", or in parts.
-bool IsOfQuestion(const std::string& line, const std::vector<std::string>& question) {
-  const std::string text = WithoutBlanks(Comparable(line));
-  return std::ranges::any_of(question, [&](const std::string& asked) {
-    const std::string whole = WithoutBlanks(Comparable(asked));
-    return text.find(whole) != std::string::npos || whole.find(text) != std::string::npos;
-  });
-}
-
 bool IsBanner(const std::string& line) {
   const std::string banner = course::BannerText();
   return !banner.empty() && line.find(banner) != std::string::npos;
@@ -100,8 +91,18 @@ bool IsProse(const course::PanelView& view) {
 
 }  // namespace
 
-void PageStyle::Begin() {
+void PageStyle::Begin(const std::vector<std::string>& question) {
   before_.clear();
+  question_.clear();
+  for (const std::string& line : question)
+    if (!Trimmed(line).empty()) question_.push_back(WithoutBlanks(Comparable(line)));
+}
+
+// The question may come back behind "Line 1:", or in parts.
+bool PageStyle::IsOfQuestion(const std::string& line) const {
+  return std::ranges::any_of(question_, [&](const std::string& asked) {
+    return line.find(asked) != std::string::npos || asked.find(line) != std::string::npos;
+  });
 }
 
 const PageStyle::Verdict& PageStyle::Judge(const Line& line, bool onBlue) {
@@ -111,15 +112,14 @@ const PageStyle::Verdict& PageStyle::Judge(const Line& line, bool onBlue) {
   if (verdicts_.size() > kMostKept) verdicts_.clear();
   const auto [found, isNew] = verdicts_.try_emplace(std::move(key));
   if (isNew) {
-    found->second.text = WithoutBlanks(line.text);
+    found->second.text = WithoutBlanks(Comparable(line.text));
     FindColours(line, onBlue, found->second.faults);
     FindInProse(line.text, found->second.faults);
   }
   return found->second;
 }
 
-std::vector<std::string> PageStyle::FaultsOf(course::LessonWindow& window,
-                                             const std::vector<std::string>& question) {
+std::vector<std::string> PageStyle::FaultsOf(course::LessonWindow& window) {
   std::vector<std::string> faults;
   std::vector<std::string> lines;
   std::size_t added = 0;
@@ -130,7 +130,7 @@ std::vector<std::string> PageStyle::FaultsOf(course::LessonWindow& window,
       faults.insert(faults.end(), verdict.faults.begin(), verdict.faults.end());
       lines.push_back(verdict.text);
       const bool old = std::ranges::find(before_, verdict.text) != before_.end();
-      if (!old && !IsBanner(line.text) && !IsOfQuestion(line.text, question)) ++added;
+      if (!old && !IsBanner(line.text) && !IsOfQuestion(verdict.text)) ++added;
     }
   }
   if (added > kMostNewLines)

@@ -33,20 +33,21 @@ class PageStyle {
     std::vector<platform::Colour> colours;  // each once
   };
 
-  // The next page is the first of its run.
-  void Begin();
+  // The next page is the first of its run, on the way to a problem with this question.
+  void Begin(const std::vector<std::string>& question);
   // The faults of the page that the window shows now.  Lines of the page before and of the question
   // are not new.
-  std::vector<std::string> FaultsOf(course::LessonWindow& window,
-                                    const std::vector<std::string>& question);
+  std::vector<std::string> FaultsOf(course::LessonWindow& window);
 
  private:
   struct Verdict {
     std::string text;  // without blanks
     std::vector<std::string> faults;
   };
+  bool IsOfQuestion(const std::string& line) const;
   const Verdict& Judge(const Line& line, bool onBlue);
 
+  std::vector<std::string> question_;                  // its lines, without blanks
   std::vector<std::string> before_;                    // lines of the last page, without blanks
   std::unordered_map<std::string, Verdict> verdicts_;  // most lines come again and again
 };
