@@ -7,6 +7,7 @@
 #include "engine/answers.h"
 #include "engine/header.h"
 #include "engine/hooks.h"
+#include "engine/mistakes_page.h"
 #include "engine/navigation.h"
 #include "engine/page.h"
 #include "engine/practice.h"
@@ -123,11 +124,21 @@ void LessonScript::ExampleEntry() {
   try {
     NewScreen();
     Locate(2, 1);
-    DrawFrom(ProblemStream());
+    const DrawnProblem drawn = DrawFrom(ProblemStream());
     ExplainProblem();
+    FinishPages();
+    ExplainMistakes(drawn);
   } catch (const PagesEnded&) {
   }
   ExampleEnd();
+}
+
+// An example had no boxes.
+void LessonScript::ExplainMistakes(const DrawnProblem& drawn) {
+  const bool boxesStood = session.gMode == mode::Explanation ||
+                          session.gMode == mode::LessonTestExplanation ||
+                          session.gMode == mode::UnitTestExplanation;
+  if (boxesStood && TellsMistakes()) TellMistakes(drawn.problem, drawn.order, StudentsBox());
 }
 
 void LessonScript::ExampleEnd() {

@@ -38,6 +38,9 @@ class LessonScript {
   // the right one is guessed, and do not complain of it.
   virtual bool ChoicesAreLaidDown() const { return false; }
 
+  // Whether a page behind the explanation tells which mistakes lead to the wrong choices.
+  virtual bool TellsMistakes() const { return true; }
+
   // The problem of a seed, drawn without a window; a run of the seed shows and grades the same.
   struct DrawnProblem {
     Problem problem;
@@ -59,7 +62,7 @@ class LessonScript {
   // Prints the question under the banner and calls picAnswerSetParameters.
   virtual void ShowProblem() = 0;
   // The worked explanation of the drawn problem, from a cleared screen on, page by page.  Most
-  // lessons begin it with ProblemBanner.
+  // lessons begin it with ProblemBanner.  Behind its last line the base waits.
   virtual void ExplainProblem() = 0;
   // Whether practice offers a picture of the rules.
   virtual bool OffersRules() const { return false; }
@@ -75,6 +78,7 @@ class LessonScript {
   void Enter();
   void LessonEntry();
   void ExampleEntry();
+  void ExplainMistakes(const DrawnProblem& drawn);
   void ExampleEnd();
   void AfterExample();
   void ProblemEntry();

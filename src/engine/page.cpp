@@ -2,8 +2,10 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "display/animation.h"
+#include "display/lesson_window.h"
 #include "engine/header.h"
 #include "engine/navigation.h"
 #include "engine/run_exit.h"
@@ -23,6 +25,20 @@ void ClearPageWishes() {
   session.gEndExample = kFalse;
   session.gEndExplanation = kFalse;
   session.gEndTestExplanation = kFalse;
+}
+
+std::string textAtPageEnd;
+
+// All that stands on the screen in words.
+std::string TextOfScreen() {
+  std::vector<const TextPanel*> panels = {&frmPR->lessonText, &frmPR->wiperText,
+                                          &frmPR->wiperText2};
+  for (std::size_t i = 1; i <= 5; ++i) panels.push_back(frmPR->commentText[i].get());
+  std::string text;
+  for (const TextPanel* panel : panels)
+    for (const Fragment& fragment : panel->Transcript())
+      text += fragment.text + '@' + std::to_string(fragment.row) + '\n';
+  return text;
 }
 
 // Up and down, left and right change places.
@@ -54,6 +70,7 @@ void PageEnd() {
     return;
   }
   ClearPageWishes();
+  textAtPageEnd = TextOfScreen();
   ShowNavButtons();
   WaitForClick();
   if (session.gBeginExample != kFalse) {
@@ -68,6 +85,10 @@ void PageEnd() {
   if (session.gEndExample != kFalse || session.gEndExplanation != kFalse ||
       session.gEndTestExplanation != kFalse)
     throw PagesEnded{};
+}
+
+void FinishPages() {
+  if (TextOfScreen() != textAtPageEnd) PageEnd();
 }
 
 void AnimHere(double rp, double cp, double wd, double ht, int dr, double ds, double sp, int er) {

@@ -10,6 +10,9 @@ namespace course {
 void NewScreen();
 // The wait at the end of a page, with the buttons that belong to it.
 void PageEnd();
+// The same behind the last line of an explanation or example, unless its own PageEnd came behind
+// that line already.
+void FinishPages();
 // Waits for CONTINUE.
 void WaitForClick();
 // Whether a problem is asked on this page (modes 1, 2, 6, 7, 10, 11), as against an example or an

@@ -1,5 +1,7 @@
 #include "engine/practice.h"
 
+#include <string_view>
+
 #include "display/animation.h"
 #include "display/lesson_window.h"
 #include "engine/answers.h"
@@ -35,8 +37,14 @@ struct Pick {
   bool Right() const { return box == correctBox; }
 };
 
+constexpr std::string_view kLetters = "ABCDE";
+
 std::string LetterOf(int box) {
-  return std::string(1, "ABCDE"[box - 1]);
+  return std::string(1, kLetters[static_cast<std::size_t>(box - 1)]);
+}
+
+int BoxOfLetter(const std::string& letter) {
+  return letter.empty() ? 0 : static_cast<int>(kLetters.find(letter)) + 1;
 }
 
 void ForgetProblem() {
@@ -141,6 +149,25 @@ void AnswerGrade(int pickedBox, int correctChoice, const std::vector<int>& order
   if (lesson) return GradeLessonTest(pick);
   if (diagnostic) return GradeDiagnosticTest(pick);
   GradePractice(pick);
+}
+
+// The fields of a test stay until its results close, that of practice until the next wait for an
+// answer.
+int StudentsBox() {
+  switch (session.gMode) {
+    case mode::Explanation:
+      return session.gAnswerPicked;
+    case mode::LessonTestExplanation:
+      return BoxOfLetter(
+          session.gLessonTestAnswers.at(static_cast<std::size_t>(session.gLessonTestReviewNum))
+              .student);
+    case mode::UnitTestExplanation:
+      return BoxOfLetter(
+          session.gChapterTestData.at(static_cast<std::size_t>(session.gChapterTestReviewNum))
+              .at(unit_test_column::StudentLetter));
+    default:
+      return 0;
+  }
 }
 
 void ExplanationEndChoices() {

@@ -18,4 +18,8 @@ void ExplanationEndChoices();
 // The tally as lblPracticeResults shows it.
 std::string PracticeResultsText(int attempted, int correct);
 
+// The box, 1 to 5, that the student picked at the problem that is explained now; 0 when that is not
+// known.
+int StudentsBox();
+
 }  // namespace course

@@ -95,7 +95,6 @@ void BlankLesson::ExplainProblem() {
   Show(Text("{} {} {} = {}", factor_, tutor::Times, Sum(), RightText(problem)));
   PageEnd();
   Conclude(problem);
-  PageEnd();
 }
 
 const LessonRegistration<BlankLesson> kRegistration("Blank Lesson");

@@ -119,7 +119,9 @@ TEST_F(LessonTest, AReviewShowsTheLettersAndLeadsToTheExplanationAndBack) {
   Check("PageEnd", [] { EXPECT_EQ(BannerText(), "Explanation: Lesson Test Problem 2"); });
   Continue();
   Click("PageEnd", "cmdNavigate(10)");  // BEGIN EXPLANATION
-  Continue(2);                          // to its end
+  Continue(2);
+  Check("PageEnd", [] { EXPECT_TRUE(MistakesTold().starts_with("You chose ")); });
+  Continue();  // to its end
   Check(kResults, [&] {
     EXPECT_EQ(read(), results);
     EXPECT_EQ(session.gLessonTestReviewNum + session.gLessonTestReviewExplain, 0);

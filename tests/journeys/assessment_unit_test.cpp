@@ -213,6 +213,8 @@ TEST_F(UnitTest, EveryProblemIsReviewedAndExplained) {
   Check("PageEnd", [] { EXPECT_EQ(BannerText(), "Explanation: Unit Test Problem 3"); });
   Click("PageEnd", "cmdNavigate(10)");  // BEGIN EXPLANATION
   Continue(2);
+  Check("PageEnd", [] { EXPECT_TRUE(MistakesTold().starts_with("You chose ")); });
+  Continue();
   Check(kResults, [this] {
     EXPECT_EQ(session.gChapterTestReviewNum + session.gChapterTestReviewExplain, 0);
     EXPECT_EQ(CaptionOf("lblPercent"), " Percent Correct: 75% (3 out of 4)");

@@ -10,6 +10,7 @@
 #include "display/paragraph.h"
 #include "display/print.h"
 #include "engine/answers.h"
+#include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/hooks.h"
 #include "engine/lesson_script.h"
@@ -21,7 +22,8 @@
 
 namespace course::testing {
 
-// Three screens of two pages, one number a problem, an explanation of two pages.  What a test wants
+// Three screens of two pages, one number a problem, an explanation of two pages, two
+// named mistakes.  What a test wants
 // to be different stands in the fields below.
 struct TestLessonPlan {
   std::string title = "Test Lesson";
@@ -50,7 +52,9 @@ class TestLesson final : public LessonScript {
   void DrawProblem(RandomStream& random) override {
     number_ = random.Rand(1, 1000000);
     problem.kind = plan_.kind;
-    for (int i = 1; i <= 5; ++i) problem.Wrong(i, "a mistake", std::to_string(number_ + i));
+    const std::string mistakes[] = {"",      "",      "adds 2 and keeps it", "takes 3 for 2",
+                                    kFiller, "adds 5"};
+    for (int i = 1; i <= 5; ++i) problem.Wrong(i, mistakes[i], std::to_string(number_ + i));
     problem.correct = plan_.correct;
   }
   bool OffersRules() const override { return plan_.offersRules; }
@@ -69,7 +73,6 @@ class TestLesson final : public LessonScript {
     PageEnd();
     isPrint("last page");
     if (plan_.onLastPage) plan_.onLastPage();
-    PageEnd();
   }
 
   void Teach(const std::string& name) {
@@ -142,6 +145,12 @@ class LessonJourney : public CourseTest {
   }
   static std::string TextInBox(int box) {
     return LTrim(TranscriptLines(*frmPR->answerText[static_cast<std::size_t>(box)]).at(0));
+  }
+  // What the page of mistakes says below its banner, in one text.
+  static std::string MistakesTold() {
+    std::string text;
+    for (const std::string& line : TranscriptLines(frmPR->lessonText)) text += LTrim(line) + " ";
+    return text.substr(BannerText().size() + 1);
   }
   // The box, by the text in it, of the problem on the screen: choice 1 is always right.
   static std::string BoxWith(const std::string& text) {

@@ -47,6 +47,14 @@ TEST_F(Practice, TheExplanationIsThatOfTheProblemAndKeepsTheTally) {
   Pick(2);
   Click("frmCorrect", kExplain);
   Continue(2);
+  Check("PageEnd", [this] {
+    const int number = std::stoi(NumberOf(1));
+    EXPECT_EQ(MistakesTold(), "You chose " + std::to_string(number + 2) +
+                                  ".  That is what we get when we add 2 and keep it. Someone who "
+                                  "takes 3 for 2 gets " +
+                                  std::to_string(number + 3) + ". ");
+  });
+  Continue();
   Check("frmCorrect", [] {
     EXPECT_FALSE(FindControl("lblInfo2").Visible());
     EXPECT_FALSE(FindControl("picResult").Visible());

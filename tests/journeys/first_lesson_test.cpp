@@ -72,7 +72,7 @@ TEST_F(FirstLesson, ReadsSeesPractisesAndComesBackWithHisSelection) {
   Pick(false);
   Check("frmCorrect", [&] { missed = session.gProblemSeed; });
   user.At("frmCorrect").Click("cmdOption(2)");
-  Continue(7);
+  Continue(8);
   Check("frmCorrect", [&] {
     EXPECT_EQ(session.gProblemSeed, missed);
     EXPECT_EQ(LastLine().substr(LastLine().find('x')),

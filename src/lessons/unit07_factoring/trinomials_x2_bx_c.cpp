@@ -210,7 +210,12 @@ void TrinomialsX2BxC::DrawProblem(RandomStream& random) {
   factors_[4] = RandomChoice(random);
   factors_[5] = RightProductWrongSum();
   std::array<std::string, kSlots + 1> mistakes = {
-      "", "", "reverses one sign", "reverses both signs", "filler", "right product, wrong sum"};
+      "",
+      "",
+      "reverses one sign",
+      "reverses both signs",
+      "filler",
+      "takes a pair with the right product and the wrong sum"};
   ReplaceRepeated(
       kSlots, [&](int i, int j) { return factors_[i].SameProductAs(factors_[j]); },
       [&](int slot) {

@@ -59,6 +59,7 @@ class SimpleInequalities final : public LessonScript {
  public:
   using LessonScript::LessonScript;
   bool ChoicesAreLaidDown() const override { return true; }
+  bool TellsMistakes() const override { return false; }
 
  private:
   std::vector<Screen> Screens() override { return {{MeaningOfInequality}, {FourSymbols}}; }

@@ -204,7 +204,7 @@ void TheQuadraticFormula::DrawChoices(RandomStream& random) {
   const bool real = discriminant >= 0;
   const int under = std::abs(discriminant);
   // Without real roots a student who finds some has lost the minus sign first.
-  const std::string lost = real ? "" : "loses the minus sign under the radical, ";
+  const std::string lost = real ? "" : "loses the minus sign under the radical and ";
   Choices choices(problem, choice_kind::FiveShuffled, RootsText);
   choices.Right(RootsOf(-b, discriminant, 2 * a));
   if (real)

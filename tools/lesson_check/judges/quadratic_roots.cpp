@@ -66,7 +66,7 @@ void AddMistakes(const Quadratic& q, Reading& reading) {
   const std::string lost = real ? "" : "loses the minus sign under the radical";
   const Rational under = abs(discriminant);
   const auto name = [&](const std::string& mistake) {
-    return lost.empty() ? mistake : lost + ", " + mistake;
+    return lost.empty() ? mistake : lost + " and " + mistake;
   };
   if (real)
     reading.mistakes["takes the discriminant to be negative"] = {kNoRealRoots};

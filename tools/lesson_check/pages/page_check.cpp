@@ -7,6 +7,8 @@
 #include "display/panel_views.h"
 #include "engine/header.h"
 #include "lesson_check/exact/notation.h"
+#include "lesson_check/pages/entry.h"
+#include "lesson_check/pages/mistakes_check.h"
 #include "lesson_check/pages/page_layout.h"
 #include "mathkit/tutor_codes.h"
 #include "session/session.h"
@@ -155,7 +157,10 @@ std::vector<PageText> PageChecker::Read(int entry, int seed, const Complain& com
     pages.push_back(page.text);
     std::vector<std::string> faults = page.faults;
     if (IsWritten(entry))
-      for (std::string& fault : style_.FaultsOf(*frmPR)) faults.push_back(std::move(fault));
+      for (std::string& fault : style_.FaultsOf(*frmPR))
+        // The frame's sentences need no page each.
+        if (!fault.starts_with(style::kNewLines) || !IsMistakesPage(page.text))
+          faults.push_back(std::move(fault));
     for (const std::string& fault : faults)
       if (told.insert(fault).second)
         complain(NameOf(entry) + ", page " + std::to_string(pages.size()) + ": " + fault);
@@ -192,7 +197,15 @@ void PageChecker::CheckQuestion(const PageText& page, const Complain& complain) 
   }
 }
 
-void PageChecker::CheckEnd(const std::vector<PageText>& pages, const Complain& complain) {
+void PageChecker::CheckEnd(int entry, int seed, std::vector<PageText> pages,
+                           const Complain& complain) {
+  const PageText mistakes = TakeMistakesPage(pages);
+  if (entry != mode::Example && lesson_.TellsMistakes()) {
+    const std::string fault = FaultOfMistakesPage(mistakes, drawn_, PickedBox(seed));
+    if (!fault.empty()) complain("page of mistakes: " + fault);
+  } else if (!mistakes.lines.empty()) {
+    complain("page of mistakes: there is to be none");
+  }
   const std::string missing = MissingAtEnd(pages, drawn_.problem);
   if (!missing.empty()) complain("explanation: " + missing);
 }
@@ -224,7 +237,7 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   if (problem.empty()) return complain("problem: there is no page");
   CheckQuestion(problem[0], complain);
   const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
-  CheckEnd(explanation, complain);
+  CheckEnd(mode::Explanation, seed, explanation, complain);
   CheckSameProblem(explanation, complain);
   // The other ways lead through the same routines; six of eight seeds walk one of them.
   constexpr int kOtherWays[] = {
@@ -236,7 +249,7 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   if (!IsWritten(way))
     CheckReview(way, seed, problem[0], complain);
   else
-    CheckEnd(Read(way, seed, complain), complain);
+    CheckEnd(way, seed, Read(way, seed, complain), complain);
 }
 
 }  // namespace lesson_check

@@ -37,7 +37,7 @@ class PageChecker {
   const SeenPage& See();
   std::vector<PageText> Read(int entry, int seed, const Complain& complain);
   void CheckQuestion(const PageText& page, const Complain& complain);
-  void CheckEnd(const std::vector<PageText>& pages, const Complain& complain);
+  void CheckEnd(int entry, int seed, std::vector<PageText> pages, const Complain& complain);
   void CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain);
   void CheckReview(int entry, int seed, const PageText& practice, const Complain& complain);
 
@@ -49,8 +49,8 @@ class PageChecker {
   long pagesRead_ = 0;
 };
 
-// Whether the last pages end at the right choice's text.  "" when they do, what is missing when
-// not.
+// Whether the last pages before the page of mistakes end at the right choice's text.  "" when they
+// do, what is missing when not.
 std::string MissingAtEnd(const std::vector<PageText>& pages, const course::Problem& problem);
 
 }  // namespace lesson_check

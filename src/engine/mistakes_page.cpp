@@ -1,0 +1,223 @@
+#include "engine/mistakes_page.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+
+#include "display/exponents.h"
+#include "display/grid.h"
+#include "display/lesson_window.h"
+#include "display/print.h"
+#include "display/stacked_text.h"
+#include "display/wrap_modes.h"
+#include "engine/header.h"
+#include "engine/mistakes.h"
+#include "engine/page.h"
+#include "mathkit/tutor_codes.h"
+#include "platform/stop.h"
+
+namespace course {
+namespace {
+
+constexpr double kFirstRow = 5;  // below the banner
+constexpr double kLastRow = 23;
+constexpr int kScreenColumns = 40;
+constexpr int kMathCol = 3;
+constexpr int kWidestBeside = 18;  // cells of a value that leaves room for a sentence beside it
+constexpr int kLastValueCol = 29;
+constexpr std::size_t kLongestInLine = 26;  // cells of a value within a sentence
+
+bool IsBuiltUp(const std::string& text) {
+  return text.find_first_of("/`" + tutor::SquareRoot) != std::string::npos;
+}
+
+double RowsOfMath(const std::string& text) {
+  return text.find('/') != std::string::npos ? 3 : 1;
+}
+
+// "There are no solutions.", as against "5 or 7": it begins with a capital and has a second word.
+bool IsSentence(const std::string& text) {
+  return !text.empty() && std::isupper(static_cast<unsigned char>(text[0])) != 0 &&
+         text.size() > 1 && std::islower(static_cast<unsigned char>(text[1])) != 0 &&
+         text.find(' ') != std::string::npos;
+}
+
+bool HasWord(const std::string& text) {
+  int letters = 0;
+  for (const char c : text) {
+    letters = std::isalpha(static_cast<unsigned char>(c)) != 0 ? letters + 1 : 0;
+    if (letters == 3) return true;
+  }
+  return false;
+}
+
+// Prints a paragraph in columns 1 to lastCol, or measures it.
+void Wrap(double row, const std::string& text, int lastCol = kScreenColumns, double col = 1) {
+  Locate(row, col);
+  const NarrowWidth narrow(lastCol);
+  WordWrap(text);
+}
+double RowsOf(const std::string& text, int lastCol = kScreenColumns) {
+  Locate(2, 1);
+  const NarrowWidth narrow(lastCol);
+  return WordWrapRows(text);
+}
+
+// What "gets" leads to stands in the sentence, beside it, or on lines of its own below it.
+enum class Place { InLine, Beside, Below };
+
+struct Told {
+  std::string before;
+  std::string value;
+  std::string after;  // behind the value; may be empty
+  Place place = Place::InLine;
+};
+
+class MistakesPage {
+ public:
+  MistakesPage(const Problem& problem, const std::vector<NamedMistake>& mistakes) {
+    for (const NamedMistake& mistake : mistakes) Add(mistake);
+    SetPlaces();
+    for (const std::string& line : problem.question)
+      question_.push_back(ExponentCharsToCarets(line));
+    // Without its figure a question says nothing.
+    if (!problem.figure.empty()) question_.clear();
+  }
+
+  // The question stands above the sentences, and a row between them, if there is room for it.
+  void Draw() {
+    constexpr double kRoom = kLastRow - kFirstRow + 1;
+    for (const bool withQuestion : {true, false}) {
+      if (!withQuestion) question_.clear();
+      for (const double air : {1.0, 0.5}) {
+        if (Rows(air) > kRoom) continue;
+        return DrawWith(air);
+      }
+    }
+    platform::Stop("TellMistakes: no room for \"" + told_[0].before + "\" and what follows");
+  }
+
+ private:
+  void Add(const NamedMistake& mistake) {
+    const std::string value = ExponentCharsToCarets(mistake.text);
+    if (mistake.own)
+      told_.push_back(
+          {"You chose", value, "That is what we get when we " + InOurWords(mistake.name) + "."});
+    else
+      told_.push_back({"Someone who " + mistake.name + " gets", value, ""});
+  }
+
+  // One built-up value puts all of them in a column of their own.
+  void SetPlaces() {
+    const bool builtUp =
+        std::ranges::any_of(told_, [](const Told& told) { return IsBuiltUp(told.value); });
+    for (Told& told : told_) {
+      const int width = StackedTextWidth(told.value);
+      if (builtUp && width <= kWidestBeside) {
+        told.place = Place::Beside;
+        valueWidth_ = std::max(valueWidth_, width);
+      } else if (builtUp || IsSentence(told.value) || told.value.size() > kLongestInLine) {
+        told.place = Place::Below;
+        told.before += ":";
+      } else {
+        told.before += " " + WithoutBreaks(told.value) + ".";
+        if (!told.after.empty()) told.before += "  " + told.after;
+      }
+    }
+  }
+
+  int ValueCol() const { return std::min(kLastValueCol, kScreenColumns + 1 - valueWidth_); }
+  int LastColBeside() const { return ValueCol() - 3; }
+
+  double Rows(double air) const {
+    double rows = air * static_cast<double>(told_.size() - 1);
+    for (const std::string& line : question_) rows += RowsOfQuestion(line);
+    if (!question_.empty()) rows += 1;
+    for (const Told& told : told_) rows += RowsOfTold(told);
+    return rows;
+  }
+
+  static bool IsMath(const std::string& line) {
+    return !HasWord(line) && StackedTextWidth(line) <= kScreenColumns + 1 - kMathCol;
+  }
+  static double RowsOfQuestion(const std::string& line) {
+    return IsMath(line) ? RowsOfMath(line) : RowsOf(line);
+  }
+
+  double RowsOfBlock(const Told& told) const {
+    return std::max(RowsOf(told.before, LastColBeside()), RowsOfMath(told.value));
+  }
+  static double RowsOfValueBelow(const std::string& value) {
+    return IsBuiltUp(value) ? RowsOfMath(value) : RowsOf(value, kScreenColumns - kMathCol + 1);
+  }
+  double RowsOfTold(const Told& told) const {
+    if (told.place == Place::InLine) return RowsOf(told.before);
+    const double after = told.after.empty() ? 0 : RowsOf(told.after);
+    if (told.place == Place::Beside) return RowsOfBlock(told) + after;
+    return RowsOf(told.before) + RowsOfValueBelow(told.value) + after;
+  }
+
+  void DrawWith(double air) const {
+    NewScreen();
+    ProblemBanner();
+    double row = kFirstRow;
+    for (const std::string& line : question_) {
+      if (IsMath(line))
+        PrintMath(row, kMathCol, line);
+      else
+        Wrap(row, line);
+      row += RowsOfQuestion(line);
+    }
+    if (!question_.empty()) row += 1;
+    for (const Told& told : told_) {
+      DrawTold(row, told);
+      row += RowsOfTold(told) + air;
+    }
+  }
+
+  // The row is the first one that the line takes.
+  static void PrintMath(double row, double col, const std::string& text) {
+    Locate(row + (RowsOfMath(text) - 1) / 2, col);
+    isPrintStackedText(text);
+  }
+
+  void DrawTold(double row, const Told& told) const {
+    if (told.place == Place::InLine) return Wrap(row, told.before);
+    double next = row;
+    if (told.place == Place::Beside) {
+      const double rows = RowsOfBlock(told);
+      Wrap(row + (rows - RowsOf(told.before, LastColBeside())) / 2, told.before, LastColBeside());
+      PrintMath(row + (rows - RowsOfMath(told.value)) / 2, ValueCol(), told.value);
+      next += rows;
+    } else {
+      Wrap(row, told.before);
+      next += RowsOf(told.before);
+      if (IsBuiltUp(told.value))
+        PrintMath(next, kMathCol, told.value);
+      else
+        WrapBelow(next, told.value);
+      next += RowsOfValueBelow(told.value);
+    }
+    if (!told.after.empty()) Wrap(next, told.after);
+  }
+
+  static void WrapBelow(double row, const std::string& value) {
+    const HangingIndent indent(frmPR->lessonText, kMathCol);
+    Wrap(row, value, kScreenColumns, kMathCol);
+  }
+
+  std::vector<std::string> question_;
+  std::vector<Told> told_;
+  int valueWidth_ = 0;  // cells of the widest value beside a sentence
+};
+
+}  // namespace
+
+void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox) {
+  const std::vector<NamedMistake> mistakes = NamedMistakes(problem, order, studentsBox);
+  if (mistakes.empty()) return;
+  MistakesPage(problem, mistakes).Draw();
+  PageEnd();
+}
+
+}  // namespace course

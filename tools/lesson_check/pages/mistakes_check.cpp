@@ -1,0 +1,94 @@
+#include "lesson_check/pages/mistakes_check.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "engine/choices.h"
+#include "lesson_check/exact/notation.h"
+#include "mathkit/tutor_codes.h"
+
+namespace lesson_check {
+namespace {
+
+constexpr std::string_view kOthers = "Someone who ";
+constexpr std::string_view kOwn = "You chose";
+
+// All that is printed, in the order of printing: there a built-up value stands behind its sentence,
+// whatever rows it takes.  Without blanks and carets.
+std::string Printed(const PageText& page) {
+  std::string text;
+  for (const course::Fragment& fragment : page.lesson) text += fragment.text;
+  text = WithoutBlanks(Comparable(text));
+  std::erase(text, '^');
+  return text;
+}
+
+std::string Bare(const std::string& text) {
+  std::string bare = WithoutBlanks(Comparable(text));
+  std::erase(bare, '^');
+  return bare;
+}
+
+std::size_t CountOf(const std::string& whole, const std::string& part) {
+  std::size_t count = 0;
+  for (std::size_t at = whole.find(part); at != std::string::npos; at = whole.find(part, at + 1))
+    ++count;
+  return count;
+}
+
+// Whether the words stand there with the value behind them; of a built-up one its characters.
+bool Tells(const std::string& printed, const std::string& words, const std::string& value) {
+  const std::size_t at = printed.find(Bare(words));
+  if (at == std::string::npos) return false;
+  const std::string behind = printed.substr(at + Bare(words).size());
+  if (behind.starts_with(Bare(value)) || behind.starts_with(":" + Bare(value))) return true;
+  if (value.find_first_of("/`" + course::tutor::SquareRoot) == std::string::npos) return false;
+  const std::string own = behind.substr(0, behind.find(Bare(std::string(kOthers))));
+  return std::ranges::all_of(Bare(value), [&](char c) {
+    return std::string_view("/()`").find(c) != std::string_view::npos ||
+           course::tutor::SquareRoot[0] == c || own.find(c) != std::string::npos;
+  });
+}
+
+}  // namespace
+
+bool IsMistakesPage(const PageText& page) {
+  return std::ranges::any_of(page.lines, [](const std::string& line) {
+    const std::string text = Trimmed(line);
+    return text.starts_with(kOthers) || text.starts_with(kOwn);
+  });
+}
+
+PageText TakeMistakesPage(std::vector<PageText>& explanation) {
+  PageText page;
+  while (!explanation.empty() && IsMistakesPage(explanation.back())) {
+    page = explanation.back();
+    explanation.pop_back();
+  }
+  return page;
+}
+
+std::string FaultOfMistakesPage(const PageText& page,
+                                const course::LessonScript::DrawnProblem& drawn, int pickedBox) {
+  const course::Problem& problem = drawn.problem;
+  const std::string printed = Printed(page);
+  std::size_t others = 0;
+  std::size_t own = 0;
+  for (int box = 1; box <= course::ChoiceCountOf(problem.kind); ++box) {
+    const int choice = drawn.order.at(static_cast<std::size_t>(box));
+    const std::string mistake = course::MistakeOf(problem, choice);
+    if (choice == problem.correct || mistake.empty() || mistake == course::kFiller) continue;
+    const bool isOwn = box == pickedBox;
+    ++(isOwn ? own : others);
+    const std::string words = isOwn ? std::string(kOwn) : std::string(kOthers) + mistake + " gets";
+    const std::string value = ChoiceText(problem, choice);
+    if (!Tells(printed, words, value)) return "it does not tell \"" + words + " " + value + "\"";
+  }
+  const std::string reason = Bare("That is what we get when we ");
+  if (CountOf(printed, reason) != own) return "it does not give the reason of the box picked";
+  if (CountOf(printed, Bare(std::string(kOthers))) != others)
+    return "it tells of a mistake that no box has";
+  return "";
+}
+
+}  // namespace lesson_check
