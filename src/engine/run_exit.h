@@ -14,8 +14,8 @@ struct PagesEnded {};
 bool WantsElsewhere();
 // Leaves the run when the student wants to go elsewhere.
 void ExitIfWanted();
-// Saves, and leaves the run when the student asked to leave the lesson while the save waited for its
-// file: what comes next in the run is not for him.
+// Saves, and leaves the run when the student asked to leave the lesson while the save waited for
+// its file: what comes next in the run is not for him.
 void SaveThenExitIfLeft(const std::function<void()>& save);
 // Ends the run; the dispatcher starts the next one.
 [[noreturn]] void RunAgain();

@@ -127,8 +127,9 @@ TEST(Judges, MonicTrinomial) {
   EXPECT_TRUE(IsRight(reading, "(x - 5)(x + 2)"));
   EXPECT_FALSE(IsRight(reading, "(x - 2)(x + 5)"));
   ExpectMistake(reading, "reverses both signs", "(x - 2)(x + 5)");
-  EXPECT_EQ(reading.mistakes.at("takes a pair with the right product and the wrong sum").size(), 6u);  // each pair twice
-  EXPECT_THROW(reading.value("x^2^ - 3x - 10"), Unreadable);              // true, but not factored
+  EXPECT_EQ(reading.mistakes.at("takes a pair with the right product and the wrong sum").size(),
+            6u);                                              // each pair twice
+  EXPECT_THROW(reading.value("x^2^ - 3x - 10"), Unreadable);  // true, but not factored
 }
 
 TEST(Judges, SumOfFractions) {

@@ -381,7 +381,7 @@ TEST_F(PageLayoutTest, AnyTwoBoxesThatOverlapAreFound) {
   note.SetVisible(true);
   EXPECT_EQ(Found(), Faults{});
   image.SetVisible(true);
-  EXPECT_EQ(Found(), Faults{"picNotes(1) and picGalleryImage(2) lie over each other"});
+  EXPECT_EQ(Found(), Faults{"picGalleryImage(2) and picNotes(1) lie over each other"});
   Print(6, 8, "note");
   EXPECT_EQ(Found().size(), 2u);
 }

@@ -41,7 +41,7 @@ TEST_F(SimpleInequalitiesTest, OnlyTheLastSentenceOfTheExplanationStandsAboveThe
       ++pages;
       end = TranscriptLines(frmPR->lessonText);
     });
-    EXPECT_EQ(pages, 8);
+    EXPECT_EQ(pages, 9);
     ASSERT_EQ(end.size(), 6u);
     EXPECT_EQ(end[2].substr(0, 20), "The arrow's range in");
     EXPECT_EQ(end[4], "  This is written as:");

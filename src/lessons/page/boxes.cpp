@@ -23,9 +23,10 @@ using platform::colour::Black;
 
 constexpr double kPanelTop = 2;  // rows
 constexpr double kPanelBottom = 25;
-constexpr double kAir = 0.5;       // rows
-constexpr double kWipeSpeed = 10;  // a box is wiped often
-constexpr double kNoteSize = 12;   // points
+constexpr double kPixel = 1.0 / gCellHeight;  // rows; a half row is placed on a whole pixel
+constexpr double kAir = 0.5;                  // rows
+constexpr double kWipeSpeed = 10;             // a box is wiped often
+constexpr double kNoteSize = 12;              // points
 
 // The row of the lesson screen at so many twips of the form.
 double RowOfTwips(int twips) {
@@ -68,7 +69,7 @@ double RowFor(double row) {
 }
 
 void FinishBox(const platform::Control& box, const std::string& text) {
-  if (TopOf(box) < kPanelTop || BottomOf(box) > kPanelBottom)
+  if (TopOf(box) < kPanelTop || BottomOf(box) > kPanelBottom + kPixel)
     StopPage("a box stands on rows " + CellText(TopOf(box)) + " to " + CellText(BottomOf(box)) +
              ": \"" + text + "\"");
   GoBelow();

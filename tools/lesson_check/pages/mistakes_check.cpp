@@ -13,20 +13,20 @@ namespace {
 constexpr std::string_view kOthers = "Someone who ";
 constexpr std::string_view kOwn = "You chose";
 
-// All that is printed, in the order of printing: there a built-up value stands behind its sentence,
-// whatever rows it takes.  Without blanks and carets.
-std::string Printed(const PageText& page) {
-  std::string text;
-  for (const course::Fragment& fragment : page.lesson) text += fragment.text;
-  text = WithoutBlanks(Comparable(text));
-  std::erase(text, '^');
-  return text;
-}
-
+// Without blanks and the marks of exponents and radicands.
 std::string Bare(const std::string& text) {
   std::string bare = WithoutBlanks(Comparable(text));
-  std::erase(bare, '^');
+  std::erase_if(bare, [](char c) { return c == '^' || c == '`'; });
   return bare;
+}
+
+// All that is printed, in the order of printing: there a built-up value stands behind its sentence,
+// whatever rows it takes.
+std::string Printed(const PageText& page) {
+  std::string text;
+  for (const PageText::Panel& panel : page.panels)
+    for (const course::Fragment& fragment : panel.fragments) text += fragment.text;
+  return Bare(text);
 }
 
 std::size_t CountOf(const std::string& whole, const std::string& part) {
@@ -36,18 +36,12 @@ std::size_t CountOf(const std::string& whole, const std::string& part) {
   return count;
 }
 
-// Whether the words stand there with the value behind them; of a built-up one its characters.
+// Whether the words stand there with the value behind them.
 bool Tells(const std::string& printed, const std::string& words, const std::string& value) {
   const std::size_t at = printed.find(Bare(words));
   if (at == std::string::npos) return false;
   const std::string behind = printed.substr(at + Bare(words).size());
-  if (behind.starts_with(Bare(value)) || behind.starts_with(":" + Bare(value))) return true;
-  if (value.find_first_of("/`" + course::tutor::SquareRoot) == std::string::npos) return false;
-  const std::string own = behind.substr(0, behind.find(Bare(std::string(kOthers))));
-  return std::ranges::all_of(Bare(value), [&](char c) {
-    return std::string_view("/()`").find(c) != std::string_view::npos ||
-           course::tutor::SquareRoot[0] == c || own.find(c) != std::string::npos;
-  });
+  return behind.starts_with(Bare(value)) || behind.starts_with(":" + Bare(value));
 }
 
 }  // namespace
