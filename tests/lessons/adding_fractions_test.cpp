@@ -13,7 +13,7 @@ class AddingFractionsTest : public CourseTest {};
 
 TEST_F(AddingFractionsTest, FractionsAreProperInLowestTermsAndNeedACommonDenominator) {
   const auto lesson = MakeLesson("Adding Fractions");
-  const std::regex sum(R"((\d+)/(\d+) \+ (?:(\d+)/(\d+)|\((-\d+)/(\d+)\)))");
+  const std::regex sum(R"((\d+)/(\d+) \+ (?:(\d+)/(\d+)|\((-\d+)\)/(\d+)))");
   int shareAFactor = 0;
   int negative = 0;
   constexpr int kDrawn = 4000;

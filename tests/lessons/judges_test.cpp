@@ -82,6 +82,7 @@ TEST(Judges, OrderOfOperations) {
   ExpectMistake(reading, "forgets the parentheses", "19");
   ExpectMistake(reading, "forgets the brackets", "43");
   ExpectMistake(reading, "stops before the last operation", "15");
+  ExpectMistake(reading, "adds instead of multiplying", "32");
 }
 
 TEST(Judges, Motion) {
@@ -133,12 +134,16 @@ TEST(Judges, MonicTrinomial) {
 }
 
 TEST(Judges, SumOfFractions) {
-  const Reading reading = Read("Adding Fractions", {"Add.", "5/6 + (-3/4)"});
+  const Reading reading = Read("Adding Fractions", {"Add.", "5/6 + (-3)/4"});
   EXPECT_TRUE(IsRight(reading, "1/12"));
   EXPECT_TRUE(IsRight(reading, "2/24"));
   EXPECT_EQ(reading.flaw("2/24"), "can be reduced");
   ExpectMistake(reading, "adds the denominators too", "1/5");
   ExpectMistake(reading, "leaves out the minus sign", "1 7/12");
+  const Reading above = Read("Adding Fractions", {"Add.", "5/6 + 7/10"});  // 46/30
+  ExpectMistake(above, "divides only the denominator by the common factor", "3 1/15");
+  ExpectMistake(above, "divides only the numerator by the common factor", "23/30");
+  ExpectMistake(above, "puts the remainder over the numerator", "1 8/23");
 }
 
 TEST(Judges, LinearSystem) {

@@ -18,12 +18,28 @@ using platform::colour::Yellow;
 
 constexpr int kLargestCommonDenominator = 180;
 
-std::string FactorsLine(int n) {
-  const std::vector<int> factors = PrimeFactorsOf(n);
-  return NumStr(n) + (factors.size() == 1 ? " is a prime number." : " = " + ProductText(factors));
+// A number and its prime factors, those of the LCD in columns of their own: " 12 = 2     x 3".
+std::string FactorsLine(const std::string& label, int n, int lcd) {
+  constexpr std::size_t kLabelWidth = 3;
+  return std::string(kLabelWidth - std::min(kLabelWidth, label.size()), ' ') + label + " = " +
+         AlignedProduct(PrimeFactorsOf(n), PrimeFactorsOf(lcd));
+}
+std::string FactorsLine(int n, int lcd) {
+  return FactorsLine(NumStr(n), n, lcd);
+}
+std::string LcdLine(int lcd) {
+  const std::string line = FactorsLine("LCD", lcd, lcd);
+  return PrimeFactorsOf(lcd).size() > 1 ? line + " = " + NumStr(lcd) : line;
 }
 
 // --- Teaching screens --------------------------------------------------------
+
+// Parts one strip below the row slide up into the strip there.
+void JoinParts(double row, double col, double wd) {
+  constexpr double kDrop = 1.5;                // rows from strip to strip
+  constexpr double kLineX = 1.0 / gCellWidth;  // lines reach a pixel beyond their cells
+  SlideUp({row + kDrop, col - kLineX, wd + 2 * kLineX, 1.4}, kDrop);
+}
 
 void SameDenominator() {
   NewScreen();
@@ -32,17 +48,28 @@ void SameDenominator() {
   SayAt(5, R"(the \cdenominator\z: how many make 1)", {.col = 7});
   DrawStrip(7, 3, 35, 7, {{3, Yellow}});
   PageEnd();
-  SayAt(9, R"(Fractions with the \ysame denominator\z count parts of the same size.  We add the )"
-           R"(numerators and keep the denominator.)");
+  DrawStrip(8.5, 18, 10, 2, {{2, Cyan}});
+  SayAt(11, R"(Fractions with the \ysame denominator\z count parts of the same size.  We add the )"
+            R"(numerators and keep the denominator.)");
   PageEnd();
-  DrawStrip(12.5, 3, 35, 7, {{3, Yellow}, {2, Cyan}});
+  JoinParts(7, 18, 10);
   ShowAt(15.5, "3/7 + 2/7 = (3 + 2)/7 = 5/7");
   PageEnd();
-  Say(R"(\rDo not add the denominators\z: 5/14 is less than the 3/7 with which we began.)");
+  Say(R"(\yWatch out:\z  Do not add the denominators.  5/14 is less than the 3/7 with which we )"
+      "began.");
   PageEnd();
-  Say("What is the sum of 1/5 and 3/5?");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is the sum of 1/5 and 3/5?)");
   PageEnd();
-  Say("It is 4/5: four parts of the same size.");
+  ShowAt(6, "1/5 + 3/5 = (1 + 3)/5 = 4/5");
+  DrawStrip(8.5, 3, 35, 5, {{1, Yellow}, {3, Cyan}});
+  SayAt(10.5, "The four parts have the same size.");
+  SayAt(13, R"(\yTry it:\z  What is 2/5 + 3/5?)");
+  PageEnd();
+  ShowAt(16, "2/5 + 3/5 = (2 + 3)/5 = 5/5 = 1");
+  DrawStrip(18.5, 3, 35, 5, {{2, Yellow}, {3, Cyan}});
+  SayAt(20.5, "All five parts make 1 whole.");
   PageEnd();
 }
 
@@ -59,72 +86,88 @@ void CommonDenominators() {
   PageEnd();
   ShowAt(15, RenamedLine({1, 2}, 6));
   ShowAt(15, RenamedLine({1, 3}, 6), 22);
-  PageEnd();
   Say(R"(6 is a \ccommon denominator\z: 2 and 3 both go into it evenly.)");
   PageEnd();
-  DrawStrip(19.7, 3, 36, 6, {{3, Yellow}, {2, Cyan}});
-  ShowAt(22, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
+  ClearCells(10.5, 1, 40, 1.5);
+  DrawStrip(10.5, 3, 12, 2, {{2, Cyan}});
+  SlideRight({10.5, 2, 14, 1.4}, 18);
+  JoinParts(9, 21, 12);
+  ShowAt(21.5, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
   PageEnd();
 }
 
 void LeastCommonDenominators() {
   NewScreen();
   ShowAt(4, "5/12 + 7/18");
-  Say(R"(The smallest common denominator is called the \cleast common denominator\z, or \cLCD\z.  )"
-      R"(We find it with prime factors.)");
+  Say(R"(The smallest common denominator is the \cleast common denominator\z, or LCD.)");
   PageEnd();
-  Show(FactorsLine(12));
-  Show(FactorsLine(18));
+  Say(R"(We find it with \cprime numbers\z, such as 2, 3, 5, and 7.  Only 1 and the number )"
+      "itself go into them evenly.");
   PageEnd();
-  Say(R"(The LCD takes each prime as often as the line that has \ymost of it\z: 2 twice and 3 )"
+  Say("We write both denominators as products of primes:");
+  GoBelow();
+  Show(FactorsLine(12, 36));
+  Show(FactorsLine(18, 36));
+  PageEnd();
+  Show(LcdLine(36));
+  Say("Take each prime as many times as it stands in the line that has it most: 2 twice and 3 "
       "twice.");
-  Show(Text("LCD = {} = 36", ProductText({2, 2, 3, 3})));
   PageEnd();
-  Say(
-      Text("The product {} = 216 is a common denominator too, but it makes the numbers larger than "
-           "they need to be.",
-           ProductText({12, 18})));
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is the LCD of 4 and 6?)");
   PageEnd();
-  Say("What is the LCD of 4 and 6?");
-  PageEnd();
-  AddLine(Text("4 = {} and 6 = {}, so it is 12.", ProductText({2, 2}), ProductText({2, 3})));
+  GoBelow();
+  Show(FactorsLine(4, 12));
+  Show(FactorsLine(6, 12));
+  Show(LcdLine(12));
+  Say("The product 24 is a common denominator, too, but a larger one.");
   PageEnd();
 }
 
-void WholeSums() {
+void SumAboveOne() {
   NewScreen();
-  Say("Let's add two fractions step by step.");
-  Show("5/6 + 7/10");
+  SayAt(3, "Let's add two fractions step by step.");
+  ShowAt(5.5, "5/6 + 7/10");
   PageEnd();
-  Say(Text("6 = {} and 10 = {}, so the LCD is 30.", ProductText({2, 3}), ProductText({2, 5})));
+  Say(Text("6 = {} and 10 = {}: LCD = 30.", ProductText({2, 3}), ProductText({2, 5})));
   ShowAt(10.5, RenamedLine({5, 6}, 30));
   ShowAt(10.5, RenamedLine({7, 10}, 30), 23);
   PageEnd();
   Say("We add the numerators:");
   Show("25/30 + 21/30 = (25 + 21)/30 = 46/30");
   PageEnd();
-  Say(R"(2 goes into 46 and 30, so we \yreduce\z.)");
+  Say(R"(We \creduce\z: we divide both by 2.)");
   ShowAt(20.5, "46/30 = 23/15");
   PageEnd();
-  Say(R"(23 is 15 and 8 more: \y1 whole\z, 8 parts.)");
-  ShowAt(20.5, "= 1 8/15", 11);
+  ShowAt(20.5, "= 1 8/15", 17);
+  Say(R"(23 is 15 and 8 more: 1 whole, 8 parts.)");
   PageEnd();
 }
 
 void NegativeFractions() {
   NewScreen();
-  Say(R"(When a fraction is \ynegative\z, its numerator takes the minus sign along.)");
-  Show("5/6 + (-3/4)");
+  SayAt(3, R"(When a fraction is \cnegative\z, its numerator takes the minus sign along.)");
+  ShowAt(6.5, "5/6 + (-3)/4");
   PageEnd();
-  Say("The LCD of 6 and 4 is 12.");
-  Show("10/12 + (-9/12)");
+  Say("The LCD is 12:");
+  Show("10/12 + (-9)/12");
   PageEnd();
-  Say("Adding -9 takes 9 parts away.");
+  Say("Adding -9 takes 9 parts away:");
   Show("(10 + (-9))/12 = 1/12");
   PageEnd();
-  Say("What is the sum of 1/2 and -1/3?");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is 1/2 + (-1/3)?)");
   PageEnd();
-  Say("In sixths it is 3 parts and -2 parts, which leaves 1/6.");
+  Show("3/6 + (-2)/6 = 1/6");
+  DrawStrip(8.5, 3, 36, 6, {{1, Yellow}, {2, Cyan}});
+  SayAt(10.5, "Of 3 parts we take 2 away, and 1 is left.");
+  PageEnd();
+  Say(R"(\yTry it:\z  What is the sum of 3/4 and 5/6?)");
+  PageEnd();
+  Show("9/12 + 10/12 = 19/12 = 1 7/12");
+  Say("The LCD is 12, and 19 parts are 1 whole and 7 parts.");
   PageEnd();
 }
 
@@ -138,7 +181,7 @@ class AddingFractions final : public LessonScript {
   std::vector<Screen> Screens() override {
     return {{SameDenominator},
             {CommonDenominators, LeastCommonDenominators},
-            {WholeSums, NegativeFractions}};
+            {SumAboveOne, NegativeFractions}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -150,17 +193,15 @@ class AddingFractions final : public LessonScript {
   int FirstNumerator() const { return RenamedNumerator(first_, Denominator()); }
   int SecondNumerator() const { return RenamedNumerator(second_, Denominator()); }
   std::vector<FractionMistake> Mistakes() const;
-  std::string UnreducedSum() const {
-    return OverText(FirstNumerator() + SecondNumerator(), Denominator());
-  }
-  std::string Sum() const { return SumText(ValueText(first_), ValueText(second_)); }
+  int NumeratorOfSum() const { return FirstNumerator() + SecondNumerator(); }
+  std::string UnreducedSum() const { return OverText(NumeratorOfSum(), Denominator()); }
+  std::string Sum() const { return OverText(first_) + " + " + OverText(second_); }
 
   void ExplainDenominator();
   void ExplainRenaming();
   void ExplainOneRenaming(const Fraction& f);
   void ExplainSum();
   void ExplainLowestTerms();
-  void ExplainReduction();
 
   Fraction first_;   // proper, positive
   Fraction second_;  // proper, of either sign
@@ -181,8 +222,7 @@ bool AddingFractions::Unsuitable(int kind) const {
   const int lcd = first_.den / common * second_.den;
   return lcd == first_.den || lcd == second_.den  // one of the denominators would do as it is
          || lcd > kLargestCommonDenominator       // too much to multiply by hand
-         ||
-         RenamedNumerator(first_, lcd) + RenamedNumerator(second_, lcd) <= 0;  // sums are positive
+         || RenamedNumerator(first_, lcd) + RenamedNumerator(second_, lcd) <= 0;  // no negative sum
 }
 
 // The kind is drawn once, so that both are as many.  Of what is drawn then, 57 % of the first kind
@@ -199,23 +239,34 @@ void AddingFractions::DrawProblem(RandomStream& random) {
   FillFractionChoices(problem, first_ + second_, Mistakes(), Denominator(), random);
 }
 
+// Some lead to more than the sum and some to less: else its size would tell the right one.
 std::vector<FractionMistake> AddingFractions::Mistakes() const {
   const int lcd = Denominator();
   const int a = first_.num;
   const int b = second_.num;
+  const int sum = NumeratorOfSum();
+  const int common = Gcf(sum, lcd);
   std::vector<FractionMistake> mistakes;
-  if (b < 0)
-    mistakes.push_back({"leaves out the minus sign", FirstNumerator() - SecondNumerator(), lcd});
-  mistakes.insert(mistakes.end(),
-                  {{"adds the denominators too", a + b, first_.den + second_.den},
-                   {"multiplies each numerator by the factor of the other",
-                    a * (lcd / second_.den) + b * (lcd / first_.den), lcd},
-                   {"keeps both numerators over the common denominator", a + b, lcd}});
-  // All of the others are below 1: a sum above 1 gets a neighbour in their place.
-  if (FirstNumerator() + SecondNumerator() < lcd)
-    mistakes.insert(mistakes.end(),
-                    {{"renames the first fraction only", FirstNumerator() + b, lcd},
-                     {"renames the second fraction only", a + SecondNumerator(), lcd}});
+  const auto add = [&](const char* name, int num, int den) {
+    mistakes.push_back({name, num, den});
+  };
+  if (b < 0) add("leaves out the minus sign", FirstNumerator() - SecondNumerator(), lcd);
+  add("adds the denominators too", a + b, first_.den + second_.den);
+  if (common > 1) add("divides only the denominator by the common factor", sum, lcd / common);
+  if (sum > lcd) add("puts the remainder over the numerator", 2 * sum - lcd, sum);
+  const int crossed = a * (lcd / second_.den) + b * (lcd / first_.den);
+  const auto addCrossed = [&] {
+    add("multiplies each numerator by the factor of the other", crossed, lcd);
+  };
+  if (crossed > sum) addCrossed();
+  add("keeps the larger denominator", a + b, std::max(first_.den, second_.den));
+  add("keeps both numerators over the common denominator", a + b, lcd);
+  addCrossed();  // passed over when it is there
+  if (common > 1) add("divides only the numerator by the common factor", sum / common, lcd);
+  if (sum < lcd) {
+    add("renames the first fraction only", FirstNumerator() + b, lcd);
+    add("renames the second fraction only", a + SecondNumerator(), lcd);
+  }
   return mistakes;
 }
 
@@ -237,77 +288,71 @@ void AddingFractions::ExplainProblem() {
   ExplainRenaming();
   ExplainSum();
   ExplainLowestTerms();
+  Conclude(problem);
 }
 
 void AddingFractions::ExplainDenominator() {
-  Say(Text(
-      R"(The denominators {} and {} are different.  We find their \yleast common denominator\z )"
-      "(LCD) with prime factors.",
-      first_.den, second_.den));
+  const int lcd = Denominator();
+  Say(Text("We need the LCD of {} and {}.  What are their prime factors?", first_.den,
+           second_.den));
   PageEnd();
-  Show(FactorsLine(first_.den));
-  Show(FactorsLine(second_.den));
+  GoBelow();
+  Show(FactorsLine(first_.den, lcd));
+  Show(FactorsLine(second_.den, lcd));
   PageEnd();
+  Show(LcdLine(lcd));
   Say(CommonPrimeFactors(first_.den, second_.den) == 0
-          ? "They share no prime, so the LCD needs all of them:"
-          : R"(The LCD takes each prime as often as the line that has \ymost of it\z:)");
-  Show(Text("LCD = {} = {}", ProductText(PrimeFactorsOf(Denominator())), Denominator()));
+          ? "They share no prime, so the LCD needs all of them."
+          : "We take each prime as many times as it stands in the line that has it most.");
   PageEnd();
 }
 
 void AddingFractions::ExplainOneRenaming(const Fraction& f) {
   const int factor = Denominator() / f.den;
-  Say(Text(R"({} goes into {} \y{} times\z.  Multiplying both parts by {} keeps the value:)", f.den,
-           Denominator(), factor, factor));
+  Say(Text(R"({} goes into {} \y{} time{}\z.  We multiply numerator and denominator by {}:)", f.den,
+           Denominator(), factor, Words{PluralSuffix(factor)}, factor));
   Show(RenamedLine(f, Denominator()));
   PageEnd();
 }
 
 void AddingFractions::ExplainRenaming() {
   NewScreen();
-  ShowAt(3, Sum());
-  SayAt(3, Text("LCD = {}", Denominator()), {.col = 22});
-  GoBelow();
+  ProblemBanner();
+  ShowAt(5, Sum());
+  SayAt(5, Text("LCD = {}", Denominator()), {.col = 25});
+  Say("Now we rename both fractions.");
+  PageEnd();
   ExplainOneRenaming(first_);
   ExplainOneRenaming(second_);
 }
 
 void AddingFractions::ExplainSum() {
-  const std::string first = NumStr(FirstNumerator());
-  const std::string second = NumStr(SecondNumerator());
-  const std::string den = NumStr(Denominator());
-  Say("Now both count parts of the same size.  We add the numerators:");
-  Show(SumText(first + "/" + den, second + "/" + den) + " = (" + SumText(first, second) + ")/" +
-       den + " = " + UnreducedSum());
+  NewScreen();
+  ProblemBanner();
+  const int den = Denominator();
+  ShowAt(5, Sum() + " = " + OverText(FirstNumerator(), den) + " + " +
+                OverText(SecondNumerator(), den));
+  Say("We add the numerators:");
+  Show("(" + SumText(FirstNumerator(), SecondNumerator()) + ")/" + NumStr(den) + " = " +
+       UnreducedSum());
   PageEnd();
 }
 
 void AddingFractions::ExplainLowestTerms() {
   const Fraction sum = first_ + second_;
-  NewScreen();
-  ShowAt(4, Sum() + " = " + UnreducedSum());
-  ExplainReduction();
-  if (sum.num > sum.den) {
-    Say(Text(R"({} goes into {} once, and {} is left.  We write a \ymixed number\z.)", sum.den,
-             sum.num, sum.num - sum.den));
-    Show(ValueText(sum) + " = " + MixedText(sum));
-    PageEnd();
-  }
-  Conclude(problem);
-  PageEnd();
-}
-
-void AddingFractions::ExplainReduction() {
-  const int numerator = FirstNumerator() + SecondNumerator();
+  const int numerator = NumeratorOfSum();
   const int common = Gcf(numerator, Denominator());
   if (common == 1) {
-    Say(Text("{} and {} share no factor, so the sum is in lowest terms.", numerator,
+    Say(Text("No prime goes into both {} and {}.  The sum is in lowest terms.", numerator,
              Denominator()));
   } else {
-    Say(Text(R"(\y{}\z goes into {} and {}.  We divide both by it to \yreduce\z the fraction.)",
-             common, numerator, Denominator()));
-    Show(UnreducedSum() + " = " + ValueText(first_ + second_));
+    Say(Text("{} goes into both, so we reduce:", common));
+    Show(UnreducedSum() + " = " + ValueText(sum));
   }
+  PageEnd();
+  if (sum.num < sum.den) return;
+  Say(Text("{} goes into {} once, and {} is left:", sum.den, sum.num, sum.num - sum.den));
+  Show(ValueText(sum) + " = " + MixedText(sum));
   PageEnd();
 }
 

@@ -21,8 +21,8 @@ constexpr int kShapesOfKind = 5;
 // d and D drawn as n and L, then raised until the division behind them comes out.
 constexpr std::string_view kShapes[kKinds][kShapesOfKind] = {
     {"n+f*m-n", "L-f*m+n", "f*m+Q/m", "L-Q/m-n", "f*m-n+Q/m"},
-    {"L-n+n-n", "Q/m*m+n", "L-n+f*m", "L-Q/m*m+n", "f*m-Q/m+n"},
-    {"m*(n+n)-n", "(D-n)/m+f", "L-m*(n-n)", "(n+n)*(n-n)", "Q/m+m*(n+n)"},
+    {"L-n+n-n", "n+Q/m*m", "L-n+f*m", "L-Q/m*m+n", "f*m-Q/m+n"},
+    {"m*(n+n)-n", "f+(D-n)/m", "L-m*(n-n)", "(n+n)*(n-n)", "Q/m+m*(n+n)"},
     {"m*[L-(n+n)]", "[d+m*(n-n)]/m", "L-[n+m*(n-n)]", "m*[(d+n)/m+n]", "[D-(n+n)]/m*m"},
 };
 
@@ -43,85 +43,66 @@ constexpr WorkingOrder kMistakes[] = {
      .times = 1,
      .divided = 1},
     {.mistake = "works from right to left", .fromTheRight = true, .times = 1, .divided = 1},
+    {.mistake = "adds instead of multiplying", .addsForTimes = true},
     {.mistake = "stops before the last operation", .stopsEarly = true},
 };
 
+struct WrongValue {
+  std::string_view mistake;
+  int value;
+};
+
 constexpr int kLargestNumber = 150;  // on the way to the value, which is found in the head
-constexpr int kChoices = 5;
+constexpr int kWrongChoices = 4;
 constexpr int kFewestMistakes = 2;  // one of order, and to stop early, which is always possible
 
 constexpr double kRulesRow = 6;  // of the picture beside a problem
 constexpr double kRulesColumn = 23;
+constexpr double kReasonRow = 16;  // below an evaluation
 
-// Rows for the reasons below an evaluation.
-constexpr double kReasonRow = 15;
-constexpr double kLastRow = 23;
-constexpr double kWipeSpeed = 10;
-
-// As it stands in a sentence, which does not break inside.
+// As it stands in a sentence.
 std::string InSentence(std::string_view text) {
-  return WithoutBreaks(ExpressionText(ExpressionOf(text)));
+  return ExpressionText(ExpressionOf(text));
 }
 
 // The same with its value: "8 - 2 = 6".
 std::string Worked(std::string_view text) {
-  return WithoutBreaks(ExpressionText(ExpressionOf(text)) + " = " +
-                       NumStr(ValueOf(ExpressionOf(text)).value()));
-}
-
-// Wipes the reason of the step before away, and tells what that step has given, if there was one.
-void StartReason(const std::string& given) {
-  if (!given.empty()) WipeAndErase("U", kLastRow + 1, kLastRow + 1 - kReasonRow, kWipeSpeed);
-  Locate(kReasonRow, 1);
-  if (given.empty()) return;
-  isPrint(given + ".");
-  isPrint();
+  return InSentence(text) + " = " + NumStr(ValueOf(ExpressionOf(text)).value());
 }
 
 // --- Teaching screens --------------------------------------------------------
 
-// An evaluation in the middle of the window, a step a page; the last page is the caller's.
+// An evaluation in the middle of the window, all steps at once.
 void WorkOut(std::string_view text, double row) {
   Evaluation evaluation(ExpressionOf(text), row);
   while (!evaluation.Done()) {
     evaluation.PickOut();
-    PageEnd();
     evaluation.ShowResult();
   }
 }
 
-// The same for the student to try first.
-void Ask(std::string_view text, double row) {
-  Evaluation evaluation(ExpressionOf(text), row);
-  PageEnd();
-  WorkOut(text, row);
-}
-
-// The same with the reasons told below; ends with the last result.
+// The same, a step a page, with the reasons told below.
 void WorkOutAloud(const ArithmeticExpression& expression, double row) {
   Evaluation evaluation(expression, row);
-  std::string given;
   while (!evaluation.Done()) {
     evaluation.PickOut();
-    StartReason(given);
-    WordWrap(evaluation.Reason() + R"(What is \y)" + evaluation.OperationText() + R"(\z?)");
+    ClearBelow(kReasonRow);
+    SayAt(kReasonRow,
+          evaluation.Reason() + R"(What is \y)" + evaluation.OperationText() + R"(\z?)");
     PageEnd();
     evaluation.ShowResult();
-    given = evaluation.ResultText();
   }
-  StartReason(given);
+  ClearBelow(kReasonRow);
 }
 
 // Two evaluations side by side, each in its own order.
 void SuzyAndPaul() {
-  const std::string text = ExpressionText(ExpressionOf("3+4*2"));
-  Locate(6, 6);
-  isPrint("Suzy:");
-  Locate(6, 27);
-  isPrint("Paul:");
-  SteppingDisplay suzy(text, 7.2, 6);
-  SteppingDisplay paul(text, 7.2, 27);
-  PageEnd();
+  NewScreen();
+  SayAt(3, Text("What is {}?  Suzy adds first.  Paul multiplies first.", InSentence("3+4*2")));
+  SayAt(6, "Suzy:", {.col = 6});
+  SayAt(6, "Paul:", {.col = 27});
+  SteppingDisplay suzy(InSentence("3+4*2"), 7.2, 6);
+  SteppingDisplay paul(InSentence("3+4*2"), 7.2, 27);
   suzy.PickOut(0, 2);
   paul.PickOut(2, 4);
   PageEnd();
@@ -129,124 +110,152 @@ void SuzyAndPaul() {
   paul.ShowResult("8");
   suzy.PickOut(0, 2);
   paul.PickOut(0, 2);
-  PageEnd();
   suzy.ShowResult("14");
   paul.ShowResult("11");
+  SayAt(13, "Both can add and multiply.  Who has found the value of the expression?");
+  PageEnd();
+  SayAt(16, R"(Paul is right.  We all follow the same \corder of operations\z:)");
+  PaperBox({"Multiply and divide", "before you add and subtract."});
+  PageEnd();
 }
 
-void WhyThereIsAnOrder() {
-  NewScreen();
-  WrapAt(3, "What is the value of " + InSentence("3+4*2") +
-                "?  Suzy adds first.  Paul multiplies first.");
-  SuzyAndPaul();
-  WrapAt(14, "Both can add and multiply.  Who has found the value of the expression?");
-  PageEnd();
-  isPrint();
-  WordWrap(R"(An expression has only one value.  So we all follow one \corder of operations\z:)");
-  WordWrap(R"(\yMultiply and divide before you add and subtract.\z)");
-  PageEnd();
-  isPrint();
-  WordWrap("Paul is right.  The value is 11.");
-  PageEnd();
+// The bill of a shop: what each row costs.
+void ShowBill() {
+  constexpr double kSize = 14;  // points
+  CellTable({.widthPixels = 380,
+             .heightPixels = 130,
+             .cells = {{45, 7, 50, 24}, {45, 38, 50, 24}, {45, 69, 50, 24}},
+             .labels = {{5, 10, 38, 20, "1 pen", kSize},
+                        {5, 41, 38, 20, "4 notebooks", kSize},
+                        {5, 72, 38, 20, "together", kSize}},
+             .marks = {}});
+  picPrintCellPrint(1, "3", platform::colour::Black, kSize);
+  picPrintCellPrint(2, InSentence("4*2"), platform::colour::Black, kSize);
+}
 
+void WhyMultiplicationComesFirst() {
   NewScreen();
-  WrapAt(3, "Why do we multiply first?  Think of a shop:");
-  isPrint();
-  WordWrap("You buy a pen for 3 dollars and 4 notebooks for 2 dollars each.  Together they cost " +
-           InSentence("3+4*2") + " dollars.");
+  SayAt(3,
+        "Why do we multiply first?  You buy a pen for 3 dollars and 4 notebooks for 2 dollars "
+        "each.  How much is that?");
+  ShowBill();
   PageEnd();
-  isPrint();
-  WordWrap(
-      "You pay for 4 notebooks and not for 7 things.  So we need the price of the notebooks, " +
-      Worked("4*2") + ", before we add:  " + Worked("3+8") + " dollars.");
+  picPrintCellCls(2);
+  picPrintCellPrint(2, Worked("4*2"), platform::colour::Black, 14);
+  picPrintCellPrint(3, Worked("3+8"), platform::colour::Blue, 14);
+  Say("You pay for 4 notebooks, not for 7 things.  So we need their price before we add.");
   PageEnd();
-  isPrint();
-  WordWrap("Now you.  Which operation comes first here, and what is the value?");
-  Ask("20-6/2", 18);
+  Say(R"(\yTry it:\z  Which operation comes first here, and what is the value?)");
+  Evaluation evaluation(ExpressionOf("20-6/2"), 19.4);
+  PageEnd();
+  WorkOut("20-6/2", 19.4);
   PageEnd();
 }
 
 void FromLeftToRight() {
   NewScreen();
-  WrapAt(3, R"(Addition and subtraction have the same \crank\z.  Neither comes before the other.)");
+  SayAt(3, R"(Addition and subtraction have the same \crank\z: neither comes before the other.  )"
+           "We work from left to right, as we read.");
+  Evaluation evaluation(ExpressionOf("12-5+4"), 7.5);
+  evaluation.PickOut();
   PageEnd();
-  isPrint();
-  WordWrap(R"(When the ranks are the same, we work \cfrom left to right\z, as we read.)");
-  WorkOut("12-5+4", 9.5);
+  WorkOut("12-5+4", 7.5);
+  SayAt(13, "You have 12 dollars, give away 5, and get 4.  That makes 11 dollars.");
   PageEnd();
-  WrapAt(15, "Why?  You have 12 dollars, you give away 5, and you get 4.  Then you have 11.");
-  PageEnd();
-  isPrint();
-  WordWrap(R"(\rDo not add 5 + 4 first.\z  That would take 9 away from 12, but only 5 are taken.)");
+  SayAt(16, R"(\yWatch out:\z  Do not add 5 and 4 first.)");
+  PaperBox({InSentence("12-5+4") + " = " + InSentence("7+4") + R"(,  \rnot )" + InSentence("12-9") +
+            R"(\z)"});
   PageEnd();
 
   NewScreen();
-  WrapAt(3, "Multiplication and division have the same rank too.");
-  WorkOut("24/4*2", 6);
+  SayAt(3, "Multiplication and division share a rank, too.");
+  SayAt(6, R"(\yTry it:\z  What is the value here?)");
+  Evaluation question(ExpressionOf("24/4*2"), 9);
   PageEnd();
-  WrapAt(11.5, R"(\rDo not multiply 4 )" + tutor::Times +
-                   R"( 2 first,\z although the word multiplication comes first in the rule.)");
+  WorkOut("24/4*2", 9);
+  SayAt(14.5, Text(R"(\yWatch out:\z  Do not multiply {} first.)", InSentence("4*2")));
   PageEnd();
-  WrapAt(15, "Now you.  Which operation comes first, and which one second?");
-  Ask("30-12/3*2", 17.4);
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Which operation comes first, and which one second?)");
+  Evaluation last(ExpressionOf("30-12/3*2"), 6.5);
+  PageEnd();
+  WorkOut("30-12/3*2", 6.5);
+  SayAt(14,
+        Text("First {}, then {}, at last the subtraction.", InSentence("12/3"), InSentence("4*2")));
   PageEnd();
 }
 
 void ParenthesesFirst() {
   NewScreen();
-  WrapAt(3, "Can we write an expression in which Suzy is right and the addition comes first?");
+  SayAt(3, "Suzy wants 3 and 4 to be added first.  How can she write that?");
   PageEnd();
-  isPrint();
-  WordWrap(R"(Yes.  \cParentheses\z ( ) say: work out what is inside before anything else.)");
-  WorkOut("(3+4)*2", 9);
+  Say(R"(She writes \cparentheses\z ( ).  What is inside is worked out before anything else.)");
+  Evaluation evaluation(ExpressionOf("(3+4)*2"), 10);
+  evaluation.PickOut();
   PageEnd();
-  WrapAt(14.5, "Inside parentheses the order is the same as ever:  multiply and divide first.");
-  WorkOut("20-(2+3*4)", 17.2);
+  WorkOut("(3+4)*2", 10);
   PageEnd();
 
   NewScreen();
-  WrapAt(3, R"(Parentheses can stand inside other ones.  The outer pair is then written as )"
-            R"(\cbrackets\z [ ].)");
+  SayAt(3, "Inside parentheses we multiply and divide first, too.");
+  SayAt(6, R"(\yTry it:\z  Which operation comes first?)");
+  Evaluation question(ExpressionOf("20-(2+3*4)"), 8);
   PageEnd();
-  isPrint();
-  WordWrap(R"(We begin with the \yinnermost\z pair and work our way out.)");
-  WorkOut("2*[9-(1+4)]", 10);
+  WorkOut("20-(2+3*4)", 8);
+  SayAt(15, "The multiplication, since it stands inside.");
   PageEnd();
-  WrapAt(18, "Now you.  What is the value of " + InSentence("(8-2)*[10-(3+4)]") + "?");
+}
+
+void BracketsOutside() {
+  NewScreen();
+  SayAt(3, Text(R"(Where one pair stands inside another, the outer pair is written as )"
+                R"(\cbrackets\z {}.  We begin with the innermost pair.)",
+                "[ ]"));
+  Evaluation evaluation(ExpressionOf("2*[9-(1+4)]"), 7.5);
+  evaluation.PickOut();
   PageEnd();
-  isPrint();
-  WordWrap(Worked("8-2") + ", and " + Worked("3+4") + ".  Then " + Worked("10-7") +
-           ", and at last " + Worked("6*3") + ".");
+  WorkOut("2*[9-(1+4)]", 7.5);
+  PageEnd();
+  SayAt(15, Text(R"(\yTry it:\z  What is the value of {}?)", InSentence("(8-2)*[10-(3+4)]")));
+  PageEnd();
+  SayAt(18, Text("{}, and {}.  Then {}, and at last {}.", Worked("8-2"), Worked("3+4"),
+                 Worked("10-7"), Worked("6*3")));
+  PageEnd();
+}
+
+void Exponents() {
+  const std::string times = " " + tutor::Times + " ";
+  NewScreen();
+  SayAt(3, R"(An \cexponent\z tells how many times the number before it is a factor:)");
+  Show("3^2^ = 3" + times + "3 = 9");
+  SayAt(8, Text(R"(\yTry it:\z  What is the value of {}?)", "2" + times + "3^2^"));
+  PageEnd();
+  SayAt(10, "The exponent belongs to the 3 alone.  So it comes before the multiplication:");
+  SteppingDisplay display("2" + times + "3^2^", 13, 16);
+  display.PickOut(2, 2);
+  display.ShowResult("9");
+  display.PickOut(0, 2);
+  display.ShowResult("18");
+  PageEnd();
+  PaperBox({"2" + times + "3^2^ = 2" + times + R"(9,  \rnot 6^2^\z)"}, 18.5);
   PageEnd();
 }
 
 void AllRulesTogether() {
   NewScreen();
-  WrapAt(3, R"(The \corder of operations\z:)");
-  Locate(5, 1);
-  WordWrapIndent(R"(1. Work inside parentheses and brackets, the innermost pair first.)", 4);
-  PageEnd();
-  Locate(8, 1);
-  WordWrapIndent("2. Multiply and divide, from left to right.", 4);
-  PageEnd();
-  Locate(11, 1);
-  WordWrapIndent("3. Add and subtract, from left to right.", 4);
-  PageEnd();
-
-  NewScreen();
-  WrapAt(3, "In practice the button ~Show Rules and Reminders~ puts this card beside the problem:");
-  picGalleryImagePrepare(1, gallery::OrderOfOperations, 6.5, 12);
+  SayAt(3,
+        "These four rules are the order of operations.  The button ~Show Rules and Reminders~ "
+        "shows them in practice.");
+  picGalleryImagePrepare(1, gallery::OrderOfOperations, 7.2, 12);
   picGalleryImageShow(1);
-  PageEnd();
-  WrapAt(17.5, "You meet exponents, its second line, in the next lesson.");
-  PageEnd();
-  isPrint();
-  WordWrap("Now we use all the rules.  Try to be faster than the page.");
+  SayAt(18.5, "The problems here have no exponents yet.");
   PageEnd();
 
   NewScreen();
-  WorkOutAloud(ExpressionOf("30-[4+6*(5-2)]/2"), 4);
-  WordWrap("The value of the expression is 19.");
+  SayAt(3, "Now we use all the rules.  Try to be faster than the page.");
+  WorkOutAloud(ExpressionOf("3*[20-(4+8)/2]"), 6);
+  SayAt(kReasonRow, R"(The value of the expression is \y42\z.)");
   PageEnd();
 }
 
@@ -258,7 +267,10 @@ class OrderOfOperations final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{WhyThereIsAnOrder}, {FromLeftToRight}, {ParenthesesFirst}, {AllRulesTogether}};
+    return {{SuzyAndPaul, WhyMultiplicationComesFirst},
+            {FromLeftToRight},
+            {ParenthesesFirst, BracketsOutside},
+            {Exponents, AllRulesTogether}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -267,9 +279,8 @@ class OrderOfOperations final : public LessonScript {
 
   void DrawNumbers(std::string_view shape, RandomStream& random);
   bool IsWorthSolving() const;
-  int MakeMistakes();
-  void DrawFiller(int slot, RandomStream& random);
-  int SlotOf(const std::string& text, int slots) const;
+  std::vector<WrongValue> WrongValues() const;
+  void FillChoices(RandomStream& random);
 
   ArithmeticExpression expression_;  // two to four operations
 };
@@ -281,26 +292,12 @@ class OrderOfOperations final : public LessonScript {
 void OrderOfOperations::DrawProblem(RandomStream& random) {
   const int kind = random.Rand(1, kKinds);
   const int shape = random.Rand(1, kShapesOfKind);
-  int slot = 0;
   do {
     DrawNumbers(kShapes[kind - 1][shape - 1], random);
-    if (!IsWorthSolving()) continue;
-    problem.Right(1, NumStr(ValueOf(expression_).value()));
-    slot = MakeMistakes();
-  } while (slot < 2 + kFewestMistakes);  // with fewer it does not test the order
-  problem.kind = choice_kind::FiveShuffled;
-  for (; slot <= kChoices; ++slot) DrawFiller(slot, random);
-  ReplaceRepeatedTexts(problem, [&](int repeated) { DrawFiller(repeated, random); });
+  } while (!IsWorthSolving() ||
+           WrongValues().size() < kFewestMistakes);  // with fewer it does not test the order
   problem.question = {"What is the value of this expression?", ExpressionText(expression_)};
-}
-
-// A number at most about 50 away from the value.
-void OrderOfOperations::DrawFiller(int slot, RandomStream& random) {
-  int filler = 0;
-  do {
-    filler = ValueOf(expression_).value() - random.Rand(0, 101) + 50;
-  } while (filler < 1);  // no number that the student knows
-  problem.Wrong(slot, "filler", NumStr(filler));
+  FillChoices(random);
 }
 
 void OrderOfOperations::DrawNumbers(std::string_view shape, RandomStream& random) {
@@ -357,52 +354,60 @@ bool OrderOfOperations::IsWorthSolving() const {
   return true;
 }
 
-// Fills the choices from 2 on; returns the first slot that is left.
-int OrderOfOperations::MakeMistakes() {
-  int slot = 2;
+// What the mistakes lead to, in their order, without repetition.
+std::vector<WrongValue> OrderOfOperations::WrongValues() const {
+  const int right = ValueOf(expression_).value();
+  std::vector<WrongValue> wrong;
   for (const WorkingOrder& order : kMistakes) {
     const std::optional<int> value = ValueOf(expression_, order);
     if (!value || *value < 1) continue;  // the student would see that something is wrong
-    if (SlotOf(NumStr(*value), slot - 1) > 0) continue;
-    problem.Wrong(slot, std::string(order.mistake), NumStr(*value));
-    if (++slot > kChoices) break;
+    if (*value == right) continue;
+    const auto same = [&](const WrongValue& other) { return other.value == *value; };
+    if (std::ranges::none_of(wrong, same)) wrong.push_back({order.mistake, *value});
   }
-  return slot;
+  return wrong;
 }
 
-// The slot among the first so many that has this text; 0 for none.
-int OrderOfOperations::SlotOf(const std::string& text, int slots) const {
-  for (int slot = 1; slot <= slots; ++slot)
-    if (problem.choices.at(static_cast<std::size_t>(slot)).text == text) return slot;
-  return 0;
+// The number of wrong choices above the right one is drawn, and kept to as far as there are
+// mistakes: their sizes would tell the right one otherwise.
+void OrderOfOperations::FillChoices(RandomStream& random) {
+  const int right = ValueOf(expression_).value();
+  const int larger = random.Rand(0, kWrongChoices);
+  int due[] = {kWrongChoices - larger, larger};  // below the right one, above it
+  const std::vector<WrongValue> wrong = WrongValues();
+
+  Choices choices(problem, choice_kind::FiveShuffled, NumStr);
+  choices.Right(right);
+  for (const WrongValue& w : wrong)
+    if (--due[w.value > right ? 1 : 0] >= 0) choices.Wrong(std::string(w.mistake), w.value);
+  for (const WrongValue& w : wrong) choices.Wrong(std::string(w.mistake), w.value);
+  const int reach = std::clamp(right / 2, 6, 50);  // no farther off than the mistakes
+  choices.Fill([&] {
+    const int distance = random.Rand(1, reach);
+    const bool above = due[1] > 0 || right <= distance;
+    return above ? right + distance : right - distance;
+  });
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void OrderOfOperations::ShowProblem() {
-  Locate(4, 1);
-  isPrint(problem.question[0]);
+  SayAt(5, problem.question[0]);
   const std::string& text = problem.question[1];
   ShowRulesPicture(gallery::OrderOfOperations, kRulesRow, kRulesColumn);
   const bool besideRules = frmPR->picGalleryImage[1].Visible();
   const double columns = besideRules ? kRulesColumn - 1 : 40;
-  Locate(8, std::floor((columns - static_cast<double>(text.size())) / 2) + 1);
-  isPrint(text);
-  picAnswerSetParameters(4, 16.5, 1, 15, 29, 12, 50, 27);
+  ShowAt(8, text, std::floor((columns - static_cast<double>(text.size())) / 2) + 1);
+  ShowAnswersInThreeColumns(problem, {.row = 16.5});
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void OrderOfOperations::ExplainProblem() {
   ProblemBanner();
-  Locate(4, 1);
-  isPrint(problem.question[0]);
-  WorkOutAloud(expression_, 5.5);
-  WordWrap(R"(\rA usual mistake:\z  someone who )" + problem.choices[2].mistake + " gets " +
-           problem.choices[2].text + ".");
-  PageEnd();
-  isPrint();
-  WordWrap(R"(The value of the expression is \y)" + problem.choices[1].text + R"(\z.)");
+  SayAt(5, problem.question[0]);
+  WorkOutAloud(expression_, 7);
+  ConcludeAt(kReasonRow, problem);
 }
 
 const LessonRegistration<OrderOfOperations> kRegistration("Order of Operations");

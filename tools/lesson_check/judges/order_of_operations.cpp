@@ -21,6 +21,7 @@ struct Habit {
   int divided = 2;
   bool fromRight = false;
   std::string_view forgotten = {};  // brackets that are not seen
+  bool addsForTimes = false;
 };
 
 constexpr Habit kHabits[] = {
@@ -43,6 +44,7 @@ constexpr Habit kHabits[] = {
      .times = 1,
      .divided = 1,
      .forgotten = "()[]"},
+    {.mistake = "adds instead of multiplying", .addsForTimes = true},
 };
 
 // A line of numbers, operations and brackets, worked out by a habit.
@@ -50,7 +52,8 @@ class Worker {
  public:
   Worker(const std::string& line, const Habit& habit) : habit_(habit) {
     for (const char c : WithoutBlanks(line))
-      if (habit.forgotten.find(c) == std::string_view::npos) line_ += c;
+      if (habit.forgotten.find(c) == std::string_view::npos)
+        line_ += habit.addsForTimes && c == course::tutor::Times[0] ? '+' : c;
   }
 
   // Nothing when the work leads to a division by 0.

@@ -1,4 +1,4 @@
-// Two fractions to be added: "13/24 + 13/18", "6/13 + (-2/5)".
+// Two fractions to be added: "13/24 + 13/18", "6/13 + (-2)/5".
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
@@ -46,6 +46,14 @@ void AddMistakes(const Fraction& first, const Fraction& second, Reading& reading
   add("renames the second fraction only", first.above + second.above * bySecond, common);
   add("multiplies each numerator by the factor of the other",
       first.above * bySecond + second.above * byFirst, common);
+  add("keeps the larger denominator", first.above + second.above,
+      first.below > second.below ? first.below : second.below);
+  const mpz_class sum = first.above * byFirst + second.above * bySecond;
+  const mpz_class shared = gcd(sum, common);
+  add("divides only the numerator by the common factor", sum / shared, common);
+  add("divides only the denominator by the common factor", sum, common / shared);
+  reading.mistakes["puts the remainder over the numerator"].clear();
+  if (sum > common) add("puts the remainder over the numerator", 2 * sum - common, sum);
   reading.mistakes["leaves out the minus sign"].clear();
   if (first.above < 0 || second.above < 0)
     add("leaves out the minus sign", abs(first.above) * byFirst + abs(second.above) * bySecond,

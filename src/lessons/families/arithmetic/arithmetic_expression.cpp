@@ -44,12 +44,15 @@ void FindGroup(const ArithmeticExpression& expression, ExpressionStep& step) {
   }
 }
 
-void EraseForgotten(ArithmeticExpression& expression, const WorkingOrder& order) {
+void Misread(ArithmeticExpression& expression, const WorkingOrder& order) {
   std::erase_if(expression, [&order](const ExpressionToken& token) {
     const bool round = token.kind == '(' || token.kind == ')';
     const bool square = token.kind == '[' || token.kind == ']';
     return (round && !order.heedsParentheses) || (square && !order.heedsBrackets);
   });
+  if (!order.addsForTimes) return;
+  for (ExpressionToken& token : expression)
+    if (token.kind == '*') token.kind = '+';
 }
 
 }  // namespace
@@ -134,7 +137,7 @@ void TakeStep(ArithmeticExpression& expression, const ExpressionStep& step) {
 }
 
 std::optional<int> ValueOf(ArithmeticExpression expression, const WorkingOrder& order) {
-  EraseForgotten(expression, order);
+  Misread(expression, order);
   int value = expression.front().value;
   while (expression.size() > 1) {
     const ExpressionStep step = NextStep(expression, order);

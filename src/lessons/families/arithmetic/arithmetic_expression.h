@@ -32,6 +32,7 @@ struct WorkingOrder {
   bool heedsParentheses = true;
   bool heedsBrackets = true;
   bool fromTheRight = false;
+  bool addsForTimes = false;
   bool stopsEarly = false;  // takes the last result but one for the value
   int plus = 1;
   int minus = 1;

@@ -90,13 +90,10 @@ std::string Evaluation::RankReason() const {
   const RankedOperations higher = OperationsOfRank(expression_, step_, 2);
   const RankedOperations lower = OperationsOfRank(expression_, step_, 1);
   if (higher.count + lower.count == 1) return "";
-  if (higher.count == 0 || lower.count == 0) {
-    const RankedOperations& all = higher.count == 0 ? lower : higher;
-    return (all.kinds == 1 ? "All operations here" : Capitalised(all.names)) +
-           " have the same rank, so we work from left to right.  ";
-  }
+  if (higher.count == 0 || lower.count == 0)
+    return "The ranks are the same, so we go from left to right.  ";
   return Capitalised(higher.names) + (higher.kinds > 1 ? " come" : " comes") + " before " +
-         lower.names + (higher.count > 1 ? ", and we work from left to right.  " : ".  ");
+         lower.names + (higher.count > 1 ? ", from left to right.  " : ".  ");
 }
 
 std::string Evaluation::Reason() const {

@@ -24,9 +24,21 @@ std::vector<int> PrimeFactorsOf(int n) {
 }
 
 std::string ProductText(const std::vector<int>& factors) {
+  return AlignedProduct(factors, factors);
+}
+
+std::string AlignedProduct(const std::vector<int>& factors, const std::vector<int>& columns) {
+  const std::string times = " " + tutor::Times + " ";
   std::string text;
-  for (const int factor : factors) text += (text.empty() ? "" : tutor::Dot) + NumStr(factor);
-  return text;
+  std::size_t printed = 0;
+  for (const int column : columns) {
+    const std::string number = NumStr(column);
+    const bool here = printed < factors.size() && factors[printed] == column;
+    if (!text.empty()) text += here && printed > 0 ? times : std::string(times.size(), ' ');
+    text += here ? number : std::string(number.size(), ' ');
+    if (here) ++printed;
+  }
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 int LeastCommonDenominator(const Fraction& a, const Fraction& b) {
@@ -34,11 +46,17 @@ int LeastCommonDenominator(const Fraction& a, const Fraction& b) {
 }
 
 std::string OverText(int num, int den) {
-  return FractionOfTexts(NumStr(num), NumStr(den));
+  const std::string text = NumStr(num);
+  return FractionOfTexts(num < 0 ? "(" + text + ")" : text, NumStr(den));
 }
 
-std::string SumText(const std::string& first, const std::string& second) {
-  return first + " + " + (second.front() == '-' ? "(" + second + ")" : second);
+std::string OverText(const Fraction& f) {
+  return OverText(f.num, f.den);
+}
+
+std::string SumText(int first, int second) {
+  const std::string text = NumStr(second);
+  return NumStr(first) + " + " + (second < 0 ? "(" + text + ")" : text);
 }
 
 int RenamedNumerator(const Fraction& f, int den) {
@@ -46,8 +64,9 @@ int RenamedNumerator(const Fraction& f, int den) {
 }
 
 std::string RenamedLine(const Fraction& f, int den) {
-  const std::string factor = tutor::Dot + R"(\y)" + NumStr(den / f.den) + R"(\z)";
-  return ValueText(f) + " = " + FractionOfTexts(NumStr(f.num) + factor, NumStr(f.den) + factor) +
+  const std::string factor = " " + tutor::Times + R"( \y)" + NumStr(den / f.den) + R"(\z)";
+  return OverText(f) + " = " +
+         FractionOfTexts("(" + NumStr(f.num) + factor + ")", "(" + NumStr(f.den) + factor + ")") +
          " = " + OverText(RenamedNumerator(f, den), den);
 }
 

@@ -14,15 +14,20 @@ namespace course::fractions {
 
 // Prime factors of n in ascending order, with repetition; n from 2 on, its primes up to 97.
 std::vector<int> PrimeFactorsOf(int n);
-// "2.2.3", with multiplication dots.
+// "2 x 2 x 3", with multiplication signs.
 std::string ProductText(const std::vector<int>& factors);
+// The same with each factor in the column that it has in another product, of which all factors are
+// taken; both ascend.
+std::string AlignedProduct(const std::vector<int>& factors, const std::vector<int>& columns);
 int LeastCommonDenominator(const Fraction& a, const Fraction& b);
 
-// "15/36", as it stands, and "-15/36".
+// "15/36", as it stands.  The minus sign belongs to the numerator: "(-15)/36" is built up without
+// the parentheses.
 std::string OverText(int num, int den);
-// "5/12 + 7/18"; a negative second fraction stands in parentheses.
-std::string SumText(const std::string& first, const std::string& second);
-// "5/12 = 5.3/12.3 = 15/36", the factor in yellow.  den is a multiple of f.den.
+std::string OverText(const Fraction& f);
+// "5 + 7", "5 + (-7)".
+std::string SumText(int first, int second);
+// "5/12 = (5 x 3)/(12 x 3) = 15/36", the factor in yellow.  den is a multiple of f.den.
 std::string RenamedLine(const Fraction& f, int den);
 int RenamedNumerator(const Fraction& f, int den);
 
