@@ -25,6 +25,7 @@ constexpr int kScreenColumns = 40;
 constexpr int kMathCol = 3;
 constexpr int kWidestBeside = 18;  // cells of a value that leaves room for a sentence beside it
 constexpr int kLastValueCol = 29;
+constexpr int kColumnGap = 3;
 constexpr std::size_t kLongestInLine = 26;  // cells of a value within a sentence
 
 bool IsBuiltUp(const std::string& text) {
@@ -33,6 +34,11 @@ bool IsBuiltUp(const std::string& text) {
 
 double RowsOfMath(const std::string& text) {
   return text.find('/') != std::string::npos ? 3 : 1;
+}
+
+// Between a built-up line and the text before or behind it.
+double AirAt(const std::string& text) {
+  return text.find('/') != std::string::npos ? 0.5 : 0;
 }
 
 // "There are no solutions.", as against "5 or 7": it begins with a capital and has a second word.
@@ -120,14 +126,19 @@ class MistakesPage {
         told.place = Place::Below;
         told.before += ":";
       } else {
-        told.before += " " + WithoutBreaks(told.value) + ".";
+        told.before += tutor::Gap + WithoutBreaks(told.value) + ".";
         if (!told.after.empty()) told.before += "  " + told.after;
       }
     }
   }
 
-  int ValueCol() const { return std::min(kLastValueCol, kScreenColumns + 1 - valueWidth_); }
-  int LastColBeside() const { return ValueCol() - 3; }
+  int ValueColumn() const { return std::min(kLastValueCol, kScreenColumns + 1 - valueWidth_); }
+  // A value with words behind it follows its own ones, all others stand in their column.
+  int ValueCol(const Told& told) const {
+    if (!told.after.empty()) return static_cast<int>(told.before.size()) + 2;
+    return ValueColumn();
+  }
+  int LastColBeside() const { return ValueColumn() - kColumnGap; }
 
   double Rows(double air) const {
     double rows = air * static_cast<double>(told_.size() - 1);
@@ -141,7 +152,7 @@ class MistakesPage {
     return !HasWord(line) && StackedTextWidth(line) <= kScreenColumns + 1 - kMathCol;
   }
   static double RowsOfQuestion(const std::string& line) {
-    return IsMath(line) ? RowsOfMath(line) : RowsOf(line);
+    return IsMath(line) ? AirAt(line) + RowsOfMath(line) : RowsOf(line);
   }
 
   double RowsOfBlock(const Told& told) const {
@@ -152,7 +163,7 @@ class MistakesPage {
   }
   double RowsOfTold(const Told& told) const {
     if (told.place == Place::InLine) return RowsOf(told.before);
-    const double after = told.after.empty() ? 0 : RowsOf(told.after);
+    const double after = told.after.empty() ? 0 : AirAt(told.value) + RowsOf(told.after);
     if (told.place == Place::Beside) return RowsOfBlock(told) + after;
     return RowsOf(told.before) + RowsOfValueBelow(told.value) + after;
   }
@@ -163,7 +174,7 @@ class MistakesPage {
     double row = kFirstRow;
     for (const std::string& line : question_) {
       if (IsMath(line))
-        PrintMath(row, kMathCol, line);
+        PrintMath(row + AirAt(line), kMathCol, line);
       else
         Wrap(row, line);
       row += RowsOfQuestion(line);
@@ -187,7 +198,7 @@ class MistakesPage {
     if (told.place == Place::Beside) {
       const double rows = RowsOfBlock(told);
       Wrap(row + (rows - RowsOf(told.before, LastColBeside())) / 2, told.before, LastColBeside());
-      PrintMath(row + (rows - RowsOfMath(told.value)) / 2, ValueCol(), told.value);
+      PrintMath(row + (rows - RowsOfMath(told.value)) / 2, ValueCol(told), told.value);
       next += rows;
     } else {
       Wrap(row, told.before);
@@ -198,7 +209,7 @@ class MistakesPage {
         WrapBelow(next, told.value);
       next += RowsOfValueBelow(told.value);
     }
-    if (!told.after.empty()) Wrap(next, told.after);
+    if (!told.after.empty()) Wrap(next + AirAt(told.value), told.after);
   }
 
   static void WrapBelow(double row, const std::string& value) {

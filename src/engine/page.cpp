@@ -27,7 +27,7 @@ void ClearPageWishes() {
   session.gEndTestExplanation = kFalse;
 }
 
-std::string textAtPageEnd;
+std::string textAtPageEnd;  // of this screen's last PageEnd
 
 // All that stands on the screen in words.
 std::string TextOfScreen() {
@@ -51,6 +51,7 @@ int ReversedDirection(int dr) {
 
 void NewScreen() {
   Header(session.gLessonName);
+  textAtPageEnd.clear();
 }
 
 void WaitForClick() {

@@ -306,6 +306,19 @@ TEST_F(Navigation, AnExampleCanBeEndedAndBegunAgain) {
   EXPECT_NE(NumberOf(1), NumberOf(2));
 }
 
+TEST_F(Navigation, TheLastLineWaitsOnceAndAnExampleTellsOfNoBoxes) {
+  plan.onLastPage = [this] {
+    if (runs.size() == 1) PageEnd();
+  };
+  for (int run = 1; run <= 2; ++run) {
+    Continue(2);
+    user.Answer(run == 1 ? Answer::Yes : Answer::No);
+  }
+  Leave("AnswerWait");
+  Run(activity::Example);
+  EXPECT_EQ(ModesOfRuns(), "4 4 2 ");
+}
+
 TEST_F(Navigation, AnExplanationCanBeEndedAndBegunAgain) {
   Answer("picAnswer(1)", kExplain);
   Check("PageEnd", [] { EXPECT_FALSE(frmPR->lblPracticeResults.Visible()); });

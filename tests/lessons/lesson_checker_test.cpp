@@ -17,6 +17,7 @@
 #include "lesson_check/check_state.h"
 #include "lesson_check/lesson_check.h"
 #include "lesson_check/not_yet.h"
+#include "lesson_check/pages/mistakes_check.h"
 #include "lesson_check/pages/page_check.h"
 #include "lesson_check/pages/page_layout.h"
 #include "lesson_check/pages/page_style.h"
@@ -485,6 +486,34 @@ TEST(PageText, NoneOfTheAboveNeedsTheTrueAnswerAndTheWords) {
   told.panels[0].fragments.push_back({7, 1, 0, 0, course::kNoneOfTheAbove, 17});
   told.lines.push_back(course::kNoneOfTheAbove);
   EXPECT_EQ(MissingAtEnd({page, told}, problem), "");
+}
+
+TEST(PageText, EveryNamedMistakeIsToldWhole) {
+  course::LessonScript::DrawnProblem drawn{SumOfFractions(), {0, 1, 2, 3, 4, 5}};
+  drawn.problem.Wrong(2, "adds the denominators too", "2/6");
+  drawn.problem.Wrong(3, "multiplies", "8");
+  const auto told = [&](const std::vector<const char*>& printed, int box) {
+    PageText page;
+    for (const char* text : printed) page.lesson.push_back({5, 1, 0, 0, text});
+    return FaultOfMistakesPage(page, drawn, box);
+  };
+  const char* const first = "Someone who adds the denominators too gets";
+  const char* const second = "Someone who multiplies gets 8.";
+  EXPECT_EQ(told({first, "2", "6", second}, 1), "");
+  EXPECT_EQ(told({"You chose", "2", "6", "That is what we get when we add.", second}, 2), "");
+  EXPECT_NE(told({first, "2", "6", second}, 2), "") << "the student's own is not told as his";
+  EXPECT_NE(told({first, "2", second}, 1), "") << "a cut value";
+  EXPECT_NE(told({"Someone who adds the gets", "2", "6", second}, 1), "") << "a cut sentence";
+  EXPECT_NE(told({first, "2", "6"}, 1), "") << "a box is left out";
+  EXPECT_NE(told({first, "2", "6", second, "Someone who guesses gets 3."}, 1), "");
+  EXPECT_NE(told({"You chose", "2", "6", second}, 2), "") << "no reason";
+  PageText plain;
+  plain.lines = {"x = 5"};
+  PageText page;
+  page.lines = {"  Someone who multiplies gets 8."};
+  std::vector<PageText> pages = {plain, page, page};
+  EXPECT_EQ(TakeMistakesPage(pages).lines, page.lines);
+  EXPECT_EQ(pages.size(), 1u);
 }
 
 }  // namespace

@@ -59,7 +59,6 @@ void {CLASS}::ExplainProblem() {
   SayAt(5, "This explanation is not written yet.");
   PageEnd();
   Conclude(problem);
-  PageEnd();
 }
 
 const LessonRegistration<{CLASS}> kRegistration("{TITLE}");
