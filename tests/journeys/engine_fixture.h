@@ -150,6 +150,7 @@ class LessonJourney : public CourseTest {
   static std::string MistakesTold() {
     std::string text;
     for (const std::string& line : TranscriptLines(frmPR->lessonText)) text += LTrim(line) + " ";
+    std::ranges::replace(text, '\xFF', ' ');
     return text.substr(BannerText().size() + 1);
   }
   // The box, by the text in it, of the problem on the screen: choice 1 is always right.

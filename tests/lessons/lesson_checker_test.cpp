@@ -494,19 +494,20 @@ TEST(PageText, EveryNamedMistakeIsToldWhole) {
   drawn.problem.Wrong(3, "multiplies", "8");
   const auto told = [&](const std::vector<const char*>& printed, int box) {
     PageText page;
-    for (const char* text : printed) page.lesson.push_back({5, 1, 0, 0, text});
+    page.panels = {{"pnlLesson", {}}};
+    for (const char* text : printed) page.panels[0].fragments.push_back({5, 1, 0, 0, text, 1});
     return FaultOfMistakesPage(page, drawn, box);
   };
   const char* const first = "Someone who adds the denominators too gets";
   const char* const second = "Someone who multiplies gets 8.";
-  EXPECT_EQ(told({first, "2", "6", second}, 1), "");
-  EXPECT_EQ(told({"You chose", "2", "6", "That is what we get when we add.", second}, 2), "");
-  EXPECT_NE(told({first, "2", "6", second}, 2), "") << "the student's own is not told as his";
+  EXPECT_EQ(told({first, "2/6", second}, 1), "");
+  EXPECT_EQ(told({"You chose", "2/6", "That is what we get when we add.", second}, 2), "");
+  EXPECT_NE(told({first, "2/6", second}, 2), "") << "the student's own is not told as his";
   EXPECT_NE(told({first, "2", second}, 1), "") << "a cut value";
-  EXPECT_NE(told({"Someone who adds the gets", "2", "6", second}, 1), "") << "a cut sentence";
-  EXPECT_NE(told({first, "2", "6"}, 1), "") << "a box is left out";
-  EXPECT_NE(told({first, "2", "6", second, "Someone who guesses gets 3."}, 1), "");
-  EXPECT_NE(told({"You chose", "2", "6", second}, 2), "") << "no reason";
+  EXPECT_NE(told({"Someone who adds the gets", "2/6", second}, 1), "") << "a cut sentence";
+  EXPECT_NE(told({first, "2/6"}, 1), "") << "a box is left out";
+  EXPECT_NE(told({first, "2/6", second, "Someone who guesses gets 3."}, 1), "");
+  EXPECT_NE(told({"You chose", "2/6", second}, 2), "") << "no reason";
   PageText plain;
   plain.lines = {"x = 5"};
   PageText page;

@@ -47,7 +47,8 @@ void AddMistakes(char letter, const Factors& right, Reading& reading) {
   reading.mistakes["reverses one sign"] = {ProductText(letter, -p, q), ProductText(letter, p, -q)};
   reading.mistakes["reverses both signs"] = {ProductText(letter, -p, -q)};
   const long c = p * q;
-  std::vector<std::string>& sameProduct = reading.mistakes["takes a pair with the right product and the wrong sum"];
+  std::vector<std::string>& sameProduct =
+      reading.mistakes["takes a pair with the right product and the wrong sum"];
   for (long other = -std::labs(c); other <= std::labs(c); ++other)
     if (other != 0 && c % other == 0 && other + c / other != p + q)
       sameProduct.push_back(ProductText(letter, other, c / other));
