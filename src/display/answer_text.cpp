@@ -117,7 +117,10 @@ void picAnswerPrintExponentExpression(int box, const std::string& s, int size) {
     platform::Stop(
         "An incorrect number of ^ characters appears in the string \r"
         "supplied to SUB isPrintExponentExpression");
-  PrintExpressionOn(Text(box), s, size, 0);
+  constexpr double kExponentShare = 0.7;  // of the print's size
+  TextPanel& panel = Text(box);
+  const double own = RoundHalfEven(kExponentShare * panel.layout.fontSize);
+  PrintExpressionOn(panel, s, size == 0 ? own : size, 0);
 }
 
 void picAnswerPrintFraction(int box, const std::string& num, const std::string& den, int minWidth,

@@ -19,8 +19,9 @@ void picAnswerRestoreFont(int box);
 
 void picAnswerisPrint(int box, const std::string& s);
 void picAnswerisPrints(int box, const std::string& s);
-// Knows only "^"; the cursor stays behind the text.
-void picAnswerPrintExponentExpression(int box, const std::string& s, int size = 14);
+// Knows only "^"; the cursor stays behind the text.  Without a size exponents are 14 points where
+// the print is 20, and as much smaller as it is.
+void picAnswerPrintExponentExpression(int box, const std::string& s, int size = 0);
 
 // The parts may hold radicals, as for picAnswerPrintRadicalText.
 void picAnswerPrintFraction(int box, const std::string& num, const std::string& den,

@@ -4,8 +4,6 @@
 #include <vector>
 
 #include "display/grid.h"
-#include "display/radicals.h"
-#include "display/stacked_text.h"
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/page.h"
@@ -332,10 +330,8 @@ void FormulaSteps::CheckRoot() {
 
 void FormulaSteps::WriteAnswer(double row) {
   const RootPair answer = Answer();
-  WrapAt(row, std::string("Written on one line, the ") +
-                  (answer.Double() ? "only root is" : "roots are"));
-  Locate(row + 2, 7);
-  isPrintRadicalText(RadicalsMarked(RootsText(answer)));
+  WrapAt(row, answer.Double() ? "The only root is" : "The roots are");
+  PrintStackedRow(row + 2, RootsText(answer), 7);
   PageEnd();
 }
 

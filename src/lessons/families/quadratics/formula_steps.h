@@ -16,8 +16,7 @@ void PrintStandardForm(double row);
 // "(centre +- spread)/den" for PrintStackedRow.
 std::string RootsOver(int centre, const std::string& spread, int den);
 
-// From row 5 of a page that has a heading above it.  Ends at the roots on one line, or at "No real
-// roots".
+// From row 5 of a page that has a heading above it.  Ends at the roots, or at "No real roots".
 void SolveByFormula(const Quadratic& equation);
 
 // The terms below those of PrintStandardForm, on row 9.
