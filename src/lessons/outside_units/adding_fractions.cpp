@@ -36,9 +36,10 @@ std::string LcdLine(int lcd) {
 
 // Parts one strip below the row slide up into the strip there.
 void JoinParts(double row, double col, double wd) {
-  constexpr double kDrop = 1.5;                // rows from strip to strip
-  constexpr double kLineX = 1.0 / gCellWidth;  // lines reach a pixel beyond their cells
-  SlideUp({row + kDrop, col - kLineX, wd + 2 * kLineX, 1.4}, kDrop);
+  constexpr double kDrop = 1.5;  // rows from strip to strip
+  constexpr double kAbove = 0.1;
+  constexpr double kPixel = 1.0 / gCellWidth;  // a line begins one pixel before its cell
+  SlideUp({row + kDrop - kAbove, col - kPixel, wd + kPixel, 1.5}, kDrop);
 }
 
 void SameDenominator() {
@@ -88,9 +89,9 @@ void CommonDenominators() {
   ShowAt(15, RenamedLine({1, 3}, 6), 22);
   Say(R"(6 is a \ccommon denominator\z: 2 and 3 both go into it evenly.)");
   PageEnd();
-  ClearCells(10.5, 1, 40, 1.5);
+  ClearCells(10.4, 1, 40, 1.6);
   DrawStrip(10.5, 3, 12, 2, {{2, Cyan}});
-  SlideRight({10.5, 2, 14, 1.4}, 18);
+  SlideRight({10.4, 2, 14, 1.5}, 18);
   JoinParts(9, 21, 12);
   ShowAt(21.5, "1/2 + 1/3 = 3/6 + 2/6 = 5/6");
   PageEnd();
@@ -121,7 +122,7 @@ void LeastCommonDenominators() {
   Show(FactorsLine(4, 12));
   Show(FactorsLine(6, 12));
   Show(LcdLine(12));
-  Say("The product 24 is a common denominator, too, but a larger one.");
+  Say("24 would do, too, but it is larger.");
   PageEnd();
 }
 
@@ -162,12 +163,12 @@ void NegativeFractions() {
   PageEnd();
   Show("3/6 + (-2)/6 = 1/6");
   DrawStrip(8.5, 3, 36, 6, {{1, Yellow}, {2, Cyan}});
-  SayAt(10.5, "Of 3 parts we take 2 away, and 1 is left.");
+  SayAt(10.5, "We take 2 of the 3 parts away.");
   PageEnd();
   Say(R"(\yTry it:\z  What is the sum of 3/4 and 5/6?)");
   PageEnd();
   Show("9/12 + 10/12 = 19/12 = 1 7/12");
-  Say("The LCD is 12, and 19 parts are 1 whole and 7 parts.");
+  Say("12 of the 19 parts make 1 whole.");
   PageEnd();
 }
 
@@ -258,8 +259,8 @@ std::vector<FractionMistake> AddingFractions::Mistakes() const {
   const auto addCrossed = [&] {
     add("multiplies each numerator by the factor of the other", crossed, lcd);
   };
-  if (crossed > sum) addCrossed();
   add("keeps the larger denominator", a + b, std::max(first_.den, second_.den));
+  if (sum > lcd && crossed > sum) addCrossed();
   add("keeps both numerators over the common denominator", a + b, lcd);
   addCrossed();  // passed over when it is there
   if (common > 1) add("divides only the numerator by the common factor", sum / common, lcd);
@@ -297,13 +298,14 @@ void AddingFractions::ExplainDenominator() {
            second_.den));
   PageEnd();
   GoBelow();
-  Show(FactorsLine(first_.den, lcd));
-  Show(FactorsLine(second_.den, lcd));
+  // Columns without a common prime would only pull the lines apart.
+  const bool share = CommonPrimeFactors(first_.den, second_.den) != 0;
+  Show(FactorsLine(first_.den, share ? lcd : first_.den));
+  Show(FactorsLine(second_.den, share ? lcd : second_.den));
   PageEnd();
   Show(LcdLine(lcd));
-  Say(CommonPrimeFactors(first_.den, second_.den) == 0
-          ? "They share no prime, so the LCD needs all of them."
-          : "We take each prime as many times as it stands in the line that has it most.");
+  Say(!share ? "They share no prime, so the LCD needs all of them."
+             : "We take each prime as many times as it stands in the line that has it most.");
   PageEnd();
 }
 

@@ -181,8 +181,8 @@ void FromLeftToRight() {
   Evaluation last(ExpressionOf("30-12/3*2"), 6.5);
   PageEnd();
   WorkOut("30-12/3*2", 6.5);
-  SayAt(14,
-        Text("First {}, then {}, at last the subtraction.", InSentence("12/3"), InSentence("4*2")));
+  SayAt(14, Text("First {}, then {}, then {}.", InSentence("12/3"), InSentence("4*2"),
+                 InSentence("30-8")));
   PageEnd();
 }
 
@@ -203,7 +203,7 @@ void ParenthesesFirst() {
   Evaluation question(ExpressionOf("20-(2+3*4)"), 8);
   PageEnd();
   WorkOut("20-(2+3*4)", 8);
-  SayAt(15, "The multiplication, since it stands inside.");
+  SayAt(15, Text("First {}, since it stands inside.", InSentence("3*4")));
   PageEnd();
 }
 
@@ -231,7 +231,7 @@ void Exponents() {
   Show("3^2^ = 3" + times + "3 = 9");
   SayAt(8, Text(R"(\yTry it:\z  What is the value of {}?)", "2" + times + "3^2^"));
   PageEnd();
-  SayAt(10, "The exponent belongs to the 3 alone.  So it comes before the multiplication:");
+  SayAt(10, "The exponent belongs to the 3 alone.");
   SteppingDisplay display("2" + times + "3^2^", 13, 16);
   display.PickOut(2, 2);
   display.ShowResult("9");
