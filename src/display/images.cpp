@@ -27,8 +27,8 @@ constexpr StoredPicture kPicGallery[] = {
      "The quadratic formula.  If a x squared plus b x plus c equals 0, x is minus b plus or minus "
      "the square root of b squared minus 4 a c, all divided by 2 a."},
     {gallery::InequalityFlip, "gallery_inequality_flip",
-     "Multiplying or dividing both sides of an inequality by a negative number turns the sign "
-     "around."},
+     "Multiplying or dividing both sides of an inequality by a negative number reverses its "
+     "symbol."},
     {gallery::OrderOfOperations, "gallery_order_of_operations",
      "Order of operations.  1: what is in parentheses, the innermost first.  2: exponents.  3: "
      "multiplication and division, from left to right.  4: addition and subtraction, from left to "

@@ -95,7 +95,7 @@ TEST_F(EquationMachineTest, InequalitiesTestTheTurnOfTheRelationAndHaveFractions
         answer.substr(0, 2) + ReversedRelation(answer.substr(2, 1)) + answer.substr(3);
     ASSERT_EQ(problem.choices[2].text, reversed);
     fractions += answer.find('/') != std::string::npos;
-    turns += problem.choices[2].mistake == "keeps the relation";
+    turns += problem.choices[2].mistake.starts_with("forgets to reverse");
     none += problem.correct == 5;
   }
   EXPECT_NEAR(fractions, kSeeds / 3, kSeeds / 20);
@@ -107,9 +107,11 @@ bool IsRelation(const std::string& text) {
   return text == "=" || text != ReversedRelation(text);
 }
 
-// Where the relations of an explanation stand, and with which words it ends.
+// Where the relations of an explanation stand, what its pages have on the row of the problem, and
+// with which words it ends.
 struct Shown {
   std::set<double> relationColumns;
+  std::set<std::string> problems;
   std::string lastWords;
 };
 
@@ -117,8 +119,12 @@ Shown Explained(const char* title, int seed) {
   Shown shown;
   lesson_check::PageReader reader;
   reader.Read(*MakeLesson(title), mode::Explanation, seed, [&] {
-    for (const Fragment& fragment : frmPR->lessonText.Transcript())
+    std::string problem;
+    for (const Fragment& fragment : frmPR->lessonText.Transcript()) {
       if (IsRelation(fragment.text)) shown.relationColumns.insert(fragment.col);
+      if (fragment.row == kSheetTop) problem += fragment.text + " ";
+    }
+    shown.problems.insert(problem);
     shown.lastWords.clear();
     for (const std::string& line : TranscriptLines(frmPR->wiperText))
       shown.lastWords += ToUtf8(line) + " ";
@@ -135,6 +141,7 @@ TEST_F(EquationMachineTest, ExplanationsOfAllKindsKeepTheirRelationsInLineAndEnd
       const std::string answer = ToUtf8(problem.choices[problem.correct].text);
       const Shown shown = Explained(title, seed);
       EXPECT_EQ(shown.relationColumns, std::set<double>{kRelationCol});
+      EXPECT_EQ(shown.problems.size(), 1);  // it stays in view
       EXPECT_NE(shown.lastWords.find(answer), std::string::npos) << shown.lastWords;
       EXPECT_EQ(shown.lastWords.find(kNoneOfTheAbove) != std::string::npos, problem.correct == 5);
     }

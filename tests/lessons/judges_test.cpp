@@ -37,7 +37,9 @@ TEST(Judges, LinearEquation) {
   EXPECT_TRUE(IsRight(reading, "3 1/5"));
   EXPECT_TRUE(IsRight(reading, "y = 16/5"));
   EXPECT_FALSE(IsRight(reading, "-3 1/5"));
-  ExpectMistake(reading, "moves the right number across with its sign", "-1 1/5");
+  ExpectMistake(reading, "moves the number on the right to the left without changing its sign",
+                "-1 1/5");
+  ExpectMistake(reading, "moves the right side to the left without changing its signs", "-6/11");
   EXPECT_EQ(reading.flaw("3 2/10"), "can be reduced");
   EXPECT_EQ(reading.flaw("16/5"), "hides a whole number");
   EXPECT_THROW(reading.value("3.2"), Unreadable);
@@ -53,8 +55,16 @@ TEST(Judges, LinearInequality) {
   EXPECT_TRUE(IsRight(reading, "-2 > z"));
   EXPECT_FALSE(IsRight(reading, "z > -2"));
   EXPECT_FALSE(IsRight(reading, "z " + tutor::LessOrEqual + " -2"));
-  ExpectMistake(reading, "keeps the relation", "z > -2");
-  EXPECT_TRUE(reading.mistakes.at("reverses the relation").empty());  // it has to be reversed
+  ExpectMistake(reading, "forgets to reverse the inequality symbol", "z > -2");
+  const std::string overdone =
+      "reverses the inequality symbol without dividing by a negative number";
+  EXPECT_FALSE(reading.mistakes.contains(overdone));  // it has to be reversed
+  // -6z + 5z - 8 + 14 > 0
+  const std::string moved = "moves the right side to the left without changing its signs";
+  ExpectMistake(reading, moved, "z < 6");
+  ExpectMistake(reading, moved + " and keeps the symbol", "z > 6");
+  ExpectMistake(Read("Solving Inequalities", {"Solve the inequality.", "4z  >  8"}),
+                "gives the quotient the wrong sign", "z > -2");
 }
 
 TEST(Judges, IntervalFigures) {

@@ -48,7 +48,7 @@ Case Fractions() {
 Case Equation() {
   return Make("Solving Linear Equations With 2 Operations", choice_kind::FourShuffledAndNone,
               {"Solve the following equation for y.", "8y - 5 = 11"}, "2",
-              {{"moves the right number across with its sign", "-3/4"},
+              {{"moves the number on the right to the left without changing its sign", "-3/4"},
                {"filler", "7"},
                {"filler", "-12"}});
 }

@@ -23,8 +23,7 @@ constexpr Station kStations[] = {{4, 2}, {16, 2}, {29, 6}};
 void DrawStation(double row, int index, const std::string& text) {
   const Station& station = kStations[index];
   const int width = station.width;
-  Locate(row, station.col + (width - static_cast<int>(text.size())) / 2.0);
-  isPrints(text);
+  ShowAt(row, text, station.col + (width - static_cast<int>(text.size())) / 2.0);
   isDrawRoundRect(row - 0.2, station.col - 1, row + 0.3, station.col + width, 2,
                   platform::colour::Cyan);
 }
@@ -36,8 +35,8 @@ void DrawWay(double row, int from, int to, const std::string& operation) {
   const double start = left.col + left.width + 1;
   const double end = right.col - 2;
   const bool there = from < to;
-  Locate(row - 0.9, (start + end - static_cast<double>(operation.size()) + 1) / 2);
-  isColorPrints(operation, platform::colour::Yellow);
+  ShowAt(row - 0.9, R"(\y)" + operation + R"(\z)",
+         (start + end - static_cast<double>(operation.size()) + 1) / 2);
   isDrawArrow1Segment(row + 0.05, start, row + 0.05, end, platform::colour::White,
                       there ? "NA" : "A", there ? "A" : "NA");
 }
@@ -46,10 +45,13 @@ void ReverseOrder() {
   NewScreen();
   Say(R"(These equations need \yone\z operation:)");
   Show("x + 4 = 19     3x = 15", 4);
+  Say(Text("How many does  {}  need?", "3x + 4 = 19"));
   PageEnd();
-  Say(Text(R"(In  {}  there are \ytwo\z.  This is what was done to x:)", "3x + 4 = 19"));
+  ClearBelow(3);
+  SayAt(3, Text(R"(In  {}  there are \ytwo\z.)", "3x + 4 = 19"));
+  Say("This is what was done to x:");
   DrawStation(kThereRow, 0, "x");
-  DrawWay(kThereRow, 0, 1, tutor::Dot + " 3");
+  DrawWay(kThereRow, 0, 1, tutor::Times + " 3");
   DrawStation(kThereRow, 1, "3x");
   DrawWay(kThereRow, 1, 2, "+ 4");
   DrawStation(kThereRow, 2, "3x + 4");
@@ -64,9 +66,22 @@ void ReverseOrder() {
   PageEnd();
   DrawWay(kBackRow, 1, 0, tutor::Divided + " 3");
   DrawStation(kBackRow, 0, "5");
-  SayAt(20, Text("Then we undo the first:  {}", "15 " + tutor::Divided + " 3 = 5."));
+  SayAt(21, Text("Then we undo the first:  {}", "15 " + tutor::Divided + " 3 = 5."));
   PageEnd();
-  Say(R"(Operations that undo each other are called \cinverse operations\z.)");
+}
+
+void InverseOperations() {
+  NewScreen();
+  Say(R"(Operations that undo each other are called \cinverse operations\z:)");
+  Show("+ 4  and  - 4", 8);
+  Show(tutor::Times + " 3  and  " + tutor::Divided + " 3", 8);
+  PageEnd();
+  Say(Text("Try it:  In  {}  which operation do we undo first, and how?", "2x - 7 = 9"));
+  PageEnd();
+  Say(R"(Subtracting 7 came last.  So we \yadd 7\z:)");
+  Show("9 + 7 = 16");
+  Say(R"(Then we \ydivide by 2\z:)");
+  Show("16 " + tutor::Divided + " 2 = 8");
   PageEnd();
 }
 
@@ -75,36 +90,33 @@ void RowUnderRow() {
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  Say("We solve the same equation on paper.");
-  sheet.Write(RowOf(equation), "=");
+  Say("On paper we write step under step.");
+  WriteStatement(sheet, equation);
   OpenWordBox();
-  SayAnew(
-      "We write each step under the one before, and do the same to both sides.  So they stay "
-      "equal.");
-  SayMore("4 was added last.  What do we add to both sides to remove it?");
+  SayInBox("4 was added last.  What do we add to both sides to remove it?");
   PageEnd();
-  SayAnew(R"(We add \b-4\z to both sides.)");
-  SayMore("That is the same as subtracting 4.");
-  sheet.AddUnder(AddendRow(addition.term, "x"));
+  SayInBoxAnew(R"(We add \b-4\z to both sides.  That is the same as subtracting 4.)");
+  WriteAddend(sheet, addition);
+  SayInBox("So both sides stay equal.");
   PageEnd();
-  sheet.WriteSum(RowOf(addition.after), "=");
-  SayAnew("On the left-hand side +4 and -4 add up to 0, and only 3x is left.");
-  SayMore("Which operation still has to be undone, and how?");
+  WriteSum(sheet, addition);
+  SayInBoxAnew("+4 and -4 add up to 0, so only 3x is left on the left side.");
+  SayInBox("What do we undo next?");
   PageEnd();
-  sheet.WriteQuotients({"3x", "15", "3"}, "=");
-  SayAnew(R"(x is multiplied by 3, so we divide both sides by \b3\z.)");
-  SayMore(R"(The number in front of the letter is its \bcoefficient\z.)");
+  WriteDivision(sheet, addition.after, "=");
+  SayInBoxAnew(R"(x is multiplied by 3, so we divide both sides by \b3\z.)");
+  PageEnd();
+  SayInBox(R"(The number in front of the letter is its \bcoefficient\z.)");
+  SayInBox("What is left of 3x over 3?");
   PageEnd();
   sheet.WriteSolved("x", "=", "5");
   sheet.MarkSolution();
-  SayAnew("");
-  SayBullet("3" + tutor::Dot + "5 = 15.");
+  SayInBoxAnew("");
   SayBullet("We know that 1x is equal to just x.");
-  SayMore(R"(x stands alone:  we have \bisolated the variable\z, and 5 is the solution.)");
+  SayInBox(R"(x stands alone.  We have \bisolated the variable\z.)");
   PageEnd();
-  SayAnew("A solution can be checked.  Put 5 in place of x in the first equation:");
+  SayInBoxAnew("Check:  we put 5 in place of x.");
   SaySubstituted(equation, 5);
-  SayMore("Both sides are the same number.");
   PageEnd();
 }
 
@@ -116,31 +128,56 @@ void DividingFirst() {
   Show("3x/3 + 4/3  =  19/3", 10);
   Show(" x + 4/3  =  19/3", 10);
   PageEnd();
-  Say(R"(\rThe usual mistake\z is to divide 3x and 19, and to forget the 4.)");
+  Say(R"(\yWatch out:\z  the usual mistake is to divide 3x and 19, and to forget the 4.)");
+  PaperBox({R"(\rx + 4 = 19/3\z  is wrong.)"});
   PageEnd();
-  Say(R"(It is simpler to remove \yfirst the number\z, \ythen the coefficient\z.)");
+  NewScreen();
+  Say("So we keep to this order:");
+  RuleBox("Two Operations", {"1. Remove the number.", "2. Divide by the coefficient."},
+          {.width = 28});
   PageEnd();
 }
 
-void TryIt() {
+void NegativeCoefficient() {
   const LinearStatement equation = {"x", {-2, -5}, "=", {0, 7}};
+  const Addition addition = AdditionsOf(equation)[0];
+  EquationSheet sheet(13.5, 23, RowsOf(equation));
+  Say("Try it:  What do we add to both sides here?  What do we divide them by?");
+  WriteStatement(sheet, equation);
+  PageEnd();
+  WriteAddition(sheet, addition);
+  SayAt(23, R"(To remove \y-5\z we add \y+5\z.)");
+  PageEnd();
+  WriteDivision(sheet, addition.after, "=");
+  sheet.WriteSolved("x", "=", "-6");
+  SayAt(23, R"(Then we divide by the coefficient \y-2\z.)");
+  PageEnd();
+}
+
+void MinusX() {
+  const LinearStatement equation = {"x", {-1, 9}, "=", {0, 4}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  Say("Now solve this equation yourself:");
-  sheet.Write(RowOf(equation), "=");
-  SayAt(17, "What do we add to both sides?  What do we divide both sides by?");
+  Say("What if there is only a minus sign?");
+  WriteStatement(sheet, equation);
+  OpenWordBox();
+  SayInBox("Which number is the coefficient of -x?");
   PageEnd();
-  sheet.AddUnder(AddendRow(addition.term, "x"));
-  sheet.WriteSum(RowOf(addition.after), "=");
-  SayAt(19.5, R"(To remove \y-5\z we add \y+5\z.)");
+  SayInBoxAnew(Text(R"({} means {}.  The coefficient is \b-1\z.)", "-x", "-1" + tutor::Dot + "x"));
+  SayInBox("First we remove the 9.");
+  WriteAddition(sheet, addition);
   PageEnd();
-  sheet.WriteQuotients({"-2x", "12", "-2"}, "=");
-  sheet.WriteSolved("x", "=", "-6");
+  SayInBoxAnew("Watch out:  we want x, not -x.  So we are not done yet.");
+  SayInBox("What do we divide both sides by?");
+  PageEnd();
+  WriteDivision(sheet, addition.after, "=");
+  sheet.WriteSolved("x", "=", "5");
   sheet.MarkSolution();
-  SayAt(20.5, R"(Then we divide by the coefficient \y-2\z.)");
+  SayInBoxAnew(R"(We divide by \b-1\z, and both signs change.)");
   PageEnd();
-  SayAt(22, Text("Check:  {}", "-2" + tutor::Dot + "(-6) - 5 = 12 - 5 = 7."));
+  SayInBoxAnew("Check:  we put 5 in place of x.");
+  SaySubstituted(equation, 5);
   PageEnd();
 }
 
@@ -153,7 +190,8 @@ class TwoOperations final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{ReverseOrder}, {RowUnderRow, DividingFirst, TryIt}};
+    return {{ReverseOrder, InverseOperations},
+            {RowUnderRow, DividingFirst, NegativeCoefficient, MinusX}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -182,16 +220,13 @@ void TwoOperations::DrawProblem(RandomStream& random) {
     equation_.right.number = DrawNumber(random);
   } while (!fits());
 
-  problem.question = {"Solve the following equation for " + equation_.letter + ".",
-                      StatementText(equation_, "  ")};
-  SetLinearChoices(problem, equation_, random);
+  SetLinearProblem(problem, equation_, random);
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void TwoOperations::ShowProblem() {
-  SayAt(6, problem.question[0]);
-  EquationSheet(9, 9, {RowOf(equation_)}).Write(RowOf(equation_), equation_.relation);
+  ShowStatement(equation_, problem);
   ShowAnswersInThreeColumns(problem, {.row = 16.5});
 }
 

@@ -1,10 +1,12 @@
 // The student can solve an inequality such as -2x + 3 < 11 in the steps of an equation, and knows
-// when its relation turns around.
+// when the inequality symbol is reversed.
 //
-// Two of the choices carry the reversed relation, one of them with the right number, so that the
-// turn is always part of the question.  Answers that are not whole are mixed numbers.
+// Two of the choices carry the reversed symbol, one of them with the right number, so that
+// reversing it or not is always part of the question.  Answers that are not whole are mixed
+// numbers.
 #include "lessons/families/equations/equation_explanation.h"
 #include "lessons/families/equations/equation_machine.h"
+#include "lessons/families/graphs/interval_figure.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -23,101 +25,97 @@ constexpr double kMarkerRow = kLineRow - 1.8;
 constexpr int kFirstTick = -6;
 constexpr int kLastTick = 10;
 constexpr int kColumnsPerUnit = 2;
-constexpr double kSlideSpeed = 30;
 
-int LineColumn(int value) {
+double LineColumn(int value) {
   return 4 + kColumnsPerUnit * (value - kFirstTick);
 }
 
 // A text centred over or under the point of a value.
-void PrintAt(double row, int value, const std::string& text) {
-  Locate(row, LineColumn(value) - (static_cast<double>(text.size()) - 1) / 2);
-  isPrints(text);
+void ShowAtValue(double row, int value, const std::string& text, const std::string& colour = "w") {
+  ShowAt(row, "\\" + colour + text + "\\z",
+         LineColumn(value) - (static_cast<double>(text.size()) - 1) / 2);
 }
 
 void DrawLine() {
   isDrawHorizLine(kLineRow, LineColumn(kFirstTick) - 1, LineColumn(kLastTick) + 1, 2);
   for (int value = kFirstTick; value <= kLastTick; ++value) {
     isDrawVertLine(LineColumn(value), kLineRow + 0.3, kLineRow - 0.2, 1);
-    if (value % 2 == 0) PrintAt(kLineRow + 0.8, value, NumStr(value));
+    if (value % 2 == 0) ShowAtValue(kLineRow + 0.8, value, NumStr(value));
   }
 }
 
 // A number over the line, and the point under it.
 void MarkNumber(int value) {
-  SetColor(platform::colour::Yellow);
-  PrintAt(kMarkerRow, value, NumStr(value));
-  SetColor(platform::colour::White);
+  ShowAtValue(kMarkerRow, value, NumStr(value), "y");
   isDrawBullet(kLineRow - 0.7, LineColumn(value), platform::colour::Yellow);
 }
 
 // Slides both numbers by the same distance, then writes what they have become.
 void SlideNumbers(int smaller, int larger, int distance) {
-  const int first = LineColumn(smaller) - 1;
-  const int width = LineColumn(larger) - first + 2;
-  Anim2(kMarkerRow, first, width, 1.8, distance < 0 ? 3 : 4, kColumnsPerUnit * std::abs(distance),
-        kSlideSpeed, 1);
+  const double first = LineColumn(smaller) - 1;
+  const Cells markers = {kMarkerRow, first, LineColumn(larger) - first + 2, 1.8};
+  (distance < 0 ? SlideLeft : SlideRight)(markers, kColumnsPerUnit * std::abs(distance),
+                                          Leaving::Nothing, Pace::Brisk);
   for (const int value : {smaller, larger}) {
-    PrintAt(kMarkerRow, value + distance, std::string(NumStr(value).size(), ' '));
+    ShowAtValue(kMarkerRow, value + distance, std::string(NumStr(value).size(), ' '));
     MarkNumber(value + distance);
   }
 }
 
 void AddingKeeps() {
   NewScreen();
-  WrapAt(3, "An inequality such as  " + WithoutBreaks("x + 5 < 8") +
-                "  is solved in the steps of an equation.  But do both sides keep their relation?");
+  Say(
+      Text("An inequality such as  {}  is solved in the steps of an equation.  But does its symbol "
+           "stay the same?",
+           "x + 5 < 8"));
   PageEnd();
-  isPrint();
-  WordWrap("Take  " + WithoutBreaks("2 < 6") +
-           R"(.  On the number line 2 lies \yto the left of\z 6.)");
+  Say(Text(R"(In  {}  the 2 lies \yleft of\z the 6.)", "2 < 6"));
   DrawLine();
   MarkNumber(2);
   MarkNumber(6);
   PageEnd();
-  WrapAt(15, "We add 3 to both sides:  " + WithoutBreaks(R"(2 + 3 \y<\z 6 + 3)") + ".");
+  SayAt(15, "We add 3 to both.  Which one is smaller?");
   SlideNumbers(2, 6, 3);
   PageEnd();
-  WrapAt(16, "Then we subtract 10:  " + WithoutBreaks(R"(5 - 10 \y<\z 9 - 10)") + ".");
+  SayAt(17,
+        Text(R"(Still the left one:  {}  Then we subtract 10.  What comes out?)", R"(5 \y<\z 9.)"));
+  PageEnd();
+  SayAt(20, Text("Both go the same way:  {}", R"(-5 \y<\z -1.)"));
   SlideNumbers(5, 9, -10);
   PageEnd();
-  WrapAt(18, "Both numbers go the same way, so the smaller one stays on the left.");
-  PageEnd();
-  isPrint();
-  WordWrap(
-      R"(By the \cAddition and Subtraction Properties for Inequalities\z the relation stays.)");
+  SayAt(22, R"(By the \cAddition and Subtraction Properties for Inequalities\z the < stays.)");
   PageEnd();
 }
+
+constexpr double kSolutionsRow = 13.5;
+constexpr double kJustBelow = 3.1;  // the ray leaves 3 out
 
 void SolvingByAdding() {
   const LinearStatement inequality = {"x", {1, 5}, "<", {0, 8}};
-  const Addition addition = AdditionsOf(inequality)[0];
   EquationSheet sheet = SheetFor(inequality);
   NewScreen();
-  WrapAt(3, "Now we can solve  " + WithoutBreaks("x + 5 < 8") + ".");
-  sheet.Write(RowOf(inequality), "<");
-  OpenWordBox();
-  SayAnew("What do we add to both sides, to remove 5 from the left-hand side?");
+  Say(Text("Now we can solve  {}.", "x + 5 < 8"));
+  WriteStatement(sheet, inequality);
+  SayAt(10, "What do we add to both sides?");
   PageEnd();
-  SayAnew(R"(We add \b-5\z to both sides.)");
-  sheet.AddUnder(AddendRow(addition.term, "x"));
-  PageEnd();
-  sheet.WriteSum(RowOf(addition.after), "<");
+  WriteAddition(sheet, AdditionsOf(inequality)[0]);
   sheet.MarkSolution();
-  SayAnew("The < stays as it is.");
-  SayMore("An inequality has many solutions:  2 is one of them, and so are 0 and -7.");
-  SayMore("Is 3 one of them?");
+  SayAt(11, R"(We add \y-5\z, and the < stays.)");
   PageEnd();
-  SayAnew("No.  With 3 in place of x we get:");
-  SaySubstituted(inequality, 3, R"(   \rfalse\z)");
+  graphs::DrawNumberLine(kSolutionsRow, 4);
+  graphs::DrawGraphOnLine(kJustBelow, graphs::kFarLeft);
+  SayAt(17, "All numbers to the left of 3 are solutions, such as 2, 0 and -5.");
+  Say("Is 3 one of them?");
+  PageEnd();
+  Say(Text("No.  3 + 5 is 8, and  {}  is false.  So there is an open circle over 3.", "8 < 8"));
   PageEnd();
 }
 
-// What is done to both sides of 2 < 6, what becomes of it, and of its relation.
+// What is done to both sides of 2 < 6, what becomes of it, and of its symbol.
 struct Multiplication {
   std::string operation;
   std::string result;
-  bool turns;
+  bool reverses;
 };
 const Multiplication kMultiplications[] = {
     {tutor::Times + " 3", "6 < 18", false},
@@ -126,6 +124,7 @@ const Multiplication kMultiplications[] = {
     {tutor::Divided + " (-2)", "-1 > -3", true},
 };
 constexpr int kTableColumns = 3;
+constexpr double kTableRow = 5.5;
 constexpr double kCellFontSize = 16;
 
 // Three columns and a row for each multiplication, of which the operations stand there at once.
@@ -134,111 +133,157 @@ void ShowMultiplications() {
   table.heightPixels = 230;
   constexpr double kLefts[kTableColumns] = {2, 35, 68};
   constexpr double kWidth = 30;
-  const char* const kCaptions[kTableColumns] = {"To both sides", "Result", "Relation"};
+  const char* const kCaptions[kTableColumns] = {"To both sides", "Result", "Symbol"};
   for (int column = 0; column < kTableColumns; ++column)
     table.labels.push_back(
         {kLefts[column], 2, kWidth, 10, kCaptions[column], 14, platform::colour::Blue});
   for (int row = 0; row < 4; ++row)
     for (const double left : kLefts) table.cells.push_back({left, 14.0 + 21 * row, kWidth, 19});
-  picPrintCellBoxPrepare3(5, table);
+  CellTable(table, kTableRow);
   for (int row = 0; row < 4; ++row)
     picPrintCellPrint(kTableColumns * row + 1, kMultiplications[row].operation,
                       platform::colour::Black, kCellFontSize);
-  picPrintCellBoxShow();
 }
 
 void FillRow(int row) {
   const Multiplication& done = kMultiplications[row];
-  const platform::Colour colour = done.turns ? platform::colour::Red : platform::colour::Black;
+  const platform::Colour colour = done.reverses ? platform::colour::Blue : platform::colour::Black;
   const int cell = kTableColumns * row + 2;
   picPrintCellPrint(cell, done.result, colour, kCellFontSize);
-  picPrintCellPrint(cell + 1, done.turns ? "turns around" : "stays", colour, kCellFontSize);
+  picPrintCellPrint(cell + 1, done.reverses ? "reversed" : "stays", colour, kCellFontSize);
 }
 
-void MultiplyingMayTurn() {
+void MultiplyingMayReverse() {
   NewScreen();
-  WrapAt(3, "Now we multiply and divide  " + WithoutBreaks("2 < 6") + ".");
+  Say(Text("Now we multiply and divide  {}.", "2 < 6"));
   ShowMultiplications();
   OpenWordBox();
-  SayAnew("First we multiply by 3:  2 becomes 6, and 6 becomes 18.");
-  SayMore("Which result is smaller?");
+  SayInBox("First we multiply by 3:  2 becomes 6, and 6 becomes 18.");
+  SayInBox("Which result is smaller?");
   PageEnd();
   FillRow(0);
   FillRow(1);
-  SayAnew(R"(With a \bpositive\z number the smaller side stays the smaller one.)");
-  SayMore("The relation stays as it is.");
+  SayInBoxAnew(R"(6 is smaller.  With a \bpositive\z number the smaller side stays smaller.)");
+  SayInBox("The symbol stays.");
   PageEnd();
-  SayAnew("Now we multiply by -3:  2 becomes -6, and 6 becomes -18.");
-  SayMore("Which result is smaller?");
+  SayInBoxAnew("Now we multiply by -3:  2 becomes -6, and 6 becomes -18.");
+  SayInBox("Which result is smaller?");
   PageEnd();
   FillRow(2);
   FillRow(3);
-  SayAnew(
-      R"(-18 is smaller:  it lies to the left of -6.  With a \rnegative\z number the sides change places on the number line.)");
-  PageEnd();
-  SayMore(R"(The relation \rturns around\z:  < becomes >, and )" + tutor::LessOrEqual +
-          " becomes " + tutor::GreaterOrEqual + ".");
+  SayInBoxAnew("-18 is smaller:  it lies to the left of -6.");
+  SayInBox(R"(With a \bnegative\z number the sides change places.)");
   PageEnd();
 }
 
-void SolvingOne() {
+void RuleOfReversing() {
+  NewScreen();
+  Say("Equations do not have this rule:");
+  picGalleryImagePrepare(1, gallery::InequalityFlip, 5.5, 12);
+  picGalleryImageShow(1);
+  SayAt(14.5, Text("< becomes >, and {} becomes {}.", tutor::LessOrEqual, tutor::GreaterOrEqual));
+  AddLine(R"(\yWatch out:\z  no other minus sign counts.)");
+  PageEnd();
+}
+
+// Statements to which the rule applies or not, and what becomes of them.
+struct Question {
+  std::string asked;
+  std::string answer;
+};
+const Question kQuestions[] = {
+    {"A    3x < -12", "x < -4   stays"},
+    {"B    x - 3 < 12", "x < 15   stays"},
+    {"C   -3x < 12", "x > -4   reversed"},
+};
+
+void WhichIsReversed() {
+  constexpr double kFirstRow = 18.5;
+  SayAt(17, "Try it:  Which of these is reversed?");
+  double row = kFirstRow;
+  for (const Question& question : kQuestions) ShowAt(row++, question.asked, 4);
+  PageEnd();
+  row = kFirstRow;
+  for (const Question& question : kQuestions)
+    ShowAt(row++, R"(\y)" + question.answer + R"(\z)", 22);
+  SayAt(22.5, "Only C is divided by a negative number.");
+  PageEnd();
+}
+
+void NegativeDivisor() {
   const LinearStatement inequality = {"x", {-2, 3}, tutor::GreaterOrEqual, {0, 11}};
-  const Addition addition = AdditionsOf(inequality)[0];
-  const std::string& relation = inequality.relation;
-  const std::string turned = ReversedRelation(relation);
+  const std::string reversed = tutor::LessOrEqual;
   EquationSheet sheet = SheetFor(inequality);
   NewScreen();
-  WrapAt(3, "We solve an inequality step by step.");
-  sheet.Write(RowOf(inequality), relation);
+  Say("We solve an inequality step by step.");
+  WriteStatement(sheet, inequality);
   OpenWordBox();
-  SayAnew("The steps are those of an equation.  What do we add to both sides first?");
+  SayInBox("What do we add to both sides first?");
   PageEnd();
-  SayAnew(R"(We add \b-3\z.  By the addition property the )" + relation + " stays.");
-  sheet.AddUnder(AddendRow(addition.term, "x"));
-  sheet.WriteSum(RowOf(addition.after), relation);
+  WriteAddition(sheet, AdditionsOf(inequality)[0]);
+  SayInBoxAnew(Text(R"(We add \b-3\z, and the {} stays.)", inequality.relation));
+  SayInBox("What do we divide by?");
   PageEnd();
-  SayAnew(R"(To remove the coefficient, we divide both sides by \b-2\z.)");
-  SayMore("What becomes of the " + relation + "?");
-  sheet.WriteQuotients({"-2x", "8", "-2"}, " ");
+  WriteDivision(sheet, IsolatedOf(inequality), " ");
+  SayInBoxAnew(R"(By \b-2\z, the coefficient of x.)");
+  SayInBox(Text("What becomes of the {}?", inequality.relation));
   PageEnd();
-  SayAnew(R"(-2 is \rnegative\z, so the )" + relation + R"( \rturns around\z and becomes )" +
-          turned + ".");
-  sheet.WriteRelation(turned, platform::colour::Yellow);
-  sheet.WriteSolved("x", turned, "-4");
+  sheet.WriteRelation(reversed, platform::colour::Yellow);
+  sheet.WriteSolved("x", reversed, "-4");
   sheet.MarkSolution();
+  SayInBoxAnew(Text(R"(-2 is \bnegative\z, so it becomes {}.)", reversed));
+  SayInBox("Is -5 a solution?");
   PageEnd();
-  SayAnew("We check with a number that is less than -4, such as -5:");
-  SaySubstituted(inequality, -5, R"(   \btrue\z)");
-  PageEnd();
-  SayAnew("Now we try one that is greater, 0:");
-  SaySubstituted(inequality, 0, R"(   \rfalse\z)");
+  SayInBoxAnew("Yes.  We put -5 in place of x:");
+  SaySubstituted(inequality, -5);
   PageEnd();
 }
 
-void WhenToTurn() {
+void LetterOnBothSides() {
+  const LinearStatement inequality = {"x", {2, 9}, ">", {5, -3}};
+  const std::vector<Addition> additions = AdditionsOf(inequality);
+  EquationSheet sheet = SheetFor(inequality);
   NewScreen();
-  WrapAt(3, R"(\rA usual mistake\z is to turn the relation whenever a minus sign is seen.)");
+  Say("Here the letter stands on both sides.");
+  WriteStatement(sheet, inequality);
+  OpenWordBox();
+  SayInBox("What removes 5x from the right side?");
   PageEnd();
-  isPrint();
-  WordWrap("In which of these does it turn around?");
-  Locate(9, 4);
-  isPrint("A    3x < -12");
-  Locate(11, 4);
-  isPrint("B    x - 3 < 12");
-  Locate(13, 4);
-  isPrint("C   -3x < 12");
+  WriteAddition(sheet, additions[0]);
+  SayInBoxAnew(R"(We add \b-5x\z to both sides.)");
+  SayInBox("What do we add next?");
   PageEnd();
-  Locate(9, 23);
-  isColorPrint("x < -4     stays", platform::colour::Yellow);
-  Locate(11, 23);
-  isColorPrint("x < 15     stays", platform::colour::Yellow);
-  Locate(13, 23);
-  isColorPrint("x > -4     turns", platform::colour::Yellow);
-  WrapAt(15,
-         "Only in C do we divide by a negative number.  In A we divide by 3, and in B we add 3.");
+  WriteAddition(sheet, additions[1]);
+  SayInBoxAnew(R"(We add \b-9\z.  The > still stays.)");
+  SayInBox("Will it be reversed?");
   PageEnd();
-  isPrint();
-  WordWrap(R"(What counts is the number that we \ydivide or multiply by\z.)");
+  WriteDivision(sheet, IsolatedOf(inequality), "<");
+  sheet.WriteSolved("x", "<", "4");
+  sheet.MarkSolution();
+  SayInBoxAnew(R"(Yes.  We divide by \b-3\z, so > becomes <.)");
+  PageEnd();
+}
+
+void FractionAsBound() {
+  const LinearStatement inequality = {"x", {4, -5}, "<", {0, 1}};
+  EquationSheet sheet = SheetFor(inequality);
+  NewScreen();
+  Say("The answer can have a fraction.");
+  WriteStatement(sheet, inequality);
+  OpenWordBox();
+  SayInBox("What do we add?  What do we divide by?");
+  PageEnd();
+  WriteAddition(sheet, AdditionsOf(inequality)[0]);
+  WriteDivision(sheet, IsolatedOf(inequality), "<");
+  SayInBoxAnew(R"(We add \b+5\z and divide by \b4\z.)");
+  PageEnd();
+  sheet.WriteSolved("x", "<", "1 1/2");
+  sheet.MarkSolution();
+  SayInBoxAnew("In lowest terms 6/4 is 3/2, and that is 1 1/2.");
+  SayInBox("Is 1 a solution?");
+  PageEnd();
+  SayInBoxAnew("Yes.  We put 1 in place of x:");
+  SaySubstituted(inequality, 1);
   PageEnd();
 }
 
@@ -247,10 +292,13 @@ void WhenToTurn() {
 class SolvingInequalities final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override {
-    return {{AddingKeeps, SolvingByAdding}, {MultiplyingMayTurn}, {SolvingOne, WhenToTurn}};
+    return {{AddingKeeps, SolvingByAdding},
+            {MultiplyingMayReverse, RuleOfReversing, WhichIsReversed},
+            {NegativeDivisor, LetterOnBothSides, FractionAsBound}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -289,25 +337,14 @@ void SolvingInequalities::DrawProblem(RandomStream& random) {
   }
   inequality_.relation = kRelations[random.Index(4)];
 
-  problem.question = {"Solve the following inequality for " + inequality_.letter + ".",
-                      StatementText(inequality_, "  ")};
-  SetLinearChoices(problem, inequality_, random);
+  SetLinearProblem(problem, inequality_, random);
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void SolvingInequalities::ShowProblem() {
-  WrapAt(6, problem.question[0]);
-  EquationSheet(9, 9, {RowOf(inequality_)}).Write(RowOf(inequality_), inequality_.relation);
-  // A built-up fraction needs higher boxes.
-  const bool high = std::ranges::any_of(problem.choices, [](const Choice& choice) {
-    return choice.text.find('/') != std::string::npos;
-  });
-  if (high)
-    picAnswerSetParameters(2, 13, 1, 21, 0, 17, 75, 16, 12);
-  else
-    picAnswerSetParameters(2, 14, 1, 21, 0, 17, 50, 27);
-  answerParameters.printChoice = picAnswerPrintStackedText;
+  ShowStatement(inequality_, problem);
+  ShowAnswersInTwoColumns(problem, {.row = 12, .width = 17});
 }
 
 // --- Worked explanation ------------------------------------------------------

@@ -8,6 +8,10 @@
 namespace lesson_check {
 namespace {
 
+const std::string kWrongSign = "gives the quotient the wrong sign";  // of a x = c
+const std::string kWrongOrder = "subtracts the numbers in the wrong order";
+const std::string kMovesSide = "moves the right side to the left without changing its signs";
+
 struct LinearStatement {
   char letter = 0;
   char relation = '=';
@@ -50,6 +54,10 @@ std::string NumberText(const std::string& choice) {
 Rational MovedAcross(const LinearStatement& s) {
   return -(s.b + s.c) / (s.a - s.d);
 }
+// From a x + b = d x + c to a x + d x + b + c = 0.
+Rational SideMovedAcross(const LinearStatement& s) {
+  return -(s.b + s.c) / (s.a + s.d);
+}
 Rational SubtractedTheWrongWay(const LinearStatement& s) {
   return (s.b - s.c) / (s.a - s.d);
 }
@@ -74,12 +82,32 @@ Reading ReadLinearEquation(const course::Problem& problem) {
     return NumberIn(cut.sides.back()).get_str();
   };
   reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
-  reading.mistakes["moves the right number across with its sign"] = {
-      MovedAcross(statement).get_str()};
-  reading.mistakes["subtracts the numbers the wrong way round"] = {
-      SubtractedTheWrongWay(statement).get_str()};
+  if (statement.b == 0) {
+    reading.mistakes[kWrongSign] = {SubtractedTheWrongWay(statement).get_str()};
+  } else {
+    reading.mistakes["moves the number on the right to the left without changing its sign"] = {
+        MovedAcross(statement).get_str()};
+    reading.mistakes[kWrongOrder] = {SubtractedTheWrongWay(statement).get_str()};
+  }
+  // With no letter on the right it is the number alone that moves.
+  if (statement.d != 0 && statement.a + statement.d != 0)
+    reading.mistakes[kMovesSide] = {SideMovedAcross(statement).get_str()};
   CheckRanges(statement, reading);
   return reading;
+}
+
+// (a + d) x + b + c < 0, divided as it should be, or with the symbol mistaken too.
+void ReadMovedSide(const LinearStatement& s, Reading& reading) {
+  const Rational sum = s.a + s.d;
+  if (sum == 0) return;
+  const auto solved = [&](bool reversed) -> std::vector<std::string> {
+    const char relation = reversed ? ReversedRelation(s.relation) : s.relation;
+    return {SetOf(relation, SideMovedAcross(s)).Text()};
+  };
+  const bool negative = sum < 0;
+  reading.mistakes[kMovesSide] = solved(negative);
+  reading.mistakes[kMovesSide + (negative ? " and keeps the symbol" : " and reverses the symbol")] =
+      solved(!negative);
 }
 
 Reading ReadLinearInequality(const course::Problem& problem) {
@@ -96,16 +124,14 @@ Reading ReadLinearInequality(const course::Problem& problem) {
     return SolutionOf(choice).Text();
   };
   reading.flaw = [](const std::string& choice) { return FlawOfMixedNumber(NumberText(choice)); };
-  reading.mistakes["subtracts the numbers the wrong way round"] = {
+  reading.mistakes[s.b == 0 ? kWrongSign : kWrongOrder] = {
       SetOf(right, SubtractedTheWrongWay(s)).Text()};
   CheckRanges(s, reading);
-  if (s.a + s.d != 0)
-    reading.mistakes["moves the whole right side across, the relation turned wrongly"] = {
-        SetOf(ReversedRelation(right), -(s.b + s.c) / (s.a + s.d)).Text()};
-  // Only where dividing turns the relation can a student forget it, and only elsewhere overdo it.
-  const std::vector<std::string> turned = {SetOf(ReversedRelation(right), bound).Text()};
-  reading.mistakes["keeps the relation"] = flips ? turned : std::vector<std::string>{};
-  reading.mistakes["reverses the relation"] = flips ? std::vector<std::string>{} : turned;
+  ReadMovedSide(s, reading);
+  // Only where dividing reverses the symbol can a student forget it, and only elsewhere overdo it.
+  reading.mistakes[flips ? "forgets to reverse the inequality symbol"
+                         : "reverses the inequality symbol without dividing by a negative number"] =
+      {SetOf(ReversedRelation(right), bound).Text()};
   return reading;
 }
 

@@ -4,35 +4,39 @@
 #include <cstdlib>
 #include <utility>
 
-#include "display/animation.h"
-#include "display/grid.h"
-#include "display/print.h"
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
+#include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/page.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/say.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::equations {
 namespace {
 
+using page::SayAt;
+using page::SayInBox;
+using page::SayInBoxAnew;
+using page::Text;
+using page::Words;
+
 // Rows of the lesson screen: the sheet above, the word box below.
 constexpr double kQuestionRow = 4;
-constexpr double kSheetBottom = 15.75;
+constexpr double kSheetBottom = 16.25;
 constexpr double kBoxRow = 17;
-constexpr double kBoxWidth = 38;
-constexpr double kBoxHeight = 8;
+// On the problem page.
+constexpr double kAskedRow = 5;
+constexpr double kAskedStatementRow = 8;
 
-constexpr double kWipeSpeed = 10;
 constexpr double kBulletIndent = 3;  // column
 
-// Rows of the sheet: an addition; a division with a whole result; one with a fraction, and one more
-// fraction.
+// Rows of the sheet: an addition; a division with a whole result; one with a fraction.
 constexpr double kAdditionRows = 2.5;
 constexpr double kDivisionRows = 5;
-constexpr double kDivisionToFractionRows = 6.75;
-constexpr double kFractionRows = 3.25;
+constexpr double kDivisionToFractionRows = 7;
 
 // "+7", "-7": a term as it is spoken of.
 std::string WithSign(const std::string& text) {
@@ -48,11 +52,19 @@ int FloorOf(const Fraction& f) {
   return f.num % f.den < 0 ? whole - 1 : whole;
 }
 
+// 3 times 5 or -2: "3 . 5" with a raised dot, which reads as a decimal point when it is tight.
+std::string ProductText(int factor, int value) {
+  if (value < 0) return NumStr(factor) + tutor::Dot + InParentheses(value);
+  return NumStr(factor) + tutor::Gap + tutor::Dot + tutor::Gap + NumStr(value);
+}
+
 // A side with a value in place of the letter, with the product worked out, and as one number.
 std::string Substituted(const LinearSide& side, int value) {
   if (side.coef == 0) return NumStr(side.number);
-  const std::string factor = CoefText(side.coef) + (std::abs(side.coef) == 1 ? "" : tutor::Dot);
-  return WithNumber(factor + InParentheses(value), side.number);
+  const std::string product = side.coef == 1    ? NumStr(value)
+                              : side.coef == -1 ? "-" + InParentheses(value)
+                                                : ProductText(side.coef, value);
+  return WithNumber(product, side.number);
 }
 std::string Multiplied(const LinearSide& side, int value) {
   if (side.coef == 0) return NumStr(side.number);
@@ -73,6 +85,14 @@ std::vector<SidePair> SubstitutedLines(const LinearStatement& statement, int val
   return lines;
 }
 
+bool IsTrueFor(const LinearStatement& statement, int value) {
+  const int left = statement.left.coef * value + statement.left.number;
+  const int right = statement.right.coef * value + statement.right.number;
+  if (left == right) return statement.relation != "<" && statement.relation != ">";
+  const bool less = statement.relation == "<" || statement.relation == tutor::LessOrEqual;
+  return !statement.IsEquation() && less == (left < right);
+}
+
 class LinearExplanation {
  public:
   LinearExplanation(const LinearStatement& statement, const Problem& problem)
@@ -85,14 +105,15 @@ class LinearExplanation {
 
   void Run() {
     Introduce();
-    for (const Addition& addition : AdditionsOf(statement_)) Add(addition);
+    const std::vector<Addition> additions = AdditionsOf(statement_);
+    for (const Addition& addition : additions) Add(addition);
+    if (!statement_.IsEquation() && !additions.empty()) TellThatAddingKeeps();
     if (isolated_.left.coef != 1) Divide();
     Finish();
     if (statement_.IsEquation())
       CheckEquation();
     else
       CheckInequality();
-    Conclude();
   }
 
  private:
@@ -100,26 +121,40 @@ class LinearExplanation {
 
   void Introduce() {
     ProblemBanner();
-    Locate(kQuestionRow, 1);
-    isPrint(problem_.question[0]);
-    sheet_.Write(RowOf(statement_), statement_.relation);
+    SayAt(kQuestionRow, problem_.question[0]);
+    WriteStatement(sheet_, statement_);
     OpenWordBox();
-    SayAnew("We want " + letter_ + " to stand alone on the left-hand side.");
-    SayMore(OpeningWords());
+    SayInBox(Text("We want {} to stand alone.", letter_));
+    SayInBox(OpeningWords());
     PageEnd();
+    if (statement_.IsEquation() && Operations() == 2) WarnOfDividingFirst();
+  }
+
+  // On the left side, with no letter on the right.
+  int Operations() const {
+    if (statement_.right.coef != 0) return 0;
+    return (statement_.left.coef != 1 ? 1 : 0) + (statement_.left.number != 0 ? 1 : 0);
   }
 
   std::string OpeningWords() const {
     const auto [a, b] = statement_.left;
-    const std::string side = SideText(statement_.left, letter_);
     if (statement_.right.coef != 0)
-      return "Now it stands on both sides.  Which term must leave the right-hand side?";
-    const std::string multiplied = "is multiplied by " + NumStr(a);
-    const std::string added = NumStr(std::abs(b)) + (b < 0 ? " is subtracted" : " is added");
-    if (b == 0) return "In " + side + ", " + letter_ + " " + multiplied + ".  What undoes this?";
-    if (a == 1) return "In " + side + ", " + added + ".  What undoes this?";
-    return "In " + side + ", " + letter_ + " first " + multiplied + ", and then " + added +
-           ".  We undo this in reverse order.  Which one do we undo first?";
+      return "Now it stands on both sides.  Which term must leave the right side?";
+    const std::string added = Text("{} was {}", std::abs(b), Words{b < 0 ? "subtracted" : "added"});
+    if (a == 1) return Text("{} from it.  What undoes this?", Words{added});
+    if (b == 0) return Text("It was multiplied by {}.  What undoes this?", a);
+    return Text("First it was multiplied by {}, then {}.  Which do we undo first?", a,
+                Words{added});
+  }
+
+  // The mistake that is made most in two operations: 3x and 19 are divided, but not the 4.
+  void WarnOfDividingFirst() {
+    SayInBoxAnew("We undo the last one first.");
+    SayInBox(
+        Text("Watch out:  if we divide by {} first, we must divide the {} too.  It is often "
+             "forgotten.",
+             statement_.left.coef, statement_.left.number));
+    PageEnd();
   }
 
   void Add(const Addition& addition) {
@@ -129,20 +164,23 @@ class LinearExplanation {
     const std::string removed =
         WithSign(number ? NumStr(-term.number) : TermText(-term.coef, letter_));
     sheet_.MakeRoom(kAdditionRows);
-    SayAnew(R"(To remove \b)" + removed + R"(\z from the )" + (number ? "left" : "right") +
-            R"(-hand side, we add \b)" + added + R"(\z to both sides.)");
-    SayMore(statement_.IsEquation()
-                ? "Both sides change by the same amount, so they stay equal."
-                : "By the Addition and Subtraction Properties for Inequalities, the " +
-                      statement_.relation + " stays as it is.");
-    sheet_.AddUnder(AddendRow(term, letter_));
+    SayInBoxAnew(Text(R"(To remove \b{}\z from the {}-hand side, we add \b{}\z to both sides.)",
+                      removed, number ? "left" : "right", added));
+    WriteAddend(sheet_, addition);
+    SayInBox(statement_.IsEquation() ? "So both sides stay equal." : "What does each side become?");
     PageEnd();
-    sheet_.WriteSum(RowOf(addition.after), statement_.relation);
-    SayAnew(removed + " and " + added + " add up to 0, so only " +
-            SideText(number ? addition.after.left : addition.after.right, letter_) +
-            " is left on the " + (number ? "left" : "right") + "-hand side.");
-    SayMore(std::string("On the ") + (number ? "right" : "left") + "-hand side:");
-    wbisPrint("   " + (number ? SumOfNumbers(addition) : SumOfTerms(addition)));
+    WriteSum(sheet_, addition);
+    SayInBoxAnew(Text("{} and {} add up to 0.", removed, added));
+    SayInBox(Text("On the {} side, {}.", number ? "right" : "left",
+                  number ? SumOfNumbers(addition) : SumOfTerms(addition)));
+    PageEnd();
+  }
+
+  // Once is enough, behind one addition or two.
+  void TellThatAddingKeeps() {
+    SayInBoxAnew(Text("By the {}, the {} stays as it is.",
+                      Words{"Addition and Subtraction Properties for Inequalities"},
+                      statement_.relation));
     PageEnd();
   }
 
@@ -159,39 +197,29 @@ class LinearExplanation {
   }
 
   void Divide() {
-    const std::string a = NumStr(isolated_.left.coef);
-    const std::string term = TermText(isolated_.left.coef, letter_);
+    const int a = isolated_.left.coef;
     sheet_.MakeRoom(RowsToSolution());
-    SayAnew((isolated_.left.coef == -1
-                 ? "Remember that " + term + " means " + a + tutor::Dot + letter_ + "."
-                 : "Now " + letter_ + " is multiplied by " + a + ".") +
-            R"(  To remove the coefficient \b)" + a + R"(\z, we divide both sides by \b)" + a +
-            R"(\z.)");
-    const QuotientRow quotients = {term, NumStr(isolated_.right.number), a};
+    const std::string state =
+        a == -1 ? Text("{} means {}.", TermText(a, letter_), "-1" + tutor::Dot + letter_)
+                : Text("Now {} is multiplied by {}.", letter_, a);
+    SayInBoxAnew(Text(R"({}  We divide both sides by the coefficient \b{}\z.)", Words{state}, a));
     if (statement_.IsEquation()) {
-      SayMore("Both sides are divided by the same number, so they stay equal.");
-      sheet_.WriteQuotients(quotients, statement_.relation);
+      WriteDivision(sheet_, isolated_, statement_.relation);
     } else {
-      SayMore("But what becomes of the " + statement_.relation + "?");
-      sheet_.WriteQuotients(quotients, " ");
+      SayInBox(Text("What becomes of the {}?", statement_.relation));
+      WriteDivision(sheet_, isolated_, " ");
       PageEnd();
-      TurnRelation();
+      TellTheSymbol();
     }
     PageEnd();
   }
 
-  void TurnRelation() {
-    const std::string a = NumStr(isolated_.left.coef);
-    if (isolated_.left.coef > 0) {
-      SayAnew(a + R"( is a \bpositive\z number.)");
-      SayMore("When both sides are divided by a positive number, the " + statement_.relation +
-              " stays as it is.");
-    } else {
-      SayAnew(a + R"( is a \rnegative\z number.)");
-      SayMore(
-          R"(When both sides are divided by a negative number, the relation \rturns around\z: )" +
-          statement_.relation + " becomes " + solution_.relation + ".");
-    }
+  void TellTheSymbol() {
+    const int a = isolated_.left.coef;
+    SayInBoxAnew(Text(R"({} is a \b{}\z number.)", a, a > 0 ? "positive" : "negative"));
+    SayInBox(a > 0 ? Text("So the {} stays as it is.", statement_.relation)
+                   : Text("So the inequality symbol is reversed:  {} becomes {}.",
+                          statement_.relation, solution_.relation));
     sheet_.WriteRelation(solution_.relation, platform::colour::Yellow);
   }
 
@@ -203,10 +231,7 @@ class LinearExplanation {
   bool Reduces() const {
     return !Whole() && solution_.value != Fraction{isolated_.right.number, isolated_.left.coef};
   }
-  double RowsToSolution() const {
-    if (Whole()) return kDivisionRows;
-    return kDivisionToFractionRows + (Reduces() && Mixed() ? kFractionRows : 0);
-  }
+  double RowsToSolution() const { return Whole() ? kDivisionRows : kDivisionToFractionRows; }
 
   void WriteValue(const std::string& value) {
     sheet_.WriteSolved(letter_, solution_.relation, value);
@@ -214,55 +239,72 @@ class LinearExplanation {
 
   // From the quotients, or from the last sum when there was nothing to divide by, to the solution.
   void Finish() {
-    SayAnew("");
     if (isolated_.left.coef != 1) {
-      if (Whole()) FinishWhole();
-      SayBullet("We know that 1" + letter_ + " is equal to just " + letter_ + ".");
-      if (!Whole()) FinishFraction();
+      SayInBoxAnew("");
+      if (Whole())
+        FinishWhole();
+      else
+        FinishFraction();
+      PageEnd();
     }
     sheet_.MarkSolution();
-    SayMore("We are done now since we have isolated the variable " + letter_ + ".");
+    SayInBoxAnew("We are done now since we have isolated the variable " + letter_ + ".");
     PageEnd();
+  }
+
+  void SayThatOneIsSilent() {
+    SayBullet("We know that 1" + letter_ + " is equal to just " + letter_ + ".");
   }
 
   void FinishWhole() {
     const int value = solution_.value.num;
-    const std::string a = NumStr(isolated_.left.coef);
-    const std::string product = NumStr(isolated_.right.number);
     WriteValue(NumStr(value));
-    SayBullet(product + " divided by " + a + " is " + NumStr(value) + ", since " +
-              WithoutBreaks(" " + a + tutor::Dot + InParentheses(value) + " = " + product + "."));
+    SayBullet(WithoutBreaks(ProductText(isolated_.left.coef, value) + " = " +
+                            NumStr(isolated_.right.number) + "."));
+    SayThatOneIsSilent();
   }
 
   void FinishFraction() {
-    const Fraction& value = solution_.value;
-    const std::string reduced = ValueText(value);
+    const std::string reduced = ValueText(solution_.value);
+    SayThatOneIsSilent();
     if (Reduces() || !Mixed()) WriteValue(reduced);
     if (Reduces())
-      SayBullet("In lowest terms, and with its sign in front, " +
-                FractionOfTexts(NumStr(isolated_.right.number), NumStr(isolated_.left.coef)) +
-                " is " + reduced + ".");
+      SayBullet(Text("{}, {} is {}.", Words{HowItReduces()},
+                     FractionOfTexts(NumStr(isolated_.right.number), NumStr(isolated_.left.coef)),
+                     reduced));
     if (!Mixed()) return;
+    const std::string mixed = MixedText(solution_.value);
     if (Reduces()) {
       PageEnd();
-      SayAnew("");
+      SayInBoxAnew("");
+      sheet_.ReplaceSolved(letter_, solution_.relation, mixed);
+    } else {
+      WriteValue(mixed);
     }
-    WriteValue(MixedText(value));
-    const int size = std::abs(value.num);
-    SayBullet(NumStr(size) + " divided by " + NumStr(value.den) + " is " +
-              NumStr(size / value.den) + " with " + NumStr(size % value.den) + " left over, so " +
-              reduced + " = " + MixedText(value) + ".");
+    const int size = std::abs(solution_.value.num);
+    const int den = solution_.value.den;
+    SayBullet(Text("{} {} {} is {} with {} left over.", size, tutor::Divided, den, size / den,
+                   size % den));
+    SayBullet(Text("{}.", reduced + " = " + mixed));
+  }
+
+  std::string HowItReduces() const {
+    const int num = isolated_.right.number;
+    const bool toLowest = std::abs(num) != std::abs(solution_.value.num);
+    if (isolated_.left.coef > 0) return "In lowest terms";
+    const std::string sign = num < 0 ? "without the two signs" : "with its sign in front";
+    if (toLowest) return "In lowest terms, and " + sign;
+    return "W" + sign.substr(1);
   }
 
   // --- The check and the choice ------------------------------------------------------------------
 
   void CheckEquation() {
     const int value = solution_.value.num;
-    SayAnew("Check:  we put " + NumStr(value) + " in place of " + letter_ + ".");
+    SayInBoxAnew(Text("Check:  we put {} in place of {}.", value, letter_));
     SaySubstituted(statement_, value);
-    SayMore(R"(Both sides are the same number, so the solution is \b)" + SolutionText(statement_) +
-            R"(\z.)");
     PageEnd();
+    SayInBox(ConclusionText(problem_, 'b'));
   }
 
   // With the whole numbers next to the value on either side of it.
@@ -271,34 +313,22 @@ class LinearExplanation {
     const int above = Whole() ? below + 2 : below + 1;
     const int inside = Upwards() ? above : below;
     const int outside = Upwards() ? below : above;
-    SayAnew("Check:  " + NumStr(inside) + " is one of the numbers with " +
-            SolutionText(statement_) + ".");
-    SaySubstituted(statement_, inside, R"(   \btrue\z)");
+    SayInBoxAnew(Text("Check:  {} should make it true.", inside));
+    SaySubstituted(statement_, inside);
     PageEnd();
-    SayAnew(NumStr(outside) + " is not one of them.");
-    SaySubstituted(statement_, outside, R"(   \rfalse\z)");
+    SayInBoxAnew(Text("And {} should make it false.", outside));
+    SaySubstituted(statement_, outside);
     PageEnd();
-  }
-
-  // An equation's check has named the solution already.
-  void Conclude() {
-    const std::string answer = problem_.choices[static_cast<std::size_t>(problem_.correct)].text;
-    const bool none = problem_.correct == 5;
-    if (statement_.IsEquation() && !none) return;
-    SayAnew(R"(The solution is \b)" + SolutionText(statement_) + R"(\z.)");
-    if (!statement_.IsEquation()) SayMore(Meaning());
-    if (none)
-      SayMore(answer + R"( is not among the choices, so the right one is \b)" + kNoneOfTheAbove +
-              R"(\z.)");
-    PageEnd();
+    SayInBoxAnew(Meaning());
+    SayInBox(ConclusionText(problem_, 'b'));
   }
 
   std::string Meaning() const {
     const bool closed =
         solution_.relation == tutor::LessOrEqual || solution_.relation == tutor::GreaterOrEqual;
-    return "It stands for " + (closed ? MixedText(solution_.value) + " and " : "") +
-           "all numbers that are " + (Upwards() ? "greater" : "less") + " than " +
-           (closed ? "that." : MixedText(solution_.value) + ".");
+    const std::string value = MixedText(solution_.value);
+    if (closed) return Text("{} and all {} numbers fit.", value, Upwards() ? "greater" : "smaller");
+    return Text("All numbers {} than {} fit.", Upwards() ? "greater" : "less", value);
   }
 
   bool Upwards() const {
@@ -342,29 +372,49 @@ EquationSheet SheetFor(const LinearStatement& statement) {
   return {kSheetTop, kSheetBottom, RowsOf(statement)};
 }
 
+void WriteStatement(EquationSheet& sheet, const LinearStatement& statement) {
+  sheet.Write(RowOf(statement), statement.relation);
+}
+
+void WriteAddend(EquationSheet& sheet, const Addition& addition) {
+  sheet.AddUnder(AddendRow(addition.term, addition.before.letter));
+}
+
+void WriteSum(EquationSheet& sheet, const Addition& addition) {
+  sheet.WriteSum(RowOf(addition.after), addition.after.relation);
+}
+
+void WriteAddition(EquationSheet& sheet, const Addition& addition) {
+  WriteAddend(sheet, addition);
+  WriteSum(sheet, addition);
+}
+
+void WriteDivision(EquationSheet& sheet, const LinearStatement& isolated,
+                   const std::string& relation) {
+  sheet.WriteQuotients({TermText(isolated.left.coef, isolated.letter),
+                        NumStr(isolated.right.number), NumStr(isolated.left.coef)},
+                       relation);
+}
+
+void ShowStatement(const LinearStatement& statement, const Problem& problem) {
+  SayAt(kAskedRow, problem.question[0]);
+  EquationSheet sheet(kAskedStatementRow, kAskedStatementRow, {RowOf(statement)});
+  WriteStatement(sheet, statement);
+}
+
 void OpenWordBox() {
-  wbPrepare(kBoxRow, kBoxWidth, kBoxHeight, platform::colour::White, platform::colour::Black);
-  wbShow();
-}
-
-void SayAnew(const std::string& paragraph) {
-  if (!frmPR->wiperText.Transcript().empty()) wbWipeAndErase(kWipeSpeed);
-  if (!paragraph.empty()) wbWordWrap(paragraph);
-}
-
-void SayMore(const std::string& paragraph) {
-  if (!frmPR->wiperText.Transcript().empty()) wbisPrintLines(0.5);
-  wbWordWrap(paragraph);
+  page::WhiteBox({.row = kBoxRow});
 }
 
 void SayBullet(const std::string& text) {
   wbWordWrapIndent(tutor::Bullet + " " + text, kBulletIndent);
 }
 
-void SaySubstituted(const LinearStatement& statement, int value, const std::string& verdict) {
+void SaySubstituted(const LinearStatement& statement, int value) {
   const std::vector<SidePair> lines = SubstitutedLines(statement, value);
   std::size_t width = 0;
   for (const auto& [left, right] : lines) width = std::max(width, left.size());
+  const std::string verdict = IsTrueFor(statement, value) ? R"(   \btrue\z)" : R"(   \rfalse\z)";
   for (const SidePair& line : lines) {
     const auto& [left, right] = line;
     wbWordWrap(std::string(2 + width - left.size(), tutor::Gap[0]) + left + " " +

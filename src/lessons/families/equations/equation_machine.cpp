@@ -17,6 +17,15 @@ constexpr int kLargestNumber = 15;
 constexpr int kLargestFiller = 38;  // no answer is larger
 constexpr double kFillerShare = 0.5;
 
+const std::string kMovesNumber =
+    "moves the number on the right to the left without changing its sign";
+const std::string kMovesSide = "moves the right side to the left without changing its signs";
+const std::string kWrongOrder = "subtracts the numbers in the wrong order";
+const std::string kWrongSign = "gives the quotient the wrong sign";  // when nothing is subtracted
+const std::string kForgetsToReverse = "forgets to reverse the inequality symbol";
+const std::string kReversesForNothing =
+    "reverses the inequality symbol without dividing by a negative number";
+
 LinearSide operator+(const LinearSide& a, const LinearSide& b) {
   return {a.coef + b.coef, a.number + b.number};
 }
@@ -51,17 +60,21 @@ class LinearChoices {
     problem_.kind = choice_kind::FourShuffledAndNone;
     problem_.Right(1, Text(1, solution_.value));
     if (statement_.IsEquation())
-      Wrong(2, "moves the right number across with its sign", Reduced(-(b + c), a - d));
+      Wrong(2, b == 0 ? kWrongSign : kMovesNumber, Reduced(-(b + c), a - d));
     else
-      Wrong(2, a < d ? "keeps the relation" : "reverses the relation", solution_.value);
-    Wrong(3, "subtracts the numbers the wrong way round", Reduced(b - c, a - d));
+      Wrong(2, a < d ? kForgetsToReverse : kReversesForNothing, solution_.value);
+    Wrong(3, b == 0 ? kWrongSign : kWrongOrder, Reduced(b - c, a - d));
     if (random_.Rnd() < kFillerShare) Fill(3);
-    Wrong(4,
-          statement_.IsEquation()
-              ? "moves the whole right side across with its signs"
-              : "moves the whole right side across, the relation turned wrongly",
+    Wrong(4, statement_.IsEquation() ? kMovesSide : MovesSideToReversed(a, d),
           Reduced(-(b + c), a + d));
     Fill(5);
+  }
+
+  // Slot 4 has the relation of the right answer reversed.  Who ends with (a + d)x and divides as he
+  // should comes to it when a + d and a - d differ in sign; otherwise he errs once more.
+  static std::string MovesSideToReversed(int a, int d) {
+    if ((a + d < 0) != (a - d < 0)) return kMovesSide;
+    return kMovesSide + (a + d < 0 ? " and keeps the symbol" : " and reverses the symbol");
   }
 
   // Equal texts are equal values here.  All five slots take part, since the fifth can be shown yet.
@@ -163,7 +176,10 @@ LinearStatement IsolatedOf(const LinearStatement& statement) {
   return additions.empty() ? statement : additions.back().after;
 }
 
-void SetLinearChoices(Problem& problem, const LinearStatement& statement, RandomStream& random) {
+void SetLinearProblem(Problem& problem, const LinearStatement& statement, RandomStream& random) {
+  const std::string kind = statement.IsEquation() ? "equation" : "inequality";
+  problem.question = {"Solve the following " + kind + " for " + statement.letter + ".",
+                      StatementText(statement, "  ")};
   LinearChoices(problem, statement, random).Set();
 }
 

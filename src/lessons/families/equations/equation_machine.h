@@ -1,9 +1,21 @@
 // The machine behind the lessons on linear equations and inequalities: a statement a x + b = d x +
 // c as text, its solution step by step, and the choices that go with it.
 //
-// It stands above the folders of the units because the equations of unit 3 and the inequalities of
-// unit 10 are the same machine.  A lesson draws the numbers itself and rejects what it does not
-// want; equation_sheet.h writes the solution on the screen, equation_explanation.h explains it.
+//   lesson               draws                   explains
+//   with 1 operation     a = 1, or b = 0; d = 0  one addition or one division
+//   with 2 operations    d = 0                   an addition, a division
+//   more complex ones    all four                two additions, a division
+//   inequalities         all four, a relation    the same, and when the symbol is reversed
+//
+// A lesson does four things:
+//   1. DrawProblem draws the numbers itself (DrawCoefficient, DrawNumber), throws away what it does
+//      not want (SizesDiffer, HasWholeSolution), and ends with SetLinearProblem.
+//   2. ShowProblem calls ShowStatement (equation_explanation.h), then the answer boxes.
+//   3. ExplainProblem is ExplainLinear, for all four lessons.
+//   4. Its teaching screens write statements of their own on an EquationSheet, by SheetFor,
+//      WriteStatement, WriteAddition and WriteDivision, with words in the box of OpenWordBox.
+//
+// The judge is tools/lesson_check/judges/linear_statement.cpp, which knows every mistake.
 #pragma once
 
 #include <string>
@@ -76,9 +88,10 @@ LinearStatement IsolatedOf(const LinearStatement& statement);
 
 // --- Choices -------------------------------------------------------------------------------------
 
-// Fills the five choices, of which "None of the above" is right in a fifth of all problems: the
-// fifth choice then holds the true answer, and no box shows it.  A choice is the bare number, in an
-// inequality led by letter and relation.
-void SetLinearChoices(Problem& problem, const LinearStatement& statement, RandomStream& random);
+// Writes the question, "Solve the following equation for x." and the statement, and fills the five
+// choices by the recipe of the course, its draws in a fixed order.  "None of the above" is right in
+// a fifth of all problems: the fifth choice then holds the true answer, and no box shows it.  A
+// choice is the bare number, in an inequality led by letter and relation.
+void SetLinearProblem(Problem& problem, const LinearStatement& statement, RandomStream& random);
 
 }  // namespace course::equations

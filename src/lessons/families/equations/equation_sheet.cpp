@@ -8,7 +8,8 @@
 #include "display/grid.h"
 #include "display/print.h"
 #include "display/stacked_text.h"
-#include "display/word_wrap.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/slides.h"
 
 namespace course::equations {
 namespace {
@@ -23,8 +24,9 @@ constexpr double kToAddend = 1;
 constexpr double kToBar = 1.9;
 constexpr double kToSum = 2.5;
 constexpr double kLineToLine = 1.5;
-constexpr double kLineToFraction = 2.5;  // to the middle one of its three rows, and from there
-constexpr double kFractionToFraction = 3.25;
+constexpr double kToKeptRow = 2;             // from the first row to the one carried up
+constexpr double kLineToFraction = 2.5;      // to the middle one of its three rows, and from there
+constexpr double kFractionToFraction = 3.5;  // half a row of air, or three numbers read as one
 
 constexpr int kBarThickness = 2;  // pixels
 
@@ -72,8 +74,9 @@ void EquationSheet::AddUnder(const SheetRow& terms) {
   const int shift = kLastCol - columns_.rightNumber;
   row_ += kToAddend;
   WriteCells(terms, shift, platform::colour::Yellow);
-  Anim2(row_, columns_.first + shift, columns_.rightNumber - columns_.first + 1, 1, 3, shift,
-        kAnimSpeed, 1);
+  page::SlideLeft({row_, static_cast<double>(columns_.first + shift),
+                   static_cast<double>(columns_.rightNumber - columns_.first + 1)},
+                  shift, page::Leaving::Nothing, page::Pace::Brisk);
   row_ -= kToAddend;
   isDrawHorizLine(row_ + kToBar, columns_.first, kLeftEndCol, kBarThickness);
   isDrawHorizLine(row_ + kToBar, kRightStartCol, columns_.rightNumber, kBarThickness);
@@ -101,6 +104,17 @@ void EquationSheet::WriteRelation(const std::string& relation, platform::Colour 
 void EquationSheet::WriteSolved(const std::string& letter, const std::string& relation,
                                 const std::string& value) {
   GoDown(value.find('/') != std::string::npos);
+  WriteSolvedHere(letter, relation, value);
+}
+
+void EquationSheet::ReplaceSolved(const std::string& letter, const std::string& relation,
+                                  const std::string& value) {
+  page::ClearRows(row_ - 1, 3);
+  WriteSolvedHere(letter, relation, value);
+}
+
+void EquationSheet::WriteSolvedHere(const std::string& letter, const std::string& relation,
+                                    const std::string& value) {
   PrintEndingAt(row_, columns_.leftTerm, letter, platform::colour::White);
   WriteRelation(relation);
   const int width = StackedTextWidth(value);
@@ -111,13 +125,15 @@ void EquationSheet::WriteSolved(const std::string& letter, const std::string& re
 
 void EquationSheet::MarkSolution() {
   Locate(row_, std::min(endCol_ + kToSolution, kSolutionCol));
-  WordWraps(R"(\ySOLUTION\z)");
+  isColorPrints("SOLUTION", platform::colour::Yellow);
 }
 
 void EquationSheet::MakeRoom(double rows) {
   if (row_ + rows <= lastRow_) return;
-  WipeAndErase("U", row_, row_ - firstRow_, kAnimSpeed);
-  row_ = firstRow_;
+  const double under = firstRow_ + kToKeptRow;
+  WipeAndErase("U", row_, row_ - under, kAnimSpeed);
+  page::ClearRows(firstRow_ + 1, kToKeptRow - 1);
+  row_ = under;
 }
 
 void EquationSheet::GoDown(bool toFraction) {

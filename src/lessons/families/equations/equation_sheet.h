@@ -61,15 +61,20 @@ class EquationSheet {
   // The letter alone against a value, whose n/d is built up: "5", "-5/2", "-2 1/2".
   void WriteSolved(const std::string& letter, const std::string& relation,
                    const std::string& value);
+  // The same in place of the fraction that was written so.
+  void ReplaceSolved(const std::string& letter, const std::string& relation,
+                     const std::string& value);
   // SOLUTION beside the row written last.
   void MarkSolution();
 
-  // Carries the row written last to the top, over those before it, when fewer than so many rows are
-  // left under it.
+  // Carries the row written last up, over those before it, when fewer than so many rows are left
+  // under it.  The first row stays: it is the problem.
   void MakeRoom(double rows);
 
  private:
   void GoDown(bool toFraction);
+  void WriteSolvedHere(const std::string& letter, const std::string& relation,
+                       const std::string& value);
   void WriteCells(const SheetRow& row, int shift, platform::Colour colour);
   int StartOf(int width) const;
 
