@@ -26,7 +26,11 @@ struct Piece {
 };
 
 // Rows are told apart by halves: text between two rows is a line of its own.
-using Rows = std::map<long, std::vector<Piece>>;
+struct Row {
+  std::vector<Piece> pieces;
+  bool inCells = true;  // all of its pieces are
+};
+using Rows = std::map<long, Row>;
 
 bool Covers(const Fragment& fragment, const Piece& piece) {
   constexpr double kShared = 0.3;  // of a cell: less is a touch
@@ -37,15 +41,16 @@ bool Covers(const Fragment& fragment, const Piece& piece) {
 void TakeAwayUnder(const Fragment& fragment, long row, Rows& rows) {
   const long first = std::lround(fragment.col);
   const long last = first + static_cast<long>(fragment.text.size()) - 1;
-  for (auto& [key, pieces] : rows) {
-    std::erase_if(pieces, [&](const Piece& piece) {
+  for (auto& [key, other] : rows) {
+    if (fragment.InCells() && other.inCells && key != row) continue;
+    std::erase_if(other.pieces, [&](const Piece& piece) {
       if (!fragment.InCells() || !piece.inCells) return Covers(fragment, piece);
       return key == row && piece.cell >= first && piece.cell <= last;
     });
   }
 }
 
-void Add(const Fragment& fragment, std::vector<Piece>& pieces) {
+void Add(const Fragment& fragment, Row& row) {
   Piece piece;
   piece.text = fragment.text;
   piece.colour = fragment.colour;
@@ -56,13 +61,14 @@ void Add(const Fragment& fragment, std::vector<Piece>& pieces) {
   piece.bottom = fragment.Bottom();
   piece.inCells = fragment.InCells();
   piece.fraction = fragment.whole && fragment.text.find('/') != std::string::npos;
-  if (!piece.inCells) return pieces.push_back(piece);
+  row.inCells = row.inCells && piece.inCells;
+  if (!piece.inCells) return row.pieces.push_back(piece);
   long cell = std::lround(fragment.col);
   for (const char c : fragment.text) {
     piece.text = c;
     piece.cell = cell++;
     piece.right = piece.col + 1;
-    pieces.push_back(piece);
+    row.pieces.push_back(piece);
     piece.col = piece.right;
   }
 }
@@ -127,9 +133,11 @@ std::vector<TextLine> TextLinesOf(const std::vector<Fragment>& fragments) {
     Add(fragment, rows[row]);
   }
   std::vector<TextLine> lines;
-  for (auto& [row, pieces] : rows) {
-    std::ranges::stable_sort(pieces, {}, &Piece::col);
-    LineWriter writer(static_cast<double>(row) / 2);
+  for (auto& [key, row] : rows) {
+    std::vector<Piece>& pieces = row.pieces;
+    if (!std::ranges::is_sorted(pieces, {}, &Piece::col))
+      std::ranges::stable_sort(pieces, {}, &Piece::col);
+    LineWriter writer(static_cast<double>(key) / 2);
     for (const Piece& piece : pieces) writer.Write(piece);
     TextLine line = writer.Take();
     if (!line.text.empty()) lines.push_back(std::move(line));

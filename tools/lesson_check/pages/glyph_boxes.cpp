@@ -63,7 +63,11 @@ bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
 // Builds up what stands from the fragments, in the order in which they were printed.
 class Standing {
  public:
-  explicit Standing(const TextPanel& panel) : panel_(panel) {}
+  explicit Standing(const TextPanel& panel) : panel_(panel) {
+    std::size_t letters = 0;
+    for (const Fragment& fragment : panel.Transcript()) letters += fragment.text.size();
+    glyphs_.reserve(letters);
+  }
 
   void Print(const Fragment& fragment) {
     const std::vector<Glyph> printed = GlyphsOf(panel_, fragment);
