@@ -253,7 +253,7 @@ void AllRulesTogether() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, "Now we use all the rules.  Try to be faster than the page.");
+  SayAt(3, "Now we use all the rules.");
   WorkOutAloud(ExpressionOf("3*[20-(4+8)/2]"), 6);
   SayAt(kReasonRow, R"(The value of the expression is \y42\z.)");
   PageEnd();
