@@ -1,5 +1,6 @@
 #include "display/graphs.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "display/drawing.h"
@@ -60,10 +61,12 @@ void picGraph2DPrepare(int index, double row, double col, double wd, double ht) 
   figure.BackColor = platform::colour::White;
   figure.Cls();
   figure.Refresh();
+  frmPR->figureItems.at(static_cast<std::size_t>(index)).clear();
 }
 
 void picGraph2DShowPlane(int index, const std::string& numbers, bool thin) {
   platform::PictureBox& figure = Figure("picGraph2DShowPlane", index);
+  figure.SetAccessibleName("Coordinate plane");
   figure.FontSize = kLabelSize;
   figure.SetVisible(true);
   figure.Scale(-6.5, 6.5, 6.5, -6.5);
@@ -89,6 +92,7 @@ void picGraph2DShowNumberLine(int index, const std::string& style, double u) {
   if (!arrows && wanted != "NOARROWS")
     platform::Stop("picGraph2DShowNumberLine: style = \"" + style + "\"");
   if (u <= 0) platform::Stop("picGraph2DShowNumberLine: u = " + NumStr(u));
+  figure.SetAccessibleName("Number line");
   figure.FontSize = kLabelSize;
   figure.SetVisible(true);
   figure.Scale(-4 * u, 3, 4 * u, -3);
@@ -116,6 +120,7 @@ void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,
   figure.FillColor = keptColour;
   figure.FillStyle = keptStyle;
   figure.Refresh();
+  KeepFigureItem(index, PointItem(x, y));
 }
 
 void picGraph2DLine(int index, double m, double b, platform::Colour colour, int width) {
@@ -124,6 +129,7 @@ void picGraph2DLine(int index, double m, double b, platform::Colour colour, int 
   figure.Line(-100, b - 100 * m, 100, b + 100 * m, colour);
   figure.DrawWidth = 1;
   figure.Refresh();
+  KeepFigureItem(index, LineItem(m, b));
 }
 
 void picGraph2DPrintRotated(int index, double angle, double x, double y, const std::string& text,
@@ -131,6 +137,16 @@ void picGraph2DPrintRotated(int index, double angle, double x, double y, const s
   platform::PictureBox& figure = Figure("picGraph2DPrintRotated", index);
   figure.PrintRotated(text, x, y, angle, colour, font.empty() ? "Arial" : font, size, true);
   figure.Refresh();
+}
+
+void KeepFigureItem(int index, const FigureItem& item) {
+  std::vector<FigureItem>& items = frmPR->figureItems.at(static_cast<std::size_t>(index));
+  const auto kept =
+      std::ranges::find_if(items, [&](const FigureItem& old) { return SamePlace(old, item); });
+  if (kept == items.end())
+    items.push_back(item);
+  else if (!item.label.empty())
+    kept->label = item.label;
 }
 
 double Atn2Degrees(double slope) {

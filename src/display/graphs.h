@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "display/figure_item.h"
 #include "platform/geometry.h"
 
 namespace course {
@@ -22,6 +23,10 @@ void picGraph2DLine(int index, double m, double b, platform::Colour colour, int 
 // A label at an angle in degrees; size in points; an empty font is "Arial".
 void picGraph2DPrintRotated(int index, double angle, double x, double y, const std::string& text,
                             platform::Colour colour, double size, const std::string& font = "");
+// Keeps what was drawn into a figure by other means than the routines above, which keep their
+// points and lines themselves, until the next picGraph2DPrepare.  The same thing again is kept
+// once, with the label that it got last.
+void KeepFigureItem(int index, const FigureItem& item);
 // The angle of a line, with 6.2832 for two pi.
 double Atn2Degrees(double slope);
 

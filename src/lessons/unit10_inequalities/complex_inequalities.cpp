@@ -283,12 +283,7 @@ void ComplexInequalities::DrawProblem(RandomStream& random) {
 
 void ComplexInequalities::DrawGraph() const {
   DrawNumberLine(OnProblemPage() ? kProblemGraphRow : kExplanationGraphRow, kGraphCol);
-  if (union_) {
-    DrawGraphOnLine(low_, kFarLeft);
-    DrawGraphOnLine(high_, kFarRight);
-  } else {
-    DrawGraphOnLine(low_, high_);
-  }
+  DrawOnLine(problem.figure);
 }
 
 void ComplexInequalities::ShowProblem() {

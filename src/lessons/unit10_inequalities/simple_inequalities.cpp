@@ -97,10 +97,7 @@ void SimpleInequalities::DrawProblem(RandomStream& random) {
     else
       problem.Wrong(slot, MistakeOf(slot), text);
   }
-  problem.figure = {{"ray",
-                     {{"from", WholeOf(startValue_)},
-                      {"closed", Open() ? 0 : 1},
-                      {"direction", PointsRight() ? 1 : -1}}}};
+  problem.figure = {GraphItem(startValue_, endValue_)};
 }
 
 std::string SimpleInequalities::MistakeOf(int slot) const {
@@ -118,7 +115,7 @@ void SimpleInequalities::ShowGraph() {
     DrawNumberLine(5, 3);
   else
     DrawNumberLine(3, 4);
-  DrawGraphOnLine(startValue_, endValue_);
+  DrawOnLine(problem.figure);
 }
 
 void SimpleInequalities::ShowProblem() {

@@ -4,6 +4,10 @@
 // added to its value: the fractional part is the only record of "open".
 #pragma once
 
+#include <vector>
+
+#include "display/figure_item.h"
+
 namespace course::graphs {
 
 inline constexpr int kFarLeft = -8;  // the far ends of an arrow, beyond the ticks
@@ -17,8 +21,12 @@ int WholeOf(double value);
 // the lesson's cell grid; the figure is 33 columns wide and 2.9 rows high.  Up to five of them, by
 // their index, stand on one page.
 void DrawNumberLine(double row, double col, int index = 1);
-// Draws the point at start and an arrow towards a far end, or the segment to an end between the
-// ticks.  Several graphs can share a number line.
+// The ray from a value to a far end, or the segment to an end between the ticks.
+FigureItem GraphItem(double start, double end);
+// Draws rays, segments, and points with their letters above them.  Several can share a number line.
+// What a problem shows is drawn by DrawOnLine(problem.figure).
+void DrawOnLine(const std::vector<FigureItem>& items, int index = 1);
+// The same for one GraphItem, on a teaching page.
 void DrawGraphOnLine(double start, double end, int index = 1);
 
 }  // namespace course::graphs

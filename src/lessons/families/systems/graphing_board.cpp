@@ -44,13 +44,13 @@ void Plot(int x, int y, platform::Colour colour) {
 }
 
 void DrawLine(const LinearEquation& equation, int line, const std::string& label) {
-  DrawPlaneLine(kPlane, equation.Slope(), equation.Intercept(), ColourOfLine(line));
-  LabelPlaneLine(kPlane, equation.Slope(), equation.Intercept(), label, ColourOfLine(line));
+  DrawOnPlane(kPlane, {LineItem(equation.Slope(), equation.Intercept(), label)},
+              ColourOfLine(line));
 }
 
 void PlotTwoPoints(const LinearEquation& equation, int line) {
   const int intercept = equation.Intercept();
-  DrawSlopeStep(kPlane, 0, intercept, equation.Slope(), platform::colour::Black);
+  DrawOnPlane(kPlane, {StepItem(0, intercept, 1, equation.Slope())});
   Plot(0, intercept, ColourOfLine(line));
   Plot(1, intercept + equation.Slope(), ColourOfLine(line));
 }
@@ -62,7 +62,7 @@ void ShowBothLines(const LinearSystem& system) {
 }
 
 void MarkCrossing(int x, int y) {
-  DrawPlaneGuides(kPlane, x, y, kCrossing);
+  DrawOnPlane(kPlane, {GuidesItem(x, y)}, kCrossing);
   picGraph2DPlotPoint(kPlane, x, y, kCrossing, kCrossingRadius);
 }
 
