@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "display/panel_views.h"
+#include "engine/figure_words.h"
 #include "platform/painting.h"
 
 namespace course {
@@ -99,8 +100,10 @@ void UpdateAccessibleTexts() {
   if (platform::PaintingOff::Active()) return;  // no screen, no screen reader
   for (const PanelView& view : ShownPanels(*frmPR)) {
     switch (view.kind) {
-      case PanelKind::Table:
       case PanelKind::Figure:
+        view.control->SetAccessibleText(WordsOf(*view.items));
+        break;
+      case PanelKind::Table:
       case PanelKind::Picture:  // has its description
         break;
       case PanelKind::Note:  // is read from its label

@@ -6,7 +6,8 @@
 
 namespace course {
 
-// Texts of the panel and of the shown answer boxes ("A: x < 3"), from their transcripts.
+// Texts of the panel and of the shown answer boxes ("A: x < 3"), from their transcripts; of figures
+// from what is kept of them.
 void UpdateAccessibleTexts();
 
 // The text with the course's own characters in words, since a screen reader knows none of them.

@@ -7,6 +7,7 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -32,6 +33,8 @@ struct Reading {
   std::vector<std::string> faults;
   // What kind of problem this is, for the summary.  Absent, the form of the question tells.
   std::string kind;
+  // What the figures of the explanation's last page have to show.  Absent, problem.figure.
+  std::optional<std::vector<course::FigureItem>> figureAtEnd;
   // Name of a mistake, and the values to which it can lead here.
   std::map<std::string, std::vector<std::string>> mistakes;
 

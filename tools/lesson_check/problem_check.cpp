@@ -48,7 +48,7 @@ std::string NumberText(double number) {
 std::string FigureText(const Problem& problem) {
   std::string text;
   for (const course::FigureItem& item : problem.figure) {
-    text += "\n" + item.shape;
+    text += "\n" + item.shape + (item.label.empty() ? "" : "," + item.label);
     for (const auto& [name, value] : item.values) text += "," + name + "=" + NumberText(value);
   }
   return text;

@@ -17,6 +17,7 @@ Json FigureOf(const course::Problem& problem) {
   for (const course::FigureItem& item : problem.figure) {
     Json drawn{{"shape", item.shape}};
     for (const auto& [name, value] : item.values) drawn[name] = value;
+    if (!item.label.empty()) drawn["label"] = course::ToUtf8(item.label);
     figure.push_back(drawn);
   }
   return figure;

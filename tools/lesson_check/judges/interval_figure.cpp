@@ -11,8 +11,7 @@ namespace {
 using course::FigureItem;
 
 int WholeValue(const FigureItem& item, const std::string& name) {
-  for (const auto& [key, value] : item.values)
-    if (key == name) return static_cast<int>(value);
+  if (const auto value = item.Find(name)) return static_cast<int>(*value);
   throw Unreadable("the " + item.shape + " of the figure has no value \"" + name + "\"");
 }
 

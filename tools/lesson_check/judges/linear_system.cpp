@@ -30,6 +30,11 @@ std::string PointText(const Rational& x, const Rational& y) {
   return "(" + x.get_str() + "," + y.get_str() + ")";
 }
 
+course::FigureItem FigureOf(const Line& line) {
+  if (line.b == 0) return course::UprightItem(Rational(line.c / line.a).get_d());
+  return course::LineItem(Rational(-line.a / line.b).get_d(), Rational(line.c / line.b).get_d());
+}
+
 // The solution and what follows from it; a system without a single one has its sentence.
 void Solve(const Line& first, const Line& second, Reading& reading) {
   const Rational determinant = first.a * second.b - second.a * first.b;
@@ -37,6 +42,7 @@ void Solve(const Line& first, const Line& second, Reading& reading) {
   const Rational forY = first.a * second.c - second.a * first.c;
   if (determinant == 0) {
     reading.answer = forX == 0 && forY == 0 ? kInfinite : kZero;
+    reading.figureAtEnd = {FigureOf(first), FigureOf(second)};
     return;
   }
   const Rational x = forX / determinant;
@@ -44,6 +50,8 @@ void Solve(const Line& first, const Line& second, Reading& reading) {
   if (first.a * x + first.b * y != first.c || second.a * x + second.b * y != second.c)
     throw Unreadable("the point of both lines lies on one of them only");
   reading.answer = PointText(x, y);
+  reading.figureAtEnd = {FigureOf(first), FigureOf(second),
+                         course::PointItem(x.get_d(), y.get_d())};
   reading.mistakes["exchanges the coordinates"] = {PointText(y, x)};
 }
 

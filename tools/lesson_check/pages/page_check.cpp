@@ -5,9 +5,12 @@
 #include <string_view>
 
 #include "display/panel_views.h"
+#include "engine/figure_words.h"
 #include "engine/header.h"
 #include "lesson_check/exact/notation.h"
+#include "lesson_check/exact/unreadable.h"
 #include "lesson_check/pages/entry.h"
+#include "lesson_check/pages/figure_check.h"
 #include "lesson_check/pages/mistakes_check.h"
 #include "lesson_check/pages/page_layout.h"
 #include "mathkit/tutor_codes.h"
@@ -52,8 +55,12 @@ std::string Quoted(const std::string& text) {
 // Everything that the checks of a page read, as bytes.
 class Look {
  public:
-  void Add(const platform::PictureBox& box, const course::TextPanel* text) {
+  void Add(const course::PanelView& view) {
+    const platform::PictureBox& box = *view.control;
+    const course::TextPanel* text = view.text;
     bytes_ += box.Name() + box.AccessibleText();
+    if (view.items != nullptr)
+      for (const course::FigureItem& item : *view.items) Add(item);
     for (const int twips : {box.Left(), box.Top(), box.Width(), box.Height()}) Add(twips);
     if (text == nullptr) return;
     for (const course::Fragment& fragment : text->Transcript()) {
@@ -67,6 +74,13 @@ class Look {
   std::string Take() { return std::move(bytes_); }
 
  private:
+  void Add(const course::FigureItem& item) {
+    bytes_ += item.shape + item.label + '\0';
+    for (const auto& [name, value] : item.values) {
+      bytes_ += name;
+      Add(value);
+    }
+  }
   template <class Number>
   void Add(Number number) {
     bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
@@ -77,8 +91,7 @@ class Look {
 
 std::string LookOf(course::LessonWindow& window) {
   Look look;
-  for (const course::PanelView& view : course::ShownPanels(window))
-    look.Add(*view.control, view.text);
+  for (const course::PanelView& view : course::ShownPanels(window)) look.Add(view);
   return look.Take() + course::BannerText();
 }
 
@@ -136,6 +149,9 @@ std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& prob
     return "it does not tell that " + Quoted(truth) + " is not among the choices";
   return "";
 }
+
+PageChecker::PageChecker(course::LessonScript& lesson)
+    : lesson_(lesson), judge_(JudgeOf(lesson.Title())) {}
 
 // A problem's explanation comes again as an example and in tests, and small lessons have few
 // problems.
@@ -197,6 +213,15 @@ void PageChecker::CheckQuestion(const PageText& page, const Complain& complain) 
   }
 }
 
+std::vector<course::FigureItem> PageChecker::FigureAtEnd() const {
+  try {
+    if (judge_ != nullptr)
+      if (const auto figure = judge_(drawn_.problem).figureAtEnd) return *figure;
+  } catch (const Unreadable&) {
+  }
+  return drawn_.problem.figure;
+}
+
 void PageChecker::CheckEnd(int entry, int seed, std::vector<PageText> pages,
                            const Complain& complain) {
   const PageText mistakes = TakeMistakesPage(pages);
@@ -208,6 +233,8 @@ void PageChecker::CheckEnd(int entry, int seed, std::vector<PageText> pages,
   }
   const std::string missing = MissingAtEnd(pages, drawn_.problem);
   if (!missing.empty()) complain("explanation: " + missing);
+  for (const std::string& fault : FigureFaultsOfExplanation(pages, drawn_.problem, FigureAtEnd()))
+    complain("explanation: " + fault);
 }
 
 void PageChecker::CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain) {
@@ -227,7 +254,8 @@ void PageChecker::CheckReview(int entry, int seed, const PageText& practice,
                               const Complain& complain) {
   const std::vector<PageText> review = Read(entry, seed, complain);
   if (review.empty() || WithoutBanner(review[0]).lines != WithoutBanner(practice).lines ||
-      review[0].answers != practice.answers)
+      review[0].answers != practice.answers ||
+      course::WordsOf(review[0].figure) != course::WordsOf(practice.figure))
     complain(NameOf(entry) + ": it is not the page of the practice problem");
 }
 
@@ -236,6 +264,8 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   const std::vector<PageText> problem = Read(mode::SameProblem, seed, complain);
   if (problem.empty()) return complain("problem: there is no page");
   CheckQuestion(problem[0], complain);
+  const std::string figure = FigureFault(problem[0], drawn_.problem);
+  if (!figure.empty()) complain("problem: " + figure);
   const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
   CheckEnd(mode::Explanation, seed, explanation, complain);
   CheckSameProblem(explanation, complain);

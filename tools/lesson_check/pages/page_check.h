@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/lesson_script.h"
+#include "lesson_check/judge.h"
 #include "lesson_check/pages/page_reader.h"
 #include "lesson_check/pages/page_style.h"
 #include "lesson_check/pages/page_text.h"
@@ -18,7 +19,7 @@ using Complain = std::function<void(const std::string& fault)>;
 
 class PageChecker {
  public:
-  explicit PageChecker(course::LessonScript& lesson) : lesson_(lesson) {}
+  explicit PageChecker(course::LessonScript& lesson);
 
   // The teaching screens, once a lesson.
   void CheckTeaching(const Complain& complain);
@@ -37,11 +38,15 @@ class PageChecker {
   const SeenPage& See();
   std::vector<PageText> Read(int entry, int seed, const Complain& complain);
   void CheckQuestion(const PageText& page, const Complain& complain);
+  // What the judge says of the last page's figures.  A problem that it cannot read has no such
+  // page, and is a fault of the drawing.
+  std::vector<course::FigureItem> FigureAtEnd() const;
   void CheckEnd(int entry, int seed, std::vector<PageText> pages, const Complain& complain);
   void CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain);
   void CheckReview(int entry, int seed, const PageText& practice, const Complain& complain);
 
   course::LessonScript& lesson_;
+  Judge judge_;
   course::LessonScript::DrawnProblem drawn_;
   PageReader reader_;
   PageStyle style_;

@@ -49,6 +49,8 @@ std::string PageText::Whole() const {
 PageText ReadPage(course::LessonWindow& window) {
   PageText page;
   for (const course::PanelView& view : course::ShownPanels(window)) {
+    if (view.items != nullptr)
+      page.figure.insert(page.figure.end(), view.items->begin(), view.items->end());
     if (view.text == nullptr) continue;
     const std::vector<std::string> lines = view.Lines();
     if (view.kind == course::PanelKind::Answer) {

@@ -13,9 +13,10 @@ struct PageText {
     std::string name;
     std::vector<course::Fragment> fragments;
   };
-  std::vector<Panel> panels;         // that are shown, from back to front, but the answers
-  std::vector<std::string> lines;    // of them all
-  std::vector<std::string> answers;  // one a visible answer box
+  std::vector<Panel> panels;               // that are shown, from back to front, but the answers
+  std::vector<std::string> lines;          // of them all
+  std::vector<std::string> answers;        // one a visible answer box
+  std::vector<course::FigureItem> figure;  // of all figures, in their order
 
   // All lines as one text, single blanks between words.
   std::string Whole() const;

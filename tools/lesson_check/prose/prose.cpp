@@ -89,6 +89,7 @@ std::string FigureText(const course::FigureItem& item) {
   std::ostringstream text;
   text << "[figure] " << item.shape;
   for (const auto& [name, value] : item.values) text << ", " << InWords(name) << " " << value;
+  if (!item.label.empty()) text << ", " << ReadableText(item.label);
   return text.str() + "\n";
 }
 
