@@ -15,10 +15,9 @@ using namespace polynomials;
 constexpr int kLargest = 10;  // size of the numbers in the factors
 constexpr int kSlots = 5;
 
-constexpr int kBox = 1;  // comment boxes in use
-constexpr int kWarningBox = 2;
-constexpr std::size_t kPairsAPage = 3;
-constexpr int kPairCharacters = 35;  // of the longest line of a list of pairs
+constexpr std::size_t kPairsAPage = 2;
+constexpr int kPairCharacters = 38;  // of the longest line of a list of pairs
+constexpr int kPairBox = 1;          // the comment box that holds it
 const Factors kTwoAndThree = {{1, 2}, {1, 3}};
 
 // "x^2^ + 5x + 6 = (x + 2)(x + 3)".
@@ -28,9 +27,9 @@ std::string Identity(const Factors& factors) {
 
 // Product and sum of a pair, each in its column.
 std::string PairLine(const NumberPair& pair) {
-  constexpr std::size_t kSumColumn = 17;
-  std::string line = NumStr(pair.first) + tutor::Dot + InParentheses(pair.second) + " = " +
-                     NumStr(pair.first * pair.second);
+  constexpr std::size_t kSumColumn = 19;
+  std::string line = NumStr(pair.first) + " " + tutor::Times + " " + InParentheses(pair.second) +
+                     " = " + NumStr(pair.first * pair.second);
   line.resize(kSumColumn, ' ');
   return line + NumStr(pair.first) + " + " + InParentheses(pair.second) + " = " +
          NumStr(pair.Sum());
@@ -38,106 +37,119 @@ std::string PairLine(const NumberPair& pair) {
 
 // --- Teaching screens --------------------------------------------------------
 
+// The pairs that are tried, below a blank row; the last one is found.
+void ListTried(const std::vector<NumberPair>& pairs) {
+  double row = NextRow() + 1;
+  for (const NumberPair& pair : pairs)
+    SayAt(row++, (&pair == &pairs.back() ? R"(  \y)" : "  ") + WithoutBreaks(PairLine(pair)));
+}
+
 void ProductOfTwoFactors() {
-  const std::string d = tutor::Dot;
   NewScreen();
-  WrapAt(3, R"(A \ctrinomial\z is an expression with three terms, such as )" +
-                TrinomialText({1, 5, 6}) + ".");
+  SayAt(3, Text(R"(A \ctrinomial\z is an expression with three terms, such as {}.)",
+                TrinomialText({1, 5, 6})));
+  Say("Many trinomials are the product of two factors.  We multiply each term of one by each term "
+      "of the other:");
   PageEnd();
-  isPrint();
-  WordWrap(R"(Many trinomials are the product of two factors.  Let's multiply \y)" +
-           FactorsText(kTwoAndThree) + R"(\z:)");
+  const std::string d = tutor::Dot;
+  PaperBox({FactorsText(kTwoAndThree), "first terms:  x" + d + "x = x^2^",
+            "outer terms:  x" + d + "3 = 3x"});
   PageEnd();
-  ShowPaperBox(kBox, 9,
-               {"first terms:  x" + d + "x = x^2^", "outer terms:  x" + d + "3 = 3x",
-                "inner terms:  2" + d + "x = 2x", "last terms:   2" + d + "3 = 6"});
+  PaperBox({"inner terms:  2" + d + "x = 2x", "last terms:   2 " + tutor::Times + " 3 = 6"});
+  Say("Sum:  x^2^ + 3x + 2x + 6 = " + WithoutBreaks(TrinomialText({1, 5, 6})));
   PageEnd();
-  WrapAt(14, "Sum:  x^2^ + 3x + 2x + 6 = " + TrinomialText({1, 5, 6}));
+  Say(R"(\yTry it:\z  How do the 5 and the 6 come from the numbers 2 and 3?)");
   PageEnd();
-  isPrint();
-  WordWrap("How do the 5 and the 6 come from the numbers 2 and 3?");
-  PageEnd();
-  isPrint();
-  WordWrap(R"(5 is their \csum\z, and 6 is their \cproduct\z.)");
+  Say(R"(5 is their \ysum\z, and 6 is their \yproduct\z.)");
   PageEnd();
 }
 
 void ProductAndSum() {
-  const std::string d = tutor::Dot;
   NewScreen();
-  WrapAt(3, R"(To \cfactor\z a trinomial means to go the way back, from )" +
-                TrinomialText({1, 5, 6}) + " to " + FactorsText(kTwoAndThree) + ".");
+  SayAt(3, Text(R"(To \cfactor\z a trinomial means to go the way back, from {} to {}.)",
+                TrinomialText({1, 5, 6}), FactorsText(kTwoAndThree)));
+  RuleBox("Factoring x^2^ + bx + c", {"Find two numbers whose", "product is c and whose sum is b."},
+          {.width = 27});
   PageEnd();
-  ShowRuleBox(kBox, 6.5, 27, "Factoring x^2^ + bx + c",
-              {"Find two numbers whose", "product is c and whose sum is b."});
+  Say(Text("Let's factor {}.  Which numbers have the product 10?", TrinomialText({1, 7, 10})));
   PageEnd();
-  WrapAt(11, "Let's factor " + TrinomialText({1, 7, 10}) + ".  The product of the numbers is 10:");
-  isPrint("   1" + d + "10 = 10     1 + 10 = 11");
-  WordWrap("   2" + d + R"(5 = 10      \y2 + 5 = 7\z)");
+  ListTried({{1, 10}, {2, 5}});
+  AddLine("The sum must be 7, so we take 2 and 5:");
+  const std::string start = "  " + TrinomialText({1, 7, 10}) + " = ";
+  const double row = NextRow();
+  ShowAt(row, start, 1);
+  RaiseConstants(row, 1 + StackedTextWidth(start), {{1, 2}, {1, 5}});
   PageEnd();
-  WordWrap("The sum must be 7, so we take 2 and 5:");
-  Locate(16, 4);
-  WordWraps(TrinomialText({1, 7, 10}) + " = ");
-  RaiseConstants(16, isCursorCol(), {{1, 2}, {1, 5}});
+
+  NewScreen();
+  SayAt(3, "The factors may stand in either order:");
+  Show(FactorsText({{1, 2}, {1, 5}}) + " = " + FactorsText({{1, 5}, {1, 2}}));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, 9, 20})));
   PageEnd();
-  WordWrap("The factors may stand in either order.");
-  PageEnd();
-  isPrint();
-  WordWrap("Factor " + TrinomialText({1, 9, 20}) + " before you go on.");
-  PageEnd();
-  WordWrap("4" + d + "5 = 20 and 4 + 5 = 9:  " + FactorsText({{1, 4}, {1, 5}}));
+  ListTried({{1, 20}, {2, 10}, {4, 5}});
+  AddLine("  " + Identity({{1, 4}, {1, 5}}));
   PageEnd();
 }
 
 void LastNumberPositive() {
-  const std::string d = tutor::Dot;
   NewScreen();
-  WrapAt(3, R"(When the last number is \cpositive\z, the two numbers have the same sign.  )"
-            R"(Only equal signs give a positive product.)");
+  SayAt(3,
+        R"(When the last number is \ypositive\z, the two numbers have the same sign.  A positive )"
+        "and a negative number have a negative product.");
   PageEnd();
-  ShowPaperBox(kBox, 6.6, {Identity({{1, 2}, {1, 6}}), Identity({{1, -2}, {1, -6}})});
-  WrapAt(9.5, "The sign of the middle term tells us which sign that is.");
+  PaperBox({Identity({{1, 2}, {1, 6}}), Identity({{1, -2}, {1, -6}})});
+  Say("The sign of the middle term tells which sign that is.");
   PageEnd();
-  isPrint();
-  WordWrap("Let's factor " + TrinomialText({1, -9, 14}) + ".  Both numbers are negative:");
-  isPrint("   -1" + d + "(-14) = 14    -1 + (-14) = -15");
-  WordWrap("   -2" + d + R"((-7) = 14     \y-2 + (-7) = -9\z)");
+  Say(Text("Let's factor {}.  Which sign have both numbers?", TrinomialText({1, -9, 14})));
   PageEnd();
-  WordWrap("   " + Identity({{1, -2}, {1, -7}}));
-  ShowPaperBox(kWarningBox, 18,
-               {"\\r" + FactorsText({{1, 2}, {1, 7}}) + "\\z gives the middle term +9x"});
+  Say("The sum is -9, so both are negative:");
+  ListTried({{-1, -14}, {-2, -7}});
+  AddLine("  " + Identity({{1, -2}, {1, -7}}));
   PageEnd();
-  WrapAt(20.5, "What are the factors of " + TrinomialText({1, -11, 24}) + "?");
+
+  NewScreen();
+  SayAt(3,
+        R"(\yWatch out:\z  With both signs reversed the product is still 14, but the sum is 9.)");
+  PaperBox({"\\r" + FactorsText({{1, 2}, {1, 7}}) + "\\z gives the middle term +9x"});
   PageEnd();
-  WordWrap("-3 and -8:  " + FactorsText({{1, -3}, {1, -8}}));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, -11, 24})));
+  PageEnd();
+  ListTried({{-1, -24}, {-2, -12}, {-3, -8}});
+  AddLine("  " + Identity({{1, -3}, {1, -8}}));
   PageEnd();
 }
 
 void LastNumberNegative() {
-  const std::string d = tutor::Dot;
   NewScreen();
-  WrapAt(3, R"(When the last number is \cnegative\z, one number is positive and the other )"
-            R"(is negative.)");
+  SayAt(3, R"(When the last number is \ynegative\z, one number is positive and the other is )"
+           "negative.");
+  PaperBox({Identity({{1, 6}, {1, -2}}), Identity({{1, -6}, {1, 2}})});
   PageEnd();
-  ShowPaperBox(kBox, 6.6, {Identity({{1, 6}, {1, -2}}), Identity({{1, -6}, {1, 2}})});
-  WrapAt(9.5, "The number farther from 0 has the sign of the middle term.");
+  Say("The number farther from 0 has the sign of the middle term.");
   PageEnd();
-  isPrint();
-  WordWrap("Let's factor " + TrinomialText({1, 3, -10}) +
-           ".  The number farther from 0 is positive:");
-  isPrint("   -1" + d + "10 = -10     -1 + 10 = 9");
-  WordWrap("   -2" + d + R"(5 = -10      \y-2 + 5 = 3\z)");
+  Say(Text("Let's factor {}.  The number farther from 0 is positive:", TrinomialText({1, 3, -10})));
+  ListTried({{-1, 10}, {-2, 5}});
   PageEnd();
-  WordWrap("   " + Identity({{1, -2}, {1, 5}}));
+  AddLine("  " + Identity({{1, -2}, {1, 5}}));
+  Say(R"(\yCheck:\z  We multiply out.)");
+  AddLine("  x^2^ + 5x - 2x - 10 = " + TrinomialText({1, 3, -10}));
   PageEnd();
-  isPrint();
-  WordWrap(R"(We \ycheck\z it by multiplying out:)");
-  WordWrap("   x^2^ + 5x - 2x - 10 = " + TrinomialText({1, 3, -10}));
+}
+
+void MiddleTermWithoutNumber() {
+  NewScreen();
+  SayAt(3, Text("What if no number stands in front of x?  Let's factor {}.",
+                TrinomialText({1, -1, -12})));
   PageEnd();
-  isPrint();
-  WordWrap("What are the factors of " + TrinomialText({1, -2, -15}) + "?");
+  Say(R"(-x means -1x, so the sum is \y-1\z.  The product is -12.)");
   PageEnd();
-  WordWrap("3 and -5:  " + FactorsText({{1, 3}, {1, -5}}));
+  ListTried({{1, -12}, {2, -6}, {3, -4}});
+  AddLine("  " + Identity({{1, 3}, {1, -4}}));
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, -2, -15})));
+  PageEnd();
+  ListTried({{1, -15}, {3, -5}});
+  AddLine("  " + Identity({{1, 3}, {1, -5}}));
   PageEnd();
 }
 
@@ -149,7 +161,10 @@ class TrinomialsX2BxC final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{ProductOfTwoFactors}, {ProductAndSum}, {LastNumberPositive}, {LastNumberNegative}};
+    return {{ProductOfTwoFactors},
+            {ProductAndSum},
+            {LastNumberPositive},
+            {LastNumberNegative, MiddleTermWithoutNumber}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -187,9 +202,11 @@ void TrinomialsX2BxC::DrawFactors(RandomStream& random) {
   } while (Asked().middle == 0);  // the difference of two squares has a lesson of its own
 }
 
-// One factor is right, the number in the other is any of the range.
+// One factor has the right number with either sign, the number in the other is any of the range.
+// Built upon the right factors alone, it would make them the box most like the others.
 Factors TrinomialsX2BxC::RandomChoice(RandomStream& random) const {
-  return {{1, First()}, {1, DrawConstant(random, kLargest)}};
+  const int sign = random.Rand(1, 3) == 1 ? 1 : -1;
+  return {{1, sign * First()}, {1, DrawConstant(random, kLargest)}};
 }
 
 // The neighbour in the list of pairs that the explanation goes through.  Without one, the right
@@ -233,11 +250,9 @@ void TrinomialsX2BxC::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void TrinomialsX2BxC::ShowProblem() {
-  WrapAt(5, problem.question[0]);
-  Locate(7, 4);
-  WordWrap(problem.question[1]);
-  // (x + 10)(x - 10) takes 16 columns beside the letter: two boxes fill the panel.
-  picAnswerSetParameters(2, 11, 0.625, 21.375, 0, 20, 50, 27);
+  SayAt(5, problem.question[0]);
+  ShowAt(7, problem.question[1], 4);
+  ShowAnswersInTwoColumns(problem, {.width = 20});  // (x + 10)(x - 10) is long
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -245,27 +260,23 @@ void TrinomialsX2BxC::ShowProblem() {
 void TrinomialsX2BxC::ExplainProblem() {
   BeginPage();
   PageEnd();
-  isPrint();
-  WordWrap("x^2^ is x times x.  So both factors begin with x, and two numbers are missing:");
-  isPrintLines(0.3);
-  isPrint("   (x    )(x    )");
+  Say("x^2^ is x times x.  So both factors begin with x, and two numbers are missing:");
+  AddLine("   (x    )(x    )");
   PageEnd();
-  isPrint();
-  WordWrap(ProductAndSumSentence());
+  Say(ProductAndSumSentence());
   PageEnd();
-  isPrint();
-  WordWrap(SignSentence());
+  Say(SignSentence());
   PageEnd();
   ListPairs();
   FillIn();
   Check();
+  Conclude(problem);
 }
 
 void TrinomialsX2BxC::BeginPage() {
   ProblemBanner();
-  WrapAt(4.6, problem.question[0]);
-  Locate(6, 4);
-  WordWrap(problem.question[1]);
+  SayAt(5, problem.question[0]);
+  ShowAt(6, problem.question[1], 4);
 }
 
 std::string TrinomialsX2BxC::ProductAndSumSentence() const {
@@ -291,46 +302,40 @@ std::string TrinomialsX2BxC::SignSentence() const {
          (sumPositive ? "positive." : "negative.");
 }
 
-// The pairs up to the one that is right, three a page.
+// The pairs up to the one that is right, two a page.
 void TrinomialsX2BxC::ListPairs() {
   NewScreen();
   BeginPage();
-  WrapAt(8, "We try one pair with the product " + NumStr(Asked().constant) +
-                " after the other, until the sum is " + NumStr(Asked().middle) + ":");
+  SayAt(8, Text("We try one pair with the product {} after the other, until the sum is {}:",
+                Asked().constant, Asked().middle));
   const std::vector<NumberPair> pairs = PairsWithProduct(Asked().constant, Sgn(Asked().middle));
   std::size_t count = 1;
   while (pairs[count - 1].Sum() != Asked().middle) ++count;
-  const double below = ShowEmptyPaperBox(kBox, 11, kPairCharacters, static_cast<int>(count));
+  ShowEmptyPaperBox(kPairBox, 11, kPairCharacters, static_cast<int>(count));
   for (std::size_t i = 0; i < count; ++i) {
     if (i > 0 && i % kPairsAPage == 0) PageEnd();
     const bool found = i + 1 == count;
-    PrintOnPaper(kBox, static_cast<int>(i) + 1, (found ? R"(\b)" : "") + PairLine(pairs[i]));
+    PrintOnPaper(kPairBox, static_cast<int>(i) + 1, (found ? R"(\b)" : "") + PairLine(pairs[i]));
   }
   PageEnd();
-  WrapAt(below + 0.5,
-         R"(The numbers are \y)" + NumStr(First()) + R"(\z and \y)" + NumStr(Second()) + R"(\z.)");
+  SayAt(RowBelow(), Text(R"(The numbers are \y{}\z and \y{}\z.)", First(), Second()));
   PageEnd();
 }
 
 void TrinomialsX2BxC::FillIn() {
   NewScreen();
   BeginPage();
-  WrapAt(8, "We put the numbers into the factors:");
+  SayAt(8, "We put the numbers into the factors:");
   RaiseConstants(9.5, 4, factors_[1]);
   PageEnd();
 }
 
 void TrinomialsX2BxC::Check() {
-  WrapAt(11.5, "We check it by multiplying out:");
-  isPrintLines(0.3);
-  WordWrap("     x^2^" + SignedCoefText(Second()) + "x" + SignedCoefText(First()) + "x" +
-           tutor::Gap + SignedNumberText(Asked().constant));
-  WordWrap("   = " + TrinomialText(Asked()));
-  PageEnd();
-  isPrint();
-  WordWrap("This is the trinomial.  Its factors are:");
-  isPrintLines(0.3);
-  isPrint("   " + problem.choices[1].text);
+  SayAt(11.5, R"(\yCheck:\z  We multiply out.)");
+  AddLine("     x^2^" + SignedCoefText(Second()) + "x" + SignedCoefText(First()) + "x" +
+          tutor::Gap + SignedNumberText(Asked().constant));
+  AddLine("   = " + TrinomialText(Asked()));
+  Say("This is the trinomial.");
   PageEnd();
 }
 
