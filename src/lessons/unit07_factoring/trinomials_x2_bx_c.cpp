@@ -48,6 +48,7 @@ void ProductOfTwoFactors() {
   NewScreen();
   SayAt(3, Text(R"(A \ctrinomial\z is an expression with three terms, such as {}.)",
                 TrinomialText({1, 5, 6})));
+  PageEnd();
   Say("Many trinomials are the product of two factors.  We multiply each term of one by each term "
       "of the other:");
   PageEnd();
@@ -68,6 +69,7 @@ void ProductAndSum() {
   NewScreen();
   SayAt(3, Text(R"(To \cfactor\z a trinomial means to go the way back, from {} to {}.)",
                 TrinomialText({1, 5, 6}), FactorsText(kTwoAndThree)));
+  PageEnd();
   RuleBox("Factoring x^2^ + bx + c", {"Find two numbers whose", "product is c and whose sum is b."},
           {.width = 27});
   PageEnd();
