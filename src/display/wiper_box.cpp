@@ -26,8 +26,9 @@ void Prepare(const WiperPlace& place, platform::Colour backColor, platform::Colo
   screenState.gWbWidth = static_cast<int>(RoundHalfEven(place.wd));
   screenState.gWbHeight = static_cast<int>(RoundHalfEven(ht));
   const platform::PixelPoint at = CellInTwips(place.row, place.col);
+  // In whole pixels: a box that begins on half a row ends where its last row does.
   frmPR->picWiperBox.Move(at.x, at.y, Twips((place.wd + kMarginColumns) * gCellWidth),
-                          Twips(ht * gCellHeight));
+                          IntOf(ht * gCellHeight) * platform::TwipsPerPixelY);
   wbSetColor(foreColor);
   wbSetBackColor(backColor);
   frmPR->wiperText.Cls();
