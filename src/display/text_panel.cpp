@@ -108,7 +108,7 @@ void TextPanel::SetColor(platform::Colour colour) {
 
 void TextPanel::Cls() {
   surface.Cls();
-  transcript_.clear();
+  SetTranscript({});
 }
 
 double TextPanel::WidthOf(const std::string& s) const {
@@ -147,6 +147,7 @@ void TextPanel::Record(const std::string& s, double width) {
   const double row = scriptLevel == 0 ? cursorRow : scriptBaseRow;
   const double pixels = width > 0 ? width : WidthOf(s);
   const double height = HasPrintFont(surface) ? 1 : surface.TextHeight(s) / layout.cellHeight;
+  lines_.reset();
   transcript_.push_back(
       {row, cursorCol, surface.ForeColor, scriptLevel, s, pixels / layout.cellWidth, 0, height});
 }
@@ -225,7 +226,7 @@ void TextPanel::MoveTranscript(const platform::PixelRect& rect, int dx, int dy,
     left.insert(left.end(), staying.begin(), staying.end());
     left.insert(left.end(), moving.begin(), moving.end());
   }
-  transcript_ = std::move(left);
+  SetTranscript(std::move(left));
 }
 
 void TextPanel::EraseTranscript(const platform::PixelRect& rect) {
@@ -237,11 +238,23 @@ void TextPanel::EraseTranscript(const platform::PixelRect& rect) {
     });
     left.insert(left.end(), staying.begin(), staying.end());
   }
-  transcript_ = std::move(left);
+  SetTranscript(std::move(left));
+}
+
+void TextPanel::SetTranscript(std::vector<Fragment> fragments) {
+  transcript_ = std::move(fragments);
+  lines_.reset();
+}
+
+const std::vector<TextLine>& TextPanel::Lines() const {
+  if (!lines_) lines_ = TextLinesOf(transcript_);
+  return *lines_;
 }
 
 std::vector<std::string> TranscriptLines(const TextPanel& panel) {
-  return LinesOf(panel.Transcript());
+  std::vector<std::string> texts;
+  for (const TextLine& line : panel.Lines()) texts.push_back(line.text);
+  return texts;
 }
 
 }  // namespace course

@@ -6,6 +6,7 @@
 // clear.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -84,12 +85,16 @@ class TextPanel {
   void EraseTranscript(const platform::PixelRect& rect);
 
   const std::vector<Fragment>& Transcript() const { return transcript_; }
-  void SetTranscript(std::vector<Fragment> fragments) { transcript_ = std::move(fragments); }
+  void SetTranscript(std::vector<Fragment> fragments);
+  // The transcript as lines, see TextLinesOf; they are gathered once for each change.
+  const std::vector<TextLine>& Lines() const;
 
  private:
   platform::PixelPoint CentreOf(const Fragment& fragment) const;
 
   std::vector<Fragment> transcript_;
+  // None when they have to be gathered again.
+  mutable std::optional<std::vector<TextLine>> lines_;
 };
 
 // See LinesOf.

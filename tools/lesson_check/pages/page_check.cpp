@@ -159,7 +159,12 @@ const PageChecker::SeenPage& PageChecker::See() {
   constexpr std::size_t kMostSeen = 2000;
   if (seen_.size() > kMostSeen) seen_.clear();
   const auto [page, isNew] = seen_.try_emplace(LookOf(*frmPR));
-  if (isNew) page->second = {ReadPage(*frmPR), LayoutFaults(*frmPR)};
+  if (!isNew) return page->second;
+  page->second.text = ReadPage(*frmPR);
+  const std::size_t look = std::hash<std::string>{}(page->first);
+  if (faultless_.contains(look)) return page->second;
+  page->second.faults = LayoutFaults(*frmPR);
+  if (page->second.faults.empty()) faultless_.insert(look);
   return page->second;
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "engine/lesson_script.h"
@@ -51,6 +52,7 @@ class PageChecker {
   PageReader reader_;
   PageStyle style_;
   std::unordered_map<std::string, SeenPage> seen_;  // by all that is looked at
+  std::unordered_set<std::size_t> faultless_;       // hashes of pages without a fault of layout
   long pagesRead_ = 0;
 };
 

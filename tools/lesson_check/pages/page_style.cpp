@@ -25,7 +25,7 @@ using Line = PageStyle::Line;
 
 std::vector<Line> LinesOf(const TextPanel& panel) {
   std::vector<Line> lines;
-  for (course::TextLine& row : course::TextLinesOf(panel.Transcript())) {
+  for (const course::TextLine& row : panel.Lines()) {
     if (lines.empty() || row.row - lines.back().lastRow > kSameLine) lines.emplace_back();
     Line& line = lines.back();
     if (!line.text.empty()) line.text += ' ';
