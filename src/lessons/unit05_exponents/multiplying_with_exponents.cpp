@@ -16,11 +16,14 @@ using namespace powers;
 constexpr std::string_view kBaseLetters = "bcdfghkmnpqrstuvwxyz";
 constexpr std::string_view kOtherLetters = "abcdfghkmnpqrstuvwxyz";
 
-constexpr int kRuleBox = 1;  // comment boxes in use
-constexpr int kRemarkBox = 2;
 constexpr double kRuleWidth = 24;  // columns
 constexpr const char* kRuleHeading = "Rule For Multiplying Powers";
 const std::string kRule = "b^m^" + tutor::Dot + "b^n^ = b^m+n^";
+constexpr double kExpressionCol = 4;
+
+void ShowRule(double row = kUnder) {
+  RuleBox(kRuleHeading, {kRule}, {.row = row, .width = kRuleWidth});
+}
 
 // Bases over exponents of two powers and of their product: cells 1 to 6, row by row.
 constexpr double kTableSize = 16;  // points
@@ -46,44 +49,40 @@ enum class Form {
   BareLetter,     // 3b^2 a^5 b: the second b has no exponent
 };
 
-// --- Teaching screens --------------------------------------------------------
+struct Mistake {
+  const char* name;
+  std::string product;
+};
 
-void ShowNote(int index, double row, double col, const std::string& text) {
-  lblNotesPrepare(index, row, col, text, platform::colour::Yellow, platform::colour::Black, true,
-                  false, 12);
-  lblNotesShow(index);
-}
+// --- Teaching screens --------------------------------------------------------
 
 void MeaningOfAPower() {
   NewScreen();
-  WrapAt(3, R"(A \cpower\z is a short way to write a product of equal factors:)");
-  Locate(8, 13);
-  WordWrap("b^4^ = " + WrittenOut({"b", 4}));
+  SayAt(3, R"(A \cpower\z is a short way to write a product of equal factors:)");
+  ShowAt(8, "b^4^ = " + WrittenOut({"b", 4}), 13);
   PageEnd();
-  ShowNote(1, 6, 13.8, " the exponent: how many factors ");
+  Note(6, 13.8, "the exponent: how many factors");
   isDrawArrow1Segment(7, 14, 7.5, 14, platform::colour::Yellow, "NA", "A");
-  ShowNote(2, 10.2, 8, " the base: what is multiplied ");
+  Note(10.2, 8, "the base: what is multiplied");
   isDrawArrow1Segment(10, 13, 9, 13, platform::colour::Yellow, "NA", "A");
-  WrapAt(12, R"(The \cbase\z is the factor.  The \cexponent\z counts how often it stands there.)");
+  SayAt(12, R"(The \cbase\z is the factor.  The \cexponent\z tells how many times b is a factor.)");
   PageEnd();
-  isPrint();
-  WordWrap("A letter without an exponent stands there once:  b = b^1^.");
+  Say(Text(R"(\yWatch out:\z  {} is not {}.  With 2 in place of b:)", "b^4^", "4b"));
+  PaperBox({"2^4^ = " + JoinedByTimes({"2", "2", "2", "2"}) + R"( = 16,  \rnot 8\z)"});
   PageEnd();
-  isPrint();
-  WordWrap("How do we write " + WrittenOut({"d", 5}) + " as a power?");
+  Say(R"(\yTry it:\z  How do we write  )" + WrittenOut({"d", 5}) + "  as a power?");
   PageEnd();
-  WordWrap("The base d stands there 5 times:  d^5^.");
+  AddLine(Text(R"(d is a factor 5 times:  \y{}\z)", "d^5^"));
   PageEnd();
 }
 
 void CountingFactors() {
   NewScreen();
-  WrapAt(3, "What is b^3^ times b^4^?  Let's write both powers out:");
+  SayAt(3, Text("What is {} times {}?  Let's write both powers out:", "b^3^", "b^4^"));
   UnfoldPowers({"b", 3}, {"b", 4}, 5.5);
   PageEnd();
-  WrapAt(9.5, "The first power brings 3 factors, the second one 4.  Together there are 7:");
-  isPrintLines(0.4);
-  WordWrap("   b^3^" + tutor::Dot + "b^4^ = b^7^");
+  SayAt(9.5, "The first power has 3 factors, the second one has 4.  Together there are 7:");
+  Show("b^3^" + tutor::Dot + "b^4^ = b^7^", kExpressionCol);
   PageEnd();
 }
 
@@ -91,81 +90,87 @@ void CountingFactors() {
 void CompareBasesAndExponents() {
   enum { kFirstBase = 1, kSecondBase, kProductBase, kFirstExponent, kSecondExponent, kSum };
   using platform::colour::Black;
-  using platform::colour::Red;
-  picPrintCellBoxPrepare3(14, PowersTable());
+  using platform::colour::Blue;
+  CellTable(PowersTable(), 13);
   picPrintCellPrint(kFirstBase, "b", Black, kTableSize);
   picPrintCellPrint(kSecondBase, "b", Black, kTableSize);
   picPrintCellPrint(kFirstExponent, "3", Black, kTableSize);
   picPrintCellPrint(kSecondExponent, "4", Black, kTableSize);
-  picPrintCellBoxShow();
-  WrapAt(20.5, "What belongs in the last column?");
+  SayAt(19.5, R"(\yTry it:\z  What belongs in the last column?)");
   PageEnd();
-  picPrintCellPrint(kProductBase, "b", Red, kTableSize);
-  picPrintCellPrint(kSum, "7", Red, kTableSize);
-  WordWrap(R"(The base \ystays\z, the exponents are \yadded\z.)");
+  picPrintCellPrint(kProductBase, "b", Blue, kTableSize);
+  picPrintCellPrint(kSum, "7", Blue, kTableSize);
+  AddLine(R"(The base \ystays\z, the exponents are \yadded\z.)");
   PageEnd();
 }
 
 void TheRule() {
   NewScreen();
-  ShowRuleBox(kRuleBox, 3, kRuleWidth, kRuleHeading, {kRule});
-  WrapAt(6.5, "To multiply powers of the same base, we keep the base and add the exponents.");
+  ShowRule(3);
+  Say("To multiply powers of the same base, we keep the base and add the exponents.");
   PageEnd();
   SlideExponentsTogether({"x", 2}, {"x", 6}, 9.5);
   PageEnd();
-  WrapAt(13.5, "The base may be a number.  It stays:");
-  ShowPaperBox(kRemarkBox, 15, {"5^2^" + tutor::Dot + R"(5^4^ = 5^6^,  \rnot 25^6^\z)"});
+  SayAt(13, "The base may be a number.  It stays:");
+  PaperBox({"5^2^ " + tutor::Times + " 5^4^ = 5^6^,  " + R"(\rnot 25^6^\z)"});
   PageEnd();
-  wbPrepare(18, 34, 4, platform::colour::White, platform::colour::Blue);
-  wbShow();
-  wbWordWrap("Why do we not multiply 3 by 4?");
-  wbWordWrap(" 2^3^" + tutor::Dot + "2^4^ = 8" + tutor::Dot + "16 = 128");
-  wbWordWrap(R"( 2^7^ = 128,  but \r2^12^ = 4096\z)");
+  WhiteBox();
+  SayInBox("Why do we not multiply 3 by 4 here?");
+  SayInBox(" 2^3^ " + tutor::Times + " 2^4^ = 8 " + tutor::Times + " 16 = 128");
   PageEnd();
-  wbWipeAndErase();
-  wbWordWrap("What is k^5^" + tutor::Dot + "k^3^?");
+  SayInBoxAnew("The sum 3 + 4 fits, the product does not:");
+  SayInBox(R"( \b2^7^ = 128\z,  but 2^12^ = 4096)");
   PageEnd();
-  wbWordWrap("The base stays k, and 5 + 3 = 8:");
-  wbWordWrap(" k^5^" + tutor::Dot + "k^3^ = k^8^");
+  SayInBoxAnew(R"(\bTry it:\z  What is k^5^)" + tutor::Dot + "k^3^?");
+  PageEnd();
+  SayInBox("The base stays k, and 5 + 3 = 8:");
+  SayInBox(" k^5^" + tutor::Dot + R"(k^3^ = \bk^8^\z)");
+  PageEnd();
+}
+
+void NumberInFront() {
+  NewScreen();
+  SayAt(3, "A number in front stays as it is:");
+  Show("6b^2^" + tutor::Dot + "b^5^ = 6b^7^", kExpressionCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The bases are not added.  We do not get 2b:)");
+  PaperBox({"6b^2^" + tutor::Dot + R"(b^5^ = 6b^7^,  \rnot 12b^7^\z)"});
+  PageEnd();
+  Say("The rule needs equal bases.  With different ones nothing can be added:");
+  PaperBox({"a^2^" + tutor::Dot + "b^3^ = " + JoinedByDots({"a", "a", "b", "b", "b"}) +
+            R"(,  \rnot ab^5^\z)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  What is  )" + JoinedByDots({"4c^3^", "c^6^"}) + " ?");
+  PageEnd();
+  AddLine(Text(R"(4 stays in front, and 3 + 6 = 9:  \y{}\z)", "4c^9^"));
   PageEnd();
 }
 
 // The a of 4b^2 a b^3 moves to its place in the row below.
 void BringLetterForward(double row) {
-  constexpr double kCol = 4;
-  constexpr double kLetter = kCol + 4;
+  constexpr double kLetter = kExpressionCol + 4;
   constexpr double kDrop = 1.48;  // rows; whole pixels
-  Locate(row, kCol);
-  WordWraps("4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^");
-  Locate(row + kDrop, kCol);
-  isPrints("4");
-  Anim2(row, kLetter, 1, 1, 2, kDrop, 50, 0);
-  Anim2(row + kDrop, kLetter, 1, 1, 3, 3, 50, 1);
-  Locate(row + kDrop, kCol + 2);
-  WordWrap(tutor::Dot + "b^2^" + tutor::Dot + "b^3^ = 4ab^5^");
+  ShowAt(row, "4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^", kExpressionCol);
+  ShowAt(row + kDrop, "4", kExpressionCol);
+  SlideDown({row, kLetter, 1}, kDrop, Leaving::Copy);
+  SlideLeft({row + kDrop, kLetter, 1}, 3);
+  ShowAt(row + kDrop, tutor::Dot + "b^2^" + tutor::Dot + R"(b^3^ = 4ab^5^)", kExpressionCol + 2);
 }
 
-void OtherFactors() {
+void OtherLetters() {
   NewScreen();
-  WrapAt(3, "A number in front stays as it is:");
-  WordWrap("   6b^2^" + tutor::Dot + "b^5^ = 6b^7^");
+  SayAt(3, "The order of factors does not matter.  So we may bring equal letters together:");
+  BringLetterForward(5.5);
   PageEnd();
-  isPrint();
-  WordWrap("The rule needs equal bases.  With different ones nothing can be added:");
-  ShowPaperBox(kRemarkBox, 8.4,
-               {"a^2^" + tutor::Dot + "b^3^ = " + JoinedByDots({"a", "a", "b", "b", "b"}) +
-                R"(,  \rnot ab^5^\z)"});
+  Say(R"(\yWatch out:\z  Only b gets the sum.  There is still one factor a.)");
   PageEnd();
-  WrapAt(10.8, "The order of factors does not matter.  So we may bring equal letters together:");
-  BringLetterForward(13.2);
+  Say("A letter without an exponent is a factor once.  Its exponent is 1:");
+  Show("c^4^" + tutor::Dot + "c = c^4^" + tutor::Dot + "c^1^ = c^5^", kExpressionCol);
   PageEnd();
-  WrapAt(16.5, "A letter without an exponent has the exponent 1:  c^4^" + tutor::Dot + "c = c^4^" +
-                   tutor::Dot + "c^1^ = c^5^.");
+  Say(R"(\yTry it:\z  Simplify  )" + JoinedByDots({"3n^2^", "d^4^", "n"}) + " .");
   PageEnd();
-  isPrint();
-  WordWrap("Simplify 3n^2^" + tutor::Dot + "d" + tutor::Dot + "n before you go on.");
-  PageEnd();
-  WordWrap("The exponents of n are 2 and 1:  3dn^3^.");
+  Say(R"(The exponents of n are 2 and 1, and d keeps its own.  We get  \y3d^4^n^3^\z.)");
+  Say("The last n is no factor d, so it does not change the 4.");
   PageEnd();
 }
 
@@ -177,8 +182,10 @@ class MultiplyingWithExponents final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {
-        {MeaningOfAPower}, {CountingFactors, CompareBasesAndExponents}, {TheRule}, {OtherFactors}};
+    return {{MeaningOfAPower},
+            {CountingFactors, CompareBasesAndExponents},
+            {TheRule},
+            {NumberInFront, OtherLetters}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -191,15 +198,14 @@ class MultiplyingWithExponents final : public LessonScript {
   int Sum() const { return First().exponent + Second().exponent; }
   std::string Expression() const;
   std::string Product(int number, int exponent, int otherExponent) const;
-  std::string WithExponent(int exponent) const;
-  void WrongOnes();
-  void WrongOnesOfBareLetter();
-  void Filler(RandomStream& random, int slot);
+  std::vector<Mistake> Mistakes(RandomStream& random) const;
+  std::vector<Mistake> MistakesWithOneBase() const;
+  std::vector<Mistake> MistakesWithALetterBetween(RandomStream& random) const;
+  std::vector<Mistake> MistakesWithABareLetter() const;
 
   std::string Front() const;
   std::string SumText() const;
 
-  void ShowExpression(double row);
   void BringTogether();
   void WriteOutFactors();
   void AddExponents();
@@ -237,11 +243,6 @@ std::string MultiplyingWithExponents::Product(int number, int exponent, int othe
   return ProductText(number, {{base_, exponent}, {other_, otherExponent}});
 }
 
-// The answer with another exponent of the base.
-std::string MultiplyingWithExponents::WithExponent(int exponent) const {
-  return Product(number_, exponent, OtherExponent());
-}
-
 void MultiplyingWithExponents::DrawProblem(RandomStream& random) {
   form_ = static_cast<Form>(random.Rand(1, 3));
   base_ = random.OneOf(kBaseLetters);
@@ -251,37 +252,66 @@ void MultiplyingWithExponents::DrawProblem(RandomStream& random) {
   secondExponent_ = random.Rand(2, 9);
 
   problem.question = {"Simplify the following expression:", Expression()};
-  problem.kind = choice_kind::FiveShuffled;
-  problem.Right(1, WithExponent(Sum()));
-  if (form_ == Form::BareLetter)
-    WrongOnesOfBareLetter();
-  else
-    WrongOnes();
-  Filler(random, 5);
-  // 2 and 2 have the same sum and product (one pair in 64), and a filler may meet another choice.
-  ReplaceRepeatedTexts(problem, [&](int slot) { Filler(random, slot); });
+  Choices<std::string> choices(problem, choice_kind::FiveShuffled,
+                               [](const std::string& product) { return product; });
+  choices.Right(Product(number_, Sum(), OtherExponent()));
+  for (const Mistake& mistake : Mistakes(random)) choices.Wrong(mistake.name, mistake.product);
+  // 2 and 2 have the same sum and product (one pair in 64).
+  choices.Fill([&] { return Product(number_, random.Rand(2, 9), OtherExponent()); });
 }
 
-void MultiplyingWithExponents::WrongOnes() {
-  problem.Wrong(2, "multiplies the exponents", WithExponent(firstExponent_ * secondExponent_));
-  problem.Wrong(3, "keeps the first exponent", WithExponent(firstExponent_));
-  if (form_ == Form::OneBase)
-    problem.Wrong(4, "adds the bases too", Product(2 * number_, Sum(), 0));
-  else
-    problem.Wrong(4, "gives the sum to both letters", Product(number_, Sum(), Sum()));
+// In each form the right one and the first three are two mistakes, made or not made: each of the
+// four is as like the others, so that none stands out as the one in the middle.
+std::vector<Mistake> MultiplyingWithExponents::Mistakes(RandomStream& random) const {
+  switch (form_) {
+    case Form::OneBase:
+      return MistakesWithOneBase();
+    case Form::LetterBetween:
+      return MistakesWithALetterBetween(random);
+    default:
+      return MistakesWithABareLetter();
+  }
 }
 
-void MultiplyingWithExponents::WrongOnesOfBareLetter() {
-  problem.Wrong(2, "counts a bare letter as no factor", WithExponent(firstExponent_));
-  problem.Wrong(3, "adds exponents of neighbors",
-                Product(number_, firstExponent_, secondExponent_ + 1));
-  const int all = firstExponent_ + secondExponent_ + 1;
-  problem.Wrong(4, "gives the sum to both letters", Product(number_, all, all));
+std::vector<Mistake> MultiplyingWithExponents::MistakesWithOneBase() const {
+  constexpr int kLargestByHand = 99;
+  const int product = firstExponent_ * secondExponent_;
+  std::vector<Mistake> mistakes = {
+      {"multiplies the exponents", Product(number_, product, 0)},
+      {"adds the bases too", Product(2 * number_, Sum(), 0)},
+      {"adds the bases and multiplies the exponents", Product(2 * number_, product, 0)}};
+  if (number_ * product <= kLargestByHand)
+    mistakes.push_back({"takes the exponents as factors", Product(number_ * product, 2, 0)});
+  mistakes.push_back({"keeps the first exponent", Product(number_, firstExponent_, 0)});
+  return mistakes;
 }
 
-void MultiplyingWithExponents::Filler(RandomStream& random, int slot) {
-  const int exponent = random.Rand(2, 9);
-  problem.Wrong(slot, "filler", WithExponent(exponent));
+std::vector<Mistake> MultiplyingWithExponents::MistakesWithALetterBetween(
+    RandomStream& random) const {
+  const int product = firstExponent_ * secondExponent_;
+  const int all = Sum() + 1;
+  const Mistake sumOfAll = {"gives the sum of all exponents to both letters",
+                            Product(number_, all, all)};
+  const Mistake first = {"keeps the first exponent", Product(number_, firstExponent_, 1)};
+  std::vector<Mistake> mistakes = {
+      {"multiplies the exponents", Product(number_, product, 1)},
+      {"gives the sum to both letters", Product(number_, Sum(), Sum())},
+      {"gives the product to both letters", Product(number_, product, product)}};
+  // Now like the right one, now like those that change both letters.
+  const bool changesBoth = random.Rand(1, 2) == 1;
+  mistakes.push_back(changesBoth ? sumOfAll : first);
+  mistakes.push_back(changesBoth ? first : sumOfAll);
+  return mistakes;
+}
+
+std::vector<Mistake> MultiplyingWithExponents::MistakesWithABareLetter() const {
+  const int m = firstExponent_;
+  const int k = secondExponent_;
+  return {
+      {"counts a bare letter as no factor", Product(number_, m, k)},
+      {"adds exponents of neighbors", Product(number_, m, k + 1)},
+      {"counts the bare letter for both letters", Product(number_, m + 1, k + 1)},
+      {"gives the sum of all exponents to both letters", Product(number_, m + k + 1, m + k + 1)}};
 }
 
 // The number and the other letter, which stay as they are.
@@ -295,91 +325,75 @@ std::string MultiplyingWithExponents::SumText() const {
 
 // --- Problem page ------------------------------------------------------------
 
-void MultiplyingWithExponents::ShowExpression(double row) {
-  Locate(row, 4);
-  WordWrap(Expression());
-}
-
 void MultiplyingWithExponents::ShowProblem() {
-  WrapAt(5, problem.question[0]);
-  ShowExpression(7);
-  picAnswerSetParameters(2, 11, 1, 21, 0, 16, 50, 27);
+  SayAt(5, problem.question[0]);
+  ShowAt(7, Expression(), kExpressionCol);
+  ShowAnswersInTwoColumns(problem);
 }
 
 // --- Worked explanation ------------------------------------------------------
 
-void ShowRule() {
-  ShowRuleBox(kRuleBox, 7.4, kRuleWidth, kRuleHeading, {kRule});
-}
-
 void MultiplyingWithExponents::ExplainProblem() {
   ProblemBanner();
-  WrapAt(4.6, problem.question[0]);
-  ShowExpression(6);
-  PageEnd();
-  ShowRule();
+  ShowAt(5, Expression(), kExpressionCol);
+  ShowRule(6.5);
   PageEnd();
   BringTogether();
   WriteOutFactors();
   AddExponents();
   WriteResult();
+  Conclude(problem);
 }
 
 // The powers of the base side by side; what else there is comes before them.
 void MultiplyingWithExponents::BringTogether() {
-  Locate(10.5, 1);
   if (form_ == Form::OneBase) {
-    WordWrap(R"(Both powers have the same base, \y)" + base_ + R"(\z.)" +
-             (number_ == 1 ? "" : "  The number " + NumStr(number_) + " stays in front."));
+    Say(R"(Both powers have the same base, \y)" + base_ + R"(\z.)" +
+        (number_ == 1 ? "" : "  The number " + NumStr(number_) + " stays in front."));
     PageEnd();
     return;
   }
   if (form_ == Form::BareLetter) {
-    WordWrap("A letter without an exponent stands there once:  " + base_ + " = " + base_ + "^1^.");
+    Say(Text("A letter without an exponent is a factor once:  {}.", base_ + " = " + base_ + "^1^"));
     PageEnd();
   }
-  WordWrap("The order of factors does not matter, so we bring the powers of " + base_ +
-           " together:");
-  isPrintLines(0.3);
-  isPrints("   ");
-  WordWrap(Front() + tutor::Dot + R"(\y)" + PowerText(First()) + tutor::Dot + PowerText(Second()) +
-           R"(\z)");
+  AddLine("The order of factors does not matter, so we bring the powers of " + base_ +
+          " together:");
+  Show(Front() + tutor::Dot + R"(\y)" + PowerText(First()) + tutor::Dot + PowerText(Second()) +
+           R"(\z)",
+       kExpressionCol);
   PageEnd();
 }
 
 void MultiplyingWithExponents::WriteOutFactors() {
   // One base needs no lines to bring its powers together.
-  const double row = form_ == Form::OneBase ? 13 : 16;
-  WrapAt(row, "Each power is a row of equal factors:");
+  const double row = form_ == Form::OneBase ? 13 : 17;
+  SayAt(row, "Each power is a row of equal factors:");
   UnfoldPowers(First(), Second(), row + 1.5);
   PageEnd();
-  WrapAt(row + 5, "There are " + SumText() + " factors " + base_ + ".");
+  SayAt(row + 5, "There are " + SumText() + " factors " + base_ + ".");
   PageEnd();
 }
 
 void MultiplyingWithExponents::AddExponents() {
   NewScreen();
   ProblemBanner();
-  WrapAt(5, "We keep the base and add the exponents:");
-  ShowRule();
-  SlideExponentsTogether(First(), Second(), 11);
+  ShowAt(5, Expression(), kExpressionCol);
+  ShowRule(6.5);
+  Say("We keep the base and add the exponents:");
+  SlideExponentsTogether(First(), Second(), 12);
   PageEnd();
-  isPrint();
-  WordWrap(R"(The exponent of the final result is \c)" + NumStr(Sum()) + R"(\z.)");
+  Say(R"(The exponent of the final result is \c)" + NumStr(Sum()) + R"(\z.)");
   PageEnd();
 }
 
 void MultiplyingWithExponents::WriteResult() {
-  isPrint();
   if (form_ != Form::OneBase)
-    WordWrap(number_ == 1 ? "The letters stand in the order of the alphabet:"
-                          : "The number comes first, then the letters in the order of the "
-                            "alphabet:");
+    Say(number_ == 1 ? "The letters stand in the order of the alphabet:"
+                     : "The number comes first, then the letters in the order of the alphabet:");
   else
-    WordWrap(number_ == 1 ? "So the answer is:" : "The number stays in front:");
-  isPrintLines(0.3);
-  isPrints("   ");
-  WordWrap(Expression() + " = " + problem.choices[1].text);
+    Say(number_ == 1 ? "So this is what we get:" : "The number stays in front:");
+  Show(Expression() + " = " + RightText(problem), kExpressionCol);
   PageEnd();
 }
 

@@ -125,6 +125,7 @@ void LastNumberNegative() {
   NewScreen();
   SayAt(3, R"(When the last number is \ynegative\z, one number is positive and the other is )"
            "negative.");
+  PageEnd();
   PaperBox({Identity({{1, 6}, {1, -2}}), Identity({{1, -6}, {1, 2}})});
   PageEnd();
   Say("The number farther from 0 has the sign of the middle term.");

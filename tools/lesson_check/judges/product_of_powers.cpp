@@ -85,15 +85,24 @@ void AddMistakes(const TwoPowers& two, Reading& reading) {
     for (const Polynomial& value : values) reading.mistakes[name].push_back(value.Text());
   };
   add("multiplies the exponents", {rest * PowerOf(x, m * n)});
+  add("adds the bases and multiplies the exponents",
+      {Polynomial(Rational(2)) * rest * PowerOf(x, m * n)});
+  add("takes the exponents as factors", {Polynomial(Rational(m * n)) * rest * PowerOf(x, 2)});
   add("keeps the first exponent", {rest * PowerOf(x, m)});
   add("adds the bases too", {Polynomial(Rational(2)) * rest * PowerOf(x, m + n)});
   add("counts a bare letter as no factor", {rest * PowerOf(x, std::max(m, n))});
   if (!two.other) return;
   const char y = two.other->letter;
   const int k = two.other->exponent;
-  // The sum of the equal bases' exponents, or of all that are there to be added.
-  add("gives the sum to both letters", {number * PowerOf(x, m + n) * PowerOf(y, m + n),
-                                        number * PowerOf(x, m + n + k) * PowerOf(y, m + n + k)});
+  const auto both = [&](int exponent) {
+    return number * PowerOf(x, exponent) * PowerOf(y, exponent);
+  };
+  add("gives the sum to both letters", {both(m + n)});
+  add("gives the product to both letters", {both(m * n)});
+  add("gives the sum of all exponents to both letters", {both(m + n + k)});
+  if (n == 1)
+    add("counts the bare letter for both letters",
+        {number * PowerOf(x, m + 1) * PowerOf(y, k + 1)});
   add("adds exponents of neighbors",
       {number * PowerOf(x, m) * PowerOf(y, k + n), number * PowerOf(x, n) * PowerOf(y, k + m)});
 }

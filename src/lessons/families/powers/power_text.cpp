@@ -6,18 +6,29 @@
 #include "mathkit/tutor_codes.h"
 
 namespace course::powers {
+namespace {
+
+std::string Joined(const std::vector<std::string>& factors, const std::string& sign) {
+  std::string product;
+  for (const std::string& factor : factors) {
+    if (!product.empty()) product += sign;
+    product += factor;
+  }
+  return product;
+}
+
+}  // namespace
 
 std::string PowerText(const Power& power) {
   return power.base + ExponentText(power.exponent);
 }
 
 std::string JoinedByDots(const std::vector<std::string>& factors) {
-  std::string product;
-  for (const std::string& factor : factors) {
-    if (!product.empty()) product += tutor::Dot;
-    product += factor;
-  }
-  return product;
+  return Joined(factors, tutor::Dot);
+}
+
+std::string JoinedByTimes(const std::vector<std::string>& numbers) {
+  return Joined(numbers, " " + tutor::Times + " ");
 }
 
 std::string WrittenOut(const Power& power) {

@@ -19,6 +19,8 @@ struct Power {
 std::string PowerText(const Power& power);
 // Factors of a product between dots.
 std::string JoinedByDots(const std::vector<std::string>& factors);
+// Numbers, between which a dot would look like a decimal point: "2 x 2 x 2".
+std::string JoinedByTimes(const std::vector<std::string>& numbers);
 // The power as so many equal factors: "b", dot, "b", dot, "b" for 3.
 std::string WrittenOut(const Power& power);
 // A simplified product: the number unless it is 1, then the powers in the order of the alphabet.
