@@ -119,10 +119,10 @@ TEST_F(WordProblemTest, TheWorkingIsWrittenLineByLineWithoutRepeats) {
     return printed;
   };
   using Lines = std::vector<std::string>;
-  EXPECT_EQ(lines(MotionPart::Distance), (Lines{"15 · 4 1/2", "15 · 9/2", "135/2", "67 1/2"}));
-  EXPECT_EQ(lines(MotionPart::Rate), (Lines{"67 1/2 ÷ 4 1/2", "135/2 ÷ 9/2", "135/2 · 2/9", "15"}));
+  EXPECT_EQ(lines(MotionPart::Distance), (Lines{"15 × 4 1/2", "15 × 9/2", "135/2", "67 1/2"}));
+  EXPECT_EQ(lines(MotionPart::Rate), (Lines{"67 1/2 ÷ 4 1/2", "135/2 ÷ 9/2", "135/2 × 2/9", "15"}));
   EXPECT_EQ(lines(MotionPart::Time),
-            (Lines{"67 1/2 ÷ 15", "135/2 ÷ 15", "135/2 · 1/15", "9/2", "4 1/2"}));
+            (Lines{"67 1/2 ÷ 15", "135/2 ÷ 15", "135/2 × 1/15", "9/2", "4 1/2"}));
   motion.minutes = 240;
   EXPECT_EQ(lines(MotionPart::Time), (Lines{"60 ÷ 15", "4"}));
 }

@@ -102,20 +102,21 @@ TEST(Judges, Motion) {
             "How far does it go in 1 hour & 15 minutes against a current of 4 mph?"});
   EXPECT_TRUE(IsRight(far, "10 miles"));
   EXPECT_FALSE(IsRight(far, "10 mph"));
-  ExpectMistake(far, "ignores the wind or current", "15 miles");
+  ExpectMistake(far, "ignores the current", "15 miles");
   ExpectMistake(far, "reads the minutes as hundredths of an hour", "9 1/5 miles");
   const Reading fast = Read("Distance-Rate-Time Problems",
                             {"A bird flies 33 miles in 45 minutes with a wind of 4 mph.",
                              "What is the rate of the bird in still air?"});
   EXPECT_TRUE(IsRight(fast, "40 mph"));
-  ExpectMistake(fast, "takes the wind or current the wrong way", "48 mph");
+  ExpectMistake(fast, "adds the wind in place of subtracting it", "48 mph");
+  ExpectMistake(fast, "takes the smaller digit from the larger in each column", "40 mph");
   const Reading late =
       Read("Distance-Rate-Time Problems",
            {"A car travels at a rate of 40 mph.", "How long does it take to go 50 miles?"});
   EXPECT_TRUE(IsRight(late, "1 hour & 15 minutes"));
   EXPECT_TRUE(IsRight(late, "75 minutes"));
   EXPECT_TRUE(IsRight(late, "1 1/4 hours"));
-  ExpectMistake(late, "reads the hundredths of an hour as minutes", "1 hour & 25 minutes");
+  ExpectMistake(late, "counts the minutes to the next full hour", "1 hour & 45 minutes");
   EXPECT_THROW(Read("Distance-Rate-Time Problems", {"A car travels.", "How far does it go?"}),
                Unreadable);
 }

@@ -56,7 +56,7 @@ Case Motion() {
   return Make("Distance-Rate-Time Problems", choice_kind::FourShuffled,
               {"A car travels at a rate of 40 mph.", "How long does it take to go 50 miles?"},
               "1 hour & 15 minutes",
-              {{"reads the hundredths of an hour as minutes", "1 hour & 25 minutes"},
+              {{"counts the minutes to the next full hour", "1 hour & 45 minutes"},
                {"leaves the part of an hour out", "1 hour"},
                {"filler", "2 hours & 5 minutes"}});
 }

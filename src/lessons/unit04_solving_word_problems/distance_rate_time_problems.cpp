@@ -10,106 +10,104 @@ namespace {
 
 using namespace stories;
 
-const std::string kDot = " " + tutor::Dot + " ";
-const std::string kDivided = " " + tutor::Divided + " ";
-
 constexpr int kMinutesOfHour = 60;
 
-constexpr int kBoxWidth = 38;  // columns of the white box
-constexpr double kWipeSpeed = 10;
+// Rows of an explanation: the facts, the working, and the box with words below it.
+constexpr double kFactsRow = 7.5;
 constexpr double kFactColumn = 21;
-constexpr double kFactsRow = 8.6;   // of an explanation, below the question
-constexpr double kStepsRow = 14.2;  // of the white box below the facts
-constexpr double kStepsRows = 9;
+constexpr double kWorkRow = 13.5;
+constexpr double kSecondWorkRow = 17;
+constexpr double kWorkCol = 2;
+constexpr double kBoxRow = 19;
 
-// --- Teaching screen ---------------------------------------------------------
+std::string Product(const std::string& a, const std::string& b) {
+  return WithoutBreaks(a + " " + tutor::Dot + " " + b);
+}
+std::string Quotient(const std::string& a, const std::string& b) {
+  return WithoutBreaks(a + " " + tutor::Divided + " " + b);
+}
+const std::string kFormula = "d = " + Product("r", "t");
+
+// --- Teaching screens --------------------------------------------------------
 
 void TheFormula() {
+  const std::string times = " " + tutor::Times + " ";
   NewScreen();
-  Locate(3, 1);
-  isPrint("Three numbers tell of a motion:");
-  WordWrap(R"(  the \cdistance\z d that something goes,)");
-  WordWrap(R"(  the \crate\z r at which it goes,)");
-  WordWrap(R"(  and the \ctime\z t that it takes.)");
+  SayAt(3, "Three numbers tell of a motion:");
+  AddLine(R"(  the \cdistance\z d that something goes,)");
+  AddLine(R"(  the \crate\z r at which it goes,)");
+  AddLine(R"(  and the \ctime\z t that it takes.)");
   PageEnd();
-  isPrint();
-  WordWrap(
-      R"(A rate tells how far it goes in \yone\z hour.  50 miles in an hour is written as 50)" +
-      tutor::Gap + "mph.");
+  Say(Text("A rate tells how far it goes in one hour.  50 miles per hour is written as {}.",
+           RateText({50, 1})));
+  Say("A car goes 50 mph.  How far does it go in 3 hours?");
   PageEnd();
-  isPrint();
-  WordWrap("A car goes at a rate of 50" + tutor::Gap +
-           "mph.  How far does it go in 3 hours?  Think before you go on.");
+  Show("in 1 hour     50" + times + "1 =  50 miles");
+  Show("in 2 hours    50" + times + "2 = 100 miles");
+  Show("in 3 hours    50" + times + "3 = 150 miles");
   PageEnd();
-  isPrint();
-  isPrint("  in 1 hour     50" + kDot + "1 =  50 miles");
-  isPrint("  in 2 hours    50" + kDot + "2 = 100 miles");
-  isPrint("  in 3 hours    50" + kDot + "3 = 150 miles");
-  PageEnd();
-  isPrint();
-  isPrint("The distance is the rate times the time:");
-  WordWrap(R"(  \yd = r)" + kDot + R"(t\z)");
+  Say("So we multiply.  The distance is the rate times the time:");
+  RuleBox("The Formula", {kFormula}, {.width = 20});
   PageEnd();
 }
 
-// A white box from a row on, for what is worked out beside the text.
-void StartBox(double row, double rows) {
-  wbPrepare(row, kBoxWidth, rows, platform::colour::White, platform::colour::Black);
-  wbShow();
-}
-
-void NextBoxPage() {
-  wbWipeAndErase(kWipeSpeed);
-}
-
-// The two other forms and an example of each, in the box.
-void OtherForms() {
+void RateFromDistance() {
   NewScreen();
-  WrapAt(3, "The same formula finds the rate, when we know the distance and the time.");
-  StartBox(6, 10);
-  wbWordWrap("A jogger runs 12 miles in 2 hours.  What is his rate?");
+  SayAt(3,
+        "The same formula finds the rate.  A jogger runs 12 miles in 2 hours.  What is her rate?");
+  Show(kFormula);
+  Say("t stands beside r.  How do we get r alone?");
   PageEnd();
-  wbisPrint();
-  wbWordWrap(R"(  \rd = r)" + kDot + "t");
-  wbisPrint("We divide both sides by t:");
-  wbisPrint("  r = d" + kDivided + "t");
+  Say(R"(We divide both sides by \yt\z:)");
+  Show("r = d/t");
   PageEnd();
-  wbisPrint("  r = 12" + kDivided + "2 = 6");
-  wbisPrint("His rate is 6" + tutor::Gap + "mph.");
+  Show("r = 12/2 = 6");
+  Say("Her rate is 6 mph.  That is 6 miles in each of the 2 hours.");
   PageEnd();
-  WrapAt(3, "The same formula finds the time, when we know the distance and the rate.");
-  NextBoxPage();
-  wbWordWrap("A skater goes 20 miles at a rate of 8" + tutor::Gap + "mph.  How long does it take?");
+}
+
+void TimeFromDistance() {
+  NewScreen();
+  SayAt(3,
+        "It finds the time, too.  A skater goes 20 miles at a rate of 8 mph.  How long does it "
+        "take?");
+  Show(kFormula);
   PageEnd();
-  wbisPrint();
-  wbWordWrap(R"(  \rd = r)" + kDot + "t");
-  wbisPrint("We divide both sides by r:");
-  wbisPrint("  t = d" + kDivided + "r");
+  Say(R"(We divide both sides by \yr\z:)");
+  Show("t = d/r");
   PageEnd();
-  wbisPrint("  t = 20" + kDivided + "8 = 5/2 = 2 1/2");
-  wbisPrint("It takes 2 1/2 hours.");
+  Show("t = 20/8 = 5/2 = 2 1/2");
+  Say("It takes 2 1/2 hours.  How many minutes are half an hour?");
+  PageEnd();
+  Say("Half of 60 minutes are 30 minutes.  So it takes 2 hours & 30 minutes.");
   PageEnd();
 }
 
 void HoursAndMinutes() {
   NewScreen();
-  WrapAt(3, "A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
+  SayAt(3, "Miles per hour need a time in hours.  An hour has 60 minutes:");
+  Show("15 minutes = 15/60 = 1/4 of an hour");
   PageEnd();
-  isPrint();
-  isPrint("  15 minutes = 15/60 = 1/4 of an hour");
-  isPrint("  30 minutes = 30/60 = 1/2 of an hour");
-  isPrint("  45 minutes = 45/60 = 3/4 of an hour");
+  Show("30 minutes = 30/60 = 1/2 of an hour");
+  Show("45 minutes = 45/60 = 3/4 of an hour");
   PageEnd();
-  isPrint();
-  WordWrap("How many hours are 3 hours & 15 minutes?");
+  Say(R"(\yTry it:\z  How many hours are 3 hours & 15 minutes?)");
   PageEnd();
-  isPrint();
-  WordWrap(R"(They are \y3 1/4\z hours.)");
-  WordWrap(R"(\rThey are not 3.15 hours.\z  That would be 15 hundredths of an hour.)");
+  Say(R"(They are \y3 1/4\z hours: the 3 stays, and 15 minutes are 1/4 of an hour.)");
   PageEnd();
-  isPrint();
-  WordWrap("Back from hours to minutes we multiply:");
-  isPrint("  3/4 of an hour = 3/4" + kDot + "60 = 45 minutes");
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  3 hours & 15 minutes are not 3.15 hours.)");
+  Say("0.15 would be 15 of 100 parts, but an hour has 60 minutes.");
+  PageEnd();
+  Say("Back from hours to minutes we multiply by 60:");
+  Show("3/4 " + tutor::Times + " 60 = 45");
+  Say("3/4 of an hour are 45 minutes.");
+  PageEnd();
+  Say(R"(\yTry it:\z  A boat goes 5 mph.  How far does it go in 2 hours & 30 minutes?)");
+  PageEnd();
+  Show("d = 5 " + tutor::Times + " 2 1/2 = 12 1/2");
+  Say("2 hours give 10 miles, and half an hour gives half of 5 miles.");
   PageEnd();
 }
 
@@ -121,35 +119,62 @@ void ShowArrow(double row, double from, double to, const std::string& name,
     isDrawArrowPointingRightWithColor(row, to, colour, length);
   else
     isDrawArrowPointingLeftWithColor(row, to, colour, length);
-  Locate(row, 27);
-  isColorPrint(name, colour);
+  SayAt(row, name, {.col = 27});
 }
 
-// Arrows of two columns for a mile an hour, tip to tail.
+// Arrows of two columns for a mile per hour, tip to tail.
 void WindAndCurrent() {
   NewScreen();
-  WrapAt(3, "A boat sails at 10" + tutor::Gap + R"(mph in still water.  A \ccurrent\z of 2)" +
-                tutor::Gap + "mph moves the water, and the boat in it.");
+  SayAt(3, R"(A boat sails at 10 mph in still water.  A \ccurrent\z of 2 mph moves the water, and )"
+           "the boat in it.");
+  SayAt(6.5, "With the current we add:");
+  ShowArrow(8, 1, 20, "boat", platform::colour::White);
+  ShowArrow(9.1, 21, 24, R"(\ccurrent\z)", platform::colour::Cyan);
+  ShowArrow(10.2, 1, 24, R"(\y10 + 2 = 12\z)", platform::colour::Yellow);
   PageEnd();
-  Locate(6.6, 1);
-  isPrint("With the current we add:");
-  ShowArrow(7.8, 1, 20, "boat", platform::colour::White);
-  ShowArrow(8.9, 21, 24, "current", platform::colour::Cyan);
-  ShowArrow(10, 1, 24, "10 + 2 = 12", platform::colour::Yellow);
+  SayAt(12, "What do we do when it sails against the current?");
   PageEnd();
-  Locate(11.6, 1);
-  isPrint("Against the current we subtract:");
-  ShowArrow(12.8, 1, 20, "boat", platform::colour::White);
-  ShowArrow(13.9, 20, 17, "current", platform::colour::Cyan);
-  ShowArrow(15, 1, 16, "10 - 2 = 8", platform::colour::Yellow);
+  SayAt(14, "The current slows it down.  We subtract:");
+  ShowArrow(15.5, 1, 20, "boat", platform::colour::White);
+  ShowArrow(16.6, 20, 17, R"(\ccurrent\z)", platform::colour::Cyan);
+  ShowArrow(17.7, 1, 16, R"(\y10 - 2 = 8\z)", platform::colour::Yellow);
   PageEnd();
-  WrapAt(16.6, "A wind does to a plane what a current does to a boat.");
+  SayAt(19.5, R"(\yTry it:\z  How long does it take to go 24 miles against the current?)");
   PageEnd();
-  isPrint();
-  WordWrap("Now you.  How long does the boat take to go 24 miles against the current?");
+  SayAt(22, Text("t = {}.  It takes 3 hours.", Quotient("24", "8") + " = 3"));
   PageEnd();
-  isPrint("  t = 24" + kDivided + "8 = 3");
-  isPrint("It takes 3 hours.");
+}
+
+void RateInStillWater() {
+  NewScreen();
+  SayAt(3,
+        "A boat goes 24 miles in 2 hours with a current of 2 mph.  What is its rate in still "
+        "water?");
+  PageEnd();
+  Say(Text("First we ask how fast it {} goes:", Words{R"(\yreally\z)"}));
+  Show("r = d/t = 24/2 = 12");
+  PageEnd();
+  Say("These 12 mph are the boat and the current together.  Do we add the 2 mph, or subtract "
+      "them?");
+  ShowArrow(14, 1, 24, R"(\y12\z)", platform::colour::Yellow);
+  ShowArrow(15.1, 21, 24, R"(\ccurrent: 2\z)", platform::colour::Cyan);
+  PageEnd();
+  ShowArrow(16.2, 1, 20, "boat: ?", platform::colour::White);
+  SayAt(18, "The current helped.  Without it the boat is slower, so we subtract:");
+  Show("12 - 2 = 10");
+  Say("Its rate in still water is 10 mph.");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(A \cwind\z does to a plane what a current does to a boat.)");
+  Say(R"(\yTry it:\z  A bird flies 30 miles in 2 hours against a wind of 5 mph.  What is its rate )"
+      "in still air?");
+  PageEnd();
+  Show("r = 30/2 = 15");
+  Say("It really goes 15 mph.  The wind slowed it down, so in still air it is faster:");
+  Show("15 + 5 = 20");
+  PageEnd();
+  Say(R"(Check:  20 - 5 = 15, and 15 mph for 2 hours are 30 miles.)");
   PageEnd();
 }
 
@@ -161,28 +186,30 @@ class DistanceRateTimeProblems final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{TheFormula, OtherForms, HoursAndMinutes, WindAndCurrent}};
+    return {{TheFormula, RateFromDistance, TimeFromDistance},
+            {HoursAndMinutes},
+            {WindAndCurrent, RateInStillWater}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
+  void StartStep(const std::string& words);
   void ShowFacts();
   void ShowFact(const std::string& name, const std::string& value);
   void ExplainDrift();
   void ExplainHours();
   void ExplainFormula();
-  void Simplify();
   void ExplainMinutes();
   void ExplainStillRate();
   void Check();
-  void CheckDistance();
   void TellAnswer();
 
   std::string Question() const { return problem.question[0] + "  " + problem.question[1]; }
+  std::string RealRateSum() const;
+  std::string DistanceCheck() const;
   Motion motion_;
-  double factRow_ = 0;     // where the next fact is printed
-  double unknownRow_ = 0;  // where the fact that is asked for stands
+  double factRow_ = 0;  // where the next fact stands
 };
 
 // --- Generator ---------------------------------------------------------------
@@ -196,40 +223,42 @@ void DistanceRateTimeProblems::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void DistanceRateTimeProblems::ShowProblem() {
-  WrapAt(5, Question());
-  // "1055 19/20 miles" and "4 hours & 30 minutes" are long.
-  const double fontSize = motion_.asked == MotionPart::Time ? 15 : 18;
-  picAnswerSetParameters(2, 12, 1, 21, 0, 19, 50, 27, (20 - fontSize) / 2, "", fontSize);
+  SayAt(5, Question());
+  // "4 hours & 30 minutes" is long.
+  const bool isTime = motion_.asked == MotionPart::Time;
+  ShowAnswersInTwoColumns(problem, {.row = 12, .width = 19, .fontSize = isTime ? 15.0 : 18.0});
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void DistanceRateTimeProblems::ExplainProblem() {
   ProblemBanner();
-  WrapAt(4, Question());
+  SayAt(4, Question());
   PageEnd();
   ShowFacts();
-  PageEnd();
-  StartBox(kStepsRow, kStepsRows);
+  WhiteBox({.row = kBoxRow});
   ExplainDrift();
   ExplainHours();
   ExplainFormula();
-  Simplify();
   ExplainMinutes();
   ExplainStillRate();
   Check();
   TellAnswer();
 }
 
+// Words below, and room for new working above them.
+void DistanceRateTimeProblems::StartStep(const std::string& words) {
+  ClearRows(kWorkRow - 1.2, kBoxRow - kWorkRow + 1);
+  SayInBoxAnew(words);
+}
+
 void DistanceRateTimeProblems::ShowFacts() {
   const auto known = [this](MotionPart part, const std::string& text) {
-    return part == motion_.asked ? "?" : text;
+    return part == motion_.asked ? R"(\y?\z)" : text;
   };
-  factRow_ = kFactsRow + 1.1;
-  Locate(kFactsRow, 1);
-  isPrint("Let's summarize what we know.");
-  const std::string still = motion_.StillText();
-  ShowFact("Rate" + still, known(MotionPart::Rate, RateText({motion_.rate, 1})));
+  SayAt(kFactsRow, "Let's summarize what we know.");
+  factRow_ = kFactsRow + 1;
+  ShowFact("Rate" + motion_.StillText(), known(MotionPart::Rate, RateText({motion_.rate, 1})));
   if (motion_.direction != 0)
     ShowFact(motion_.inWater ? "Current" : "Wind",
              RateText({motion_.drift, 1}) + (motion_.direction > 0 ? " (with)" : " (against)"));
@@ -238,11 +267,8 @@ void DistanceRateTimeProblems::ShowFacts() {
 }
 
 void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::string& value) {
-  Locate(factRow_, 1);
-  isPrint(name);
-  Locate(factRow_, kFactColumn);
-  if (value == "?") unknownRow_ = factRow_;
-  isColorPrint(value, value == "?" ? platform::colour::Yellow : platform::colour::White);
+  SayAt(factRow_, name);
+  SayAt(factRow_, value, {.col = kFactColumn});
   ++factRow_;
 }
 
@@ -250,95 +276,102 @@ void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::stri
 void DistanceRateTimeProblems::ExplainDrift() {
   if (motion_.direction == 0 || motion_.asked == MotionPart::Rate) return;
   const bool helps = motion_.direction > 0;
-  wbWordWrap("The " + motion_.DriftName() + (helps ? " helps " : " slows ") + motion_.TheVehicle() +
-             (helps ? ".  We add" : " down.  We subtract") + " to find how fast " +
-             motion_.TheVehicle() + " really goes:");
-  wbisPrint("  r = " + NumStr(motion_.rate) + (helps ? " + " : " - ") + NumStr(motion_.drift) +
-            " = " + NumStr(motion_.RealRate()));
+  StartStep("The " + motion_.DriftName() + (helps ? " helps " : " slows ") + motion_.TheVehicle() +
+            (helps ? "." : " down.") + "  Do we add or subtract to find how fast " +
+            motion_.TheVehicle() + " really goes?");
   PageEnd();
-  NextBoxPage();
+  ShowAt(kWorkRow, "r = " + RealRateSum(), kWorkCol);
+  SayInBoxAnew(Text("We {}.  The real rate is {}.", Words{helps ? "add" : "subtract"},
+                    RateText({motion_.RealRate(), 1})));
+  PageEnd();
 }
 
 void DistanceRateTimeProblems::ExplainHours() {
   const int minutes = motion_.minutes % kMinutesOfHour;
   if (minutes == 0 || motion_.asked == MotionPart::Time) return;
-  wbWordWrap("A rate in miles an hour needs a time in hours.  An hour has 60 minutes:");
-  wbisPrint("  " + DurationText(minutes) + " = " + NumStr(minutes) +
-            "/60 = " + MixedText(HoursOf(minutes)) + " of an hour");
-  wbisPrint("  t = " + HoursText(motion_.Hours()));
+  StartStep("Miles per hour need a time in hours.  An hour has 60 minutes.");
+  ShowAt(kWorkRow,
+         Text("{} = {}/60 = {} of an hour", DurationText(minutes), minutes,
+              MixedText(HoursOf(minutes))),
+         kWorkCol);
+  if (motion_.minutes > kMinutesOfHour)
+    ShowAt(kSecondWorkRow, "t = " + MixedText(motion_.Hours()), kWorkCol);
   PageEnd();
-  NextBoxPage();
 }
 
 void DistanceRateTimeProblems::ExplainFormula() {
-  const std::string formula = R"(the formula \rd = r)" + kDot + R"(t\z)";
-  const std::string wanted = "Since we want to find the " + NameOf(motion_.asked);
+  const std::string name = NameOf(motion_.asked);
+  const std::string letter = LetterOf(motion_.asked);
+  const std::string formula = R"(the formula \r)" + kFormula + R"(\z)";
+  const std::string wanted = "Since we want to find the " + name;
   if (motion_.asked == MotionPart::Distance) {
-    wbWordWrap(wanted + ", we use " + formula + ".");
-    PageEnd();
-    return;
+    StartStep(wanted + ", we use " + formula + ".");
+    ShowAt(kWorkRow, kFormula, kWorkCol);
+  } else {
+    const std::string other =
+        LetterOf(motion_.asked == MotionPart::Rate ? MotionPart::Time : MotionPart::Rate);
+    StartStep(wanted + ", we should rewrite " + formula + ".");
+    SayInBox("We divide both sides by " + other + ".");
+    ShowAt(kWorkRow, letter + " = " + Quotient("d", other), kWorkCol);
   }
-  const std::string other =
-      LetterOf(motion_.asked == MotionPart::Rate ? MotionPart::Time : MotionPart::Rate);
-  wbWordWrap(wanted + ", we should rewrite " + formula + ".");
-  wbisPrint("We divide both sides by " + other + ":");
-  wbisPrint("  " + LetterOf(motion_.asked) + " = d" + kDivided + other);
   PageEnd();
-}
-
-// The numbers in the formula, then line under line what they give.
-void DistanceRateTimeProblems::Simplify() {
   const std::vector<std::string> lines = WorkingLines(motion_);
-  NextBoxPage();
-  wbWordWrap("We put in the numbers:");
-  wbisPrint("  " + LetterOf(motion_.asked) + " = " + lines.front());
+  StartStep("We put in the numbers.");
+  ShowAt(kWorkRow, letter + " = " + lines.front(), kWorkCol);
   PageEnd();
-  wbWordWrap("Simplify the expression to find the " + NameOf(motion_.asked) + ":");
-  for (std::size_t i = 1; i < lines.size(); ++i) wbisPrint("    = " + lines[i]);
+  SayInBoxAnew("Simplify the expression to find the " + name + ".");
+  std::string rest;
+  for (std::size_t i = 1; i < lines.size(); ++i) rest += (i > 1 ? " = " : "= ") + lines[i];
+  ShowAt(kSecondWorkRow, rest, kWorkCol);
   PageEnd();
-  NextBoxPage();
 }
 
 void DistanceRateTimeProblems::ExplainMinutes() {
   const int minutes = motion_.minutes % kMinutesOfHour;
   if (motion_.asked != MotionPart::Time || minutes == 0) return;
-  wbWordWrap("The time is " + HoursText(motion_.Hours()) +
-             ".  We turn the part of an hour into minutes:");
-  wbisPrint("  " + MixedText(HoursOf(minutes)) + kDot + "60 = " + NumStr(minutes));
+  StartStep(Text("The time is {}.  We turn the part of an hour into minutes.",
+                 HoursText(motion_.Hours())));
+  ShowAt(kWorkRow, Text("{} {} 60 = {}", MixedText(HoursOf(minutes)), tutor::Times, minutes),
+         kWorkCol);
   PageEnd();
-  NextBoxPage();
 }
 
 void DistanceRateTimeProblems::ExplainStillRate() {
   if (motion_.asked != MotionPart::Rate || motion_.direction == 0) return;
   const bool helps = motion_.direction > 0;
-  wbWordWrap(RateText({motion_.RealRate(), 1}) + " is the rate " +
-             (helps ? "with the " : "against the ") + motion_.DriftName() + ".  Without it " +
-             motion_.TheVehicle() + " is " + RateText({motion_.drift, 1}) +
-             (helps ? " slower:" : " faster:"));
-  wbisPrint("  " + NumStr(motion_.RealRate()) + (helps ? " - " : " + ") + NumStr(motion_.drift) +
-            " = " + NumStr(motion_.rate));
+  StartStep(Text("{} is the rate {} the {}.  Without it {} is slower or faster?",
+                 RateText({motion_.RealRate(), 1}), Words{helps ? "with" : "against"},
+                 motion_.DriftName(), Words{motion_.TheVehicle()}));
   PageEnd();
-  NextBoxPage();
+  SayInBoxAnew(Text("Without it {} is {} {}.", Words{motion_.TheVehicle()},
+                    RateText({motion_.drift, 1}), Words{helps ? "slower" : "faster"}));
+  ShowAt(kWorkRow,
+         Text("{} {} {} = {}", motion_.RealRate(), helps ? "-" : "+", motion_.drift, motion_.rate),
+         kWorkCol);
+  PageEnd();
 }
 
 // The answer put back into the formula; a distance is compared with those of whole hours.
 void DistanceRateTimeProblems::Check() {
   if (motion_.asked == MotionPart::Distance) {
-    CheckDistance();
+    StartStep(DistanceCheck());
   } else {
-    wbWordWrap(R"(Check in \rd = r)" + kDot + R"(t\z:)");
-    if (motion_.direction != 0)
-      wbisPrint("  r = " + NumStr(motion_.rate) + (motion_.direction > 0 ? " + " : " - ") +
-                NumStr(motion_.drift) + " = " + NumStr(motion_.RealRate()));
-    wbisPrint("  d = " + NumStr(motion_.RealRate()) + kDot + MixedText(motion_.Hours()) + " = " +
-              MixedText(motion_.Distance()));
+    StartStep(R"(Check in \r)" + kFormula + R"(\z.)");
+    if (motion_.direction != 0) ShowAt(kWorkRow, "r = " + RealRateSum(), kWorkCol);
+    ShowAt(kSecondWorkRow,
+           Text("d = {} {} {} = {}", motion_.RealRate(), tutor::Times, MixedText(motion_.Hours()),
+                MixedText(motion_.Distance())),
+           kWorkCol);
   }
   PageEnd();
-  wbisPrint();
 }
 
-void DistanceRateTimeProblems::CheckDistance() {
+std::string DistanceRateTimeProblems::RealRateSum() const {
+  return Text("{} {} {} = {}", motion_.rate, motion_.direction > 0 ? "+" : "-", motion_.drift,
+              motion_.RealRate());
+}
+
+std::string DistanceRateTimeProblems::DistanceCheck() const {
   const Fraction hours = motion_.Hours();
   const int full = hours.num / hours.den;
   const auto distanceIn = [this](int wholeHours) {
@@ -347,28 +380,20 @@ void DistanceRateTimeProblems::CheckDistance() {
   };
   const std::string distance = MixedText(motion_.Distance());
   if (hours.den == 1)
-    wbWordWrap("Check:  " + distance + kDivided + NumStr(full) + " = " +
-               NumStr(motion_.RealRate()) + ", the rate.");
-  else if (full == 0)
-    wbWordWrap("Check:  it is " + distanceIn(1) + ", so in less time it is less.");
-  else
-    wbWordWrap("Check:  it is " + distanceIn(full) + " and " + distanceIn(full + 1) + ".  " +
-               distance + " lies between.");
+    return "Check:  " + Quotient(distance, NumStr(full)) + " = " + NumStr(motion_.RealRate()) +
+           ", the rate.";
+  if (full == 0) return "Check:  it is " + distanceIn(1) + ", so in less time it is less.";
+  return "Check:  it is " + distanceIn(full) + " and " + distanceIn(full + 1) + ".  " + distance +
+         " lies between.";
 }
 
 void DistanceRateTimeProblems::TellAnswer() {
   const std::string text = motion_.ValueText(motion_.Answer());
-  Locate(unknownRow_, kFactColumn);
-  isColorPrint(text, platform::colour::Yellow);
-  wbWordWraps("The answer is:  ");
-  wbWordWrap(R"(\r)" + text);
-  if (problem.correct == 5) {
-    PageEnd();
-    wbWordWrap("It is not among the choices, so we take:");
-    wbWordWrap(std::string(R"(\b)") + kNoneOfTheAbove);
-    return;
-  }
-  wbWordWrap("We have found what we were looking for.");
+  SayInBoxAnew(R"(The answer is:  \r)" + text + R"(\z)");
+  if (RightIsHidden(problem))
+    SayInBox(std::string(R"(It is not among the choices, so the right one is \r)") +
+             kNoneOfTheAbove + R"(\z.)");
+  SayInBox("We have found what we were looking for.");
 }
 
 const LessonRegistration<DistanceRateTimeProblems> kRegistration("Distance-Rate-Time Problems");

@@ -60,7 +60,8 @@ struct Motion {
   std::optional<Rational> distance;  // miles
   std::optional<Rational> rate;      // mph, in still air or water
   std::optional<Rational> minutes;
-  Rational drift = 0;  // mph; negative against it
+  Rational drift = 0;     // mph; negative against it
+  std::string driftName;  // "wind" or "current"
   Unit asked = Unit::Mile;
 };
 
@@ -85,6 +86,7 @@ Motion ReadMotion(const course::Problem& problem) {
   for (std::size_t i = 0; i + 2 < words.size(); ++i) {
     if (words[i + 2] != "wind" && words[i + 2] != "current") continue;
     driftAt = i;
+    motion.driftName = words[i + 2];
     direction = words[i] == "with" ? 1 : words[i] == "against" ? -1 : 0;
     if (direction == 0) throw Unreadable("a drift neither with nor against: " + text);
   }
@@ -122,10 +124,10 @@ std::string ValueOfChoice(const std::string& choice) {
 class MistakeList {
  public:
   MistakeList(Unit unit, Reading& reading) : unit_(unit), reading_(reading) {}
-  void Add(const char* name, const Rational& value) {
+  void Add(const std::string& name, const Rational& value) {
     reading_.mistakes[name] = {ValueText(unit_, unit_ == Unit::Minute ? value * 60 : value)};
   }
-  void AddQuotient(const char* name, const Rational& above, const Rational& below,
+  void AddQuotient(const std::string& name, const Rational& above, const Rational& below,
                    const Rational& less = 0) {
     if (below != 0) Add(name, above / below - less);
   }
@@ -147,15 +149,59 @@ struct Hours {
   Rational AsHundredths() const { return full + rest / 100; }
 };
 
+// Digit by digit from the right, with what a student makes of two digits.
+enum class Slip { SumWithoutCarry, DifferenceUpward };
+
+Rational Slipped(Slip slip, const Rational& a, const Rational& b) {
+  mpz_class x = a.get_num();
+  mpz_class y = b.get_num();
+  mpz_class result = 0;
+  for (mpz_class place = 1; x > 0 || y > 0; place *= 10, x /= 10, y /= 10) {
+    const mpz_class first = x % 10;
+    const mpz_class second = y % 10;
+    mpz_class digit = first + second;
+    if (slip == Slip::DifferenceUpward) digit = abs(first - second);
+    const bool leading = x <= 9 && y <= 9;  // a leading sum is written whole
+    if (slip == Slip::SumWithoutCarry && !leading) digit %= 10;
+    result += place * digit;
+  }
+  return result;
+}
+
+Rational ProductWithoutCarry(const Rational& number, const Rational& factor) {
+  mpz_class n = number.get_num();
+  mpz_class result = 0;
+  for (mpz_class place = 1; n > 0; place *= 10, n /= 10) {
+    mpz_class digit = n % 10 * factor.get_num();
+    if (n > 9) digit %= 10;  // the leading product is written whole
+    result += place * digit;
+  }
+  return result;
+}
+
+// subtracted: whether the drift should be.
+std::string DriftTurned(const Motion& m, bool subtracted) {
+  return (subtracted ? "adds the " + m.driftName + " in place of subtracting it"
+                     : "subtracts the " + m.driftName + " in place of adding it");
+}
+
 void AddMistakesAtDistance(const Motion& m, MistakeList& list) {
   const Rational time = *m.minutes / 60;
   const Hours hours(*m.minutes);
   const Rational real = *m.rate + m.drift;
-  list.Add("ignores the wind or current", *m.rate * time);
-  list.Add("takes the wind or current the wrong way", (*m.rate - m.drift) * time);
-  list.Add("leaves the minutes out", real * hours.full);
-  list.Add("reads the minutes as hundredths of an hour", real * hours.AsHundredths());
-  if (hours.full == 0) list.Add("reads the minutes as hours", real * hours.rest);
+  if (m.drift != 0) {
+    list.Add("ignores the " + m.driftName, *m.rate * time);
+    list.Add(DriftTurned(m, m.drift < 0), (*m.rate - m.drift) * time);
+    list.Add("counts the " + m.driftName + " for one hour only", *m.rate * time + m.drift);
+  }
+  if (hours.rest != 0) {
+    list.Add("leaves the minutes out", real * hours.full);
+    list.Add("counts the minutes as a full hour", real * (hours.full + 1));
+    list.Add("reads the minutes as hundredths of an hour", real * hours.AsHundredths());
+  } else {
+    list.Add("forgets to carry", ProductWithoutCarry(real, time));
+    list.Add("counts one hour too many", real * (time + 1));
+  }
   list.AddQuotient("divides in place of multiplying", real, time);
   list.Add("adds the rate and the time", real + time);
 }
@@ -164,24 +210,35 @@ void AddMistakesAtRate(const Motion& m, MistakeList& list) {
   const Rational time = *m.minutes / 60;
   const Hours hours(*m.minutes);
   const Rational real = *m.distance / time;
-  list.Add("ignores the wind or current", real);
-  list.Add("takes the wind or current the wrong way", real + m.drift);
-  list.Add("multiplies in place of dividing", *m.distance * time);
-  list.AddQuotient("reads the minutes as hundredths of an hour", *m.distance, hours.AsHundredths(),
-                   m.drift);
-  list.AddQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
-  if (hours.full == 0)
-    list.AddQuotient("reads the minutes as hours", *m.distance, hours.rest, m.drift);
+  if (m.drift != 0) {
+    list.Add("ignores the " + m.driftName, real);
+    list.Add(DriftTurned(m, m.drift > 0), real + m.drift);
+    list.Add("counts the " + m.driftName + " for one hour only", (*m.distance - m.drift) / time);
+  }
+  if (m.drift < 0) list.Add("forgets to carry", Slipped(Slip::SumWithoutCarry, real, -m.drift));
+  if (m.drift > 0)
+    list.Add("takes the smaller digit from the larger in each column",
+             Slipped(Slip::DifferenceUpward, real, m.drift));
+  if (hours.rest != 0) {
+    list.AddQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
+    list.AddQuotient("counts the minutes as a full hour", *m.distance, hours.full + 1, m.drift);
+    list.AddQuotient("reads the minutes as hundredths of an hour", *m.distance,
+                     hours.AsHundredths(), m.drift);
+  }
 }
 
 void AddMistakesAtTime(const Motion& m, MistakeList& list) {
   const Rational real = *m.rate + m.drift;
   const Hours hours(*m.distance / real * 60);
-  list.AddQuotient("ignores the wind or current", *m.distance, *m.rate);
-  list.AddQuotient("takes the wind or current the wrong way", *m.distance, *m.rate - m.drift);
-  // 1.25 hours taken for 1 hour and 25 minutes
-  list.Add("reads the hundredths of an hour as minutes", hours.full + hours.rest / 60 * 100 / 60);
-  list.Add("leaves the part of an hour out", hours.full);
+  if (m.drift != 0) {
+    list.AddQuotient("ignores the " + m.driftName, *m.distance, *m.rate);
+    list.AddQuotient(DriftTurned(m, m.drift < 0), *m.distance, *m.rate - m.drift);
+  }
+  if (hours.rest != 0) {
+    list.Add("counts the minutes to the next full hour", hours.full + 1 - hours.rest / 60);
+    list.Add("leaves the part of an hour out", hours.full);
+    list.Add("rounds up to a full hour", hours.full + 1);
+  }
   list.AddQuotient("divides the rate by the distance", real, *m.distance);
 }
 
@@ -208,10 +265,6 @@ Reading ReadMotionProblem(const course::Problem& problem) {
   Reading reading;
   reading.answer = ValueText(motion.asked, AnswerOf(motion, reading));
   reading.value = ValueOfChoice;
-  if (motion.drift == 0) {
-    reading.mistakes["ignores the wind or current"].clear();
-    reading.mistakes["takes the wind or current the wrong way"].clear();
-  }
   return reading;
 }
 

@@ -37,14 +37,14 @@ constexpr int kSlowestPlane = 150;  // below it a plane would not stay in the ai
 constexpr int kQuarterHour = 15;  // minutes
 constexpr int kMinutesOfHour = 60;
 
-int DrawRate(int row, WordTable& table, RandomStream& random) {
+// Half of the draws is accepted for the plane.
+void DrawRate(int row, WordTable& table, RandomStream& random, Motion& motion) {
   const int least = static_cast<int>(table.NextNumber());
-  const int most = static_cast<int>(table.NextNumber());
-  int rate = 0;
+  motion.mostRate = static_cast<int>(table.NextNumber());
+  motion.leastRate = row == kPlane ? kSlowestPlane : least;
   do {
-    rate = random.Rand(least, most);
-  } while (row == kPlane && rate < kSlowestPlane);
-  return rate;
+    motion.rate = random.Rand(least, motion.mostRate);
+  } while (motion.rate < motion.leastRate);
 }
 
 // About a fifth of the draws is accepted for the slowest fish, nearly all for the others.
@@ -57,11 +57,22 @@ int DrawDrift(int row, const Motion& motion, RandomStream& random) {
   return drift;
 }
 
-int DrawMinutes(int row, bool withinAnHour, RandomStream& random) {
+// Short ways are told in minutes, up to an hour.
+void DrawMinutes(int row, RandomStream& random, Motion& motion) {
   const bool longWay = row == kBoat || row == kPlane || row == kJet || row == kCar;
-  const int hours = longWay ? random.Rand(2, 9) : random.Rand(1, 4);
+  const int least = longWay ? 2 : 1;
+  const int most = longWay ? 9 : 4;
+  const int hours = random.Rand(least, most);
   const int quarters = random.Rand(0, 3);
-  return withinAnHour ? hours * kQuarterHour : hours * kMinutesOfHour + quarters * kQuarterHour;
+  if (motion.withinAnHour) {
+    motion.minutes = hours * kQuarterHour;
+    motion.leastMinutes = kQuarterHour;
+    motion.mostMinutes = 2 * kMinutesOfHour;  // four times are too few to choose from
+    return;
+  }
+  motion.minutes = hours * kMinutesOfHour + quarters * kQuarterHour;
+  motion.leastMinutes = least * kMinutesOfHour;
+  motion.mostMinutes = most * kMinutesOfHour + 3 * kQuarterHour;
 }
 
 }  // namespace
@@ -92,9 +103,9 @@ Motion Motion::Draw(RandomStream& random) {
   const bool drifts = random.Rand(1, 2) == 2;
   if (drifts && row <= kLastWithDrift) motion.direction = sign;
   motion.asked = static_cast<MotionPart>(random.Rand(1, 3));
-  motion.rate = DrawRate(row, table, random);
+  DrawRate(row, table, random, motion);
   if (motion.direction != 0) motion.drift = DrawDrift(row, motion, random);
-  motion.minutes = DrawMinutes(row, motion.withinAnHour, random);
+  DrawMinutes(row, random, motion);
   return motion;
 }
 
@@ -145,7 +156,7 @@ std::vector<std::string> Motion::Question() const {
 }
 
 std::vector<std::string> WorkingLines(const Motion& motion) {
-  const std::string dot = " " + tutor::Dot + " ";
+  const std::string times = " " + tutor::Times + " ";
   const std::string divided = " " + tutor::Divided + " ";
   const Fraction d = motion.Distance();
   const Fraction t = motion.Hours();
@@ -154,17 +165,17 @@ std::vector<std::string> WorkingLines(const Motion& motion) {
   std::vector<std::string> lines;
   switch (motion.asked) {
     case MotionPart::Distance:
-      lines = {r + dot + MixedText(t), r + dot + ValueText(t), ValueText(d), MixedText(d)};
+      lines = {r + times + MixedText(t), r + times + ValueText(t), ValueText(d), MixedText(d)};
       break;
     case MotionPart::Rate:
       lines = {MixedText(d) + divided + MixedText(t), ValueText(d) + divided + ValueText(t)};
-      if (!whole) lines.push_back(ValueText(d) + dot + ValueText(Fraction{1, 1} / t));
+      if (!whole) lines.push_back(ValueText(d) + times + ValueText(Fraction{1, 1} / t));
       lines.push_back(r);
       break;
     case MotionPart::Time:
       lines = {MixedText(d) + divided + r, ValueText(d) + divided + r};
       if (d.den > 1)
-        lines.push_back(ValueText(d) + dot + FractionOfTexts("1", r));
+        lines.push_back(ValueText(d) + times + FractionOfTexts("1", r));
       else if (!whole)
         lines.push_back(FractionOfTexts(NumStr(d.num), r));
       lines.push_back(ValueText(t));

@@ -26,6 +26,11 @@ struct Motion {
   int direction = 0;  // 1 with a wind or current, -1 against it, 0 without
   int drift = 0;      // miles an hour of the wind or current, below rate when against it
   int minutes = 0;    // of the whole way, a multiple of 15
+  // What the vehicle can do, for the choices.
+  int leastRate = 0;
+  int mostRate = 0;
+  int leastMinutes = 0;
+  int mostMinutes = 0;
 
   // Draws another one.
   static Motion Draw(RandomStream& random);

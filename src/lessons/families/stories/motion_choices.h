@@ -1,5 +1,5 @@
 // The choices of "Distance-Rate-Time Problems": the usual mistakes first, then values of the same
-// kind at random.
+// kind at random.  All are whole rates of the vehicle, quarter hours or quarter miles.
 #pragma once
 
 #include <string>
