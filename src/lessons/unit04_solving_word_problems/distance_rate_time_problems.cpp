@@ -1,5 +1,7 @@
 // The student can find the distance, the rate or the time of something that moves, maybe with or
 // against a wind or a current, when the other two are known: d = r t and its two other forms.
+#include <cctype>
+
 #include "lessons/families/stories/durations.h"
 #include "lessons/families/stories/motion.h"
 #include "lessons/families/stories/motion_choices.h"
@@ -13,12 +15,12 @@ using namespace stories;
 constexpr int kMinutesOfHour = 60;
 
 // Rows of an explanation: the facts, the working, and the box with words below it.
-constexpr double kFactsRow = 7.5;
+constexpr double kFactsRow = 8;
 constexpr double kFactColumn = 21;
-constexpr double kWorkRow = 13.5;
-constexpr double kSecondWorkRow = 17;
+constexpr double kWorkRow = 14.2;
+constexpr double kSecondWorkRow = 17.2;
 constexpr double kWorkCol = 2;
-constexpr double kBoxRow = 19;
+constexpr double kBoxRow = 19.5;
 
 std::string Product(const std::string& a, const std::string& b) {
   return WithoutBreaks(a + " " + tutor::Dot + " " + b);
@@ -40,6 +42,7 @@ void TheFormula() {
   PageEnd();
   Say(Text("A rate tells how far it goes in one hour.  50 miles per hour is written as {}.",
            RateText({50, 1})));
+  PageEnd();
   Say("A car goes 50 mph.  How far does it go in 3 hours?");
   PageEnd();
   Show("in 1 hour     50" + times + "1 =  50 miles");
@@ -56,6 +59,7 @@ void RateFromDistance() {
   SayAt(3,
         "The same formula finds the rate.  A jogger runs 12 miles in 2 hours.  What is her rate?");
   Show(kFormula);
+  PageEnd();
   Say("t stands beside r.  How do we get r alone?");
   PageEnd();
   Say(R"(We divide both sides by \yt\z:)");
@@ -101,8 +105,7 @@ void HoursAndMinutes() {
   Say("0.15 would be 15 of 100 parts, but an hour has 60 minutes.");
   PageEnd();
   Say("Back from hours to minutes we multiply by 60:");
-  Show("3/4 " + tutor::Times + " 60 = 45");
-  Say("3/4 of an hour are 45 minutes.");
+  Show("3/4 of an hour = 3/4 " + tutor::Times + " 60 = 45 minutes", 2);
   PageEnd();
   Say(R"(\yTry it:\z  A boat goes 5 mph.  How far does it go in 2 hours & 30 minutes?)");
   PageEnd();
@@ -127,6 +130,7 @@ void WindAndCurrent() {
   NewScreen();
   SayAt(3, R"(A boat sails at 10 mph in still water.  A \ccurrent\z of 2 mph moves the water, and )"
            "the boat in it.");
+  PageEnd();
   SayAt(6.5, "With the current we add:");
   ShowArrow(8, 1, 20, "boat", platform::colour::White);
   ShowArrow(9.1, 21, 24, R"(\ccurrent\z)", platform::colour::Cyan);
@@ -196,6 +200,7 @@ class DistanceRateTimeProblems final : public LessonScript {
 
   void StartStep(const std::string& words);
   void ShowFacts();
+  void ShowFact(MotionPart part, const std::string& value);
   void ShowFact(const std::string& name, const std::string& value);
   void ExplainDrift();
   void ExplainHours();
@@ -248,22 +253,30 @@ void DistanceRateTimeProblems::ExplainProblem() {
 
 // Words below, and room for new working above them.
 void DistanceRateTimeProblems::StartStep(const std::string& words) {
-  ClearRows(kWorkRow - 1.2, kBoxRow - kWorkRow + 1);
+  ClearRows(kWorkRow - 1.1, kBoxRow - kWorkRow + 1);
   SayInBoxAnew(words);
 }
 
 void DistanceRateTimeProblems::ShowFacts() {
-  const auto known = [this](MotionPart part, const std::string& text) {
-    return part == motion_.asked ? R"(\y?\z)" : text;
-  };
   SayAt(kFactsRow, "Let's summarize what we know.");
   factRow_ = kFactsRow + 1;
-  ShowFact("Rate" + motion_.StillText(), known(MotionPart::Rate, RateText({motion_.rate, 1})));
-  if (motion_.direction != 0)
+  const bool drifts = motion_.direction != 0;
+  if (motion_.asked != MotionPart::Rate) ShowFact(MotionPart::Rate, RateText({motion_.rate, 1}));
+  if (drifts)
     ShowFact(motion_.inWater ? "Current" : "Wind",
              RateText({motion_.drift, 1}) + (motion_.direction > 0 ? " (with)" : " (against)"));
-  ShowFact("Time", known(MotionPart::Time, DurationText(motion_.minutes)));
-  ShowFact("Distance", known(MotionPart::Distance, QuantityText(motion_.Distance(), "mile")));
+  if (motion_.asked != MotionPart::Time) ShowFact(MotionPart::Time, DurationText(motion_.minutes));
+  if (motion_.asked != MotionPart::Distance)
+    ShowFact(MotionPart::Distance, QuantityText(motion_.Distance(), "mile"));
+  if (drifts) PageEnd();
+  ShowFact(motion_.asked, R"(\y?\z)");
+  PageEnd();
+}
+
+void DistanceRateTimeProblems::ShowFact(MotionPart part, const std::string& value) {
+  std::string name = NameOf(part);
+  name[0] = static_cast<char>(std::toupper(name[0]));
+  ShowFact(part == MotionPart::Rate ? name + motion_.StillText() : name, value);
 }
 
 void DistanceRateTimeProblems::ShowFact(const std::string& name, const std::string& value) {
@@ -322,7 +335,8 @@ void DistanceRateTimeProblems::ExplainFormula() {
   SayInBoxAnew("Simplify the expression to find the " + name + ".");
   std::string rest;
   for (std::size_t i = 1; i < lines.size(); ++i) rest += (i > 1 ? " = " : "= ") + lines[i];
-  ShowAt(kSecondWorkRow, rest, kWorkCol);
+  const double underSign = kWorkCol + 2;
+  ShowAt(kSecondWorkRow, rest, std::min(underSign, 41.0 - StackedTextWidth(rest)));
   PageEnd();
 }
 
@@ -393,7 +407,8 @@ void DistanceRateTimeProblems::TellAnswer() {
   if (RightIsHidden(problem))
     SayInBox(std::string(R"(It is not among the choices, so the right one is \r)") +
              kNoneOfTheAbove + R"(\z.)");
-  SayInBox("We have found what we were looking for.");
+  else
+    SayInBox("We have found what we were looking for.");
 }
 
 const LessonRegistration<DistanceRateTimeProblems> kRegistration("Distance-Rate-Time Problems");
