@@ -74,6 +74,8 @@ void AddMistakes(const Quadratic& q, Reading& reading) {
     reading.mistakes[lost] = {RootsText(-q.b, under, 2 * q.a)};
   reading.mistakes[name("keeps the sign of b")] = {RootsText(q.b, under, 2 * q.a)};
   reading.mistakes[name("forgets to divide by 2a")] = {RootsText(-q.b, under, 1)};
+  reading.mistakes[name("divides only the radical by 2a")] = {
+      RootsText(-2 * q.a * q.b, under, 2 * q.a)};
   reading.mistakes[name("divides by a")] = {RootsText(-q.b, under, q.a)};
   if (!real) reading.mistakes[name("divides by 2")] = {RootsText(-q.b, under, 2)};
   reading.mistakes["leaves out the 4 of 4ac"] = {RootsText(-q.b, q.b * q.b - q.a * q.c, 2 * q.a)};

@@ -1,6 +1,7 @@
 // The steps in which the quadratic formula solves an equation, page by page: its coefficients are
-// read off and put in, the discriminant is worked out in the wiper box, the fraction is simplified.
-// The lesson shows them for its example on a teaching screen, and for a problem in its explanation.
+// read off and put in, the discriminant is worked out in the white box, the fraction is simplified,
+// and rational roots are put back.  The equation stands in view on every page.  The lesson shows
+// the steps for its examples on teaching screens, and for a problem in its explanation.
 #pragma once
 
 #include <string>
@@ -9,22 +10,27 @@
 
 namespace course::quadratics {
 
-// "x = ...", for PrintStackedRow.
+// "x = ...", for Show.
 std::string QuadraticFormulaText();
 // "ax^2^ + bx + c = 0" with its letters in yellow and its terms wide apart.
-void PrintStandardForm(double row);
-// "(centre +- spread)/den" for PrintStackedRow.
+void ShowStandardForm(double row);
+// "(centre +- spread)/den" for Show; a centre of 0 is left out.
 std::string RootsOver(int centre, const std::string& spread, int den);
+// "4 . a . c" with negative numbers in parentheses.
+std::string ProductText(int a, int b, int c);
 
-// From row 5 of a page that has a heading above it.  Ends at the roots, or at "No real roots".
-void SolveByFormula(const Quadratic& equation);
-
-// The terms below those of PrintStandardForm, on row 9.
-void PrintSpreadEquation(const Quadratic& equation);
+// The terms below those of ShowStandardForm, on row 9.
+void ShowSpreadEquation(const Quadratic& equation);
 // A copy of each term slides down to row 12 and turns into the value of its letter.
 void TurnTermsIntoValues(const Quadratic& equation);
 // A text of the row slips out below it, goes so many columns to the right, or to the left when they
 // are negative, and comes back into the row.  The row below is free.
-void CarryAcross(double row, int column, int width, int columns);
+void CarryAcross(double row, double column, double width, double columns);
+
+// The page on which a, b and c are read off, under its heading.
+void ReadOff(const Quadratic& equation);
+// The steps from there to the roots, or to no real ones, on new screens.  What concludes goes on
+// below the last line.
+void SolveWithFormula(const Quadratic& equation);
 
 }  // namespace course::quadratics
