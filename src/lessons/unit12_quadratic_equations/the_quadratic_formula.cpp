@@ -95,14 +95,14 @@ void NameTheFormula() {
   SayAt(3, R"(The last line is the \cquadratic formula\z.)");
   picGalleryImagePrepare(1, gallery::QuadraticFormula, 4.5, 12);
   picGalleryImageShow(1);
-  SayAt(14, Text(R"(\y{}\z stands for both signs:  one solution has +, the other one has -.  The )"
+  SayAt(13, Text(R"(\y{}\z stands for both signs:  one solution has +, the other one has -.  The )"
                  R"(solutions are called \croots\z.)",
                  tutor::PlusOrMinus));
   PageEnd();
-  SayAt(18, R"(\yWatch out:\z  The whole numerator is divided by 2a, -b as well as the radical.)");
-  SayAt(21, Text(R"(\yTry it:\z  What is -b in  {}?)", EquationText(kRationalExample)));
+  SayAt(17, R"(\yWatch out:\z  The whole numerator is divided by 2a, -b as well as the radical.)");
+  SayAt(20.5, Text(R"(\yTry it:\z  What is -b in  {}?)", EquationText(kRationalExample)));
   PageEnd();
-  SayAt(23, "b is -5, so -b is -(-5) = 5.");
+  SayAt(22.5, "b is -5, so -b is -(-5) = 5.");
   PageEnd();
 }
 
@@ -142,7 +142,7 @@ void FillRow(const DiscriminantRow& row) {
 void TheDiscriminant() {
   NewScreen();
   SayAt(3, R"(The \cdiscriminant\z tells how many roots:)");
-  ShowAt(6, R"(\yb^2^ - 4ac\z)", kValueColumn - 4);
+  ShowAt(6, R"(\yb^2^ - 4ac\z)", kValueColumn - 5);
   ShowAt(6, R"(\yroots\z)", kRootsColumn);
   AskDiscriminant(kDiscriminants[0]);
   FillRow(kDiscriminants[0]);
@@ -156,11 +156,11 @@ void TheDiscriminant() {
   ClearBelow(14.5);
   SayAt(15, "No real number times itself is -16:");
   ShowAt(16.5, "4(4) = 16      (-4)(-4) = 16");
-  SayAt(18, R"(With a \ynegative\z one there are no roots.)");
+  SayAt(18, R"(\yNegative\z discriminant:  no real roots.)");
   PageEnd();
   SayAt(20, Text(R"(\yTry it:\z  How many real roots does  {}  have?)", "x^2^ + x + 1 = 0"));
   PageEnd();
-  ShowAt(22.5, "1 - 4 = -3 is negative:  none.");
+  SayAt(22.5, "None:  1 - 4 = -3 is negative.");
   PageEnd();
 }
 

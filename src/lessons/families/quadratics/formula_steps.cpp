@@ -185,10 +185,10 @@ void FormulaSteps::PutIn() const {
   const auto [a, b, c] = equation_;
   StartPage();
   ShowAt(6.5, Text(R"(\ya = {},  b = {},  c = {}\z)", a, b, c));
-  ShowAt(9, QuadraticFormulaText());
+  ShowAt(9.5, QuadraticFormulaText());
   const bool negative = a < 0 || b < 0 || c < 0;
-  SayAt(11.5,
-        negative ? R"(Put in:  \ynegative ones in parentheses\z.)" : "Now we put the numbers in.");
+  SayAt(12, negative ? R"(\yNegative\z numbers go into \yparentheses\z.)"
+                     : "Now we put the numbers in.");
   PageEnd();
   const std::string minusB = b == 0 ? "0" : "-" + InParentheses(b);
   ShowAt(15, "x = (" + minusB + " " + tutor::PlusOrMinus + " `" + PutInDiscriminant() + "`)/(2" +
