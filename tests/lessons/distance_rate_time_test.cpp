@@ -98,8 +98,15 @@ TEST_F(WordProblemTest, EveryVehicleKeepsToItsOwnRatesTimesAndWinds) {
       ASSERT_TRUE(found.rates[0] >= limit.slowest && found.rates[0] <= limit.fastest);
       ASSERT_TRUE(!found.against || found.rates[1] < found.rates[0]);
     }
-    for (int choice = 1; choice <= 5; ++choice)
-      ASSERT_NE(problem.choices[static_cast<std::size_t>(choice)].text[0], '0');
+    const bool asksForRate = !rateTold;
+    for (int choice = 1; choice <= 5; ++choice) {
+      const std::string text = ToUtf8(problem.choices[static_cast<std::size_t>(choice)].text);
+      ASSERT_NE(text[0], '0');
+      if (!asksForRate) continue;
+      ASSERT_EQ(text.find('/'), std::string::npos) << text;
+      const int offered = std::stoi(text);
+      ASSERT_TRUE(offered >= limit.slowest && offered <= limit.fastest) << text;
+    }
   }
   EXPECT_EQ(met.size(), limits.size());
   EXPECT_NEAR(met["jogger"], 2 * kDrawn / 9, kDrawn / 45);

@@ -17,10 +17,10 @@ constexpr int kMinutesOfHour = 60;
 // Rows of an explanation: the facts, the working, and the box with words below it.
 constexpr double kFactsRow = 8;
 constexpr double kFactColumn = 21;
-constexpr double kWorkRow = 14.2;
-constexpr double kSecondWorkRow = 17.2;
+constexpr double kWorkRow = 14;
+constexpr double kSecondWorkRow = 17;
 constexpr double kWorkCol = 2;
-constexpr double kBoxRow = 19.5;
+constexpr double kBoxRow = 19.7;
 
 std::string Product(const std::string& a, const std::string& b) {
   return WithoutBreaks(a + " " + tutor::Dot + " " + b);
@@ -158,13 +158,12 @@ void RateInStillWater() {
   Say(Text("First we ask how fast it {} goes:", Words{R"(\yreally\z)"}));
   Show("r = d/t = 24/2 = 12");
   PageEnd();
-  Say("These 12 mph are the boat and the current together.  Do we add the 2 mph, or subtract "
-      "them?");
-  ShowArrow(14, 1, 24, R"(\y12\z)", platform::colour::Yellow);
-  ShowArrow(15.1, 21, 24, R"(\ccurrent: 2\z)", platform::colour::Cyan);
+  Say("This is boat and current together.  Do we add the 2 mph, or subtract?");
+  ShowArrow(15.2, 1, 24, R"(\y12\z)", platform::colour::Yellow);
+  ShowArrow(16.3, 21, 24, R"(\ccurrent: 2\z)", platform::colour::Cyan);
   PageEnd();
-  ShowArrow(16.2, 1, 20, "boat: ?", platform::colour::White);
-  SayAt(18, "The current helped.  Without it the boat is slower, so we subtract:");
+  ShowArrow(17.4, 1, 20, "boat: ?", platform::colour::White);
+  SayAt(19, "The current helped.  Without it the boat is slower, so we subtract:");
   Show("12 - 2 = 10");
   Say("Its rate in still water is 10 mph.");
   PageEnd();
@@ -253,7 +252,7 @@ void DistanceRateTimeProblems::ExplainProblem() {
 
 // Words below, and room for new working above them.
 void DistanceRateTimeProblems::StartStep(const std::string& words) {
-  ClearRows(kWorkRow - 1.1, kBoxRow - kWorkRow + 1);
+  ClearRows(kWorkRow - 0.9, kBoxRow - kWorkRow + 1);
   SayInBoxAnew(words);
 }
 
