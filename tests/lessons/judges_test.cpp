@@ -127,6 +127,8 @@ TEST(Judges, ProductOfPowers) {
   EXPECT_TRUE(IsRight(reading, "4px^15^"));
   EXPECT_TRUE(IsRight(reading, "4x^15^p"));
   ExpectMistake(reading, "multiplies the exponents", "4px^54^");
+  ExpectMistake(reading, "gives the product to both letters", "4p^54^x^54^");
+  ExpectMistake(reading, "gives the sum of all exponents to both letters", "4p^16^x^16^");
   EXPECT_EQ(reading.flaw("4px^15^"), "");
   EXPECT_EQ(reading.flaw("4px^6^x^9^"), "can be simplified");
   EXPECT_EQ(reading.flaw("1px^15^"), "has a factor of 1");

@@ -72,7 +72,7 @@ void MeaningOfAPower() {
   PageEnd();
   Say(R"(\yTry it:\z  How do we write  )" + WrittenOut({"d", 5}) + "  as a power?");
   PageEnd();
-  AddLine(Text(R"(d is a factor 5 times:  \y{}\z)", "d^5^"));
+  Say(Text(R"(d is a factor 5 times:  \y{}\z)", "d^5^"));
   PageEnd();
 }
 
@@ -100,7 +100,7 @@ void CompareBasesAndExponents() {
   PageEnd();
   picPrintCellPrint(kProductBase, "b", Blue, kTableSize);
   picPrintCellPrint(kSum, "7", Blue, kTableSize);
-  AddLine(R"(The base \ystays\z, the exponents are \yadded\z.)");
+  SayAt(22, R"(The base \ystays\z, the exponents are \yadded\z.)");
   PageEnd();
 }
 
@@ -140,9 +140,9 @@ void NumberInFront() {
   PaperBox({"a^2^" + tutor::Dot + "b^3^ = " + JoinedByDots({"a", "a", "b", "b", "b"}) +
             R"(,  \rnot ab^5^\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  What is  )" + JoinedByDots({"4c^3^", "c^6^"}) + " ?");
+  Say(R"(\yTry it:\z  What is  )" + JoinedByDots({"4c^3^", "c^6^"}) + "?");
   PageEnd();
-  AddLine(Text(R"(4 stays in front, and 3 + 6 = 9:  \y{}\z)", "4c^9^"));
+  Say(Text(R"(4 stays in front, and 3 + 6 = 9:  \y{}\z)", "4c^9^"));
   PageEnd();
 }
 
@@ -164,10 +164,10 @@ void OtherLetters() {
   PageEnd();
   Say(R"(\yWatch out:\z  Only b gets the sum.  There is still one factor a.)");
   PageEnd();
-  Say("A letter without an exponent is a factor once.  Its exponent is 1:");
+  Say(R"(A \cbare letter\z has no exponent.  It is a factor once, so its exponent is 1:)");
   Show("c^4^" + tutor::Dot + "c = c^4^" + tutor::Dot + "c^1^ = c^5^", kExpressionCol);
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify  )" + JoinedByDots({"3n^2^", "d^4^", "n"}) + " .");
+  Say(R"(\yTry it:\z  Simplify  )" + JoinedByDots({"3n^2^", "d^4^", "n"}) + ".");
   PageEnd();
   Say(R"(The exponents of n are 2 and 1, and d keeps its own.  We get  \y3d^4^n^3^\z.)");
   Say("The last n is no factor d, so it does not change the 4.");
@@ -357,8 +357,7 @@ void MultiplyingWithExponents::BringTogether() {
     Say(Text("A letter without an exponent is a factor once:  {}.", base_ + " = " + base_ + "^1^"));
     PageEnd();
   }
-  AddLine("The order of factors does not matter, so we bring the powers of " + base_ +
-          " together:");
+  Say("The order of factors does not matter, so we bring the powers of " + base_ + " together:");
   Show(Front() + tutor::Dot + R"(\y)" + PowerText(First()) + tutor::Dot + PowerText(Second()) +
            R"(\z)",
        kExpressionCol);
@@ -366,12 +365,10 @@ void MultiplyingWithExponents::BringTogether() {
 }
 
 void MultiplyingWithExponents::WriteOutFactors() {
-  // One base needs no lines to bring its powers together.
-  const double row = form_ == Form::OneBase ? 13 : 17;
-  SayAt(row, "Each power is a row of equal factors:");
-  UnfoldPowers(First(), Second(), row + 1.5);
+  Say("Each power is a row of equal factors:");
+  UnfoldPowers(First(), Second(), NextRow() + 0.5);
   PageEnd();
-  SayAt(row + 5, "There are " + SumText() + " factors " + base_ + ".");
+  Say("There are " + SumText() + " factors " + base_ + ".");
   PageEnd();
 }
 
