@@ -165,11 +165,13 @@ void RateInStillWater() {
   ShowArrow(17.4, 1, 20, "boat: ?", platform::colour::White);
   SayAt(19, "The current helped.  Without it the boat is slower, so we subtract:");
   Show("12 - 2 = 10");
-  Say("Its rate in still water is 10 mph.");
+  PageEnd();
+  AddLine("Its rate in still water is 10 mph.");
   PageEnd();
 
   NewScreen();
   SayAt(3, R"(A \cwind\z does to a plane what a current does to a boat.)");
+  PageEnd();
   Say(R"(\yTry it:\z  A bird flies 30 miles in 2 hours against a wind of 5 mph.  What is its rate )"
       "in still air?");
   PageEnd();
@@ -189,9 +191,8 @@ class DistanceRateTimeProblems final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{TheFormula, RateFromDistance, TimeFromDistance},
-            {HoursAndMinutes},
-            {WindAndCurrent, RateInStillWater}};
+    return {{TheFormula, RateFromDistance, TimeFromDistance, HoursAndMinutes, WindAndCurrent,
+             RateInStillWater}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;

@@ -82,13 +82,13 @@ int DifferenceOfDigits(int a, int b) {
 // A time as it is read rightly and wrongly, in hours.
 struct TimeReadings {
   explicit TimeReadings(int minutes)
-      : time(HoursOf(minutes)),
+      : whole(HoursOf(minutes)),
         fullHours(Whole(minutes / kMinutesOfHour)),
         rest(Whole(minutes % kMinutesOfHour)) {}
   bool HasMinutes() const { return rest.num != 0; }
   Fraction OneMore() const { return fullHours + Whole(1); }
   Fraction AsHundredths() const { return fullHours + rest / Whole(100); }
-  Fraction time;
+  Fraction whole;
   Fraction fullHours;
   Fraction rest;  // minutes
 };
@@ -119,21 +119,21 @@ std::vector<MotionMistake> MistakesAtDistance(const Motion& motion) {
   const Fraction real = Whole(motion.RealRate());
   std::vector<MotionMistake> mistakes;
   if (motion.direction != 0)
-    mistakes = {{TurnsDrift(motion), (still - drift) * read.time},
-                {IgnoresDrift(motion), still * read.time},
-                {CountsDriftOnce(motion), still * read.time + drift}};
+    mistakes = {{TurnsDrift(motion), (still - drift) * read.whole},
+                {IgnoresDrift(motion), still * read.whole},
+                {CountsDriftOnce(motion), still * read.whole + drift}};
   if (read.HasMinutes()) {
     mistakes.push_back({kAsHundredths, real * read.AsHundredths()});
     mistakes.push_back({kLeavesMinutesOut, real * read.fullHours});
     mistakes.push_back({kCountsFullHour, real * read.OneMore()});
   } else {
-    if (read.time.num <= kLargestFactor)
+    if (read.whole.num <= kLargestFactor)
       mistakes.push_back(
-          {"forgets to carry", Whole(ProductWithoutCarries(motion.RealRate(), read.time.num))});
+          {"forgets to carry", Whole(ProductWithoutCarries(motion.RealRate(), read.whole.num))});
     mistakes.push_back({"counts one hour too many", real * read.OneMore()});
   }
-  mistakes.push_back({"divides in place of multiplying", real / read.time});
-  mistakes.push_back({"adds the rate and the time", real + read.time});
+  mistakes.push_back({"divides in place of multiplying", real / read.whole});
+  mistakes.push_back({"adds the rate and the time", real + read.whole});
   return mistakes;
 }
 
@@ -146,7 +146,7 @@ std::vector<MotionMistake> MistakesAtRate(const Motion& motion) {
   if (motion.direction != 0)
     mistakes = {{IgnoresDrift(motion), Whole(real)},
                 {TurnsDrift(motion), Whole(real) + drift},
-                {CountsDriftOnce(motion), (d - drift) / read.time}};
+                {CountsDriftOnce(motion), (d - drift) / read.whole}};
   if (motion.direction < 0)
     mistakes.push_back({"forgets to carry", Whole(SumWithoutCarries(real, motion.drift))});
   if (motion.direction > 0)
