@@ -74,7 +74,7 @@ TEST(Judges, IntervalFigures) {
   EXPECT_TRUE(IsRight(segment, "-1 " + tutor::LessOrEqual + " x < 4"));
   EXPECT_TRUE(IsRight(segment, "x < 4 and x " + tutor::GreaterOrEqual + " -1"));
   EXPECT_FALSE(IsRight(segment, "-1 < x < 4"));
-  ExpectMistake(segment, "turns the symbols around", "-1 " + tutor::GreaterOrEqual + " x > 4");
+  ExpectMistake(segment, "reverses both symbols", "-1 " + tutor::GreaterOrEqual + " x > 4");
   const Reading rays = Read("Simple Inequalities", {"Which?"},
                             {{"ray", {{"from", 3}, {"closed", 0}, {"direction", 1}}},
                              {"ray", {{"from", -2}, {"closed", 1}, {"direction", -1}}}});

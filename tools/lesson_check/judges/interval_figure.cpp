@@ -72,11 +72,11 @@ void AddMistakesAtTwoEnds(const TwoEnds& ends, bool between, Reading& reading) {
   if (between) {
     reading.mistakes["takes the numbers outside the ends"] = {Outside(ends).Text()};
     // No number is below the lower end and above the higher one.
-    reading.mistakes["turns the symbols around"] = {NumberSet().Text()};
+    reading.mistakes["reverses both symbols"] = {NumberSet().Text()};
   } else {
     reading.mistakes["takes the numbers between the arrows"] = {Between(ends).Text()};
     // Every number is above the lower end or below the higher one.
-    reading.mistakes["turns the symbols around"] = {NumberSet::Everything().Text()};
+    reading.mistakes["reverses both symbols"] = {NumberSet::Everything().Text()};
   }
 }
 
