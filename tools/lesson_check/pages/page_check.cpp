@@ -1,8 +1,10 @@
 #include "lesson_check/pages/page_check.h"
 
 #include <algorithm>
+#include <bit>
 #include <set>
 #include <string_view>
+#include <utility>
 
 #include "display/panel_views.h"
 #include "engine/figure_words.h"
@@ -52,47 +54,53 @@ std::string Quoted(const std::string& text) {
   return "\"" + course::ToUtf8(text) + "\"";
 }
 
-// Everything that the checks of a page read, as bytes.
+// A number for everything that the checks of a page read.
 class Look {
  public:
   void Add(const course::PanelView& view) {
     const platform::PictureBox& box = *view.control;
-    const course::TextPanel* text = view.text;
-    bytes_ += box.Name() + box.AccessibleText();
+    Add(box.Name());
+    Add(box.AccessibleText());
     if (view.items != nullptr)
       for (const course::FigureItem& item : *view.items) Add(item);
     for (const int twips : {box.Left(), box.Top(), box.Width(), box.Height()}) Add(twips);
-    if (text == nullptr) return;
-    for (const course::Fragment& fragment : text->Transcript()) {
+    if (view.text == nullptr) return;
+    for (const course::Fragment& fragment : view.text->Transcript()) {
       for (const double place :
            {fragment.row, fragment.col, fragment.width, fragment.rise, fragment.height})
         Add(place);
       Add(fragment.level);
-      bytes_ += fragment.text + '\0';
+      Add(fragment.text);
     }
   }
-  std::string Take() { return std::move(bytes_); }
+  void Add(const std::string& text) { Mix(std::hash<std::string>{}(text)); }
+  std::uint64_t Value() const { return value_; }
 
  private:
   void Add(const course::FigureItem& item) {
-    bytes_ += item.shape + item.label + '\0';
+    Add(item.shape);
+    Add(item.label);
     for (const auto& [name, value] : item.values) {
-      bytes_ += name;
+      Add(name);
       Add(value);
     }
   }
-  template <class Number>
-  void Add(Number number) {
-    bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
+  void Add(double place) { Mix(std::bit_cast<std::uint64_t>(place)); }
+  void Add(int number) { Mix(static_cast<std::uint64_t>(number)); }
+  // The multiplier is 2^64 divided by the golden ratio, odd and without a pattern.
+  void Mix(std::uint64_t bits) {
+    value_ = (std::rotl(value_, 27) ^ bits) * 0x9E3779B97F4A7C15u;
+    value_ ^= value_ >> 29;
   }
 
-  std::string bytes_;
+  std::uint64_t value_ = 0;
 };
 
-std::string LookOf(course::LessonWindow& window) {
+std::uint64_t LookOf(course::LessonWindow& window) {
   Look look;
   for (const course::PanelView& view : course::ShownPanels(window)) look.Add(view);
-  return look.Take() + course::BannerText();
+  look.Add(course::BannerText());
+  return look.Value();
 }
 
 // Pages of prose, as against a problem's.
@@ -161,10 +169,9 @@ const PageChecker::SeenPage& PageChecker::See() {
   const auto [page, isNew] = seen_.try_emplace(LookOf(*frmPR));
   if (!isNew) return page->second;
   page->second.text = ReadPage(*frmPR);
-  const std::size_t look = std::hash<std::string>{}(page->first);
-  if (faultless_.contains(look)) return page->second;
+  if (faultless_.contains(page->first)) return page->second;
   page->second.faults = LayoutFaults(*frmPR);
-  if (page->second.faults.empty()) faultless_.insert(look);
+  if (page->second.faults.empty()) faultless_.insert(page->first);
   return page->second;
 }
 
@@ -271,14 +278,14 @@ void PageChecker::CheckProblem(int seed, const Complain& complain) {
   CheckQuestion(problem[0], complain);
   const std::string figure = FigureFault(problem[0], drawn_.problem);
   if (!figure.empty()) complain("problem: " + figure);
-  const std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
-  CheckEnd(mode::Explanation, seed, explanation, complain);
+  std::vector<PageText> explanation = Read(mode::Explanation, seed, complain);
   CheckSameProblem(explanation, complain);
-  // The other ways lead through the same routines; six of eight seeds walk one of them.
+  CheckEnd(mode::Explanation, seed, std::move(explanation), complain);
+  // The other ways lead through the same routines; six of 24 seeds walk one of them.
   constexpr int kOtherWays[] = {
       mode::Example,        mode::LessonTestReview,    mode::LessonTestExplanation,
       mode::UnitTestReview, mode::UnitTestExplanation, mode::DiagnosticProblem};
-  const auto turn = static_cast<std::size_t>(seed % 8);
+  const auto turn = static_cast<std::size_t>(seed % 24);
   if (turn >= std::size(kOtherWays)) return;
   const int way = kOtherWays[turn];
   if (!IsWritten(way))

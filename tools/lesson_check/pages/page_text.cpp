@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 #include "display/panel_views.h"
 #include "lesson_check/exact/notation.h"
@@ -67,12 +68,14 @@ PageText NewOn(const PageText& page, const PageText& before) {
   PageText added;
   for (const PageText::Panel& panel : page.panels) {
     const auto earlier = std::ranges::find(before.panels, panel.name, &PageText::Panel::name);
-    PageText::Panel fresh{panel.name, panel.fragments};
-    if (earlier != before.panels.end())
-      std::erase_if(fresh.fragments, [&](const Fragment& fragment) {
-        return std::ranges::any_of(earlier->fragments,
-                                   [&](const Fragment& old) { return Same(old, fragment); });
-      });
+    PageText::Panel fresh{panel.name, {}};
+    const auto stood = [&](const Fragment& fragment) {
+      return earlier != before.panels.end() &&
+             std::ranges::any_of(earlier->fragments,
+                                 [&](const Fragment& old) { return Same(old, fragment); });
+    };
+    std::ranges::copy_if(panel.fragments, std::back_inserter(fresh.fragments),
+                         [&](const Fragment& fragment) { return !stood(fragment); });
     for (std::string& line : course::LinesOf(fresh.fragments)) added.lines.push_back(line);
     added.panels.push_back(std::move(fresh));
   }
