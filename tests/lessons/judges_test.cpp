@@ -91,7 +91,7 @@ TEST(Judges, OrderOfOperations) {
   ExpectMistake(reading, "works from left to right", "22");
   ExpectMistake(reading, "forgets the parentheses", "19");
   ExpectMistake(reading, "forgets the brackets", "43");
-  ExpectMistake(reading, "stops before the last operation", "15");
+  ExpectMistake(reading, "works out only a part", "15");
   ExpectMistake(reading, "adds instead of multiplying", "32");
 }
 

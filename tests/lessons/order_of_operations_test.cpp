@@ -120,7 +120,7 @@ TEST(OrderOfOperationsTest, ProblemsAreWorkInTheHeadWhereTheOrderMatters) {
     for (int slot = 2; slot <= 5; ++slot) {
       const std::string& mistake = problem.choices[static_cast<std::size_t>(slot)].mistake;
       named += mistake != "filler";
-      ofOrder += mistake != "filler" && mistake != "stops before the last operation";
+      ofOrder += mistake != "filler" && mistake != "works out only a part";
     }
     ASSERT_GE(named, 2);
     ASSERT_GE(ofOrder, 1);

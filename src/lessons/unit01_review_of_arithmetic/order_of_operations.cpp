@@ -42,9 +42,9 @@ constexpr WorkingOrder kMistakes[] = {
      .heedsBrackets = false,
      .times = 1,
      .divided = 1},
-    {.mistake = "works from right to left", .fromTheRight = true, .times = 1, .divided = 1},
+    {.mistake = "works from right to left", .fromTheRight = true},
     {.mistake = "adds instead of multiplying", .addsForTimes = true},
-    {.mistake = "stops before the last operation", .stopsEarly = true},
+    {.mistake = "works out only a part", .stopsEarly = true},
 };
 
 struct WrongValue {
@@ -174,6 +174,18 @@ void FromLeftToRight() {
   PageEnd();
   WorkOut("24/4*2", 9);
   SayAt(14.5, Text(R"(\yWatch out:\z  Do not multiply {} first.)", InSentence("4*2")));
+  PaperBox({InSentence("24/4*2") + " = " + InSentence("6*2") + R"(,  \rnot )" + InSentence("24/8") +
+            R"(\z)"});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is the value here?  Which operation comes first?)");
+  Evaluation twoLess(ExpressionOf("20-8-5"), 6.5);
+  PageEnd();
+  WorkOut("20-8-5", 6.5);
+  SayAt(12, "We take 8 away, and then 5 more.");
+  PaperBox({InSentence("20-8-5") + " = " + InSentence("12-5") + R"(,  \rnot )" +
+            InSentence("20-3") + R"(\z)"});
   PageEnd();
 
   NewScreen();
@@ -183,6 +195,15 @@ void FromLeftToRight() {
   WorkOut("30-12/3*2", 6.5);
   SayAt(14, Text("First {}, then {}, then {}.", InSentence("12/3"), InSentence("4*2"),
                  InSentence("30-8")));
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Here a product and a quotient wait.  What is the value?)");
+  Evaluation both(ExpressionOf("5*4-12/3"), 6.5);
+  PageEnd();
+  WorkOut("5*4-12/3", 6.5);
+  SayAt(14, Text("First {} and {}, then {}.", InSentence("5*4"), InSentence("12/3"),
+                 InSentence("20-4")));
   PageEnd();
 }
 
@@ -209,7 +230,7 @@ void ParenthesesFirst() {
 
 void BracketsOutside() {
   NewScreen();
-  SayAt(3, Text(R"(Where one pair stands inside another, the outer pair is written as )"
+  SayAt(3, Text("Where parentheses stand inside others, we write the outer pair as "
                 R"(\cbrackets\z {}.  We begin with the innermost pair.)",
                 "[ ]"));
   Evaluation evaluation(ExpressionOf("2*[9-(1+4)]"), 7.5);
@@ -217,10 +238,15 @@ void BracketsOutside() {
   PageEnd();
   WorkOut("2*[9-(1+4)]", 7.5);
   PageEnd();
-  SayAt(15, Text(R"(\yTry it:\z  What is the value of {}?)", InSentence("(8-2)*[10-(3+4)]")));
-  PageEnd();
-  SayAt(18, Text("{}, and {}.  Then {}, and at last {}.", Worked("8-2"), Worked("3+4"),
-                 Worked("10-7"), Worked("6*3")));
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is the value here?)");
+  Evaluation question(ExpressionOf("(8-2)*[10-(3+4)]"), 6.5);
+  for (int step = 1; !question.Done(); ++step) {
+    if (step % 2 == 1) PageEnd();
+    question.PickOut();
+    question.ShowResult();
+  }
   PageEnd();
 }
 
@@ -253,7 +279,7 @@ void AllRulesTogether() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, "Now we use all the rules.");
+  SayAt(3, "Now we put the rules together.");
   WorkOutAloud(ExpressionOf("3*[20-(4+8)/2]"), 6);
   SayAt(kReasonRow, R"(The value of the expression is \y42\z.)");
   PageEnd();

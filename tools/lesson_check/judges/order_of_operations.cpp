@@ -26,12 +26,7 @@ struct Habit {
 
 constexpr Habit kHabits[] = {
     {.mistake = "works from left to right", .plus = 1, .minus = 1, .times = 1, .divided = 1},
-    {.mistake = "works from right to left",
-     .plus = 1,
-     .minus = 1,
-     .times = 1,
-     .divided = 1,
-     .fromRight = true},
+    {.mistake = "works from right to left", .fromRight = true},
     {.mistake = "adds and subtracts first", .plus = 3, .minus = 3},
     {.mistake = "adds before subtracting", .plus = 2, .times = 3, .divided = 3},
     {.mistake = "multiplies before dividing", .times = 3},
@@ -115,8 +110,8 @@ class Worker {
   std::size_t at_ = 0;
 };
 
-// Who stops before the last operation writes down what he has worked out so far: one of its
-// operands, not a number of the question.
+// Who works out only a part writes down one of the last operation's operands, not a number of the
+// question.
 std::vector<std::string> LastOperands(const Expression& expression) {
   using Kind = Expression::Kind;
   std::vector<std::string> values;
@@ -152,7 +147,7 @@ Reading ReadOrderOfOperations(const course::Problem& problem) {
     std::vector<std::string>& values = reading.mistakes[std::string(habit.mistake)];
     if (const auto value = Worker(line, habit).Value()) values.push_back(value->get_str());
   }
-  reading.mistakes["stops before the last operation"] = LastOperands(expression);
+  reading.mistakes["works out only a part"] = LastOperands(expression);
   return reading;
 }
 
