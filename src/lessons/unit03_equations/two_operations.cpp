@@ -76,12 +76,15 @@ void InverseOperations() {
   Show("+ 4  and  - 4", 8);
   Show(tutor::Times + " 3  and  " + tutor::Divided + " 3", 8);
   PageEnd();
-  Say(Text("Try it:  In  {}  which operation do we undo first, and how?", "2x - 7 = 9"));
+  Say(Text(R"(\yTry it:\z  In  {}  which operation do we undo first, and how?)", "2x - 7 = 9"));
   PageEnd();
   Say(R"(Subtracting 7 came last.  So we \yadd 7\z:)");
   Show("9 + 7 = 16");
   Say(R"(Then we \ydivide by 2\z:)");
   Show("16 " + tutor::Divided + " 2 = 8");
+  PageEnd();
+  Say("So x = 8.  Let us check it:");
+  Show(Text("2{}8 - 7 = 16 - 7 = 9", tutor::Gap + tutor::Dot + tutor::Gap));
   PageEnd();
 }
 
@@ -95,9 +98,8 @@ void RowUnderRow() {
   OpenWordBox();
   SayInBox("4 was added last.  What do we add to both sides to remove it?");
   PageEnd();
-  SayInBoxAnew(R"(We add \b-4\z to both sides.  That is the same as subtracting 4.)");
+  SayInBoxAnew(R"(We add \b-4\z to both sides, so they stay equal.  Adding -4 is subtracting 4.)");
   WriteAddend(sheet, addition);
-  SayInBox("So both sides stay equal.");
   PageEnd();
   WriteSum(sheet, addition);
   SayInBoxAnew("+4 and -4 add up to 0, so only 3x is left on the left side.");
@@ -115,7 +117,7 @@ void RowUnderRow() {
   SayBullet("We know that 1x is equal to just x.");
   SayInBox(R"(x stands alone.  We have \bisolated the variable\z.)");
   PageEnd();
-  SayInBoxAnew("Check:  we put 5 in place of x.");
+  SayInBoxAnew("Check:  5 for x.  A dot means times.");
   SaySubstituted(equation, 5);
   PageEnd();
 }
@@ -133,23 +135,23 @@ void DividingFirst() {
   PageEnd();
   NewScreen();
   Say("So we keep to this order:");
-  RuleBox("Two Operations", {"1. Remove the number.", "2. Divide by the coefficient."},
-          {.width = 28});
+  RuleBox("Two Operations", {"1. Remove the number behind x.", "2. Divide by the coefficient."},
+          {.width = 32});
   PageEnd();
 }
 
 void NegativeCoefficient() {
-  const LinearStatement equation = {"x", {-2, -5}, "=", {0, 7}};
+  const LinearStatement equation = {"x", {-2, -5}, "=", {0, -11}};
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet(13.5, 23, RowsOf(equation));
-  Say("Try it:  What do we add to both sides here?  What do we divide them by?");
+  Say(R"(\yTry it:\z  What do we add to both sides here?  What do we divide them by?)");
   WriteStatement(sheet, equation);
   PageEnd();
   WriteAddition(sheet, addition);
-  SayAt(23, R"(To remove \y-5\z we add \y+5\z.)");
+  SayAt(23, R"(\yWatch out:\z  only +5 removes -5.)");
   PageEnd();
   WriteDivision(sheet, addition.after, "=");
-  sheet.WriteSolved("x", "=", "-6");
+  sheet.WriteSolved("x", "=", "3");
   SayAt(23, R"(Then we divide by the coefficient \y-2\z.)");
   PageEnd();
 }
