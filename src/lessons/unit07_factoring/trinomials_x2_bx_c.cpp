@@ -44,6 +44,11 @@ void ListTried(const std::vector<NumberPair>& pairs) {
     SayAt(row++, (&pair == &pairs.back() ? R"(  \y)" : "  ") + WithoutBreaks(PairLine(pair)));
 }
 
+// What comes out, half a row below the pairs.
+void AddResult(const std::string& text) {
+  SayAt(NextRow() + 0.5, "  " + WithoutBreaks(text));
+}
+
 void ProductOfTwoFactors() {
   NewScreen();
   SayAt(3, Text(R"(A \ctrinomial\z is an expression with three terms, such as {}.)",
@@ -55,7 +60,9 @@ void ProductOfTwoFactors() {
   const std::string d = tutor::Dot;
   PaperBox({FactorsText(kTwoAndThree), "first terms:  x" + d + "x = x^2^",
             "outer terms:  x" + d + "3 = 3x"});
+  Say("Which two products are still missing?");
   PageEnd();
+  ClearBelow(13);
   PaperBox({"inner terms:  2" + d + "x = 2x", "last terms:   2 " + tutor::Times + " 3 = 6"});
   Say("Sum:  x^2^ + 3x + 2x + 6 = " + WithoutBreaks(TrinomialText({1, 5, 6})));
   PageEnd();
@@ -67,13 +74,18 @@ void ProductOfTwoFactors() {
 
 void ProductAndSum() {
   NewScreen();
-  SayAt(3, Text(R"(To \cfactor\z a trinomial means to go the way back, from {} to {}.)",
+  SayAt(3, Text(R"(To \cfactor\z a trinomial means to go back from {} to {}.)",
                 TrinomialText({1, 5, 6}), FactorsText(kTwoAndThree)));
   PageEnd();
   RuleBox("Factoring x^2^ + bx + c", {"Find two numbers whose", "product is c and whose sum is b."},
           {.width = 27});
   PageEnd();
-  Say(Text("Let's factor {}.  Which numbers have the product 10?", TrinomialText({1, 7, 10})));
+  Say(Text("b is the number in front of x, and c is the last number.  In {} they are 5 and 6.",
+           TrinomialText({1, 5, 6})));
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, Text("Let's factor {}.  Which numbers have the product 10?", TrinomialText({1, 7, 10})));
   PageEnd();
   ListTried({{1, 10}, {2, 5}});
   AddLine("The sum must be 7, so we take 2 and 5:");
@@ -83,13 +95,12 @@ void ProductAndSum() {
   RaiseConstants(row, 1 + StackedTextWidth(start), {{1, 2}, {1, 5}});
   PageEnd();
 
-  NewScreen();
-  SayAt(3, "The factors may stand in either order:");
+  Say("The factors may stand in either order:");
   Show(FactorsText({{1, 2}, {1, 5}}) + " = " + FactorsText({{1, 5}, {1, 2}}));
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, 9, 20})));
   PageEnd();
   ListTried({{1, 20}, {2, 10}, {4, 5}});
-  AddLine("  " + Identity({{1, 4}, {1, 5}}));
+  AddResult(Identity({{1, 4}, {1, 5}}));
   PageEnd();
 }
 
@@ -100,13 +111,13 @@ void LastNumberPositive() {
         "and a negative number have a negative product.");
   PageEnd();
   PaperBox({Identity({{1, 2}, {1, 6}}), Identity({{1, -2}, {1, -6}})});
-  Say("The sign of the middle term tells which sign that is.");
+  Say("The middle term tells which sign:  two negative numbers have a negative sum.");
   PageEnd();
-  Say(Text("Let's factor {}.  Which sign have both numbers?", TrinomialText({1, -9, 14})));
+  Say(Text("Let's factor {}.  Which sign do both numbers have?", TrinomialText({1, -9, 14})));
   PageEnd();
   Say("The sum is -9, so both are negative:");
   ListTried({{-1, -14}, {-2, -7}});
-  AddLine("  " + Identity({{1, -2}, {1, -7}}));
+  AddResult(Identity({{1, -2}, {1, -7}}));
   PageEnd();
 
   NewScreen();
@@ -117,7 +128,7 @@ void LastNumberPositive() {
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, -11, 24})));
   PageEnd();
   ListTried({{-1, -24}, {-2, -12}, {-3, -8}});
-  AddLine("  " + Identity({{1, -3}, {1, -8}}));
+  AddResult(Identity({{1, -3}, {1, -8}}));
   PageEnd();
 }
 
@@ -128,12 +139,13 @@ void LastNumberNegative() {
   PageEnd();
   PaperBox({Identity({{1, 6}, {1, -2}}), Identity({{1, -6}, {1, 2}})});
   PageEnd();
-  Say("The number farther from 0 has the sign of the middle term.");
+  Say("The number farther from 0 has the sign of the middle term:  6 + (-2) is 4, but -6 + 2 is "
+      "-4.");
   PageEnd();
   Say(Text("Let's factor {}.  The number farther from 0 is positive:", TrinomialText({1, 3, -10})));
   ListTried({{-1, 10}, {-2, 5}});
   PageEnd();
-  AddLine("  " + Identity({{1, -2}, {1, 5}}));
+  AddResult(Identity({{1, -2}, {1, 5}}));
   Say(R"(\yCheck:\z  We multiply out.)");
   AddLine("  x^2^ + 5x - 2x - 10 = " + TrinomialText({1, 3, -10}));
   PageEnd();
@@ -144,15 +156,23 @@ void MiddleTermWithoutNumber() {
   SayAt(3, Text("What if no number stands in front of x?  Let's factor {}.",
                 TrinomialText({1, -1, -12})));
   PageEnd();
-  Say(R"(-x means -1x, so the sum is \y-1\z.  The product is -12.)");
+  Say(R"(x means 1x, and -x means -1x.  Here the sum is \y-1\z, and the product is -12.)");
   PageEnd();
   ListTried({{1, -12}, {2, -6}, {3, -4}});
-  AddLine("  " + Identity({{1, 3}, {1, -4}}));
+  AddResult(Identity({{1, 3}, {1, -4}}));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, -2, -15})));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({1, 1, -20})));
   PageEnd();
-  ListTried({{1, -15}, {3, -5}});
-  AddLine("  " + Identity({{1, 3}, {1, -5}}));
+
+  NewScreen();
+  SayAt(3, Text("In {} the sum is 1, so the number farther from 0 is positive:",
+                TrinomialText({1, 1, -20})));
+  PageEnd();
+  ListTried({{-1, 20}, {-2, 10}, {-4, 5}});
+  AddResult(Identity({{1, -4}, {1, 5}}));
+  PageEnd();
+  Say(R"(\yWatch out:\z  With both signs reversed the product is still -20, but the sum is -1.)");
+  PaperBox({"\\r" + FactorsText({{1, 4}, {1, -5}}) + "\\z gives the middle term -x"});
   PageEnd();
 }
 
@@ -181,7 +201,7 @@ class TrinomialsX2BxC final : public LessonScript {
   Factors RightProductWrongSum() const;
 
   void BeginPage();
-  std::string ProductAndSumSentence() const;
+  void TellProductAndSum() const;
   std::string SignSentence() const;
   void ListPairs();
   void FillIn();
@@ -266,7 +286,7 @@ void TrinomialsX2BxC::ExplainProblem() {
   Say("x^2^ is x times x.  So both factors begin with x, and two numbers are missing:");
   AddLine("   (x    )(x    )");
   PageEnd();
-  Say(ProductAndSumSentence());
+  TellProductAndSum();
   PageEnd();
   Say(SignSentence());
   PageEnd();
@@ -282,14 +302,12 @@ void TrinomialsX2BxC::BeginPage() {
   ShowAt(6, problem.question[1], 4);
 }
 
-std::string TrinomialsX2BxC::ProductAndSumSentence() const {
+void TrinomialsX2BxC::TellProductAndSum() const {
   const int sum = Asked().middle;
   const std::string term = CoefText(sum) + "x";
-  const std::string hidden =
-      std::abs(sum) == 1 ? ".  " + term + " means " + NumStr(sum) + "x, so it is " : ": ";
-  return R"(Their \yproduct\z is the last number, \y)" + NumStr(Asked().constant) +
-         R"(\z.  Their \csum\z is the number in front of x)" + hidden + R"(\c)" + NumStr(sum) +
-         R"(\z.)";
+  Say(Text(R"(Their \yproduct\z is \y{}\z, the last number.)", Asked().constant));
+  AddLine(Text(R"(Their \csum\z is \c{}\z, the number before x.)", sum));
+  if (std::abs(sum) == 1) AddLine(Text("{} means {}x.", term, sum));
 }
 
 std::string TrinomialsX2BxC::SignSentence() const {
@@ -309,8 +327,8 @@ std::string TrinomialsX2BxC::SignSentence() const {
 void TrinomialsX2BxC::ListPairs() {
   NewScreen();
   BeginPage();
-  SayAt(8, Text("We try one pair with the product {} after the other, until the sum is {}:",
-                Asked().constant, Asked().middle));
+  SayAt(8, Text("We list the pairs with the product {} until the sum is {}:", Asked().constant,
+                Asked().middle));
   const std::vector<NumberPair> pairs = PairsWithProduct(Asked().constant, Sgn(Asked().middle));
   std::size_t count = 1;
   while (pairs[count - 1].Sum() != Asked().middle) ++count;
@@ -321,7 +339,9 @@ void TrinomialsX2BxC::ListPairs() {
     PrintOnPaper(kPairBox, static_cast<int>(i) + 1, (found ? R"(\b)" : "") + PairLine(pairs[i]));
   }
   PageEnd();
-  SayAt(RowBelow(), Text(R"(The numbers are \y{}\z and \y{}\z.)", First(), Second()));
+  const NumberPair& found = pairs[count - 1];
+  SayAt(RowBelow(), Text(R"(The numbers are \y{}\z and \y{}\z.)", found.first, found.second));
+  if (found.first != First()) Say("The factors may stand in either order.");
   PageEnd();
 }
 
