@@ -56,8 +56,8 @@ void SameDenominator() {
   JoinParts(7, 18, 10);
   ShowAt(15.5, "3/7 + 2/7 = (3 + 2)/7 = 5/7");
   PageEnd();
-  Say(R"(\yWatch out:\z  Do not add the denominators.  5/14 is less than the 3/7 with which we )"
-      "began.");
+  Say(R"(\yWatch out:\z  Do not add the denominators.  That gives 5/14, but 3/7 alone is already )"
+      "6/14.");
   PageEnd();
 
   NewScreen();
@@ -102,8 +102,8 @@ void LeastCommonDenominators() {
   ShowAt(4, "5/12 + 7/18");
   Say(R"(The smallest common denominator is the \cleast common denominator\z, or LCD.)");
   PageEnd();
-  Say(R"(We find it with \cprime numbers\z, such as 2, 3, 5, and 7.  Only 1 and the number )"
-      "itself go into them evenly.");
+  Say(R"(We find it with \cprime numbers\z: 2, 3, 5, 7, and so on.  Only 1 and the number )"
+      "itself go into a prime evenly.");
   PageEnd();
   Say("We write both denominators as products of primes:");
   GoBelow();
@@ -111,8 +111,17 @@ void LeastCommonDenominators() {
   Show(FactorsLine(18, 36));
   PageEnd();
   Show(LcdLine(36));
-  Say("Take each prime as many times as it stands in the line that has it most: 2 twice and 3 "
-      "twice.");
+  Say("12 has the 2 twice, and 18 has the 3 twice.  The LCD needs both, so that 12 and 18 go into "
+      "it.");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(With the LCD we \crename\z both fractions: the same value, the new denominator.)");
+  ShowAt(6, RenamedLine({5, 12}, 36));
+  ShowAt(9.5, RenamedLine({7, 18}, 36));
+  PageEnd();
+  Say("Now we can add the numerators:");
+  Show("15/36 + 14/36 = 29/36");
   PageEnd();
 
   NewScreen();
@@ -138,11 +147,11 @@ void SumAboveOne() {
   Say("We add the numerators:");
   Show("25/30 + 21/30 = (25 + 21)/30 = 46/30");
   PageEnd();
-  Say(R"(We \creduce\z: we divide both by 2.)");
+  Say(R"(We \creduce\z to lowest terms: divide by 2.)");
   ShowAt(20.5, "46/30 = 23/15");
   PageEnd();
-  ShowAt(20.5, "= 1 8/15", 17);
-  Say(R"(23 is 15 and 8 more: 1 whole, 8 parts.)");
+  ShowAt(20.5, "46/30 = 23/15 = 1 8/15");
+  Say(R"(The sum is a \cmixed number\z: 23 = 15 + 8.)");
   PageEnd();
 }
 
@@ -152,7 +161,7 @@ void NegativeFractions() {
   ShowAt(6.5, "5/6 + (-3)/4");
   PageEnd();
   Say("The LCD is 12:");
-  Show("10/12 + (-9)/12");
+  Show("(5 " + tutor::Times + " 2)/12 + (-3 " + tutor::Times + " 3)/12 = 10/12 + (-9)/12");
   PageEnd();
   Say("Adding -9 takes 9 parts away:");
   Show("(10 + (-9))/12 = 1/12");
@@ -161,10 +170,16 @@ void NegativeFractions() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What is 1/2 + (-1/3)?)");
   PageEnd();
-  Show("3/6 + (-2)/6 = 1/6");
-  DrawStrip(8.5, 3, 36, 6, {{1, Yellow}, {2, Cyan}});
-  SayAt(10.5, "We take 2 of the 3 parts away.");
+  Show("3/6 + (-2)/6");
+  DrawStrip(8.5, 3, 36, 6, {{3, Yellow}});
   PageEnd();
+  SlideDown({8.4, 9, 12, 1.5}, 1.5);
+  DrawStrip(8.5, 3, 36, 6, {{1, Yellow}});
+  SayAt(12.5, "We take 2 of the 3 parts away:");
+  Show("3/6 + (-2)/6 = 1/6");
+  PageEnd();
+
+  NewScreen();
   Say(R"(\yTry it:\z  What is the sum of 3/4 and 5/6?)");
   PageEnd();
   Show("9/12 + 10/12 = 19/12 = 1 7/12");
@@ -257,7 +272,7 @@ std::vector<FractionMistake> AddingFractions::Mistakes() const {
   if (sum > lcd) add("puts the remainder over the numerator", 2 * sum - lcd, sum);
   const int crossed = a * (lcd / second_.den) + b * (lcd / first_.den);
   const auto addCrossed = [&] {
-    add("multiplies each numerator by the factor of the other", crossed, lcd);
+    add("multiplies each numerator by the factor of the other fraction", crossed, lcd);
   };
   add("keeps the larger denominator", a + b, std::max(first_.den, second_.den));
   if (sum > lcd && crossed > sum) addCrossed();
@@ -305,14 +320,14 @@ void AddingFractions::ExplainDenominator() {
   PageEnd();
   Show(LcdLine(lcd));
   Say(!share ? "They share no prime, so the LCD needs all of them."
-             : "We take each prime as many times as it stands in the line that has it most.");
+             : "We take each prime as many times as the line has it that has it most.");
   PageEnd();
 }
 
 void AddingFractions::ExplainOneRenaming(const Fraction& f) {
   const int factor = Denominator() / f.den;
-  Say(Text(R"({} goes into {} \y{} time{}\z.  We multiply numerator and denominator by {}:)", f.den,
-           Denominator(), factor, Words{PluralSuffix(factor)}, factor));
+  Say(Text(R"({} = {}, so we multiply numerator and denominator by \y{}\z:)",
+           NumStr(f.den) + " " + tutor::Times + " " + NumStr(factor), Denominator(), factor));
   Show(RenamedLine(f, Denominator()));
   PageEnd();
 }
@@ -345,8 +360,8 @@ void AddingFractions::ExplainLowestTerms() {
   const int numerator = NumeratorOfSum();
   const int common = Gcf(numerator, Denominator());
   if (common == 1) {
-    Say(Text("No prime goes into both {} and {}.  The sum is in lowest terms.", numerator,
-             Denominator()));
+    Say(Text("None of the primes of {} goes into {}.  So the sum is in lowest terms.",
+             Denominator(), numerator));
   } else {
     Say(Text("{} goes into both, so we reduce:", common));
     Show(UnreducedSum() + " = " + ValueText(sum));

@@ -44,7 +44,7 @@ void AddMistakes(const Fraction& first, const Fraction& second, Reading& reading
   add("keeps both numerators over the common denominator", first.above + second.above, common);
   add("renames the first fraction only", first.above * byFirst + second.above, common);
   add("renames the second fraction only", first.above + second.above * bySecond, common);
-  add("multiplies each numerator by the factor of the other",
+  add("multiplies each numerator by the factor of the other fraction",
       first.above * bySecond + second.above * byFirst, common);
   add("keeps the larger denominator", first.above + second.above,
       first.below > second.below ? first.below : second.below);
