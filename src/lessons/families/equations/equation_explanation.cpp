@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 #include "display/wiper_box.h"
 #include "display/word_wrap.h"
 #include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/page.h"
+#include "lessons/families/equations/substitution.h"
 #include "lessons/page/boxes.h"
 #include "lessons/page/say.h"
 #include "mathkit/expressions.h"
@@ -43,54 +43,20 @@ std::string WithSign(const std::string& text) {
   return text.front() == '-' ? text : "+" + text;
 }
 
-std::string WithNumber(const std::string& term, int number) {
-  return number == 0 ? term : term + tutor::Gap + SignedNumberText(number);
-}
-
 int FloorOf(const Fraction& f) {
   const int whole = f.num / f.den;
   return f.num % f.den < 0 ? whole - 1 : whole;
 }
 
-// 3 times 5 or -2: "3 . 5" with a raised dot, which reads as a decimal point when it is tight.
-std::string ProductText(int factor, int value) {
-  if (value < 0) return NumStr(factor) + tutor::Dot + InParentheses(value);
-  return NumStr(factor) + tutor::Gap + tutor::Dot + tutor::Gap + NumStr(value);
-}
-
-// A side with a value in place of the letter, with the product worked out, and as one number.
-std::string Substituted(const LinearSide& side, int value) {
-  if (side.coef == 0) return NumStr(side.number);
-  const std::string product = side.coef == 1    ? NumStr(value)
-                              : side.coef == -1 ? "-" + InParentheses(value)
-                                                : ProductText(side.coef, value);
-  return WithNumber(product, side.number);
-}
-std::string Multiplied(const LinearSide& side, int value) {
-  if (side.coef == 0) return NumStr(side.number);
-  return WithNumber(NumStr(side.coef * value), side.number);
-}
-std::string Added(const LinearSide& side, int value) {
-  return NumStr(side.coef * value + side.number);
-}
-
-// The texts of both sides, line by line; a line like the one before is left out.
-using SidePair = std::pair<std::string, std::string>;
-std::vector<SidePair> SubstitutedLines(const LinearStatement& statement, int value) {
-  std::vector<SidePair> lines;
-  for (const auto write : {Substituted, Multiplied, Added}) {
-    const SidePair line(write(statement.left, value), write(statement.right, value));
-    if (lines.empty() || lines.back() != line) lines.push_back(line);
-  }
-  return lines;
-}
-
-bool IsTrueFor(const LinearStatement& statement, int value) {
-  const int left = statement.left.coef * value + statement.left.number;
-  const int right = statement.right.coef * value + statement.right.number;
-  if (left == right) return statement.relation != "<" && statement.relation != ">";
-  const bool less = statement.relation == "<" || statement.relation == tutor::LessOrEqual;
-  return !statement.IsEquation() && less == (left < right);
+// Why a sum has its sign; "" when there is nothing to go wrong.
+std::string SignReason(int first, int second) {
+  if (first == 0 || (first > 0 && first + second > 0)) return "";
+  if (first < 0 && second < 0) return "Both are negative, so the sum is too.";
+  const int larger = std::abs(first) > std::abs(second) ? first : second;
+  const int smaller = larger == first ? second : first;
+  const std::string difference =
+      Text("{} - {} = {}", std::abs(larger), std::abs(smaller), std::abs(larger + smaller));
+  return Text("{}, with the sign of {}.", difference, WithSign(NumStr(larger)));
 }
 
 class LinearExplanation {
@@ -141,7 +107,7 @@ class LinearExplanation {
     if (statement_.right.coef != 0)
       return "Now it stands on both sides.  Which term must leave the right side?";
     const std::string added = Text("{} was {}", std::abs(b), Words{b < 0 ? "subtracted" : "added"});
-    if (a == 1) return Text("{} from it.  What undoes this?", Words{added});
+    if (a == 1) return Text("{} {} it.  What undoes this?", Words{added}, b < 0 ? "from" : "to");
     if (b == 0) return Text("It was multiplied by {}.  What undoes this?", a);
     return Text("First it was multiplied by {}, then {}.  Which do we undo first?", a,
                 Words{added});
@@ -173,6 +139,8 @@ class LinearExplanation {
     SayInBoxAnew(Text("{} and {} add up to 0.", removed, added));
     SayInBox(Text("On the {} side, {}.", number ? "right" : "left",
                   number ? SumOfNumbers(addition) : SumOfTerms(addition)));
+    const std::string reason = ReasonOf(addition);
+    if (!reason.empty()) SayInBox(reason);
     PageEnd();
   }
 
@@ -196,13 +164,20 @@ class LinearExplanation {
            TermText(addition.after.left.coef, letter_);
   }
 
+  // What students get wrong in the sum, if there is anything.
+  std::string ReasonOf(const Addition& addition) const {
+    const int coef = addition.term.coef;
+    if (coef == 0) return SignReason(addition.before.right.number, addition.term.number);
+    const std::string reason = SignReason(addition.before.left.coef, coef);
+    if (!reason.empty() || std::abs(coef) != 1) return reason;
+    return Text("{} means {}.", TermText(coef, letter_), NumStr(coef) + letter_);
+  }
+
   void Divide() {
     const int a = isolated_.left.coef;
     sheet_.MakeRoom(RowsToSolution());
-    const std::string state =
-        a == -1 ? Text("{} means {}.", TermText(a, letter_), "-1" + tutor::Dot + letter_)
-                : Text("Now {} is multiplied by {}.", letter_, a);
-    SayInBoxAnew(Text(R"({}  We divide both sides by the coefficient \b{}\z.)", Words{state}, a));
+    SayInBoxAnew(
+        Text(R"({}  We divide both sides by the coefficient \b{}\z.)", Words{WhyDivided()}, a));
     if (statement_.IsEquation()) {
       WriteDivision(sheet_, isolated_, statement_.relation);
     } else {
@@ -212,6 +187,13 @@ class LinearExplanation {
       TellTheSymbol();
     }
     PageEnd();
+  }
+
+  std::string WhyDivided() const {
+    const int a = isolated_.left.coef;
+    if (a == -1) return Text("{} means {}.", TermText(a, letter_), "-1" + tutor::Dot + letter_);
+    if (AdditionsOf(statement_).empty()) return Text("Dividing by {} does.", a);
+    return Text("Now {} is multiplied by {}.", letter_, a);
   }
 
   void TellTheSymbol() {
@@ -411,11 +393,11 @@ void SayBullet(const std::string& text) {
 }
 
 void SaySubstituted(const LinearStatement& statement, int value) {
-  const std::vector<SidePair> lines = SubstitutedLines(statement, value);
+  const std::vector<SideTexts> lines = SubstitutedLines(statement, value);
   std::size_t width = 0;
   for (const auto& [left, right] : lines) width = std::max(width, left.size());
   const std::string verdict = IsTrueFor(statement, value) ? R"(   \btrue\z)" : R"(   \rfalse\z)";
-  for (const SidePair& line : lines) {
+  for (const SideTexts& line : lines) {
     const auto& [left, right] = line;
     wbWordWrap(std::string(2 + width - left.size(), tutor::Gap[0]) + left + " " +
                statement.relation + " " + right + (line == lines.back() ? verdict : ""));

@@ -112,8 +112,11 @@ std::string TermText(int coef, const std::string& letter) {
 
 std::string SideText(const LinearSide& side, const std::string& letter) {
   if (side.coef == 0) return NumStr(side.number);
-  const std::string term = TermText(side.coef, letter);
-  return side.number == 0 ? term : term + tutor::Gap + SignedNumberText(side.number);
+  return WithNumber(TermText(side.coef, letter), side.number);
+}
+
+std::string WithNumber(const std::string& term, int number) {
+  return number == 0 ? term : term + tutor::Gap + SignedNumberText(number);
 }
 
 std::string StatementText(const LinearStatement& statement, const std::string& blanks) {

@@ -49,6 +49,8 @@ struct LinearStatement {
 std::string TermText(int coef, const std::string& letter);
 // "3x + 7", "-x", "-8", "0", with hard blanks around the inner sign.
 std::string SideText(const LinearSide& side, const std::string& letter);
+// A number behind a term, " + 7" or " - 7"; 0 adds nothing.
+std::string WithNumber(const std::string& term, int number);
 // The whole statement with the given blanks at either side of the relation.
 std::string StatementText(const LinearStatement& statement, const std::string& blanks = " ");
 // The relation read from right to left: what dividing by a negative number makes of it.
