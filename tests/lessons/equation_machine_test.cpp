@@ -1,5 +1,5 @@
-// The machine of linear equations and inequalities, and what its two lessons promise of their
-// problems and explanations.
+// The machine of linear equations and inequalities, and what its lessons promise of their problems
+// and explanations.
 #include <regex>
 #include <set>
 
@@ -15,6 +15,7 @@ namespace {
 
 using namespace equations;
 
+constexpr const char* kOneOperation = "Solving Linear Equations With 1 Operation";
 constexpr const char* kEquations = "Solving Linear Equations With 2 Operations";
 constexpr const char* kInequalities = "Solving Inequalities";
 constexpr int kSeeds = 3000;
@@ -133,7 +134,7 @@ Shown Explained(const char* title, int seed) {
 }
 
 TEST_F(EquationMachineTest, ExplanationsOfAllKindsKeepTheirRelationsInLineAndEndAtTheAnswer) {
-  for (const char* title : {kEquations, kInequalities}) {
+  for (const char* title : {kOneOperation, kEquations, kInequalities}) {
     const auto lesson = MakeLesson(title);
     for (int seed = 0; seed < 40; ++seed) {
       SCOPED_TRACE(std::string(title) + "#" + std::to_string(seed));
