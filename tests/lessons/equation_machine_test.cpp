@@ -16,6 +16,7 @@ namespace {
 using namespace equations;
 
 constexpr const char* kOneOperation = "Solving Linear Equations With 1 Operation";
+constexpr const char* kMoreComplex = "Solving More Complex Linear Equations";
 constexpr const char* kEquations = "Solving Linear Equations With 2 Operations";
 constexpr const char* kInequalities = "Solving Inequalities";
 constexpr int kSeeds = 3000;
@@ -134,7 +135,7 @@ Shown Explained(const char* title, int seed) {
 }
 
 TEST_F(EquationMachineTest, ExplanationsOfAllKindsKeepTheirRelationsInLineAndEndAtTheAnswer) {
-  for (const char* title : {kOneOperation, kEquations, kInequalities}) {
+  for (const char* title : {kOneOperation, kEquations, kMoreComplex, kInequalities}) {
     const auto lesson = MakeLesson(title);
     for (int seed = 0; seed < 40; ++seed) {
       SCOPED_TRACE(std::string(title) + "#" + std::to_string(seed));

@@ -137,7 +137,8 @@ Reading ReadLinearInequality(const course::Problem& problem) {
 
 const JudgeRegistration kEquations(ReadLinearEquation,
                                    {"Solving Linear Equations With 1 Operation",
-                                    "Solving Linear Equations With 2 Operations"});
+                                    "Solving Linear Equations With 2 Operations",
+                                    "Solving More Complex Linear Equations"});
 const JudgeRegistration kInequalities(ReadLinearInequality, {"Solving Inequalities"});
 
 }  // namespace
