@@ -115,6 +115,7 @@ TEST(FigureCheck, AnExplanationOfASystemEndsAtBothLinesAndTheirPoint) {
   const FigureItem crossing = PointItem(2, 1);
   const Figure end = {first, second, GuidesItem(2, 1), crossing};
   EXPECT_EQ(OfSystem({{PointItem(0, 3), StepItem(0, 3, 1, -1), first}, end}), Faults{});
+  EXPECT_EQ(OfSystem({{first, Broken(second), crossing}}), Faults{});
   EXPECT_EQ(OfSystem({{LineItem(-1, 2)}, end}),
             Faults{"explanation: page 1 shows a line through (0, 2) and (1, 1), which is not of "
                    "this problem"});

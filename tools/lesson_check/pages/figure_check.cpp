@@ -21,10 +21,15 @@ bool Shows(const FigureItem& shown, const FigureItem& wanted) {
   return SamePlace(shown, wanted) && (wanted.label.empty() || wanted.label == shown.label);
 }
 
-// An explanation need not name what it shows again.
+FigureItem Solid(FigureItem line) {
+  std::erase_if(line.values, [](const auto& value) { return value.first == "broken"; });
+  return line;
+}
+
+// An explanation need not name what it shows again, and may break a line to tell it from another.
 bool ShowsAgain(const FigureItem& shown, const FigureItem& judged) {
-  return SamePlace(shown, judged) &&
-         (judged.label.empty() || shown.label.empty() || judged.label == shown.label);
+  const bool same = SamePlace(judged.IsBroken() ? shown : Solid(shown), judged);
+  return same && (judged.label.empty() || shown.label.empty() || judged.label == shown.label);
 }
 
 bool LiesOn(const FigureItem& point, const FigureItem& line) {
