@@ -1,9 +1,10 @@
 // Lines, points and labels on the plane, pixel by pixel.
 #include "lessons/families/graphs/plane_figure.h"
 
-#include <cstdlib>
+#include <cmath>
 
 #include "display/graphs.h"
+#include "lessons/families/systems/linear_system.h"
 #include "support/display_fixture.h"
 #include "support/expect_stop.h"
 
@@ -11,6 +12,7 @@ namespace course::testing {
 namespace {
 
 using namespace graphs;
+using namespace systems;
 
 namespace colour = platform::colour;
 
@@ -33,7 +35,7 @@ TEST_F(PlaneFigureTest, EveryLineRunsThroughTheCrossingsOfTheGrid) {
         ASSERT_EQ(Box().PixelWidth(), 13 * square);
         ASSERT_EQ(Box().PixelHeight(), 13 * square);
         ASSERT_EQ(At(3, -4, square), colour::Cyan);
-        DrawPlaneLine(1, m, b, kInk);
+        DrawOnPlane(1, {LineItem(m, b)}, kInk);
         for (int x = -5; x <= 5; ++x)
           for (int y = -5; y <= 5; ++y)
             EXPECT_EQ(At(x, y, square) == kInk, y == m * x + b)
@@ -58,28 +60,60 @@ TEST_F(PlaneFigureTest, APointIsRoundAboutItsCrossing) {
   EXPECT_GE(width, 3);
 }
 
-// A label that were cut would reach the outermost pixels.
-TEST_F(PlaneFigureTest, TheLabelOfALineIsWholeAndBesideIt) {
-  for (const int m : {-3, -2, -1, 0, 1, 2, 3}) {
-    for (int b = -5; b <= 5; ++b) {
-      SCOPED_TRACE("y = " + std::to_string(m) + "x + " + std::to_string(b));
-      picGraph2DPrepare(1, 4, 23.75, 13 * 20 / 16.0, 13 * 20 / 25.0);
-      Box().Scale(-6.5, 6.5, 6.5, -6.5);
-      LabelPlaneLine(1, m, b, "y = -2x - 3", kInk);
-      EXPECT_TRUE(HasInk(Box(), 1, 1, 259, 259, colour::White));
-      EXPECT_FALSE(HasInk(Box(), 0, 0, 260, 1, colour::White) ||
-                   HasInk(Box(), 0, 259, 260, 260, colour::White) ||
-                   HasInk(Box(), 0, 0, 1, 260, colour::White) ||
-                   HasInk(Box(), 259, 0, 260, 260, colour::White));
-      const auto pixelsOfLabel = [&] {
-        int count = 0;
-        for (int y = 0; y < 260; ++y)
-          for (int x = 0; x < 260; ++x) count += Box().Pixel(x, y) != colour::White;
-        return count;
-      };
-      const int alone = pixelsOfLabel();
-      DrawPlaneLine(1, m, b, colour::White);  // what the line covers of the label is gone
-      EXPECT_EQ(pixelsOfLabel(), alone);
+// What labels cover of a figure that was drawn without them: pixels that are neither paper nor
+// grid, and the outermost ones, which a label that were cut would reach.
+int CoveredByLabels(const std::vector<FigureItem>& items) {
+  constexpr int square = 20;
+  const platform::PictureBox& box = frmPR->picGraph2D[1];
+  const int size = 13 * square;
+  std::vector<FigureItem> unnamed = items;
+  for (FigureItem& item : unnamed) item.label = "";
+  ShowPlane(1, 4, 23.75, square);
+  DrawOnPlane(1, unnamed, kInk);
+  std::vector<platform::Colour> before;
+  for (int y = 0; y < size; ++y)
+    for (int x = 0; x < size; ++x) before.push_back(box.Pixel(x, y));
+  ShowPlane(1, 4, 23.75, square);
+  DrawOnPlane(1, items, kInk);
+  int covered = 0;
+  int labelled = 0;
+  for (int y = 0; y < size; ++y) {
+    for (int x = 0; x < size; ++x) {
+      const platform::Colour old = before[static_cast<std::size_t>(y * size + x)];
+      if (box.Pixel(x, y) == old) continue;
+      ++labelled;
+      const bool atEdge = x == 0 || y == 0 || x == size - 1 || y == size - 1;
+      covered += atEdge || (old != colour::White && old != colour::Cyan) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(labelled, 100);
+  return covered;
+}
+
+TEST_F(PlaneFigureTest, TheLabelOfALineIsWholeAndCoversNothing) {
+  for (int m = -3; m <= 3; ++m)
+    for (int b = -5; b <= 5; ++b)
+      EXPECT_EQ(CoveredByLabels({LineItem(m, b, "y = -2x - 3")}), 0) << "y = " << m << "x + " << b;
+  for (const int x : {-5, -1, 1, 5})
+    EXPECT_EQ(CoveredByLabels({Broken(UprightItem(x, "x = -5"))}), 0) << x;
+}
+
+TEST_F(PlaneFigureTest, TheLabelsOfASystemCoverNothing) {
+  for (const int m1 : {-2, -1}) {
+    for (const int m2 : {1, 2}) {
+      for (int b1 = -3; b1 <= 3; ++b1) {
+        for (int b2 = -3; b2 <= 3; ++b2) {
+          const double x = double(b2 - b1) / (m1 - m2);
+          const double y = m1 * x + b1;
+          if (x != std::floor(x)) continue;
+          const std::vector<FigureItem> system = {
+              LineItem(m1, b1, SlopeInterceptText({-m1, 1, b1})),
+              Broken(LineItem(m2, b2, SlopeInterceptText({-m2, 1, b2}))), GuidesItem(x, y),
+              PointItem(x, y, PairText(int(x), int(y)))};
+          EXPECT_EQ(CoveredByLabels(system), 0)
+              << m1 << "x + " << b1 << " and " << m2 << "x + " << b2;
+        }
+      }
     }
   }
 }

@@ -1,12 +1,17 @@
 #include "lessons/families/systems/graphing_board.h"
 
-#include "display/drawing.h"
-#include "display/graphs.h"
-#include "display/grid.h"
-#include "display/print.h"
+#include <cstdlib>
+
 #include "display/wiper_box.h"
-#include "display/word_wrap.h"
+#include "engine/header.h"
+#include "engine/page.h"
 #include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/systems/system_steps.h"
+#include "lessons/families/systems/system_table.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/say.h"
+#include "lessons/page/show.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -14,18 +19,11 @@ namespace course::systems::board {
 namespace {
 
 using namespace graphs;
+using namespace page;
 
 constexpr int kPlane = 1;
-constexpr int kSquare = 20;      // pixels
-constexpr double kPlaneRow = 4;  // below the banner, which can be long
-constexpr double kPlaneCol = 23.75;
-constexpr double kCrossingRadius = 0.3;  // squares
-constexpr platform::Colour kCrossing = platform::Rgb(0, 130, 0);
-
-constexpr double kWiperWidth = 37;  // columns
-constexpr double kWiperCol = 2;
-constexpr double kWiperEnd = 17.4;  // row
-constexpr int kEqualsCol = 20;
+constexpr double kTableRow = 19.6;
+constexpr platform::Colour kCrossing = platform::Rgb(0, 110, 0);
 
 const SystemTable& Table() {
   static const SystemTable table(
@@ -33,77 +31,133 @@ const SystemTable& Table() {
   return table;
 }
 
-}  // namespace
-
-void ShowEmptyPlane() {
-  ShowPlane(kPlane, kPlaneRow, kPlaneCol, kSquare);
-}
-
-void Plot(int x, int y, platform::Colour colour) {
-  picGraph2DPlotPoint(kPlane, x, y, colour);
-}
-
-void DrawLine(const LinearEquation& equation, int line, const std::string& label) {
-  DrawOnPlane(kPlane, {LineItem(equation.Slope(), equation.Intercept(), label)},
-              ColourOfLine(line));
-}
-
-void PlotTwoPoints(const LinearEquation& equation, int line) {
-  const int intercept = equation.Intercept();
-  DrawOnPlane(kPlane, {StepItem(0, intercept, 1, equation.Slope())});
-  Plot(0, intercept, ColourOfLine(line));
-  Plot(1, intercept + equation.Slope(), ColourOfLine(line));
-}
-
-void ShowBothLines(const LinearSystem& system) {
-  ShowEmptyPlane();
-  DrawLine(system.first, 1, SlopeInterceptText(system.first));
-  DrawLine(system.second, 2, SlopeInterceptText(system.second));
-}
-
-void MarkCrossing(int x, int y) {
-  DrawOnPlane(kPlane, {GuidesItem(x, y)}, kCrossing);
-  picGraph2DPlotPoint(kPlane, x, y, kCrossing, kCrossingRadius);
-}
-
-void ClearTexts() {
-  isDrawBoxFilled(4, 1, kTableRow - 1.2, 40, platform::colour::Blue);
-}
-
-void Write(const std::string& text) {
-  WordWrapNarrow(text, kNarrow);
-}
-
-void ShowWiper(double row) {
-  wbPrepareAtColumn(row, kWiperCol, kWiperWidth, kWiperEnd - row, platform::colour::White,
-                    platform::colour::Black);
-  wbShow();
-}
-
-void WriteAligned(double row, const std::string& equation) {
-  wbLocate(row, kEqualsCol - static_cast<double>(equation.find('=')));
-  wbisPrint(equation);
-}
-
-std::string Substituted(const LinearEquation& equation, int x, int y) {
-  const int first = equation.a * x;
-  const int second = equation.b * y;
-  return CoefText(equation.a) + "(" + NumStr(x) + ")" + SignedCoefText(equation.b) + "(" +
-         NumStr(y) + ") = " + NumStr(first) + tutor::Gap + SignedNumberText(second) + " = " +
-         NumStr(first + second);
-}
-
-void ShowTable(const LinearSystem& system) {
-  Table().Show(kTableRow);
-  Table().Fill(1, 1, EquationText(system.first));
-  Table().Fill(2, 1, EquationText(system.second));
-}
-
 void FillTable(const LinearSystem& system, int line) {
-  const LinearEquation& equation = line == 1 ? system.first : system.second;
+  const LinearEquation& equation = system.Line(line);
   Table().Fill(line, 2, SlopeInterceptText(equation));
   Table().Fill(line, 3, NumStr(equation.Slope()));
   Table().Fill(line, 4, NumStr(equation.Intercept()));
+}
+
+FigureItem GraphOf(const LinearEquation& equation, int line, const std::string& label = "") {
+  const FigureItem graph = LineItem(equation.Slope(), equation.Intercept(), label);
+  return line == 1 ? graph : Broken(graph);
+}
+
+// From the intercept to a second point.
+FigureItem StepOf(const LinearEquation& equation) {
+  return StepItem(0, equation.Intercept(), 1, equation.Slope());
+}
+
+// With its sign of equality in one common column of the white box.
+std::string Aligned(const std::string& equation) {
+  constexpr std::size_t kEqualsCol = 18;
+  std::string text;
+  for (std::size_t i = equation.find('='); i < kEqualsCol; ++i) text += tutor::Gap;
+  return text + WithoutBreaks(equation);
+}
+
+}  // namespace
+
+// --- The plane -----------------------------------------------------------------------------------
+
+void Plot(int x, int y, platform::Colour colour) {
+  DrawOnPlane(kPlane, {PointItem(x, y, PairText(x, y))}, colour);
+}
+
+void DrawGraph(const LinearEquation& equation, int line, const std::string& label) {
+  DrawOnPlane(kPlane, {GraphOf(equation, line, label)}, ColourOfLine(line));
+}
+
+void ExpectBothGraphs(const LinearSystem& system) {
+  KeepLabelsClearOf(kPlane, {GraphOf(system.first, 1), GraphOf(system.second, 2)});
+}
+
+void MarkCrossing(int x, int y) {
+  DrawOnPlane(kPlane, {GuidesItem(x, y), PointItem(x, y)}, kCrossing);
+}
+
+void NameCrossing(int x, int y) {
+  Plot(x, y, kCrossing);
+}
+
+// --- The steps -----------------------------------------------------------------------------------
+
+void ShowTable(const LinearSystem& system) {
+  Table().Show(kTableRow);
+  for (const int line : {1, 2}) Table().Fill(line, 1, EquationText(system.Line(line)));
+}
+
+void OpenWorkBox(double row) {
+  WhiteBox({.row = row, .rows = kTableRow - row - 0.5});
+}
+
+void SolveForY(const LinearSystem& system, int line) {
+  const LinearEquation& equation = system.Line(line);
+  SayInBoxAnew(Text("Line {}:", line) + Aligned(EquationText(equation)).substr(7));
+  for (const auto& [action, result] : StepsToSlopeIntercept(equation)) {
+    SayInBox(R"(\b)" + action + R"(\z)");
+    SayInBox(Aligned(result));
+    if (result != SlopeInterceptText(equation)) PageEnd();
+  }
+  SayInBox(Text("The slope is {}, the intercept is {}.", equation.Slope(), equation.Intercept()));
+  FillTable(system, line);
+  PageEnd();
+}
+
+void WriteHeading(const std::string& heading) {
+  if (heading.empty()) return ProblemBanner();
+  ClearRows(2, 2);
+  SayAt(2.5, heading);
+}
+
+void ShowBoard(const LinearSystem& system, const std::string& heading) {
+  NewScreen();
+  ShowTable(system);
+  for (const int line : {1, 2}) FillTable(system, line);
+  WriteHeading(heading);
+  ShowPlaneAtRight(kPlaneRow);
+  ExpectBothGraphs(system);
+  KeepLabelsClearOf(kPlane, {StepOf(system.first), StepOf(system.second)});
+}
+
+void GraphLine(const LinearSystem& system, int line) {
+  const LinearEquation& equation = system.Line(line);
+  const int slope = equation.Slope();
+  const int intercept = equation.Intercept();
+  const platform::Colour colour = ColourOfLine(line);
+  ClearCells(kTextRow, 1, kBesidePlane.lastCol, 10);
+  SayAt(kTextRow,
+        Text(R"(\yLine {}\z crosses the y axis at the intercept:  {}.)", line,
+             PairText(0, intercept)),
+        kBesidePlane);
+  Plot(0, intercept, colour);
+  PageEnd();
+  Say(Text("Its slope is {}.  From there we go 1 right and {} {}, to {}.", slope, std::abs(slope),
+           Words{slope > 0 ? "up" : "down"}, PairText(1, intercept + slope)),
+      kBesidePlane);
+  AddLine("Then we draw the line.", kBesidePlane);
+  DrawOnPlane(kPlane, {StepOf(equation)});
+  Plot(1, intercept + slope, colour);
+  DrawGraph(equation, line, SlopeInterceptText(equation));
+  PageEnd();
+}
+
+void ShowCrossing(const LinearSystem& system, const std::string& heading) {
+  WriteHeading(heading);
+  ClearCells(kTextRow, 1, kBesidePlane.lastCol, 10);
+  ShowPlaneAtRight(kPlaneRow);
+  ExpectBothGraphs(system);
+  for (const int line : {1, 2})
+    DrawGraph(system.Line(line), line, SlopeInterceptText(system.Line(line)));
+  MarkCrossing(system.x, system.y);
+}
+
+void CheckSolution(const LinearSystem& system) {
+  WhiteBox({.row = kBelowPlane, .rows = kTableRow - kBelowPlane - 0.2});
+  SayPairInBox(system.x, system.y);
+  for (const int line : {1, 2}) TryPairInBox(system.Line(line), system.x, system.y);
+  PageEnd();
+  wbHide();
 }
 
 }  // namespace course::systems::board

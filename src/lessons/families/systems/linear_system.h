@@ -27,6 +27,7 @@ struct LinearSystem {
   int x = 0;  // a point of both lines
   int y = 0;
 
+  const LinearEquation& Line(int number) const { return number == 1 ? first : second; }
   SystemClass Class() const;
 };
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "display/print_cells.h"
+#include "lessons/page/boxes.h"
 
 namespace course::systems {
 namespace {
@@ -48,8 +49,7 @@ void SystemTable::Show(double row) const {
     table.labels.push_back({1, top + kRowLabelDrop, kFirstLeft - 1, kCaptionHeight,
                             "Line " + std::to_string(line), kLabelSize, ColourOfLine(line)});
   }
-  picPrintCellBoxPrepare3(row, table);
-  picPrintCellBoxShow();
+  page::CellTable(table, row);
 }
 
 void SystemTable::Fill(int line, int column, const std::string& text) const {

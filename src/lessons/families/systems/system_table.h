@@ -22,7 +22,7 @@ class SystemTable {
   // At most 4 columns, 85 hundredths wide together.
   explicit SystemTable(std::vector<SystemColumn> columns);
 
-  // The empty table from a row of the lesson's grid on: 624 by 130 pixels.
+  // The empty table from a row of the lesson's grid on: 5.2 rows high.
   void Show(double row) const;
   // Prints into the cell of line 1 or 2 and of a column, from 1, in the line's colour.
   void Fill(int line, int column, const std::string& text) const;

@@ -1,0 +1,182 @@
+#include "lessons/families/graphs/plane_labels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace course::graphs {
+namespace {
+
+constexpr double kGridEnd = 5.6;
+constexpr double kEdge = 6.3;       // how far out a label reaches, so that all of it is in the box
+constexpr double kFarAway = 20;     // beyond the plane's corners from anywhere on it
+constexpr double kLineHalf = 0.15;  // half the width of a line, and a little air
+constexpr double kPointHalf = 0.3;  // a point's radius, and a little air
+constexpr double kLineGap = 0.3;    // between a line and its label
+constexpr double kPointGap = 0.32;  // between the middle of a point and its label
+constexpr double kSlide = 0.25;     // from one place along a line to the next
+constexpr double kSample = 0.2;     // of a label: closer than a line is wide
+
+double LengthOf(Vector v) {
+  return std::hypot(v.x, v.y);
+}
+
+double DistanceTo(Vector place, Vector from, Vector to) {
+  const Vector way = to + -1 * from;
+  const Vector there = place + -1 * from;
+  const double length = LengthOf(way);
+  if (length == 0) return LengthOf(there);
+  const double along = (there.x * way.x + there.y * way.y) / length;
+  return LengthOf(there + -std::clamp(along, 0.0, length) / length * way);
+}
+
+// How far a line runs inside the plane: its ends from a point of it, in squares.
+struct Reach {
+  double first;
+  double last;
+};
+Reach ReachOf(Vector point, Vector along) {
+  Reach reach = {-kFarAway, kFarAway};
+  const auto cut = [&](double start, double step) {
+    if (step == 0) return;
+    const double a = (-kEdge - start) / step;
+    const double b = (kEdge - start) / step;
+    reach.first = std::max(reach.first, std::min(a, b));
+    reach.last = std::min(reach.last, std::max(a, b));
+  };
+  cut(point.x, along.x);
+  cut(point.y, along.y);
+  return reach;
+}
+
+}  // namespace
+
+bool LabelBox::Holds(Vector place) const {
+  const Vector there = place + -1 * foot;
+  const double right = there.x * along.x + there.y * along.y;
+  const double up = there.x * Upward().x + there.y * Upward().y;
+  return right >= 0 && right <= size.width && up >= 0 && up <= size.height;
+}
+
+Vector DirectionOf(const FigureItem& line) {
+  if (line.Find("x")) return {0, 1};
+  const double slope = line.Value("slope");
+  return 1 / std::hypot(1, slope) * Vector{1, slope};
+}
+
+Vector PointOf(const FigureItem& line) {
+  const std::optional<double> x = line.Find("x");
+  return x ? Vector{*x, 0} : Vector{0, line.Value("intercept")};
+}
+
+LabelGround::LabelGround(LabelSize number) {
+  // The axes with the numbers to the left of one and below the other, and the axes' letters.
+  const double left = 0.45 + number.width;
+  const double below = 0.3 + number.height;
+  boxes_ = {{{-kGridEnd, -below}, {1, 0}, {2 * kGridEnd, below + 0.1}},
+            {{-left, -kGridEnd}, {1, 0}, {left + 0.1, 2 * kGridEnd}},
+            {{kGridEnd, -0.2}, {1, 0}, {1, 1}},
+            {{0.1, kGridEnd}, {1, 0}, {0.8, 1}}};
+}
+
+void LabelGround::Avoid(const FigureItem& item) {
+  if (item.shape == "line") {
+    const Vector point = PointOf(item);
+    const Vector along = DirectionOf(item);
+    strokes_.push_back({point + -kFarAway * along, point + kFarAway * along, kLineHalf});
+    return;
+  }
+  const Vector from = {item.Value("x"), item.Value("y")};
+  if (item.shape == "point") {
+    strokes_.push_back({from, from, kPointHalf});
+  } else if (item.shape == "step") {
+    const Vector corner = from + Vector{item.Value("right"), 0};
+    strokes_.push_back({from, corner, kLineHalf});
+    strokes_.push_back({corner, corner + Vector{0, item.Value("up")}, kLineHalf});
+  } else if (item.shape == "guides") {
+    strokes_.push_back({from, {from.x, 0}, kLineHalf});
+    strokes_.push_back({from, {0, from.y}, kLineHalf});
+  }
+}
+
+// Places from the right or upper end to the other one, on both sides of the line.
+LabelBox LabelGround::PlaceAtLine(const FigureItem& line, LabelSize label) {
+  const Vector point = PointOf(line);
+  const Vector along = DirectionOf(line);
+  const Reach reach = ReachOf(point, along);
+  std::vector<LabelBox> places;
+  for (double way = reach.last - label.width; way >= reach.first; way -= kSlide) {
+    LabelBox place = {point + way * along, along, label};
+    const Vector start = place.foot;
+    place.foot = start + -(kLineGap + label.height) * place.Upward();
+    places.push_back(place);
+    place.foot = start + kLineGap * place.Upward();
+    places.push_back(place);
+  }
+  // The ends first: there the label tells best which line it belongs to.
+  std::ranges::stable_sort(places, {}, [&](const LabelBox& place) {
+    const double way = LengthOf(place.foot + 0.5 * label.width * along);
+    return -std::floor(way);
+  });
+  return Take(places);
+}
+
+// Round about the point, near it first.
+LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
+  std::vector<LabelBox> places;
+  for (const double gap : {kPointGap, 2 * kPointGap, 3 * kPointGap, 4 * kPointGap}) {
+    const double left = -gap - label.width;
+    const double beside = -label.height / 2;
+    const double above = gap - kPointGap;
+    const double below = -above - label.height;
+    const double middle = -label.width / 2;
+    for (const Vector place : {Vector{gap, above},
+                               {left, above},
+                               {gap, below},
+                               {left, below},
+                               {gap, beside},
+                               {left, beside},
+                               {middle, gap},
+                               {middle, -gap - label.height}})
+      places.push_back({point + place, {1, 0}, label});
+  }
+  return Take(places);
+}
+
+bool LabelGround::IsFree(Vector place) const {
+  if (std::abs(place.x) > kEdge || std::abs(place.y) > kEdge) return false;
+  return std::ranges::none_of(boxes_, [&](const LabelBox& box) { return box.Holds(place); }) &&
+         std::ranges::none_of(strokes_, [&](const Stroke& stroke) {
+           return DistanceTo(place, stroke.from, stroke.to) < stroke.halfWidth;
+         });
+}
+
+int LabelGround::Covered(const LabelBox& label) const {
+  const int across = static_cast<int>(std::ceil(label.size.width / kSample));
+  const int up = static_cast<int>(std::ceil(label.size.height / kSample));
+  int covered = 0;
+  for (int i = 0; i <= across; ++i)
+    for (int j = 0; j <= up; ++j)
+      covered += IsFree(label.foot + label.size.width * i / across * label.along +
+                        label.size.height * j / up * label.Upward())
+                     ? 0
+                     : 1;
+  return covered;
+}
+
+LabelBox LabelGround::Take(const std::vector<LabelBox>& places) {
+  int fewest = std::numeric_limits<int>::max();
+  LabelBox best;
+  for (const LabelBox& place : places) {
+    const int covered = Covered(place);
+    if (covered < fewest) {
+      fewest = covered;
+      best = place;
+    }
+    if (fewest == 0) break;
+  }
+  boxes_.push_back(best);
+  return best;
+}
+
+}  // namespace course::graphs
