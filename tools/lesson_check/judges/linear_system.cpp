@@ -77,7 +77,15 @@ Reading ReadLinearSystem(const course::Problem& problem) {
   return reading;
 }
 
-const JudgeRegistration kRegistration(ReadLinearSystem, {"Solving Systems by Graphing"});
+// The same, solved without a figure.
+Reading ReadSystemInWriting(const course::Problem& problem) {
+  Reading reading = ReadLinearSystem(problem);
+  reading.figureAtEnd.reset();
+  return reading;
+}
+
+const JudgeRegistration kGraphing(ReadLinearSystem, {"Solving Systems by Graphing"});
+const JudgeRegistration kInWriting(ReadSystemInWriting, {"Solving Systems by Substitution"});
 
 }  // namespace
 }  // namespace lesson_check

@@ -48,14 +48,6 @@ FigureItem StepOf(const LinearEquation& equation) {
   return StepItem(0, equation.Intercept(), 1, equation.Slope());
 }
 
-// With its sign of equality in one common column of the white box.
-std::string Aligned(const std::string& equation) {
-  constexpr std::size_t kEqualsCol = 18;
-  std::string text;
-  for (std::size_t i = equation.find('='); i < kEqualsCol; ++i) text += tutor::Gap;
-  return text + WithoutBreaks(equation);
-}
-
 }  // namespace
 
 // --- The plane -----------------------------------------------------------------------------------
@@ -93,11 +85,10 @@ void OpenWorkBox(double row) {
 
 void SolveForY(const LinearSystem& system, int line) {
   const LinearEquation& equation = system.Line(line);
-  SayInBoxAnew(Text("Line {}:", line) + Aligned(EquationText(equation)).substr(7));
-  for (const auto& [action, result] : StepsToSlopeIntercept(equation)) {
-    SayInBox(R"(\b)" + action + R"(\z)");
-    SayInBox(Aligned(result));
-    if (result != SlopeInterceptText(equation)) PageEnd();
+  SayInBoxAnew(Text("Line {}:", line) + AlignedEquation(EquationText(equation)).substr(7));
+  for (const EquationStep& step : StepsToSlopeIntercept(equation)) {
+    SayStepInBox(step);
+    if (step.equation != SlopeInterceptText(equation)) PageEnd();
   }
   SayInBox(Text("The slope is {}, the intercept is {}.", equation.Slope(), equation.Intercept()));
   FillTable(system, line);

@@ -14,13 +14,7 @@ namespace {
 
 using namespace page;
 
-// A coefficient in front of a number in place of its letter: 2(3), -(-3), 3.
-std::string TermText(int coefficient, int value) {
-  const bool bare = coefficient == 1 || (coefficient == -1 && value >= 0);
-  return CoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
-}
-
-// The same behind another term.
+// TermText behind another term.
 std::string LaterTermText(int coefficient, int value) {
   const bool bare = std::abs(coefficient) == 1 && value >= 0;
   return SignedCoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
@@ -28,15 +22,42 @@ std::string LaterTermText(int coefficient, int value) {
 
 }  // namespace
 
+std::string ActionToRemove(int coefficient, const std::string& letter) {
+  const std::string size =
+      letter.empty() ? NumStr(std::abs(coefficient)) : CoefText(std::abs(coefficient)) + letter;
+  return Text(coefficient > 0 ? "Subtracting {} from both sides:" : "Adding {} to both sides:",
+              size);
+}
+
+std::string ActionToIsolate(int coefficient) {
+  return coefficient == -1 ? "Multiplying both sides by -1:"
+                           : Text("Dividing both sides by {}:", coefficient);
+}
+
 std::vector<EquationStep> StepsToSlopeIntercept(const LinearEquation& equation) {
   const auto [a, b, c] = equation;
-  const std::string term = CoefText(std::abs(a)) + "x";
   const std::string constant = c == 0 ? "" : tutor::Gap + SignedNumberText(c);
   std::vector<EquationStep> steps = {
-      {Text(a > 0 ? "Subtract {} from both sides:" : "Add {} to both sides:", term),
-       CoefText(b) + "y = " + CoefText(-a) + "x" + constant}};
-  if (b != 1) steps.push_back({Text("Divide both sides by {}:", b), SlopeInterceptText(equation)});
+      {ActionToRemove(a, "x"), CoefText(b) + "y = " + CoefText(-a) + "x" + constant}};
+  if (b != 1) steps.push_back({ActionToIsolate(b), SlopeInterceptText(equation)});
   return steps;
+}
+
+std::string AlignedEquation(const std::string& equation) {
+  constexpr std::size_t kEqualsCol = 18;
+  std::string text;
+  for (std::size_t i = equation.find('='); i < kEqualsCol; ++i) text += tutor::Gap;
+  return text + WithoutBreaks(equation);
+}
+
+void SayStepInBox(const EquationStep& step) {
+  SayInBox(R"(\b)" + step.action + R"(\z)");
+  SayInBox(AlignedEquation(step.equation));
+}
+
+std::string TermText(int coefficient, int value) {
+  const bool bare = coefficient == 1 || (coefficient == -1 && value >= 0);
+  return CoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
 }
 
 std::string SubstitutedText(const LinearEquation& equation, int x, int y) {
