@@ -5,6 +5,7 @@
 
 #include <set>
 
+#include "lessons/families/systems/system_steps.h"
 #include "lessons/registry.h"
 #include "mathkit/tutor_codes.h"
 
@@ -40,6 +41,24 @@ TEST(LinearSystem, EquationsAreWrittenAsInATextbook) {
   EXPECT_EQ(EquationText({6, -3, -9}), "6x" + gap + "-" + gap + "3y = -9");
   EXPECT_EQ(SlopeInterceptText({-1, 1, 0}), "y = x");
   EXPECT_EQ(SlopeInterceptText({6, -3, -9}), "y = 2x" + gap + "+" + gap + "3");
+}
+
+// No idle parentheses, and no line twice.
+TEST(LinearSystem, APairIsPutInAsOnPaper) {
+  const struct {
+    LinearEquation equation;
+    int x, y;
+    std::string text;
+  } kCases[] = {
+      {{1, -1, 1}, 2, 1, "2 - 1 = 1"},
+      {{1, -1, 3}, 3, 0, "3 - 0 = 3"},
+      {{1, -1, 3}, 1, -2, "1 - (-2) = 1 + 2 = 3"},
+      {{-1, 1, 3}, -2, 1, "-(-2) + 1 = 2 + 1 = 3"},
+      {{4, -2, -4}, 0, 2, "4(0) - 2(2) = 0 - 4 = -4"},
+      {{4, -2, -4}, -1, 0, "4(-1) - 2(0) = -4 - 0 = -4"},
+  };
+  for (const auto& [equation, x, y, text] : kCases)
+    EXPECT_EQ(ToUtf8(SubstitutedText(equation, x, y)), text);
 }
 
 TEST(LinearSystem, WithoutJustOneSolutionNoneOfThePairsIsRight) {

@@ -1,8 +1,6 @@
 // Lines, points and labels on the plane, pixel by pixel.
 #include "lessons/families/graphs/plane_figure.h"
 
-#include <cmath>
-
 #include "display/graphs.h"
 #include "lessons/families/systems/linear_system.h"
 #include "support/display_fixture.h"
@@ -98,24 +96,37 @@ TEST_F(PlaneFigureTest, TheLabelOfALineIsWholeAndCoversNothing) {
     EXPECT_EQ(CoveredByLabels({Broken(UprightItem(x, "x = -5"))}), 0) << x;
 }
 
+FigureItem NamedPoint(int x, int y) {
+  return PointItem(x, y, PairText(x, y));
+}
+
+FigureItem NamedLine(int slope, int intercept) {
+  return LineItem(slope, intercept, SlopeInterceptText({-slope, 1, intercept}));
+}
+
+// Both lines of a system whose point is on the grid: with the point, and as they are graphed.
+void ExpectSystemIsLabelled(int m1, int b1, int m2, int b2) {
+  if ((b2 - b1) % (m1 - m2) != 0) return;
+  SCOPED_TRACE(SlopeInterceptText({-m1, 1, b1}) + " and " + SlopeInterceptText({-m2, 1, b2}));
+  const int x = (b2 - b1) / (m1 - m2);
+  const int y = m1 * x + b1;
+  const FigureItem first = NamedLine(m1, b1);
+  const FigureItem second = Broken(NamedLine(m2, b2));
+  EXPECT_EQ(CoveredByLabels({first, second, GuidesItem(x, y), NamedPoint(x, y)}), 0);
+  EXPECT_EQ(
+      CoveredByLabels({NamedPoint(0, b1), StepItem(0, b1, 1, m1), NamedPoint(1, b1 + m1), first,
+                       NamedPoint(0, b2), StepItem(0, b2, 1, m2), NamedPoint(1, b2 + m2), second}),
+      0);
+}
+
 TEST_F(PlaneFigureTest, TheLabelsOfASystemCoverNothing) {
-  for (const int m1 : {-2, -1}) {
-    for (const int m2 : {1, 2}) {
-      for (int b1 = -3; b1 <= 3; ++b1) {
+  for (const int m1 : {-2, -1})
+    for (const int m2 : {1, 2})
+      for (int b1 = -3; b1 <= 3; ++b1)
         for (int b2 = -3; b2 <= 3; ++b2) {
-          const double x = double(b2 - b1) / (m1 - m2);
-          const double y = m1 * x + b1;
-          if (x != std::floor(x)) continue;
-          const std::vector<FigureItem> system = {
-              LineItem(m1, b1, SlopeInterceptText({-m1, 1, b1})),
-              Broken(LineItem(m2, b2, SlopeInterceptText({-m2, 1, b2}))), GuidesItem(x, y),
-              PointItem(x, y, PairText(int(x), int(y)))};
-          EXPECT_EQ(CoveredByLabels(system), 0)
-              << m1 << "x + " << b1 << " and " << m2 << "x + " << b2;
+          ExpectSystemIsLabelled(m1, b1, m2, b2);
+          ExpectSystemIsLabelled(m2, b1, m1, b2);
         }
-      }
-    }
-  }
 }
 
 TEST_F(PlaneFigureTest, OddSquaresStop) {

@@ -123,8 +123,10 @@ LabelBox LabelGround::PlaceAtLine(const FigureItem& line, LabelSize label) {
 
 // Round about the point, near it first.
 LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
+  constexpr int kFarthest = 5;
   std::vector<LabelBox> places;
-  for (const double gap : {kPointGap, 2 * kPointGap, 3 * kPointGap, 4 * kPointGap}) {
+  for (int far = 1; far <= kFarthest; ++far) {
+    const double gap = far * kPointGap;
     const double left = -gap - label.width;
     const double beside = -label.height / 2;
     const double above = gap - kPointGap;

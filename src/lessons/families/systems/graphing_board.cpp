@@ -108,7 +108,11 @@ void ShowBoard(const LinearSystem& system, const std::string& heading) {
   WriteHeading(heading);
   ShowPlaneAtRight(kPlaneRow);
   ExpectBothGraphs(system);
-  KeepLabelsClearOf(kPlane, {StepOf(system.first), StepOf(system.second)});
+  for (const int line : {1, 2}) {
+    const LinearEquation& equation = system.Line(line);
+    KeepLabelsClearOf(kPlane, {StepOf(equation), PointItem(0, equation.Intercept()),
+                               PointItem(1, equation.Intercept() + equation.Slope())});
+  }
 }
 
 void GraphLine(const LinearSystem& system, int line) {
