@@ -265,7 +265,7 @@ void SystemsByGraphing::ExplainProblem() {
   board::GraphLine(system_, 1);
   board::GraphLine(system_, 2);
   if (system_.Class() == SystemClass::OneSolution) ReadCrossing();
-  ConcludeSystem(problem, system_, 16);
+  ConcludeSystem(problem, system_, 15.5);
 }
 
 const LessonRegistration<SystemsByGraphing> kRegistration("Solving Systems by Graphing");

@@ -208,12 +208,16 @@ void SystemsBySubstitution::ExplainProblem() {
   board.Substitute();
   board.SolveForX();
   PageEnd();
-  if (system_.Class() == SystemClass::OneSolution) {
+  const bool hasPair = system_.Class() == SystemClass::OneSolution;
+  if (hasPair) {
     board.FindY();
     board.Check();
     PageEnd();
+  } else {
+    ClearBelow(SubstitutionBoard::kBelow);
   }
-  ConcludeSystem(problem, system_, SubstitutionBoard::kBelowCheck);
+  ConcludeSystem(problem, system_,
+                 hasPair ? SubstitutionBoard::kBelowCheck : SubstitutionBoard::kBelow);
 }
 
 const LessonRegistration<SystemsBySubstitution> kRegistration("Solving Systems by Substitution");
