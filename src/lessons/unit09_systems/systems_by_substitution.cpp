@@ -170,7 +170,7 @@ bool NothingMore(const LinearSystem&) {
   return false;
 }
 
-// One try in six is accepted.
+// One try in five is accepted.
 void SystemsBySubstitution::DrawProblem(RandomStream& random) {
   system_ = DrawSystem(random, NothingMore);
   AskForSolution(problem, system_, random);
