@@ -1,0 +1,198 @@
+#include "lessons/families/polynomials/combining_mistakes.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "engine/choices.h"
+
+namespace course::polynomials {
+namespace {
+
+constexpr int kLargestByHand = 99;
+
+constexpr const char* kUnlike = "combines unlike terms";
+constexpr const char* kExponents = "adds the exponents too";
+constexpr const char* kUnlikeAndExponents = "combines unlike terms and adds the exponents too";
+
+// The terms that are like a term, in their order.
+Sum LikeOnes(const Sum& sum, const Term& term) {
+  Sum like;
+  std::ranges::copy_if(sum, std::back_inserter(like),
+                       [&](const Term& other) { return other.IsLike(term); });
+  return like;
+}
+
+Sum UnlikeCombined(const Sum& sum) {
+  Term all = {0, ""};
+  for (const Term& term : Combined(sum)) all = {all.coef + term.coef, all.letters + term.letters};
+  return {Product({1, ""}, all)};  // its letters in order
+}
+
+// x + x as if it were x times x, in every kind of terms.
+Sum ExponentsAdded(const Sum& sum) {
+  Sum wrong = Combined(sum);
+  for (Term& term : wrong) {
+    const std::string letters = term.letters;
+    for (std::size_t i = LikeOnes(sum, term).size(); i > 1; --i) term = Product(term, {1, letters});
+  }
+  return Combined(wrong);
+}
+
+// The first kind of at least two terms that meets a condition gets the other sign.
+template <class Condition>
+Sum SignTurned(const Sum& sum, Condition condition) {
+  Sum wrong = Combined(sum);
+  for (Term& term : wrong) {
+    const Sum like = LikeOnes(sum, term);
+    if (like.size() < 2 || !condition(like)) continue;
+    term.coef = -term.coef;
+    break;
+  }
+  return wrong;
+}
+
+Sum SignTurnedOfUnlikeSigns(const Sum& sum) {
+  return SignTurned(sum, HasBothSigns);
+}
+
+Sum SignTurnedOfNegatives(const Sum& sum) {
+  return SignTurned(sum, AllNegative);
+}
+
+Sum LoneLetterDropped(const Sum& sum) {
+  Sum wrong = sum;
+  const auto lone = std::ranges::find_if(
+      wrong, [](const Term& term) { return !term.letters.empty() && std::abs(term.coef) == 1; });
+  if (lone != wrong.end()) wrong.erase(lone);
+  return wrong;
+}
+
+Sum LastMinusLost(const Sum& sum) {
+  Sum wrong = sum;
+  for (std::size_t i = sum.size(); --i > 0;) {
+    if (wrong[i].coef > 0) continue;
+    wrong[i].coef = -wrong[i].coef;
+    break;
+  }
+  return wrong;
+}
+
+bool IsSmall(const Sum& sum) {
+  return std::ranges::all_of(sum, [](const Term& term) {
+    return term.coef != 0 && std::abs(term.coef) <= kLargestByHand;
+  });
+}
+
+// Whether it can stand beside the right sum: as many terms, none of them 0 or large.
+bool IsBelievable(const Sum& wrong, const Sum& right) {
+  return IsSmall(wrong) && wrong.size() == right.size() && wrong != right;
+}
+
+template <class T>
+void StartAnywhere(std::vector<T>& list, RandomStream& random) {
+  if (list.empty()) return;
+  std::ranges::rotate(list, list.begin() + random.Index(static_cast<int>(list.size())) - 1);
+}
+
+const WrongSum* Find(const std::vector<WrongSum>& list, const std::string& mistake) {
+  const auto found = std::ranges::find(list, mistake, &WrongSum::mistake);
+  return found == list.end() ? nullptr : &*found;
+}
+
+// Unlike terms combined, also with added exponents and behind two slips.
+void AddAroundUnlike(Choices<Sum>& choices, const std::vector<WrongSum>& mistakes,
+                     const std::vector<Slip>& slips) {
+  constexpr int kTwice = 2;
+  for (const char* name : {kUnlike, kUnlikeAndExponents})
+    if (const WrongSum* wrong = Find(mistakes, name)) choices.Wrong(wrong->mistake, wrong->sum);
+  int behindSlips = 0;
+  for (const Slip& slip : slips) {
+    const std::vector<WrongSum> second = CombiningMistakes(slip.terms);
+    const WrongSum* wrong = Find(second, kUnlike);
+    if (wrong == nullptr || ++behindSlips > kTwice) continue;
+    choices.Wrong(slip.mistake + " and " + kUnlike, wrong->sum);
+  }
+}
+
+// The first slip, another mistake, both of them, and one more behind the slip: they lie around the
+// slip.  Another slip comes at times in place of the last one.
+void AddAroundSlip(Choices<Sum>& choices, std::vector<WrongSum> mistakes,
+                   const std::vector<Slip>& slips, RandomStream& random) {
+  const Slip& slip = slips[0];
+  const bool manySlips = slips.size() > 2;
+  std::vector<WrongSum> second = CombiningMistakes(slip.terms);
+  for (std::vector<WrongSum>* list : {&mistakes, &second})
+    std::erase_if(*list, [&](const WrongSum& wrong) {
+      // One term among sums of two is seen to be wrong: not where there are others.
+      return wrong.mistake == kUnlikeAndExponents || (manySlips && wrong.mistake == kUnlike);
+    });
+  StartAnywhere(mistakes, random);
+  StartAnywhere(second, random);
+  choices.Wrong(slip.mistake, Combined(slip.terms));
+  const auto addBehindSlip = [&](const WrongSum& wrong) {
+    choices.Wrong(slip.mistake + " and " + wrong.mistake, wrong.sum);
+  };
+  if (!mistakes.empty()) {
+    choices.Wrong(mistakes[0].mistake, mistakes[0].sum);
+    if (const WrongSum* both = Find(second, mistakes[0].mistake)) addBehindSlip(*both);
+  }
+  const bool otherSlip = random.Index(2) == 1 && slips.size() > 1;
+  if (otherSlip) choices.Wrong(slips[1].mistake, Combined(slips[1].terms));
+  for (const WrongSum& wrong : second) addBehindSlip(wrong);
+}
+
+}  // namespace
+
+std::vector<Slip> ReadingSlips(const Sum& sum) {
+  return {{"counts a letter alone as 0", LoneLetterDropped(sum)},
+          {"leaves a minus sign behind", LastMinusLost(sum)}};
+}
+
+std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
+  const Sum right = Combined(sum);
+  std::vector<WrongSum> mistakes;
+  if (right.size() > 1)
+    for (const WrongSum& wrong :
+         {WrongSum{kUnlike, UnlikeCombined(right)},
+          WrongSum{kUnlikeAndExponents, UnlikeCombined(ExponentsAdded(sum))}})
+      if (IsSmall(wrong.sum)) mistakes.push_back(wrong);
+  const std::vector<WrongSum> others = {
+      {kExponents, ExponentsAdded(sum)},
+      {"makes two negatives a positive", SignTurnedOfNegatives(sum)},
+      {"takes the wrong sign in a sum of unlike signs", SignTurnedOfUnlikeSigns(sum)}};
+  for (const WrongSum& wrong : others)
+    if (IsBelievable(wrong.sum, right)) mistakes.push_back(wrong);
+  return mistakes;
+}
+
+void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> slips,
+                         RandomStream& random) {
+  Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText);
+  const Sum right = Combined(sum);
+  const std::vector<WrongSum> mistakes = CombiningMistakes(sum);
+  const Slip last = {"leaves out the last term", {sum.begin(), sum.end() - 1}};
+  choices.Right(right);
+  for (Slip& slip : slips)
+    std::erase_if(slip.terms, [](const Term& term) { return term.coef == 0; });
+  std::erase_if(slips,
+                [&](const Slip& slip) { return !IsBelievable(Combined(slip.terms), right); });
+  StartAnywhere(slips, random);
+  const bool aroundUnlike = random.Index(3) == 1 && right.size() > 1;
+  if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, mistakes, slips, random);
+  slips.push_back(last);
+  if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips);
+  for (const WrongSum& wrong : mistakes) choices.Wrong(wrong.mistake, wrong.sum);
+  for (const Slip& slip : slips)
+    if (IsBelievable(Combined(slip.terms), right))
+      choices.Wrong(slip.mistake, Combined(slip.terms));
+  choices.Fill([&] {
+    Sum near = right;
+    for (Term& term : near) {
+      const int step = random.Sign() * random.Rand(1, 3);
+      term.coef += term.coef == -step ? 2 * step : step;  // no term vanishes
+    }
+    return near;
+  });
+}
+
+}  // namespace course::polynomials

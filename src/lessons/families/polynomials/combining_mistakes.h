@@ -1,0 +1,38 @@
+// What goes wrong when like terms are combined, and the choices that come of it.
+//
+// A slip goes wrong before the terms are combined: a sign that is not taken along, a factor that is
+// not carried to each term.  Combining goes wrong afterwards, with slip or without.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/problem.h"
+#include "lessons/families/polynomials/sum_of_terms.h"
+#include "mathkit/random_stream.h"
+
+namespace course::polynomials {
+
+struct Slip {
+  std::string mistake;
+  Sum terms;  // that are combined after it
+};
+// Of someone who reads the sum's terms: a letter alone not counted, a minus sign not taken along.
+// Where nothing can slip the terms are those of the sum.
+std::vector<Slip> ReadingSlips(const Sum& sum);
+
+struct WrongSum {
+  std::string mistake;
+  Sum sum;  // combined
+};
+// Unlike terms combined, exponents added, signs mistaken.  Wrong sums in which a term vanishes or
+// passes two digits are left out; some may be equal.
+std::vector<WrongSum> CombiningMistakes(const Sum& sum);
+
+// Five shuffled choices for a sum whose terms are to be combined, the right one among them.  Most
+// of the problems have two choices that go wrong twice, first by the same slip: if each wrong
+// choice were a single step from the right one, that would be the one most like the others.
+void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> slips,
+                         RandomStream& random);
+
+}  // namespace course::polynomials

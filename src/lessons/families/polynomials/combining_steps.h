@@ -1,0 +1,13 @@
+// The worked steps of combining like terms, with print cells.
+#pragma once
+
+#include "lessons/families/polynomials/sum_of_terms.h"
+
+namespace course::polynomials {
+
+// Combines the terms page by page: prints the sum on the row, gathers its terms in print cells
+// below, adds each column and tells why, and ends with the result.  No PageEnd behind the last
+// line.
+void CombineAloud(const Sum& sum, double row);
+
+}  // namespace course::polynomials
