@@ -270,8 +270,7 @@ void SimplifyingExpressions::ExplainProblem() {
   for (const Part& part : expression_)
     if (part.IsProduct()) MultiplyOut(part);
   const Sum terms = MultipliedOut(expression_);
-  Say("Without parentheses:");
-  Show(SumText(terms), kExpressionCol);
+  Say(Text(R"(So we have:  \y{}\z)", SumText(terms)));
   PageEnd();
   NewScreen();
   ProblemBanner();
@@ -287,8 +286,9 @@ void SimplifyingExpressions::MultiplyOut(const Part& part) {
   NewScreen();
   ProblemBanner();
   SayAt(5, problem.question[0]);
-  ShowAt(7, problem.question[1], kExpressionCol);
+  ShowAt(6, problem.question[1], kExpressionCol);
   const std::string factor = NumStr(part.factor);
+  if (!expression_.front().IsProduct()) Say("We multiply before we add or subtract.");
   Say(Text(R"(The factor in front of {} is \y{}\z.  We multiply each term by it.)",
            "(" + SumText(part.inside) + ")", factor));
   DistributingTable table(part.factor, part.inside);
