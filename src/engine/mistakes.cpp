@@ -12,11 +12,19 @@ namespace {
 
 // Verbs that follow an "and": there "forgets brackets and parentheses" has a noun.
 constexpr std::string_view kSecondVerbs[] = {
-    "adds",    "applies",  "changes",   "combines", "compares", "counts",     "cancels", "divides",
-    "does",    "drops",    "exchanges", "forgets",  "gives",    "ignores",    "is",      "has",
-    "keeps",   "leaves",   "loses",     "makes",    "moves",    "multiplies", "puts",    "reads",
-    "reduces", "reverses", "rounds",    "squares",  "stops",    "subtracts",  "swaps",   "switches",
-    "takes",   "treats",   "turns",     "uses",     "works",    "writes"};
+    "adds",    "applies",  "cancels",   "changes", "combines", "compares",   "counts",  "divides",
+    "does",    "drops",    "exchanges", "forgets", "gives",    "has",        "ignores", "is",
+    "keeps",   "leaves",   "loses",     "makes",   "moves",    "multiplies", "puts",    "reads",
+    "reduces", "reverses", "rounds",    "squares", "stops",    "subtracts",  "swaps",   "switches",
+    "takes",   "treats",   "turns",     "uses",    "works",    "writes"};
+=======
+"adds", "applies", "changes", "compares", "counts", "cancels", "divides", "does", "drops",
+    "exchanges", "forgets", "gives", "ignores", "is", "has", "keeps", "leaves", "loses", "makes",
+    "mixes", "moves", "multiplies", "overlooks", "puts", "reads", "reduces", "reverses", "rounds",
+    "sees", "squares", "stops", "subtracts", "swaps", "switches", "takes", "treats", "turns",
+    "uses", "works", "writes"
+};
+>>>>>>> 2af1021 (Know mixes, overlooks and sees as second verbs of a mistake)
 
 constexpr std::pair<std::string_view, std::string_view> kIrregular[] = {
     {"is", "are"}, {"has", "have"}, {"was", "were"}};
