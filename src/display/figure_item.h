@@ -5,6 +5,7 @@
 //   "point"    x and y on a plane, x alone on a number line
 //   "line"     slope and intercept, or x alone of an upright line; broken, 1, when it is drawn so
 //   "step"     from x, y: right, then up; below 0 it goes left or down
+//   "scale"    numbers and ticks of a number line: from one to the next
 //   "guides"   from x, y straight to both axes
 #pragma once
 

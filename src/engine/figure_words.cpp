@@ -79,6 +79,9 @@ std::string WordsOf(const FigureItem& item) {
   if (item.shape == "point") return PointText(item);
   if (item.shape == "line") return LineText(item);
   if (item.shape == "step") return StepText(item);
+  if (item.shape == "scale")
+    return "a number at every " + NumStr(item.Value("numbers")) + ", a tick at every " +
+           NumStr(item.Value("ticks"));
   if (item.shape == "guides")
     return "from " + PlaceText(item.Value("x"), item.Value("y")) + " straight to both axes";
   return item.shape;
