@@ -12,6 +12,7 @@
 #include "lesson_check/pages/page_check.h"
 #include "lessons/families/graphs/interval_figure.h"
 #include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/graphs/scale_line.h"
 #include "platform/geometry.h"
 #include "session/session.h"
 
@@ -139,6 +140,7 @@ TEST(FigureWords, EveryShapeIsSpoken) {
       {LineItem(-3, 5, "p"), "a line, p, through (0, 5) and (1, 2)"},
       {Broken(UprightItem(3)), "a broken upright line through (3, 0)"},
       {StepItem(1, 2, -3, -1), "a step from (1, 2), 3 to the left and 1 down"},
+      {graphs::ScaleItem({4, 2}), "a number at every 4, a tick at every 2"},
       {GuidesItem(2, 1), "from (2, 1) straight to both axes"},
   };
   for (const auto& [item, words] : kCases) EXPECT_EQ(WordsOf(item), words);

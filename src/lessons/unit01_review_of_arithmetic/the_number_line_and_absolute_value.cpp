@@ -82,7 +82,7 @@ void OtherScales() {
   PageEnd();
   other.Hop(-6, -10);
   SayAt(21.5,
-        Text("{}  {}", Words{"Each tick is worth 2."}, Words{CountingSentence({-10, {6, 2}})}));
+        R"(Each tick is worth 2.  From -6, not from -12, we count to the left:  -8, \y-10\z.)");
   PageEnd();
 }
 

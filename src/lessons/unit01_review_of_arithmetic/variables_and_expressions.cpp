@@ -147,7 +147,8 @@ void ProductsBeforeSums() {
   ValueSteps steps(line, 18.5, 4);
   PageEnd();
   steps.Finish();
-  SayAt(18.5, "We multiply before we add.  From left to right it would be 110.", {.col = 19});
+  SayAt(18.5, "We multiply before we add.  From left to right, or as 11x, it would be 110.",
+        {.col = 19});
   PageEnd();
 }
 
@@ -206,7 +207,7 @@ void TwoLetters() {
   ShowAt(7, "x = 4 and y = -5", 12);
   PageEnd();
   ValueSteps steps(LineOf(InXY({TermOf(3, 1), TermOf(-2, 0, 1)}, 4, -5)), 9, 12);
-  SayAt(16.5, "4 takes the place of x, and (-5) takes the place of y.  What is the value?");
+  SayAt(16.5, "4 goes in for x and (-5) for y, not the other way around.  What is the value?");
   PageEnd();
   steps.Finish();
   ClearBelow(16.5);
