@@ -1,0 +1,300 @@
+#include "lessons/families/formulas/literal_explanation.h"
+
+#include <cctype>
+#include <cstdlib>
+
+#include "engine/choices.h"
+#include "engine/header.h"
+#include "engine/page.h"
+#include "lessons/families/equations/equation_explanation.h"
+#include "lessons/families/equations/equation_sheet.h"
+#include "lessons/families/formulas/solution_lines.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/say.h"
+#include "lessons/page/show.h"
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course::formulas {
+namespace {
+
+using enum LiteralForm;
+using equations::SheetRow;
+using page::SayInBox;
+using page::SayInBoxAnew;
+using page::Text;
+using page::Words;
+
+constexpr double kQuestionRow = 4;
+constexpr double kSheetBottom = 16.5;
+constexpr double kLinesRow = 5.5;
+constexpr double kFractionRow = 5.5;     // the middle one of a built-up first line
+constexpr double kFractionBoxRow = 18;  // below four built-up lines
+
+// "+4y", "-4y": a term as it is spoken of.
+std::string WithSign(const LetterTerm& term) {
+  return (term.coef.num < 0 ? "" : "+") + TermText(term);
+}
+
+// Values that make the equation true, one for each of its letters.
+struct LetterValues {
+  int x = 2, y = 1, z = 1, w = 1;
+};
+
+LetterValues ValuesFor(const LiteralEquation& e) {
+  LetterValues values;
+  switch (e.form) {
+    case LeftSide:
+    case RightSide:
+      values.z = e.p * values.x + e.q * values.y;
+      break;
+    case LetterCoefficient:  // w is free of a division when x is 1, and must not be 0
+      values.x = 1;
+      values.z = 3 * e.q == e.p ? 2 : 3;
+      values.w = e.q * values.z - e.p * values.y;
+      break;
+    case SumOfLetters:
+      values.z = e.p;
+      values.x = e.q - values.y;
+      break;
+    case FractionFormula:
+      values.x = e.q;
+      values.y = e.p + e.r * values.z;
+      break;
+  }
+  return values;
+}
+
+// The text with a value in place of each letter: "(z - 4y)/3" becomes "(10 - 4 . 1)/3".
+std::string Substituted(const std::string& text, const LiteralEquation& e,
+                        const LetterValues& values) {
+  const auto valueOf = [&](char c) {
+    if (c == e.x[0]) return values.x;
+    if (c == e.y[0]) return values.y;
+    return c == e.z[0] ? values.z : values.w;
+  };
+  std::string filled;
+  for (const char c : text) {
+    if (std::islower(static_cast<unsigned char>(c)) == 0) {
+      filled += c;
+      continue;
+    }
+    const bool first = filled.empty();
+    const char before = first ? ' ' : filled.back();
+    const int value = valueOf(c);
+    const bool factor = std::isdigit(static_cast<unsigned char>(before)) != 0;
+    if (factor && value >= 0) filled += tutor::Gap + tutor::Dot + tutor::Gap;
+    filled += first || before == '(' ? NumStr(value) : InParentheses(value);
+  }
+  return WithoutBreaks(filled);
+}
+
+class Explanation {
+ public:
+  Explanation(const LiteralEquation& equation, const Problem& problem)
+      : e_(equation), problem_(problem) {}
+
+  void Run() {
+    ProblemBanner();
+    page::SayAt(kQuestionRow, problem_.question[0]);
+    if (e_.form == SumOfLetters)
+      SolveSum();
+    else if (e_.form == FractionFormula)
+      SolveFraction();
+    else
+      SolveTwoTerms();
+    Check();
+    SayInBox(ConclusionText(problem_, 'b'));
+  }
+
+ private:
+  std::string Added() const { return TermText(e_.Added()); }
+  std::string Opposite() const { return TermText(-e_.Added()); }
+  std::string RestText() const { return SumText({e_.Alone(), -e_.Added()}); }
+  // Not yet turned round: the other side, then the term that was added to it.
+  std::string Rest() const { return TermText(e_.Alone()) + SignedTermText(-e_.Added()); }
+
+  std::string HowAdded() const {
+    const bool subtracted = e_.Added().coef.num < 0;
+    return Text("{} is {} it", subtracted ? Opposite() : Added(),
+                Words{subtracted ? "subtracted from" : "added to"});
+  }
+  std::string Removing(const char* side) const {
+    return Text(R"(To remove \b{}\z from the {}-hand side, we add \b{}\z to both sides.)",
+                WithSign(e_.Added()), Words{side}, WithSign(-e_.Added()));
+  }
+  std::string IsolatedText() const {
+    return "We are done now since we have isolated the variable " + e_.x + ".";
+  }
+
+  // --- Two terms, x in one of them ---------------------------------------------------------------
+
+  // The letter's term, with its coefficient.
+  std::string Unknown() const {
+    return e_.form == LetterCoefficient ? e_.w + e_.x : TermText({e_.Coefficient(), e_.x});
+  }
+  std::string Divisor() const { return e_.form == LetterCoefficient ? e_.w : NumStr(e_.p); }
+  bool HasDivision() const { return e_.form == LetterCoefficient || std::abs(e_.p) != 1; }
+
+  struct SheetRows {
+    SheetRow given, addend, sum;
+  };
+  SheetRows Rows() const {
+    const std::string opposite = SignedTermText(-e_.Added());
+    const std::string alone = TermText(e_.Alone());
+    if (e_.form == RightSide)
+      return {{alone, "", Added(), SignedTermText({e_.Coefficient(), e_.x})},
+              {"", opposite, opposite, ""},
+              {alone, opposite, "", Unknown()}};
+    return {{Unknown(), SignedTermText(e_.Added()), alone, ""},
+            {"", opposite, "", opposite},
+            {Unknown(), "", alone, opposite}};
+  }
+
+  void SolveTwoTerms() {
+    const SheetRows rows = Rows();
+    const bool right = e_.form == RightSide;
+    equations::EquationSheet sheet(equations::kSheetTop, kSheetBottom,
+                                   {rows.given, rows.addend, rows.sum});
+    sheet.Write(rows.given, "=");
+    equations::OpenWordBox();
+    SayInBox(Text("We want {} to stand alone.", e_.x));
+    SayInBox(Text("Look at {}:  {}.  What undoes this?", Unknown(), Words{HowAdded()}));
+    PageEnd();
+    sheet.AddUnder(rows.addend);
+    SayInBoxAnew(Removing(right ? "right" : "left"));
+    PageEnd();
+    sheet.WriteSum(rows.sum, "=");
+    SayInBoxAnew(Text("{} and {} add up to 0.", WithSign(e_.Added()), WithSign(-e_.Added())));
+    SayInBox(Text("The other two are unlike terms:  both stay."));
+    PageEnd();
+    if (HasDivision())
+      Divide(sheet, right);
+    else if (e_.p < 0)
+      ReverseSigns(sheet);
+    SayInBoxAnew(IsolatedText());
+    if (right) SayInBox("The two sides of an equation may be exchanged.");
+    PageEnd();
+  }
+
+  void Divide(equations::EquationSheet& sheet, bool right) {
+    SayInBoxAnew(Text(R"(Now we divide both sides by \b{}\z.)", Divisor()));
+    if (right)
+      sheet.WriteQuotients({Rest(), Unknown(), Divisor()}, "=");
+    else
+      sheet.WriteQuotients({Unknown(), Rest(), Divisor()}, "=");
+    SayInBox(Text("Watch out:  {} is divided too, not only {}.", Added(), TermText(e_.Alone())));
+    PageEnd();
+    SayInBoxAnew(Text("{} over {} is just {}.", Unknown(), Divisor(), e_.x));
+    if (e_.form == LetterCoefficient) SayInBox(Text("({} must not be 0.)", e_.w));
+    if (e_.form != LetterCoefficient && e_.p < 0)
+      SayInBox(Text("{} below is negative.  So we change every sign above, and write {} below.",
+                    e_.p, -e_.p));
+    sheet.WriteSolved(e_.x, "=", SolvedText(e_));
+    PageEnd();
+  }
+
+  void ReverseSigns(equations::EquationSheet& sheet) {
+    SayInBoxAnew(Text(R"(We want {}, not {}.  So we multiply both sides by \b-1\z.)", e_.x,
+                      "-" + e_.x));
+    SayInBox("Every sign changes.");
+    sheet.WriteSolved(e_.x, "=", SolvedText(e_));
+    PageEnd();
+  }
+
+  // --- p(x + y) = qz -----------------------------------------------------------------------------
+
+  void SolveSum() {
+    SolutionLines lines(kLinesRow);
+    lines.Write(LeftText(e_), RightText(e_));
+    equations::OpenWordBox();
+    SayInBox(Text("We want {} to stand alone.", e_.x));
+    if (e_.p == 1)
+      SayInBox(Text("{}.  What undoes this?", Words{HowAdded()}));
+    else
+      SayInBox(Text("It is in a sum, and the sum is multiplied by {}.  Which do we undo first?",
+                    e_.p));
+    PageEnd();
+    const Fraction quotient = Fraction{e_.q, 1} / e_.Coefficient();
+    const std::string sum = e_.x + SignedTermText(e_.Added());
+    const std::string alone = TermText({quotient, e_.z});
+    if (e_.p == -1) {
+      SayInBoxAnew(R"(The factor, -1.  We multiply both sides by \b-1\z.)");
+      lines.Write(sum, alone);
+      PageEnd();
+    } else if (e_.p != 1) {
+      SayInBoxAnew(Text(R"(The factor.  We divide both sides by \b{}\z.)", e_.p));
+      lines.Write("(" + LeftText(e_) + ")/(" + NumStr(e_.p) + ")",
+                  FractionOfTexts(RightText(e_), "(" + NumStr(e_.p) + ")"));
+      PageEnd();
+      SayInBoxAnew(Text("On the left side only the sum is left.  On the right side, {} over {} is "
+                        "{}.",
+                        e_.q, e_.p, ValueText(quotient)));
+      lines.Write(sum, alone);
+      PageEnd();
+    }
+    SayInBoxAnew(Removing("left"));
+    SayInBox("Unlike terms stay side by side.");
+    lines.Write(e_.x, SolvedText(e_));
+    PageEnd();
+    FinishLines();
+  }
+
+  // --- y = p/q x + rz ----------------------------------------------------------------------------
+
+  void SolveFraction() {
+    const Fraction coef = e_.Coefficient();
+    const std::string reciprocal = ValueText(Fraction{1, 1} / coef);
+    const std::string unknown = ValueText(coef) + tutor::Gap + e_.x;
+    SolutionLines lines(kFractionRow);
+    lines.Write(LeftText(e_), RightText(e_));
+    page::WhiteBox({.row = kFractionBoxRow});
+    SayInBox(Text("{} is multiplied by {}, then {}.  Which do we undo first?", e_.x,
+                  ValueText(coef), Words{HowAdded()}));
+    PageEnd();
+    SayInBoxAnew("The last one.  " + Removing("right"));
+    lines.Write(RestText(), unknown);
+    PageEnd();
+    SayInBoxAnew(Text(R"({} times \b{}\z is 1.  So we multiply both sides by \b{}\z.)",
+                      ValueText(coef), reciprocal, reciprocal));
+    SayInBox("Watch out:  it multiplies both terms.");
+    lines.Write(SolvedText(e_), e_.x);
+    PageEnd();
+    SayInBoxAnew("The two sides of an equation may be exchanged.");
+    lines.Write(e_.x, SolvedText(e_));
+    PageEnd();
+    FinishLines();
+  }
+
+  void FinishLines() {
+    SayInBoxAnew(IsolatedText());
+    PageEnd();
+  }
+
+  // --- The check ---------------------------------------------------------------------------------
+
+  void Check() {
+    const LetterValues values = ValuesFor(e_);
+    SayInBoxAnew("Check:  these numbers make it true.");
+    const std::string letters =
+        e_.form == LetterCoefficient
+            ? Text("{} = {}, {} = {}, {} = {}, {} = {}", e_.w, values.w, e_.x, values.x, e_.y,
+                   values.y, e_.z, values.z)
+            : Text("{} = {}, {} = {}, {} = {}", e_.x, values.x, e_.y, values.y, e_.z, values.z);
+    SayInBox(letters);
+    SayInBox(Text("The answer gives {}.", e_.x + " = " + Substituted(SolvedText(e_), e_, values) +
+                                              " = " + NumStr(values.x)));
+    PageEnd();
+  }
+
+  const LiteralEquation& e_;
+  const Problem& problem_;
+};
+
+}  // namespace
+
+void ExplainLiteral(const LiteralEquation& equation, const Problem& problem) {
+  Explanation(equation, problem).Run();
+}
+
+}  // namespace course::formulas
