@@ -27,9 +27,10 @@ using page::Words;
 
 constexpr double kQuestionRow = 4;
 constexpr double kSheetBottom = 16.5;
+constexpr double kExchangedRow = 7;
 constexpr double kLinesRow = 5.5;
-constexpr double kFractionRow = 5.5;     // the middle one of a built-up first line
-constexpr double kFractionBoxRow = 18;  // below four built-up lines
+constexpr double kFractionRow = 5;  // the middle one of a built-up first line
+constexpr double kBoxRow = 17.5;
 
 // "+4y", "-4y": a term as it is spoken of.
 std::string WithSign(const LetterTerm& term) {
@@ -123,9 +124,12 @@ class Explanation {
     return Text(R"(To remove \b{}\z from the {}-hand side, we add \b{}\z to both sides.)",
                 WithSign(e_.Added()), Words{side}, WithSign(-e_.Added()));
   }
-  std::string IsolatedText() const {
-    return "We are done now since we have isolated the variable " + e_.x + ".";
+  void TellThatItIsIsolated() const {
+    SayInBoxAnew("We are done now since we have isolated the variable " + e_.x + ".");
+    if (e_.form == LetterCoefficient) SayInBox(Text("({} must not be 0.)", e_.w));
+    PageEnd();
   }
+  static void OpenBox() { page::WhiteBox({.row = kBoxRow}); }
 
   // --- Two terms, x in one of them ---------------------------------------------------------------
 
@@ -136,62 +140,71 @@ class Explanation {
   std::string Divisor() const { return e_.form == LetterCoefficient ? e_.w : NumStr(e_.p); }
   bool HasDivision() const { return e_.form == LetterCoefficient || std::abs(e_.p) != 1; }
 
-  struct SheetRows {
-    SheetRow given, addend, sum;
-  };
-  SheetRows Rows() const {
+  void SolveTwoTerms() {
     const std::string opposite = SignedTermText(-e_.Added());
     const std::string alone = TermText(e_.Alone());
-    if (e_.form == RightSide)
-      return {{alone, "", Added(), SignedTermText({e_.Coefficient(), e_.x})},
-              {"", opposite, opposite, ""},
-              {alone, opposite, "", Unknown()}};
-    return {{Unknown(), SignedTermText(e_.Added()), alone, ""},
-            {"", opposite, "", opposite},
-            {Unknown(), "", alone, opposite}};
-  }
-
-  void SolveTwoTerms() {
-    const SheetRows rows = Rows();
-    const bool right = e_.form == RightSide;
-    equations::EquationSheet sheet(equations::kSheetTop, kSheetBottom,
-                                   {rows.given, rows.addend, rows.sum});
-    sheet.Write(rows.given, "=");
-    equations::OpenWordBox();
-    SayInBox(Text("We want {} to stand alone.", e_.x));
+    const SheetRow given = {Unknown(), SignedTermText(e_.Added()), alone, ""};
+    const SheetRow addend = {"", opposite, "", opposite};
+    const SheetRow sum = {Unknown(), "", alone, opposite};
+    const bool onRight = e_.form == RightSide;
+    equations::EquationSheet sheet(onRight ? kExchangedRow : equations::kSheetTop, kSheetBottom,
+                                   {given, addend, sum});
+    if (onRight) ShowOnRight();
+    sheet.Write(given, "=");
+    if (onRight) {
+      SayInBoxAnew("Yes, both name the same number.");
+    } else {
+      OpenBox();
+      SayInBox(Text("We want {} to stand alone.", e_.x));
+    }
     SayInBox(Text("Look at {}:  {}.  What undoes this?", Unknown(), Words{HowAdded()}));
     PageEnd();
-    sheet.AddUnder(rows.addend);
-    SayInBoxAnew(Removing(right ? "right" : "left"));
+    sheet.AddUnder(addend);
+    SayInBoxAnew(Removing("left"));
     PageEnd();
-    sheet.WriteSum(rows.sum, "=");
+    sheet.WriteSum(sum, "=");
     SayInBoxAnew(Text("{} and {} add up to 0.", WithSign(e_.Added()), WithSign(-e_.Added())));
-    SayInBox(Text("The other two are unlike terms:  both stay."));
+    SayInBox("The other two are unlike terms, so they stand side by side.");
     PageEnd();
     if (HasDivision())
-      Divide(sheet, right);
+      Divide(sheet);
     else if (e_.p < 0)
       ReverseSigns(sheet);
-    SayInBoxAnew(IsolatedText());
-    if (right) SayInBox("The two sides of an equation may be exchanged.");
+    TellThatItIsIsolated();
+  }
+
+  void ShowOnRight() {
+    page::ShowAt(equations::kSheetTop, LeftText(e_),
+                 equations::kLeftEndCol + 1.0 - static_cast<double>(LeftText(e_).size()));
+    page::ShowAt(equations::kSheetTop, "=", equations::kRelationCol);
+    page::ShowAt(equations::kSheetTop, RightText(e_), equations::kRightStartCol);
+    OpenBox();
+    SayInBox(Text("{} stands on the right side.  May the two sides be exchanged?", e_.x));
     PageEnd();
   }
 
-  void Divide(equations::EquationSheet& sheet, bool right) {
+  void Divide(equations::EquationSheet& sheet) {
     SayInBoxAnew(Text(R"(Now we divide both sides by \b{}\z.)", Divisor()));
-    if (right)
-      sheet.WriteQuotients({Rest(), Unknown(), Divisor()}, "=");
-    else
-      sheet.WriteQuotients({Unknown(), Rest(), Divisor()}, "=");
+    sheet.WriteQuotients({Unknown(), Rest(), Divisor()}, "=");
     SayInBox(Text("Watch out:  {} is divided too, not only {}.", Added(), TermText(e_.Alone())));
     PageEnd();
     SayInBoxAnew(Text("{} over {} is just {}.", Unknown(), Divisor(), e_.x));
-    if (e_.form == LetterCoefficient) SayInBox(Text("({} must not be 0.)", e_.w));
-    if (e_.form != LetterCoefficient && e_.p < 0)
-      SayInBox(Text("{} below is negative.  So we change every sign above, and write {} below.",
-                    e_.p, -e_.p));
+    if (const std::string signs = HowSignsChange(); !signs.empty()) SayInBox(signs);
     sheet.WriteSolved(e_.x, "=", SolvedText(e_));
     PageEnd();
+  }
+
+  // From the quotient as it was divided to the one that is the answer; nothing where they agree.
+  std::string HowSignsChange() const {
+    const bool minusInFront = SolvedText(e_).front() == '-';
+    if (e_.form == LetterCoefficient) {
+      if (minusInFront) return "One minus sign in front stands for both.";
+      return Rest() != RestText() ? "We write the positive term first." : "";
+    }
+    if (e_.p > 0) return "";
+    if (minusInFront) return "The minus sign goes in front of the fraction.";
+    return Text("{} below is negative.  So we change every sign above, and write {} below.", e_.p,
+                -e_.p);
   }
 
   void ReverseSigns(equations::EquationSheet& sheet) {
@@ -207,7 +220,7 @@ class Explanation {
   void SolveSum() {
     SolutionLines lines(kLinesRow);
     lines.Write(LeftText(e_), RightText(e_));
-    equations::OpenWordBox();
+    OpenBox();
     SayInBox(Text("We want {} to stand alone.", e_.x));
     if (e_.p == 1)
       SayInBox(Text("{}.  What undoes this?", Words{HowAdded()}));
@@ -225,11 +238,11 @@ class Explanation {
     } else if (e_.p != 1) {
       SayInBoxAnew(Text(R"(The factor.  We divide both sides by \b{}\z.)", e_.p));
       lines.Write("(" + LeftText(e_) + ")/(" + NumStr(e_.p) + ")",
-                  FractionOfTexts(RightText(e_), "(" + NumStr(e_.p) + ")"));
+                  "(" + RightText(e_) + ")/(" + NumStr(e_.p) + ")");
       PageEnd();
-      SayInBoxAnew(Text("On the left side only the sum is left.  On the right side, {} over {} is "
-                        "{}.",
-                        e_.q, e_.p, ValueText(quotient)));
+      SayInBoxAnew("On the left side only the sum is left.");
+      if (quotient != Fraction{e_.q, e_.p})
+        SayInBox(Text("On the right side, {} over {} is {}.", e_.q, e_.p, ValueText(quotient)));
       lines.Write(sum, alone);
       PageEnd();
     }
@@ -237,7 +250,7 @@ class Explanation {
     SayInBox("Unlike terms stay side by side.");
     lines.Write(e_.x, SolvedText(e_));
     PageEnd();
-    FinishLines();
+    TellThatItIsIsolated();
   }
 
   // --- y = p/q x + rz ----------------------------------------------------------------------------
@@ -248,7 +261,7 @@ class Explanation {
     const std::string unknown = ValueText(coef) + tutor::Gap + e_.x;
     SolutionLines lines(kFractionRow);
     lines.Write(LeftText(e_), RightText(e_));
-    page::WhiteBox({.row = kFractionBoxRow});
+    OpenBox();
     SayInBox(Text("{} is multiplied by {}, then {}.  Which do we undo first?", e_.x,
                   ValueText(coef), Words{HowAdded()}));
     PageEnd();
@@ -263,12 +276,7 @@ class Explanation {
     SayInBoxAnew("The two sides of an equation may be exchanged.");
     lines.Write(e_.x, SolvedText(e_));
     PageEnd();
-    FinishLines();
-  }
-
-  void FinishLines() {
-    SayInBoxAnew(IsolatedText());
-    PageEnd();
+    TellThatItIsIsolated();
   }
 
   // --- The check ---------------------------------------------------------------------------------
