@@ -105,7 +105,8 @@ void AddDivisionMistakes(const LiteralEquation& e, Reading& reading) {
     add(name + kept, (signKept.alone - signKept.added) / e.coefficient);
     return;
   }
-  const std::string name = e.fraction ? "multiplies only the first term" : "divides only the first term";
+  const std::string name =
+      e.fraction ? "multiplies only the first term" : "divides only the first term";
   add(name, e.alone / e.coefficient - e.added);
   add(name + kept, e.alone / e.coefficient - signKept.added);
   add(e.fraction ? "multiplies by the fraction itself" : "multiplies by what should divide",

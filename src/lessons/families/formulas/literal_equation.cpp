@@ -130,8 +130,8 @@ const char* NameOfFirstTermOnly(LiteralForm form) {
 // Of x + y = qz.
 std::string SolvedInWrongOrder(const LiteralEquation& equation) {
   const LetterTerm alone = equation.Alone();
-  return SumText({{Fraction{-1, 1} * alone.coef / equation.Coefficient(), alone.letter},
-                  equation.Added()});
+  return SumText(
+      {{Fraction{-1, 1} * alone.coef / equation.Coefficient(), alone.letter}, equation.Added()});
 }
 
 // The coefficient of x is 1 or -1: nothing is divided.
@@ -241,9 +241,9 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
     return keeps ? -e.Added() : e.Added();
   };
 
-  Choices<std::string> choices(
-      problem, choice_kind::FiveShuffled,
-      [&](const std::string& solved) { return equation.x + " = " + solved; });
+  Choices<std::string> choices(problem, choice_kind::FiveShuffled, [&](const std::string& solved) {
+    return equation.x + " = " + solved;
+  });
   choices.Right(SolvedText(equation));
   choices.Wrong("carries a term across without changing its sign",
                 SolvedWith(equation, -equation.Added()));

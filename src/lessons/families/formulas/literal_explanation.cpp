@@ -30,7 +30,7 @@ constexpr double kSheetBottom = 16.5;
 constexpr double kExchangedRow = 7;
 constexpr double kLinesRow = 5.5;
 constexpr double kFractionRow = 5;  // the middle one of a built-up first line
-constexpr double kBoxRow = 17.5;
+constexpr double kBoxRow = 18;
 
 // "+4y", "-4y": a term as it is spoken of.
 std::string WithSign(const LetterTerm& term) {
@@ -208,8 +208,8 @@ class Explanation {
   }
 
   void ReverseSigns(equations::EquationSheet& sheet) {
-    SayInBoxAnew(Text(R"(We want {}, not {}.  So we multiply both sides by \b-1\z.)", e_.x,
-                      "-" + e_.x));
+    SayInBoxAnew(
+        Text(R"(We want {}, not {}.  So we multiply both sides by \b-1\z.)", e_.x, "-" + e_.x));
     SayInBox("Every sign changes.");
     sheet.WriteSolved(e_.x, "=", SolvedText(e_));
     PageEnd();
@@ -225,8 +225,8 @@ class Explanation {
     if (e_.p == 1)
       SayInBox(Text("{}.  What undoes this?", Words{HowAdded()}));
     else
-      SayInBox(Text("It is in a sum, and the sum is multiplied by {}.  Which do we undo first?",
-                    e_.p));
+      SayInBox(
+          Text("It is in a sum, and the sum is multiplied by {}.  Which do we undo first?", e_.p));
     PageEnd();
     const Fraction quotient = Fraction{e_.q, 1} / e_.Coefficient();
     const std::string sum = e_.x + SignedTermText(e_.Added());

@@ -13,15 +13,14 @@ constexpr double kBesideEquals = 2;  // columns
 
 }  // namespace
 
-void SolutionLines::Write(const std::string& left, const std::string& right) {
-  const bool builtUp = (left + right).find('/') != std::string::npos;
+void SolutionLines::Write(const std::string& left, const std::string& right, Height height) {
+  const bool builtUp = height == Height::Fraction || (left + right).find('/') != std::string::npos;
   if (!empty_) row_ += kLineToLine + (builtUp ? kForFraction : 0) + (builtUp_ ? kForFraction : 0);
   empty_ = false;
   builtUp_ = builtUp;
   page::ShowAt(row_, left, equalsCol_ - kBesideEquals + 1 - StackedTextWidth(left));
   page::ShowAt(row_, "=", equalsCol_);
   page::ShowAt(row_, right, equalsCol_ + kBesideEquals);
-  endCol_ = equalsCol_ + kBesideEquals + StackedTextWidth(right);
 }
 
 }  // namespace course::formulas

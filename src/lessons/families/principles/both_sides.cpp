@@ -39,7 +39,8 @@ bool IsSum(Operation operation) {
 // --- Drawing -------------------------------------------------------------------------------------
 
 // Five numbers and five operations draw one problem: the first number is the solution, the next two
-// steps make the given equation from it, the fourth is the step of the problem.  The fifth is spare.
+// steps make the given equation from it, the fourth is the step of the problem.  The fifth is
+// spare.
 constexpr std::size_t kSteps = 5;
 constexpr std::size_t kTaken = 3;  // index of the step of the problem
 constexpr int kMultiply = 3;       // the code; a flag of the variant makes it a division
@@ -55,9 +56,9 @@ struct Variant {
   bool asksForStep;
   bool xOnTheRight;
 };
-constexpr Variant kVariants[] = {
-    {false, false, false}, {false, false, true}, {false, true, false}, {false, true, true},
-    {true, false, false},  {true, false, true},  {true, true, false},  {true, true, true}};
+constexpr Variant kVariants[] = {{false, false, false}, {false, false, true}, {false, true, false},
+                                 {false, true, true},   {true, false, false}, {true, false, true},
+                                 {true, true, false},   {true, true, true}};
 
 Step StepAt(const DrawnSteps& drawn, std::size_t i) {
   return {static_cast<Operation>(drawn.codes[i] - 1), drawn.numbers[i]};
@@ -78,10 +79,10 @@ bool Fits(const DrawnSteps& drawn) {
   const int taken = drawn.numbers[kTaken];
   const bool multiplies = drawn.codes[kTaken] == kMultiply;
   const int product = ProductOfFactors(drawn);
-  return taken != 0 &&                               // nothing would change
-         drawn.numbers[kTaken - 1] + taken != 0 &&   // the step would take back the one before
-         product != 0 && std::abs(product) <= 4 &&   // done in the head
-         !(multiplies && taken == 1) &&              // nothing would change
+  return taken != 0 &&                              // nothing would change
+         drawn.numbers[kTaken - 1] + taken != 0 &&  // the step would take back the one before
+         product != 0 && std::abs(product) <= 4 &&  // done in the head
+         !(multiplies && taken == 1) &&             // nothing would change
          (multiplies || !(GivenSide(drawn) == LinearSide{1, 0}));  // x = 3 says all already
 }
 

@@ -36,11 +36,11 @@ LinearSide Done(const Step& step, const LinearSide& side);
 
 // An equation with the letter x on one side, the step, and the equation that it leads to.
 struct StepProblem {
-  LinearSide given;       // of the side with x
-  int givenNumber = 0;    // the other side
+  LinearSide given;     // of the side with x
+  int givenNumber = 0;  // the other side
   Step step;
-  int solution = 0;       // of both equations
-  bool asksForStep = false;    // and not for the second equation
+  int solution = 0;          // of both equations
+  bool asksForStep = false;  // and not for the second equation
   bool xOnTheRight = false;
 
   LinearSide After() const { return Done(step, given); }

@@ -122,9 +122,7 @@ void SetEquationChoices(Problem& problem, const StepProblem& p, RandomStream& ra
   });
   choices.Right({p.After(), p.AfterNumber()});
   AddMistakes(choices, IsSum(p.step.operation) ? MistakenSums(p) : MistakenProducts(p), random);
-  choices.Fill([&] {
-    return Sides{p.After(), p.AfterNumber() + random.Rand(-9, 9)};
-  });
+  choices.Fill([&] { return Sides{p.After(), p.AfterNumber() + random.Rand(-9, 9)}; });
 }
 
 // --- The step is asked for -----------------------------------------------------------------------
@@ -155,15 +153,14 @@ TwoLists<Step> MistakenProductSteps(const StepProblem& p) {
   };
   const Mistaken<Step> reversed = {"does the opposite", {Opposite(operation), n}};
   const Mistaken<Step> sum = {"takes a product for a sum", {multiplies ? Add : Subtract, n}};
-  return {
-      {{{"reads the number in front of x in the second equation", {operation, coef}},
-        {"reads the number on the side without x of the second equation", {operation, alone}},
-        reversed,
-        sum},
-       {sum,
-        {"compares the numbers in front of x by subtracting", difference(p.given.coef, coef)},
-        {"compares the sides without x by subtracting", difference(p.givenNumber, alone)},
-        reversed}}};
+  return {{{{"reads the number in front of x in the second equation", {operation, coef}},
+            {"reads the number on the side without x of the second equation", {operation, alone}},
+            reversed,
+            sum},
+           {sum,
+            {"compares the numbers in front of x by subtracting", difference(p.given.coef, coef)},
+            {"compares the sides without x by subtracting", difference(p.givenNumber, alone)},
+            reversed}}};
 }
 
 bool ChangesSomething(const Step& step) {
@@ -173,8 +170,7 @@ bool ChangesSomething(const Step& step) {
 void SetStepChoices(Problem& problem, const StepProblem& p, RandomStream& random) {
   Choices<Step> choices(problem, choice_kind::FiveShuffled, ShortText);
   choices.Right(p.step);
-  TwoLists<Step> lists =
-      IsSum(p.step.operation) ? MistakenSumSteps(p) : MistakenProductSteps(p);
+  TwoLists<Step> lists = IsSum(p.step.operation) ? MistakenSumSteps(p) : MistakenProductSteps(p);
   for (auto& list : lists)
     std::erase_if(list, [](const auto& mistaken) { return !ChangesSomething(mistaken.value); });
   AddMistakes(choices, lists, random);
