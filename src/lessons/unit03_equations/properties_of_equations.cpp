@@ -2,12 +2,15 @@
 //
 // What the student can do afterwards, in two or three lines.
 #include "lessons/families/principles/both_sides.h"
+#include "lessons/families/principles/step_explanation.h"
 #include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
 using namespace principles;
+
+constexpr double kEquationCol = 18;  // beside "Second equation:"
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -79,16 +82,22 @@ void PropertiesOfEquations::DrawProblem(RandomStream& random) {
 
 void PropertiesOfEquations::ShowProblem() {
   SayAt(5, problem.question[0]);
-  ShowAnswersInTwoColumns(problem);
+  ShowAt(5, problem.question[1], kEquationCol);
+  if (step_.asksForStep) {
+    SayAt(6.5, problem.question[2]);
+    ShowAt(6.5, problem.question[3], kEquationCol);
+  }
+  SayAt(8, problem.question.back());
+  if (step_.asksForStep)  // "multiplying by -14" is long
+    ShowAnswersInTwoColumns(problem, {.width = 20, .fontSize = 18});
+  else
+    ShowAnswersInTwoColumns(problem, {.width = 19});
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void PropertiesOfEquations::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
-  PageEnd();
-  Conclude(problem);
+  ExplainStep(step_, problem);
 }
 
 const LessonRegistration<PropertiesOfEquations> kRegistration("Properties of Equations");

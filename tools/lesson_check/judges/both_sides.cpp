@@ -73,11 +73,11 @@ struct NamedStep {
   Rational number;
 };
 
-// "Adding 3 to both sides of the given", "Multiplying both sides of the given by 3", "Adding 3".
+// "Adding 3 to both sides of the given", "Multiplying both sides of the given by 3", "adding 3".
 NamedStep ReadStep(const std::string& text) {
-  constexpr std::string_view kVerbs[] = {"Adding ", "Subtracting ", "Multiplying ", "Dividing "};
+  constexpr std::string_view kVerbs[] = {"dding ", "ubtracting ", "ultiplying ", "ividing "};
   for (std::size_t i = 0; i < std::size(kVerbs); ++i) {
-    if (!text.starts_with(kVerbs[i])) continue;
+    if (text.find(kVerbs[i]) != 1) continue;  // behind a capital or a small letter
     const std::vector<std::string> numbers = NumbersIn(text);
     if (numbers.size() != 1) break;
     const bool negative = text.find("-" + numbers[0]) != std::string::npos;
@@ -136,7 +136,7 @@ void AddProductMistakes(Reading& reading, const Equation& given, const NamedStep
   add("multiplies the side with x and adds on the other",
       "divides the side with x and subtracts on the other", right.a, right.b, summed.c);
   add("multiplies only the term with x", "divides only the term with x", right.a, given.b, right.c);
-  add("multiplies only the numbers alone", "divides only the numbers alone", given.a, right.b,
+  add("multiplies everything but the term with x", "divides everything but the term with x", given.a, right.b,
       right.c);
   add("adds on the side with x and multiplies the other",
       "subtracts on the side with x and divides the other", summed.a, summed.b, right.c);

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
 
 namespace course::principles {
 namespace {
@@ -19,13 +20,13 @@ struct OperationWords {
   const char* bothSides;
 };
 constexpr OperationWords kWords[] = {
-    {"Addition Principle of Equality", "Adding ", " to both sides of the given", "add ",
+    {"Addition Principle of Equality", "adding ", " to both sides of the given", "add ",
      " to both sides"},
-    {"Subtraction Principle of Equality", "Subtracting ", " from both sides of the given",
+    {"Subtraction Principle of Equality", "subtracting ", " from both sides of the given",
      "subtract ", " from both sides"},
-    {"Multiplication Principle of Equality", "Multiplying by ",
+    {"Multiplication Principle of Equality", "multiplying by ",
      "Multiplying both sides of the given by ", "multiply both sides by ", ""},
-    {"Division Principle of Equality", "Dividing by ", "Dividing both sides of the given by ",
+    {"Division Principle of Equality", "dividing by ", "Dividing both sides of the given by ",
      "divide both sides by ", ""}};
 
 const OperationWords& WordsOf(Operation operation) {
@@ -115,7 +116,10 @@ std::string ShortText(const Step& step) {
 
 std::string StatementText(const Step& step) {
   const OperationWords& words = WordsOf(step.operation);
-  return IsSum(step.operation) ? ShortText(step) + words.sides : words.sides + NumStr(step.number);
+  if (!IsSum(step.operation)) return words.sides + NumStr(step.number);
+  std::string text = ShortText(step) + words.sides;
+  text[0] = UpperCase(text.substr(0, 1))[0];
+  return text;
 }
 
 std::string RequestText(const Step& step) {

@@ -24,7 +24,7 @@ bool operator==(const Step& a, const Step& b);
 
 // "Addition Principle of Equality".
 std::string PrincipleOf(Operation operation);
-// "Adding 3", "Multiplying by 3".
+// "adding 3", "multiplying by 3".
 std::string ShortText(const Step& step);
 // "Adding 3 to both sides of the given", "Multiplying both sides of the given by 3".
 std::string StatementText(const Step& step);

@@ -108,7 +108,7 @@ TwoLists<Sides> MistakenProducts(const StepProblem& p) {
     lists[1] = {
         {multiplies ? "multiplies only the term with x" : "divides only the term with x",
          {{right.coef, side.number}, number}},
-        {multiplies ? "multiplies only the numbers alone" : "divides only the numbers alone",
+        {multiplies ? "multiplies everything but the term with x" : "divides everything but the term with x",
          {{side.coef, right.number}, number}},
         bothSums,
         onlyWithoutX};
