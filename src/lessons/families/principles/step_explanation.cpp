@@ -25,6 +25,7 @@ using page::Words;
 
 constexpr double kQuestionRow = 4;
 constexpr double kEquationRow = 7;
+constexpr double kFoundRow = 10.5;  // below both equations and the question
 constexpr double kSheetBottom = 16;
 constexpr double kEquationCol = 18;  // beside "Second equation:"
 
@@ -98,28 +99,33 @@ class Explanation {
   // What is written under both sides: "- 3" also stands for adding -3.
   int AddedNumber() const { return p_.step.operation == Add ? Number() : -Number(); }
 
+  equations::SheetRow Addend() const { return equations::AddendRow({0, AddedNumber()}, "x"); }
+  equations::EquationSheet SheetAt(double row) const {
+    return {row, kSheetBottom, {equations::RowOf(Given()), equations::RowOf(Second()), Addend()}};
+  }
+
   void TakeSum() {
-    const equations::SheetRow addend =
-        equations::AddendRow({0, AddedNumber()}, "x");
-    equations::EquationSheet sheet(
-        kEquationRow, kSheetBottom,
-        {equations::RowOf(Given()), equations::RowOf(Second()), addend});
+    equations::EquationSheet sheet = SheetAt(kEquationRow);
     equations::WriteStatement(sheet, Given());
     equations::OpenWordBox();
     SayInBox("Which principle do we use?");
     PageEnd();
     TellPrinciple();
     SayInBoxAnew(Text("We {}.", Words{RequestText(p_.step)}));
-    if (Number() < 0)
-      SayInBox(Text("{} {} is the same as {} {}.",
-                    Words{p_.step.operation == Add ? "Adding" : "Subtracting"}, Number(),
-                    Words{p_.step.operation == Add ? "subtracting" : "adding"}, -Number()));
-    sheet.AddUnder(addend);
+    TellNegativeNumber();
+    sheet.AddUnder(Addend());
     PageEnd();
     sheet.WriteSum(equations::RowOf(Second()), "=");
     SayInBoxAnew(SumBesideX());
     SayInBox(Text("On the {} side:  {}.", OtherSide(), WorkedText(p_.step, p_.givenNumber)));
     PageEnd();
+  }
+
+  void TellNegativeNumber() const {
+    if (Number() > 0) return;
+    const bool adds = p_.step.operation == Add;
+    SayInBox(Text("{} {} is the same as {} {}.", Words{adds ? "Adding" : "Subtracting"}, Number(),
+                  Words{adds ? "subtracting" : "adding"}, -Number()));
   }
 
   std::string SumBesideX() const {
@@ -203,12 +209,13 @@ class Explanation {
     SayInBox("Which of the choices does that?");
     PageEnd();
     SayInBoxAnew(Text("This one:  {}.", WorkedText(p_.step, p_.givenNumber)));
-    if (Number() < 0)
-      SayInBox(Text("{} {} is the same as {} {}.",
-                    Words{p_.step.operation == Add ? "Adding" : "Subtracting"}, Number(),
-                    Words{p_.step.operation == Add ? "subtracting" : "adding"}, -Number()));
-    if (p_.given.number != 0)
-      SayInBox(Text("The {} side too:  {}.", SideOfX(), WorkedText(p_.step, p_.given.number)));
+    TellNegativeNumber();
+    PageEnd();
+    equations::EquationSheet sheet = SheetAt(kFoundRow);
+    equations::WriteStatement(sheet, Given());
+    sheet.AddUnder(Addend());
+    sheet.WriteSum(equations::RowOf(Second()), "=");
+    SayInBoxAnew("On both sides it gives the second one.");
     PageEnd();
   }
 
@@ -216,10 +223,13 @@ class Explanation {
     const int before = p_.given.coef;
     SayInBoxAnew(Text("How do we get from {} to {}?", before, p_.After().coef));
     PageEnd();
-    SayInBoxAnew(Text("{}.", WorkedText(p_.step, before)));
-    if (p_.given.number != 0) SayInBox(Text("{}.", WorkedText(p_.step, p_.given.number)));
-    SayInBox(Text("{}.", WorkedText(p_.step, p_.givenNumber)));
-    SayInBox("The same was done to every term.");
+    SayInBoxAnew(Text("In this way:  {}.", WorkedText(p_.step, before)));
+    const LinearStatement given = Given();
+    const LinearStatement second = Second();
+    formulas::SolutionLines lines(p_.step.operation == Divide ? kFoundRow + 0.5 : kFoundRow);
+    lines.Write(StepOn(given.left), StepOn(given.right));
+    lines.Write(equations::SideText(second.left, "x"), equations::SideText(second.right, "x"));
+    SayInBox("On both sides it gives the second one.");
     PageEnd();
   }
 
