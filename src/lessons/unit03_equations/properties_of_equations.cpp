@@ -37,35 +37,35 @@ void EqualSides() {
   SayAt(3, R"(An \cequation\z says that two expressions name the same number.)");
   Balance balance(kBalanceRow);
   balance.Show("3 + 4", "7");
-  SayUnderBalance(R"(= means "is the same as".  The balance is level: its \cleft side\z is 3 + 4, )"
-                  R"(its \cright side\z 7.)");
   PageEnd();
+  SayUnderBalance(
+      R"(= means "is the same as", not "the answer is".  3 + 4 is the \cleft side\z, 7 )"
+      R"(the \cright side\z.)");
   Say("May we exchange the sides?");
   PageEnd();
   balance.Show("7", "3 + 4");
-  SayUnderBalance("We may:  it stays level.  7 = 3 + 4 is as good an equation as 3 + 4 = 7.");
+  SayUnderBalance(Text("We may:  {} is just as good.", "7 = 3 + 4"));
   Say("What is wrong with this line?");
   PaperBox({R"(\r3 + 4 = 7 + 1 = 8\z)"});
   PageEnd();
   balance.Show("3 + 4", "8", Heavier::Right);
-  ClearBelow(kBelowBalance);
-  SayAt(kBelowBalance, Text("It says that 3 + 4 is 8.  = does not mean \"the answer is\".  We "
-                            "write two equations:  {} and {}.",
-                            "3 + 4 = 7", "7 + 1 = 8"));
+  SayUnderBalance(Text("It says that 3 + 4 is 8.  We need two equations:  {} and {}.", "3 + 4 = 7",
+                       "7 + 1 = 8"));
   PageEnd();
 }
 
 // What is tried for x in x + 3 = 8.
 constexpr int kTrials[] = {4, 5, 6};
+constexpr std::size_t kTrialColumns = 3;
 constexpr double kCellFont = 16;  // points
 
 void ShowTrials() {
   PrintCellTable table;
   table.heightPixels = 170;
-  constexpr double kLefts[] = {2, 35, 68};
+  constexpr double kLefts[kTrialColumns] = {2, 35, 68};
   constexpr double kWidth = 30;
-  const char* const kCaptions[] = {"x", "x + 3", "x + 3 = 8"};
-  for (std::size_t column = 0; column < std::size(kLefts); ++column)
+  const char* const kCaptions[kTrialColumns] = {"x", "x + 3", "x + 3 = 8"};
+  for (std::size_t column = 0; column < kTrialColumns; ++column)
     table.labels.push_back(
         {kLefts[column], 2, kWidth, 14, kCaptions[column], 14, platform::colour::Blue, true});
   for (std::size_t row = 0; row < std::size(kTrials); ++row)
@@ -74,28 +74,31 @@ void ShowTrials() {
   CellTable(table, 7);
 }
 
-void FillTrials() {
+void FillTrials(std::size_t column) {
   using namespace platform::colour;
-  int cell = 1;
-  for (const int x : kTrials) {
+  for (std::size_t row = 0; row < std::size(kTrials); ++row) {
+    const int x = kTrials[row];
     const bool fits = x + 3 == 8;
-    picPrintCellPrint(cell++, NumStr(x), Black, kCellFont);
-    picPrintCellPrint(cell++, NumStr(x + 3), Black, kCellFont);
-    picPrintCellPrint(cell++, fits ? "true" : "false", fits ? Blue : Black, kCellFont);
+    const std::string texts[] = {NumStr(x), NumStr(x + 3), fits ? "true" : "false"};
+    picPrintCellPrint(static_cast<int>(kTrialColumns * row + column) + 1, texts[column],
+                      fits && column == 2 ? Blue : Black, kCellFont);
   }
 }
 
 void Solutions() {
   NewScreen();
-  SayAt(3, R"(In \yx + 3 = 8\z the letter holds a place for a number.  Which number makes it true?)");
-  PageEnd();
+  SayAt(3,
+        R"(In \yx + 3 = 8\z the letter holds a place for a number.  Which number makes it true?)");
   ShowTrials();
-  FillTrials();
+  FillTrials(0);
+  PageEnd();
+  FillTrials(1);
+  FillTrials(2);
   Say(R"(Only 5.  It is the \csolution\z of the equation.)");
   Say("Now look at x + 3 = 10.  Is x 5 here, too?");
   PageEnd();
   NewScreen();
-  SayAt(3, "No, here x is 7.  A new equation may have another solution.");
+  SayAt(3, "No, here x is 7.  It is a new equation.");
   Say(R"(\yWatch out:\z  Within one equation x keeps its value.  Is 2 + 4 = 6 a way to solve )"
       "x + x = 6?");
   PageEnd();
@@ -116,9 +119,8 @@ void AddingOnBothSides() {
   balance.Show("x - 4", "5");
   PageEnd();
   balance.PutOnBoth("+ 4");
-  SayAt(14, "We may:  it stays level.");
-  RuleBox(PrincipleOf(Operation::Add), {"The same number may be added", "to both sides."},
-          {.width = 32});
+  SayAt(14, "It stays level.");
+  RuleBox(PrincipleOf(Operation::Add), {"We may add the same to both sides."}, {.width = 36});
   Say("What if we put 4 on the left pan only?");
   PageEnd();
   ClearBelow(14);
@@ -139,18 +141,30 @@ void AddingOnPaper() {
   const LinearStatement given = {"x", {1, -4}, "=", {0, 5}};
   const LinearStatement solved = {"x", {1, 0}, "=", {0, 9}};
   NewScreen();
-  SayAt(3, "On paper we write it like this.");
-  EquationSheet sheet(5.5, 16, {RowOf(given), AddendRow({0, 4}, "x"), RowOf(solved)});
+  EquationSheet sheet(4, 16, {RowOf(given), AddendRow({0, 4}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
   AddOnSheet(sheet, 4, solved);
   equations::OpenWordBox();
-  SayInBox("Must it be 4?  What do we get if we add 1 to both sides?");
+  SayInBox("Must it be 4?  What if we add 1?");
   PageEnd();
   const LinearStatement other = {"x", {1, -3}, "=", {0, 6}};
-  EquationSheet second(11, 16, {RowOf(given), AddendRow({0, 1}, "x"), RowOf(other)});
+  EquationSheet second(10, 16, {RowOf(given), AddendRow({0, 1}, "x"), RowOf(other)});
   equations::WriteStatement(second, given);
   AddOnSheet(second, 1, other);
-  SayInBoxAnew("It may be any number.  9 is the solution again:  9 - 3 = 6.");
+  SayInBoxAnew(Text("It may be any number.  9 is the solution again:  {}.", "9 - 3 = 6"));
+  PageEnd();
+}
+
+void TrySubtractingMinusSix() {
+  const LinearStatement given = {"x", {1, -10}, "=", {0, -4}};
+  const LinearStatement after = {"x", {1, -4}, "=", {0, 2}};
+  SayAt(15, R"(\yTry it:\z  Subtract -6 from both sides.)");
+  EquationSheet sheet(17, 20, {RowOf(given), AddendRow({0, 6}, "x"), RowOf(after)});
+  equations::WriteStatement(sheet, given);
+  PageEnd();
+  AddOnSheet(sheet, 6, after);
+  SayAt(21.5,
+        Text("Subtracting -6 is the same as adding 6:  {}, and {}.", "-10 + 6 = -4", "-4 + 6 = 2"));
   PageEnd();
 }
 
@@ -158,89 +172,60 @@ void SubtractingOnBothSides() {
   const LinearStatement given = {"x", {1, 12}, "=", {0, 5}};
   const LinearStatement solved = {"x", {1, 0}, "=", {0, -7}};
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Subtract), {"The same number may be subtracted", "from both sides."},
-          {.row = 3, .width = 36});
-  EquationSheet sheet(9, 16, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
+  RuleBox(PrincipleOf(Operation::Subtract),
+          {"The same number may be subtracted", "from both sides."}, {.row = 3, .width = 36});
+  EquationSheet sheet(8, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
-  equations::OpenWordBox();
-  SayInBox("What must we subtract, so that x stands alone?");
-  PageEnd();
   sheet.AddUnder(AddendRow({0, -12}, "x"));
-  SayInBoxAnew(R"(We subtract \b12\z.)");
-  SayInBox("Is the right side 5 - 12 or 12 - 5?");
+  SayAt(12.5, "Is the right side 5 - 12 or 12 - 5?");
   PageEnd();
   sheet.WriteSum(RowOf(solved), "=");
-  SayInBoxAnew("12 is taken from 5:  5 - 12 = -7.");
-  SayInBox("Check:  -7 + 12 = 5.  It is true.");
-  PageEnd();
-}
-
-void SubtractingNegativeNumber() {
-  const LinearStatement given = {"x", {1, -10}, "=", {0, -4}};
-  const LinearStatement after = {"x", {1, -4}, "=", {0, 2}};
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Subtract -6 from both sides.)");
-  EquationSheet sheet(6, 16, {RowOf(given), AddendRow({0, 6}, "x"), RowOf(after)});
-  equations::WriteStatement(sheet, given);
-  PageEnd();
-  AddOnSheet(sheet, 6, after);
-  SayAt(11, "Subtracting -6 is the same as adding 6.  -10 + 6 is -4, and -4 + 6 is 2.");
-  PageEnd();
+  ClearBelow(12);
+  SayAt(12.5, Text("12 is taken from 5:  {}.", "5 - 12 = -7"));
+  TrySubtractingMinusSix();
 }
 
 void MultiplyingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Multiply), {"Both sides may be multiplied", "by the same number, not 0."},
-          {.row = 3, .width = 36});
-  SolutionLines lines(8.5);
+  RuleBox(PrincipleOf(Operation::Multiply),
+          {"Both sides may be multiplied", "by the same number, not 0."}, {.row = 3, .width = 36});
+  SolutionLines lines(8);
   lines.Write("2x + 5", "11");
-  SayAt(11, "Multiply both sides by 3.  What becomes of the 5?");
+  SayAt(10.5, "Multiply both sides by 3.  What becomes of the 5?");
   PageEnd();
+  ClearBelow(9);
   lines.Write("3(2x + 5)", "3" + tutor::Gap + tutor::Dot + tutor::Gap + "11");
-  ClearBelow(11);
   lines.Write("6x + 15", "33");
-  SayAt(13, R"(It becomes 15:  \yevery\z term is multiplied.)");
-  PaperBox({R"(\r6x + 5 = 33\z  is wrong:)", "the 5 was left as it was."});
+  SayAt(13, R"(\yEvery\z term is multiplied, so it is 15.)");
+  PaperBox({R"(\r6x + 5 = 33\z  is wrong.)"});
   PageEnd();
-  SayAt(18.5, "Check:  the solution stays 3.  2 times 3 is 6, and 6 + 5 = 11.  6 times 3 is 18, and "
-              "18 + 15 = 33.");
+  ClearBelow(12);
+  SayAt(13.5, R"(\yTry it:\z  Multiply both sides by -1.)");
+  SolutionLines tried(15.5);
+  tried.Write("2", "x - 3");
   PageEnd();
-}
-
-void MultiplyingByMinusOne() {
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Multiply both sides by -1.)");
-  SolutionLines lines(6);
-  lines.Write("2", "x - 3");
-  PageEnd();
-  lines.Write("-1(2)", "-1(x - 3)");
-  lines.Write("-2", "-x + 3");
-  SayAt(11, "Every sign changes, on both sides.");
+  tried.Write("-1(2)", "-1(x - 3)");
+  tried.Write("-2", "-x + 3");
+  SayAt(20.5, "Every sign changes, on both sides.  And 5 was the solution, and still is.");
   PageEnd();
 }
 
 void DividingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Divide), {"Both sides may be divided", "by the same number, not 0."},
-          {.row = 3, .width = 36});
-  SolutionLines lines(8.5);
-  lines.Write("4x + 12", "20");
-  SayAt(10.5, "Divide both sides by 4.  What becomes of the 12?");
+  RuleBox(PrincipleOf(Operation::Divide),
+          {"Both sides may be divided", "by the same number, not 0."}, {.row = 3, .width = 36});
+  SolutionLines lines(8);
+  lines.Write("20", "-4x + 12");
+  SayAt(10.5, "Divide both sides by -4.  What becomes of the 12?");
   PageEnd();
   ClearBelow(10);
-  lines.Write("(4x + 12)/4", "20/4");
-  lines.Write("x + 3", "5");
-  SayAt(15, R"(It becomes 3:  \yevery\z term is divided.)");
-  PaperBox({R"(\rx + 12 = 5\z  is wrong.)"});
+  lines.Write("20/(-4)", "(-4x + 12)/(-4)");
+  lines.Write("-5", "x - 3");
+  SayAt(14.5, R"(\yEvery\z term is divided.  12 and -4 have different signs, so it is -3.)");
+  Say("Why may we not divide by 0?");
   PageEnd();
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Divide both sides by -3.)");
-  SolutionLines other(6);
-  other.Write("-6", "-3x + 9");
-  PageEnd();
-  other.Write("(-6)/(-3)", "(-3x + 9)/(-3)");
-  other.Write("2", "x - 3");
-  SayAt(13, "-6 and -3 have the same sign: 2 is positive.  9 and -3 have different signs: -3.");
+  SayAt(19, "20 over 0 has no value, for no number times 0 is 20.");
+  Say("And x = 5, multiplied by 0, is 0 = 0:  then nobody knows what x was.");
   PageEnd();
 }
 
@@ -251,13 +236,17 @@ void WhichStepWasIt() {
   ShowAt(6, "2x + 8 = 14", 23);
   isDrawArrowPointingRightWithColor(6, 20, platform::colour::Yellow, 3);
   PageEnd();
-  Say("2x stayed 2x.  So nothing was multiplied or divided.  From 11 to 14 it is 3 more, and from 5 "
-      "to 8, too:  3 was added.");
-  ShowAt(13.5, "2x + 6 = 10", 5);
-  ShowAt(13.5, "x + 3 = 5", 23);
-  isDrawArrowPointingRightWithColor(13.5, 20, platform::colour::Yellow, 3);
+  SayAt(8,
+        "2x stayed 2x.  So nothing was multiplied or divided.  From 11 to 14 it is 3 more, and "
+        "from 5 "
+        "to 8, too:  3 was added.");
+  ShowAt(14, "2x + 6 = 10", 5);
+  ShowAt(14, "x + 3 = 5", 23);
+  isDrawArrowPointingRightWithColor(14, 20, platform::colour::Yellow, 3);
   PageEnd();
-  Say("2x became x.  So something was divided.  2, 6 and 10 were all divided by 2.");
+  SayAt(16, "2x became x.  So something was divided.  2, 6 and 10 were all divided by 2.");
+  Say(Text(R"(\yWatch out:\z  Adding 3 to {} does not give {}.  The 2 stays.)", "2x + 5",
+           "5x + 5"));
   PageEnd();
 }
 
@@ -278,7 +267,7 @@ void WhichStepComesFirst() {
   equations::WriteDivision(sheet, middle, "=");
   sheet.WriteSolved("x", "=", "4");
   SayInBoxAnew("We divide both sides by 2.");
-  SayInBox("Check:  2 times 4 is 8, and 8 + 3 = 11.");
+  SayInBox(Text("Check:  2 times 4 is 8, and {}.", "8 + 3 = 11"));
   PageEnd();
 }
 
@@ -293,8 +282,8 @@ class PropertiesOfEquations final : public LessonScript {
     return {{EqualSides},
             {Solutions},
             {AddingOnBothSides, AddingOnPaper},
-            {SubtractingOnBothSides, SubtractingNegativeNumber},
-            {MultiplyingBothSides, MultiplyingByMinusOne},
+            {SubtractingOnBothSides},
+            {MultiplyingBothSides},
             {DividingBothSides},
             {WhichStepWasIt, WhichStepComesFirst}};
   }

@@ -136,8 +136,8 @@ void AddProductMistakes(Reading& reading, const Equation& given, const NamedStep
   add("multiplies the side with x and adds on the other",
       "divides the side with x and subtracts on the other", right.a, right.b, summed.c);
   add("multiplies only the term with x", "divides only the term with x", right.a, given.b, right.c);
-  add("multiplies everything but the term with x", "divides everything but the term with x", given.a, right.b,
-      right.c);
+  add("multiplies everything but the term with x", "divides everything but the term with x",
+      given.a, right.b, right.c);
   add("adds on the side with x and multiplies the other",
       "subtracts on the side with x and divides the other", summed.a, summed.b, right.c);
 }

@@ -13,7 +13,7 @@ namespace {
 using platform::colour::Cyan;
 using platform::colour::White;
 
-// Columns of the two pans: their texts, their frames, and where they hang.
+// Columns: where the pans begin, how wide they are, and where the beam rests.
 constexpr double kLeftText = 4;
 constexpr double kRightText = 26;
 constexpr double kPanWidth = 12;
@@ -29,6 +29,25 @@ void DrawPan(double row, double textCol, double beamRow) {
   isDrawRoundRect(row - 0.2, textCol - 1, row + 0.3, textCol + kPanWidth, 2, Cyan);
   const double middle = textCol + (kPanWidth - 1) / 2;
   isDrawDiagonalLineWithColor(row + 0.9, middle, beamRow, middle, 2, White);
+}
+
+// Where a text begins in the middle of its pan.
+double StartOf(const std::string& text, double textCol) {
+  return textCol + (kPanWidth - static_cast<double>(text.size())) / 2;
+}
+
+// With room for a term behind it.
+std::string WithRoom(const std::string& text, const std::string& term) {
+  return text + std::string(term.size() + 1, ' ');
+}
+
+// The term falls into the room behind the text.
+void LetFall(double row, double textCol, const std::string& text, const std::string& term) {
+  const auto width = static_cast<double>(term.size());
+  const double col = StartOf(text, textCol) + static_cast<double>(text.size()) - width;
+  page::ShowAt(row - kFall, R"(\y)" + term + R"(\z)", col);
+  page::SlideDown({row - kFall, col, width}, kFall);
+  page::ClearCells(row - kFall, col, width, 1);
 }
 
 }  // namespace
@@ -53,26 +72,24 @@ void Balance::Show(const std::string& left, const std::string& right, Heavier he
   isDrawDiagonalLineWithColor(beam, kPivot, row_ + kToFoot, kPivot - 2, 2, White);
   isDrawDiagonalLineWithColor(beam, kPivot, row_ + kToFoot, kPivot + 2, 2, White);
   isDrawDiagonalLineWithColor(row_ + kToFoot, kPivot - 4, row_ + kToFoot, kPivot + 4, 2, White);
-  page::ShowAt(leftRow, left, kLeftText);
-  page::ShowAt(rightRow, right, kRightText);
-}
-
-void Balance::SlideOn(double col, const std::string& text, const std::string& term) const {
-  const double at = col + static_cast<double>(text.size()) + 1;
-  page::ShowAt(row_ - kFall, R"(\y)" + term + R"(\z)", at);
-  page::SlideDown({row_ - kFall, at, static_cast<double>(term.size())}, kFall);
-  page::ClearCells(row_ - kFall, at, static_cast<double>(term.size()), 1);
+  page::ShowAt(leftRow, left, StartOf(left, kLeftText));
+  page::ShowAt(rightRow, right, StartOf(right, kRightText));
 }
 
 void Balance::PutOnBoth(const std::string& term) {
-  SlideOn(kLeftText, left_, term);
-  SlideOn(kRightText, right_, term);
-  Show(left_ + " " + term, right_ + " " + term);
+  const std::string left = left_ + " " + term;
+  const std::string right = right_ + " " + term;
+  Show(WithRoom(left_, term), WithRoom(right_, term));
+  LetFall(row_, kLeftText, left, term);
+  LetFall(row_, kRightText, right, term);
+  Show(left, right);
 }
 
 void Balance::PutOnLeft(const std::string& term) {
-  SlideOn(kLeftText, left_, term);
-  Show(left_ + " " + term, right_, Heavier::Left);
+  const std::string left = left_ + " " + term;
+  Show(WithRoom(left_, term), right_);
+  LetFall(row_, kLeftText, left, term);
+  Show(left, right_, Heavier::Left);
 }
 
 }  // namespace course::principles

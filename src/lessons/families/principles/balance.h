@@ -22,7 +22,6 @@ class Balance {
 
  private:
   void Clear() const;
-  void SlideOn(double col, const std::string& text, const std::string& term) const;
 
   double row_;
   std::string left_;

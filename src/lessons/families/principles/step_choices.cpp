@@ -105,13 +105,13 @@ TwoLists<Sides> MistakenProducts(const StepProblem& p) {
                 bothSums,
                 onlyWithoutX};
   } else {
-    lists[1] = {
-        {multiplies ? "multiplies only the term with x" : "divides only the term with x",
-         {{right.coef, side.number}, number}},
-        {multiplies ? "multiplies everything but the term with x" : "divides everything but the term with x",
-         {{side.coef, right.number}, number}},
-        bothSums,
-        onlyWithoutX};
+    lists[1] = {{multiplies ? "multiplies only the term with x" : "divides only the term with x",
+                 {{right.coef, side.number}, number}},
+                {multiplies ? "multiplies everything but the term with x"
+                            : "divides everything but the term with x",
+                 {{side.coef, right.number}, number}},
+                bothSums,
+                onlyWithoutX};
   }
   return lists;
 }

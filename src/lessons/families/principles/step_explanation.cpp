@@ -151,16 +151,16 @@ class Explanation {
     TellPrinciple();
     SayInBoxAnew(Text("We {}.", Words{RequestText(p_.step)}));
     if (p_.given.number != 0)
-      SayInBox(p_.step.operation == Multiply
-                   ? "Two terms on a side go into parentheses."
-                   : "Both terms of a side are divided.");
+      SayInBox(p_.step.operation == Multiply ? "Two terms on a side go into parentheses."
+                                             : "Both terms of a side are divided.");
     write(StepOn(given.left), StepOn(given.right));
     PageEnd();
     write(side(second.left), side(second.right));
-    SayInBoxAnew(Text("On the {} side:  {}{}.", SideOfX(), WorkedTermText(p_.step, p_.given.coef),
-                      p_.given.number == 0
-                          ? ""
-                          : Words{" and " + WithoutBreaks(WorkedText(p_.step, p_.given.number))}.text));
+    SayInBoxAnew(
+        Text("On the {} side:  {}{}.", SideOfX(), WorkedTermText(p_.step, p_.given.coef),
+             p_.given.number == 0
+                 ? ""
+                 : Words{" and " + WithoutBreaks(WorkedText(p_.step, p_.given.number))}.text));
     SayInBox(Text("On the {} side:  {}.", OtherSide(), WorkedText(p_.step, p_.givenNumber)));
     PageEnd();
   }
@@ -184,15 +184,13 @@ class Explanation {
     page::SayAt(kQuestionRow + 3, problem_.question[4]);
     PageEnd();
     equations::OpenWordBox();
-    const int before = p_.given.coef;
-    const int after = p_.After().coef;
-    SayInBox("First we look at the number in front of x.");
-    if (IsSum()) {
-      SayInBox(Text("It is {} in both.  So something was added or subtracted.", before));
-    } else {
-      SayInBox(Text("It was {}, and it is {} now.  So something was multiplied or divided.", before,
-                    after));
-    }
+    const std::string before = equations::TermText(p_.given.coef, "x");
+    SayInBox("First we compare the terms with x.");
+    if (IsSum())
+      SayInBox(Text("Both have {}.  So something was added or subtracted.", before));
+    else
+      SayInBox(Text("{} became {}.  So something was multiplied or divided.", before,
+                    equations::TermText(p_.After().coef, "x")));
     PageEnd();
     if (IsSum())
       FindSum();
@@ -220,10 +218,10 @@ class Explanation {
   }
 
   void FindProduct() {
-    const int before = p_.given.coef;
-    SayInBoxAnew(Text("How do we get from {} to {}?", before, p_.After().coef));
+    SayInBoxAnew(Text("How do we get from {} to {}?", equations::TermText(p_.given.coef, "x"),
+                      equations::TermText(p_.After().coef, "x")));
     PageEnd();
-    SayInBoxAnew(Text("In this way:  {}.", WorkedText(p_.step, before)));
+    SayInBoxAnew(Text("In this way:  {}.", WorkedTermText(p_.step, p_.given.coef)));
     const LinearStatement given = Given();
     const LinearStatement second = Second();
     formulas::SolutionLines lines(p_.step.operation == Divide ? kFoundRow + 0.5 : kFoundRow);
