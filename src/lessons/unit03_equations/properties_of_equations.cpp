@@ -119,14 +119,14 @@ void AddingOnBothSides() {
   balance.Show("x - 4", "5");
   PageEnd();
   balance.PutOnBoth("+ 4");
-  SayAt(14, "It stays level.");
-  RuleBox(PrincipleOf(Operation::Add), {"We may add the same to both sides."}, {.width = 36});
-  Say("What if we put 4 on the left pan only?");
+  RuleBox(PrincipleOf(Operation::Add), {"We may add the same to both sides."},
+          {.row = 14, .width = 36});
+  Say("It is level.  And 4 on the left only?");
   PageEnd();
   ClearBelow(14);
   balance.Show("x - 4", "5");
   balance.PutOnLeft("+ 4");
-  SayAt(14, "The left pan sinks.  The sides are no longer equal.");
+  SayAt(14, "The left pan sinks:  they are not equal.");
   PaperBox({R"(\rx - 4 + 4 = 5\z  is wrong.)"});
   PageEnd();
 }
@@ -155,43 +155,37 @@ void AddingOnPaper() {
   PageEnd();
 }
 
-void TrySubtractingMinusSix() {
-  const LinearStatement given = {"x", {1, -10}, "=", {0, -4}};
-  const LinearStatement after = {"x", {1, -4}, "=", {0, 2}};
-  SayAt(15, R"(\yTry it:\z  Subtract -6 from both sides.)");
-  EquationSheet sheet(17, 20, {RowOf(given), AddendRow({0, 6}, "x"), RowOf(after)});
-  equations::WriteStatement(sheet, given);
-  PageEnd();
-  AddOnSheet(sheet, 6, after);
-  SayAt(21.5,
-        Text("Subtracting -6 is the same as adding 6:  {}, and {}.", "-10 + 6 = -4", "-4 + 6 = 2"));
-  PageEnd();
-}
-
 void SubtractingOnBothSides() {
   const LinearStatement given = {"x", {1, 12}, "=", {0, 5}};
   const LinearStatement solved = {"x", {1, 0}, "=", {0, -7}};
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Subtract),
-          {"The same number may be subtracted", "from both sides."}, {.row = 3, .width = 36});
-  EquationSheet sheet(8, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
+  RuleBox(PrincipleOf(Operation::Subtract), {"We may subtract the same from both sides."},
+          {.row = 3, .width = 36});
+  EquationSheet sheet(7.5, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
-  sheet.AddUnder(AddendRow({0, -12}, "x"));
-  SayAt(12.5, "Is the right side 5 - 12 or 12 - 5?");
+  SayAt(12, "Subtract 12:  is it 5 - 12 or 12 - 5?");
   PageEnd();
-  sheet.WriteSum(RowOf(solved), "=");
-  ClearBelow(12);
-  SayAt(12.5, Text("12 is taken from 5:  {}.", "5 - 12 = -7"));
-  TrySubtractingMinusSix();
+  AddOnSheet(sheet, -12, solved);
+  ClearBelow(11);
+  SayAt(12, Text("12 is taken from 5:  {}.", "5 - 12 = -7"));
+  SayAt(14.5, Text(R"(\yTry it:\z  Subtract -6 from {}.)", "x - 10 = -4"));
+  PageEnd();
+  const LinearStatement tried = {"x", {1, -10}, "=", {0, -4}};
+  const LinearStatement after = {"x", {1, -4}, "=", {0, 2}};
+  EquationSheet second(17, 20, {RowOf(tried), AddendRow({0, 6}, "x"), RowOf(after)});
+  equations::WriteStatement(second, tried);
+  AddOnSheet(second, 6, after);
+  SayAt(21.5, "Subtracting -6 is the same as adding 6.");
+  PageEnd();
 }
 
 void MultiplyingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Multiply),
-          {"Both sides may be multiplied", "by the same number, not 0."}, {.row = 3, .width = 36});
+  RuleBox(PrincipleOf(Operation::Multiply), {"We may multiply both sides by a number, not 0."},
+          {.row = 3, .width = 38});
   SolutionLines lines(8);
   lines.Write("2x + 5", "11");
-  SayAt(10.5, "Multiply both sides by 3.  What becomes of the 5?");
+  SayAt(10.5, "Multiply by 3:  what becomes of the 5?");
   PageEnd();
   ClearBelow(9);
   lines.Write("3(2x + 5)", "3" + tutor::Gap + tutor::Dot + tutor::Gap + "11");
@@ -212,16 +206,16 @@ void MultiplyingBothSides() {
 
 void DividingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Divide),
-          {"Both sides may be divided", "by the same number, not 0."}, {.row = 3, .width = 36});
+  RuleBox(PrincipleOf(Operation::Divide), {"We may divide both sides by a number, not 0."},
+          {.row = 3, .width = 38});
   SolutionLines lines(8);
   lines.Write("20", "-4x + 12");
-  SayAt(10.5, "Divide both sides by -4.  What becomes of the 12?");
+  SayAt(10.5, "Divide by -4:  what becomes of the 12?");
   PageEnd();
   ClearBelow(10);
   lines.Write("20/(-4)", "(-4x + 12)/(-4)");
   lines.Write("-5", "x - 3");
-  SayAt(14.5, R"(\yEvery\z term is divided.  12 and -4 have different signs, so it is -3.)");
+  SayAt(14.5, R"(\yEvery\z term is divided:  it becomes -3.)");
   Say("Why may we not divide by 0?");
   PageEnd();
   SayAt(19, "20 over 0 has no value, for no number times 0 is 20.");
@@ -254,7 +248,7 @@ void WhichStepComesFirst() {
   const LinearStatement given = {"x", {2, 3}, "=", {0, 11}};
   const LinearStatement middle = {"x", {2, 0}, "=", {0, 8}};
   NewScreen();
-  SayAt(3, "Every step keeps the solution, but some of them bring us nearer to it.");
+  SayAt(3, "Some steps bring us nearer to x alone.");
   EquationSheet sheet(6, 16, {RowOf(given), AddendRow({0, -3}, "x"), RowOf(middle)});
   equations::WriteStatement(sheet, given);
   equations::OpenWordBox();
@@ -267,7 +261,7 @@ void WhichStepComesFirst() {
   equations::WriteDivision(sheet, middle, "=");
   sheet.WriteSolved("x", "=", "4");
   SayInBoxAnew("We divide both sides by 2.");
-  SayInBox(Text("Check:  2 times 4 is 8, and {}.", "8 + 3 = 11"));
+  SayInBox("Check:  2 times 4, plus 3, is 11.");
   PageEnd();
 }
 

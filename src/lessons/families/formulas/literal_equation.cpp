@@ -231,7 +231,7 @@ LiteralEquation DrawLiteralEquation(RandomStream& random) {
 void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, RandomStream& random) {
   problem.question = {"Solve for " + equation.x + ".",
                       LeftText(equation) + " = " + RightText(equation)};
-  const bool keepsSign = random.Rnd() < 0.75;
+  const bool keepsSign = random.Rnd() < 0.85;
   // z - y exchanged is y - z; but z + y would be right.
   const bool exchangeKeepsSign =
       LettersAreAlike(equation) ? equation.Added().coef.num < 0 : keepsSign;
