@@ -1,6 +1,5 @@
 // One operation on both sides of an equation: "Given:", "2x + 5 = 11", "Adding 3 to both sides of
 // the given gives which equation?", or the second equation and "What was done to both sides?".
-#include <optional>
 #include <string_view>
 
 #include "lesson_check/exact/notation.h"

@@ -1,7 +1,5 @@
 // Equations with several letters, linear in the one that is asked for: "Solve for x.", "4x - 3y =
 // z", "2(x + y) = 6z", "y = 3/4 x + 5z".
-#include <numeric>
-#include <vector>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"

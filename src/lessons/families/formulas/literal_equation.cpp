@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 #include <utility>
 
 #include "engine/choices.h"
@@ -42,7 +41,7 @@ bool IsOne(int n) {
   return std::abs(n) == 1;
 }
 
-// Four fifths of the pairs are accepted, and a quarter of the fractions.
+// Four fifths of the pairs are accepted, and 23 % of the fractions.
 void DrawNumbers(LiteralEquation& equation, RandomStream& random) {
   int& p = equation.p;
   int& q = equation.q;

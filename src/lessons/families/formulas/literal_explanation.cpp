@@ -164,7 +164,7 @@ class Explanation {
     PageEnd();
     sheet.WriteSum(sum, "=");
     SayInBoxAnew(Text("{} and {} add up to 0.", WithSign(e_.Added()), WithSign(-e_.Added())));
-    SayInBox("The other two are unlike terms, so they stand side by side.");
+    SayInBox(Text("{} and {} are unlike:  both stay.", alone, Opposite()));
     PageEnd();
     if (HasDivision())
       Divide(sheet);

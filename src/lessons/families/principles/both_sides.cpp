@@ -87,6 +87,7 @@ bool Fits(const DrawnSteps& drawn) {
          (multiplies || !(GivenSide(drawn) == LinearSide{1, 0}));  // x = 3 says all already
 }
 
+// A third of the draws is accepted: of a multiplication only small factors fit.
 DrawnSteps DrawSteps(RandomStream& random) {
   DrawnSteps drawn;
   do {
