@@ -36,6 +36,12 @@ double RowsOfMath(const std::string& text) {
   return text.find('/') != std::string::npos ? 3 : 1;
 }
 
+// In cells; a fraction keeps off the sign before it by a part of one, twice at most.
+int WidthBeside(const std::string& text) {
+  const bool signs = text.find('-') != std::string::npos && text.find('/') != std::string::npos;
+  return StackedTextWidth(text) + (signs ? 1 : 0);
+}
+
 // Between a built-up line and the text before or behind it.
 double AirAt(const std::string& text) {
   return text.find('/') != std::string::npos ? 0.5 : 0;
@@ -118,7 +124,7 @@ class MistakesPage {
     const bool builtUp =
         std::ranges::any_of(told_, [](const Told& told) { return IsBuiltUp(told.value); });
     for (Told& told : told_) {
-      const int width = StackedTextWidth(told.value);
+      const int width = WidthBeside(told.value);
       if (builtUp && width <= kWidestBeside) {
         told.place = Place::Beside;
         valueWidth_ = std::max(valueWidth_, width);
