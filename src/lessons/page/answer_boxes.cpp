@@ -15,6 +15,7 @@ namespace {
 constexpr double kUsualHeight = 50;  // pixels, in which a line of 20 points stands in the middle
 constexpr double kUsualFontSize = 20;
 constexpr double kHigh = 68;         // pixels, for a built-up fraction
+constexpr double kHighest = 76;      // pixels, for one with a radical, whose bar stands above it
 constexpr double kPanelBottom = 25;  // row
 
 // What a layout has of its own.
@@ -41,7 +42,8 @@ bool AnyChoiceHas(const Problem& problem, const std::string& characters) {
 void Place(const Problem& problem, const Layout& layout, const AnswerBoxes& boxes, double width,
            double column1, double column2, double column3) {
   const bool high = AnyChoiceHas(problem, "/");
-  const double height = high ? kHigh : layout.height;
+  const bool radical = AnyChoiceHas(problem, "`" + tutor::SquareRoot);
+  const double height = high ? (radical ? kHighest : kHigh) : layout.height;
   const double gap = high ? layout.highGap : layout.gap;
   const int rows = (ChoiceCountOf(problem.kind) + layout.boxesARow - 1) / layout.boxesARow;
   const double bottom = boxes.row + (rows * (height + gap) - gap) / gCellHeight;
@@ -51,8 +53,7 @@ void Place(const Problem& problem, const Layout& layout, const AnswerBoxes& boxe
   const double offset = (height - kUsualHeight + kUsualFontSize - boxes.fontSize) / 2;
   picAnswerSetParameters(layout.number, boxes.row, column1, column2, column3, width, height, gap,
                          offset, "", boxes.fontSize);
-  if (high || AnyChoiceHas(problem, "`" + tutor::SquareRoot))
-    answerParameters.printChoice = picAnswerPrintStackedText;
+  if (high || radical) answerParameters.printChoice = picAnswerPrintStackedText;
 }
 
 double WidthOf(const Layout& layout, const AnswerBoxes& boxes) {
