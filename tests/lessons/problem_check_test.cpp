@@ -81,9 +81,9 @@ Case System() {
 Case Quadratic() {
   return Make("The Quadratic Formula", choice_kind::FourShuffled,
               {"Solve the quadratic equation below.", "x^2^ - 7x + 6 = 0"}, "1 or 6",
-              {{"keeps the sign of b", "-6 or -1"},
+              {{"puts b where -b belongs", "-6 or -1"},
                {"forgets to divide by 2a", "2 or 12"},
-               {"takes the discriminant to be negative", "No real roots"}});
+               {"gets a negative discriminant by a sign mistake", "No real roots"}});
 }
 
 std::vector<std::string> FaultsOf(const Case& checked) {

@@ -4,10 +4,10 @@
 //
 // A choice shows both roots: two numbers, one expression with the plus-or-minus sign and a reduced
 // radical, or one number for a double root.  "No real roots" is always among the five, so that it
-// gives nothing away.  Beside it and the right roots stand those of three mistakes: the sign of b
-// is kept, 4ac is added, the division by 2a is forgotten or reaches the radical alone; where two of
-// these agree, a neighbouring mistake takes the place.  When there are no real roots the mistakes
-// also lose the minus sign under the radical.
+// gives nothing away.  Beside it and the right roots stand those of three mistakes: b stands where
+// -b belongs, 4ac is added, the division by 2a is forgotten or reaches the radical alone; where two
+// of these agree, a neighbouring mistake takes the place.  When there are no real roots the
+// mistakes also lose the minus sign under the radical.
 #include "lessons/families/quadratics/formula_steps.h"
 #include "lessons/lesson.h"
 
@@ -21,146 +21,190 @@ using Roots = std::optional<RootPair>;
 const Quadratic kRationalExample = {1, -5, -6};
 const Quadratic kRadicalExample = {2, -4, -3};
 
-// The table of discriminants: an equation, its discriminant as it is worked out, its real roots.
-// The work begins at such a column that its value ends up in the table's column.
-constexpr double kWorkRow = 17;
-constexpr int kValueColumn = 31;
-constexpr int kRootsColumn = 36;
-struct DiscriminantRow {
-  int row;
-  const char* equation;
-  Quadratic coefficients;
-  const char* difference;
-  const char* value;
-  const char* roots;
-};
-constexpr DiscriminantRow kDiscriminants[] = {
-    {8, "x^2^ - 5x + 6 = 0", {1, -5, 6}, "25 - 24", "1", "two"},
-    {10, "x^2^ - 6x + 9 = 0", {1, -6, 9}, "36 - 36", "0", "one"},
-    {12, "x^2^ + 2x + 5 = 0", {1, 2, 5}, "4 - 20", "-16", "none"}};
-
 // --- Teaching screens --------------------------------------------------------
 
 void StandardForm() {
   NewScreen();
-  SayAt(3, R"(A \cquadratic equation\z has a term with x^2^ and no higher power.  In \cstandard )"
-           R"(form\z, with 0 on the right side and a not 0:)");
+  SayAt(3, R"(A \cquadratic equation\z has a term with x^2^ and no higher power.  Its )"
+           R"(\cstandard form\z has 0 on the right side, and a is not 0:)");
   ShowStandardForm(7);
   PageEnd();
-  ShowSpreadEquation(kRadicalExample);
+  const Quadratic withoutNumber = {3, -4, 0};
+  ShowSpreadEquation(withoutNumber);
   SayAt(14.5, "What are a, b and c here?");
   PageEnd();
-  TurnTermsIntoValues(kRadicalExample);
+  TurnTermsIntoValues(withoutNumber);
   ClearBelow(14);
-  SayAt(14.5, R"(\yWatch out:\z  b is -4, not 4.)");
-  constexpr double kRow = 18.5;
-  SayAt(16.5, R"(\yTry it:\z  What are a, b and c here?)");
-  ShowAt(kRow, "x^2^ - 5x     = 6");
+  SayAt(14, R"(\yWatch out:\z  b is -4, not 4.  And no number stands alone, so c is 0.)");
+  constexpr double kRow = 17.5;
+  constexpr double kNewRow = 19;
+  constexpr double kCol = 22;
+  const std::string asked = "x^2^ - 5x     = 6";
+  SayAt(kRow, R"(\yTry it:\z  And here?)");
+  ShowAt(kRow, asked, kCol);
   PageEnd();
-  // The 6 goes from column 17 to the left side, where it is subtracted.
-  CarryAcross(kRow, 17, 1, -4);
-  ShowAt(kRow, R"(x^2^ - 5x \y- 6\z = 0)");
-  SayAt(20.5, "We subtract 6 from both sides first.  Then a is 1, b is -5 and c is -6.");
+  // In a copy of the line the 6 goes to the left side, where it is subtracted.
+  ShowAt(kNewRow, asked, kCol);
+  CarryAcross(kNewRow, kCol + 14, 1, -4);
+  ShowAt(kNewRow, R"(x^2^ - 5x \y- 6\z = 0)", kCol);
+  SayAt(21, "We subtract 6 from both sides first.  Then a is 1, b is -5 and c is -6.");
   PageEnd();
 }
 
-void WhereItComesFrom() {
+constexpr double kNumbersCol = 25;  // of numbers beside the letters
+
+// A line of the standard form, and under it the same line with numbers in place of its letters.
+void ShowTwice(double row, const std::string& letters, const std::string& numbers) {
+  ShowAt(row, letters);
+  ShowAt(row + 1, R"(\y)" + numbers + R"(\z)");
+}
+
+void CompleteTheSquare() {
   NewScreen();
-  SayAt(3, "We can solve the standard form itself.");
-  ShowAt(4, "ax^2^ + bx + c = 0");
-  SayAt(5.5, R"(We multiply both sides by \y4a\z:)");
-  ShowAt(6.5, "4a^2^x^2^ + 4abx + 4ac = 0");
+  SayAt(3, R"(We solve the standard form itself, and with it an equation with \ynumbers\z.)");
+  ShowAt(5.5, "ax^2^ + bx + c = 0");
+  ShowAt(5.5, R"(\y2x^2^ + 3x - 2 = 0\z)", kNumbersCol);
+  SayAt(7, "We multiply both sides by 4a, here by 8:");
   PageEnd();
-  SayAt(8, R"(We subtract \y4ac\z from both sides:)");
-  ShowAt(9, "4a^2^x^2^ + 4abx + 4ac = 0");
+  ShowTwice(8, "4a^2^x^2^ + 4abx + 4ac = 0", "16x^2^ + 24x - 16 = 0");
+  SayAt(10.5, "Then we subtract 4ac, here -16:");
+  PageEnd();
+  constexpr double kRow = 11.5;
+  ShowAt(kRow, "4a^2^x^2^ + 4abx + 4ac = 0");
   // 4ac goes from column 18 to the right side, and its sign is turned.
-  CarryAcross(9, 18, 3, 7);
-  ShowAt(9, R"(4a^2^x^2^ + 4abx       = \y-4ac\z)");
+  CarryAcross(kRow, 18, 3, 7);
+  ShowTwice(kRow, "4a^2^x^2^ + 4abx = -4ac        ", "16x^2^ + 24x = 16");
+  SayAt(14, R"(16x^2^ is the square of 4x.  24x is twice 4x times 3, so 3^2^ completes the )"
+            "square:");
   PageEnd();
-  SayAt(10.5, R"(We add \yb^2^\z.  The left side is a square:)");
-  ShowAt(11.5, "4a^2^x^2^ + 4abx + b^2^ = b^2^ - 4ac");
-  ShowAt(12.5, "(2ax + b)^2^ = b^2^ - 4ac");
+  ShowTwice(17, "4a^2^x^2^ + 4abx + b^2^ = b^2^ - 4ac", "16x^2^ + 24x + 9 = 25");
+  ShowTwice(19.5, "(2ax + b)^2^ = b^2^ - 4ac", "(4x + 3)^2^ = 25");
   PageEnd();
-  SayAt(14, "We take the square root of both sides:");
-  ShowAt(15.5, "2ax + b = " + tutor::PlusOrMinus + "`b^2^ - 4ac`");
+}
+
+void TakeTheRoot() {
+  NewScreen();
+  ShowTwice(3, "(2ax + b)^2^ = b^2^ - 4ac", "(4x + 3)^2^ = 25");
+  SayAt(5.5, Text(R"(25 is the square of 5 and of -5.  So the square root has both signs, \y{}\z:)",
+                  tutor::PlusOrMinus));
+  ShowTwice(8.5, "2ax + b = " + tutor::PlusOrMinus + "`b^2^ - 4ac`",
+            "4x + 3 = " + tutor::PlusOrMinus + "5");
   PageEnd();
-  SayAt(17, R"(We subtract \yb\z, then we divide by \y2a\z:)");
-  ShowAt(18.5, "2ax = -b " + tutor::PlusOrMinus + " `b^2^ - 4ac`");
-  ShowAt(21, QuadraticFormulaText());
+  SayAt(11, "We subtract b, then we divide by 2a:");
+  ShowAt(12.5, "2ax = -b " + tutor::PlusOrMinus + " `b^2^ - 4ac`");
+  ShowAt(12.5, R"(\y4x = -3 )" + tutor::PlusOrMinus + R"( 5\z)", kNumbersCol);
+  ShowAt(15.5, QuadraticFormulaText());
+  ShowAt(15.5, R"(\yx = (-3 )" + tutor::PlusOrMinus + R"( 5)/4\z)", kNumbersCol);
+  SayAt(18.5, R"(\yTry it:\z  Which two numbers is x?)");
   PageEnd();
 }
 
 void NameTheFormula() {
   NewScreen();
-  SayAt(3, R"(The last line is the \cquadratic formula\z.)");
-  picGalleryImagePrepare(1, gallery::QuadraticFormula, 4.5, 12);
+  SayAt(3,
+        "With + x is 2/4 = 1/2.  With - it is -8/4 = -2.  The line with letters is the "
+        R"(\cquadratic formula\z:)");
+  picGalleryImagePrepare(1, gallery::QuadraticFormula, 6.5, 12);
   picGalleryImageShow(1);
-  SayAt(13, Text(R"(\y{}\z stands for both signs:  one solution has +, the other one has -.  The )"
-                 R"(solutions are called \croots\z.)",
-                 tutor::PlusOrMinus));
+  SayAt(15, Text(R"(\yTry it:\z  What is -b in  {}?)", EquationText(kRationalExample)));
   PageEnd();
-  SayAt(17, R"(\yWatch out:\z  The whole numerator is divided by 2a, -b as well as the radical.)");
-  SayAt(20.5, Text(R"(\yTry it:\z  What is -b in  {}?)", EquationText(kRationalExample)));
-  PageEnd();
-  SayAt(22.5, "b is -5, so -b is -(-5) = 5.");
+  SayAt(17, "b is -5, so -b is -(-5) = 5.");
+  SayAt(18.5,
+        R"(\yWatch out:\z  The whole numerator is divided by 2a, -b as well as the radical.)");
   PageEnd();
 }
 
 void RationalRoots() {
-  SolveWithFormula(kRationalExample);
-  Say(R"(The roots are \y-1\z and \y6\z.)");
+  SolveWithFormula(kRationalExample, Asked::Discriminant);
+  const std::string times = tutor::Gap + tutor::Dot + tutor::Gap;
+  NewScreen();
+  ShowAt(5, "Solve:  " + EquationText(kRationalExample));
+  SayAt(7.5, R"(The solutions are called \croots\z.  We check 6 and put it in for x:)");
+  ShowAt(10, "6^2^ - 5" + times + "6 - 6 = 36 - 30 - 6 = 0");
+  SayAt(12, R"(\yTry it:\z  Check -1.)");
+  PageEnd();
+  ShowAt(14, "(-1)^2^ - 5(-1) - 6 = 1 + 5 - 6 = 0");
+  SayAt(16, R"(Both sides are 0, so the roots are \y-1\z and \y6\z.)");
   PageEnd();
 }
 
 void RadicalRoots() {
-  SolveWithFormula(kRadicalExample);
-  Say(Text(R"(The roots are \y{}\z.)", RootsText(RootsOf(4, 40, 4))));
+  SolveWithFormula(kRadicalExample, Asked::ValuesToo);
   PageEnd();
 }
 
-// The equation, and its discriminant below the table.
-void AskDiscriminant(const DiscriminantRow& row) {
-  const auto [a, b, c] = row.coefficients;
-  const std::string work =
-      InParentheses(b) + "^2^ - " + ProductText(4, a, c) + " = " + row.difference + " = ";
-  constexpr int kExponentCodes = 2;
-  ShowAt(row.row, row.equation, 1);
-  ClearBelow(kWorkRow - 1);
-  ShowAt(kWorkRow, work + row.value,
-         kValueColumn - static_cast<double>(work.size()) + kExponentCodes);
+void NegativeLeadingTerm() {
+  const std::string both = tutor::PlusOrMinus;
+  const std::string root = tutor::SquareRoot;
+  NewScreen();
+  ShowAt(5, "Solve:  " + EquationText({-1, 4, 1}));
+  SayAt(7, "Here a is -1, so 2a is -2:");
+  ShowAt(9.5, "x = (-4 " + both + " " + root + "20)/(-2) = (-4 " + both + " 2" + root + "5)/(-2)");
+  SayAt(12, R"(\yTry it:\z  Divide by -2.)");
+  PageEnd();
+  SayAt(14.5, Text("Dividing by -2 turns + into - and - into +.  Both signs are still there, so "
+                   R"(\y{}\z stays:)",
+                   both));
+  ShowRoots("  x = ", *RootsOf(-4, 20, -2));
   PageEnd();
 }
 
-// The value slides from its computation up into the table.
-void FillRow(const DiscriminantRow& row) {
-  const auto width = static_cast<double>(std::string_view(row.value).size());
-  SlideUp({kWorkRow, kValueColumn, width}, kWorkRow - row.row, Leaving::Copy);
-  ShowAt(row.row, row.roots, kRootsColumn);
-  ClearBelow(kWorkRow - 1);
+// --- The discriminant --------------------------------------------------------
+
+// Cells row by row: an equation, its discriminant, the number of its real roots.
+PrintCellTable DiscriminantTable() {
+  constexpr double kLefts[] = {2, 41, 79};
+  constexpr double kWidths[] = {37, 36, 19};
+  constexpr double kTops[] = {19, 46, 73};
+  const char* kHeads[] = {"Equation", "Discriminant", "Real roots"};
+  PrintCellTable table;
+  table.heightPixels = 140;
+  for (const double top : kTops)
+    for (int i = 0; i < 3; ++i) table.cells.push_back({kLefts[i], top, kWidths[i], 24});
+  for (int i = 0; i < 3; ++i)
+    table.labels.push_back(
+        {kLefts[i], 4, kWidths[i], 14, kHeads[i], 12, platform::colour::Black, true});
+  return table;
+}
+
+void PrintInTable(int cell, const std::string& text, platform::Colour colour) {
+  constexpr double kSize = 14;  // points
+  picPrintCellPrint(cell, text, colour, kSize);
+}
+
+// The equation and its discriminant come into the table, and the formula asks below it.
+void AskRoots(int row, const std::string& equation, const std::string& discriminant,
+              const std::string& words, const std::string& formula) {
+  const int cell = 3 * row - 2;
+  PrintInTable(cell, equation, platform::colour::Black);
+  PrintInTable(cell + 1, discriminant, platform::colour::Black);
+  ClearBelow(12);
+  SayAt(12, words);
+  ShowAt(16, "x = " + formula);
+  PageEnd();
+  PrintInTable(cell + 2, row == 1 ? "two" : row == 2 ? "one" : "none", platform::colour::Blue);
 }
 
 void TheDiscriminant() {
+  const std::string both = " " + tutor::PlusOrMinus + " ";
   NewScreen();
-  SayAt(3, R"(The \cdiscriminant\z tells how many roots:)");
-  ShowAt(6, R"(\yb^2^ - 4ac\z)", kValueColumn - 5);
-  ShowAt(6, R"(\yroots\z)", kRootsColumn);
-  AskDiscriminant(kDiscriminants[0]);
-  FillRow(kDiscriminants[0]);
-  SayAt(15, "+1 and -1 give two roots.  How many now?");
-  AskDiscriminant(kDiscriminants[1]);
-  FillRow(kDiscriminants[1]);
-  ClearBelow(14.5);
-  SayAt(15, "+0 and -0 give one root.  How many now?");
-  AskDiscriminant(kDiscriminants[2]);
-  FillRow(kDiscriminants[2]);
-  ClearBelow(14.5);
-  SayAt(15, "No real number times itself is -16:");
-  ShowAt(16.5, "4(4) = 16      (-4)(-4) = 16");
-  SayAt(18, R"(\yNegative\z discriminant:  no real roots.)");
+  SayAt(3, R"(The \cdiscriminant\z tells how many real roots there are:)");
+  CellTable(DiscriminantTable(), 5.5);
+  AskRoots(1, "x^2^ - 5x + 6 = 0", "25 - 24 = 1", "How many roots does the formula give?",
+           "(5" + both + "1)/2");
+  AskRoots(2, "x^2^ - 6x + 9 = 0", "36 - 36 = 0",
+           "5 + 1 and 5 - 1 differ, so there are two roots.  How many are there now?",
+           "(6" + both + "0)/2");
+  AskRoots(3, "x^2^ + 2x + 5 = 0", "4 - 20 = -16",
+           "6 + 0 and 6 - 0 are the same, so there is one root.  How many are there now?",
+           "(-2" + both + "`-16`)/2");
+  ClearBelow(12);
+  SayAt(12, R"(4(4) and (-4)(-4) are 16.  No \creal number\z, that is, no number on the number )"
+            "line, times itself is -16.");
+  SayAt(15.5, Text(R"(\yTry it:\z  What about  {}?)", "x^2^ + x + 1 = 0"));
   PageEnd();
-  SayAt(20, Text(R"(\yTry it:\z  How many real roots does  {}  have?)", "x^2^ + x + 1 = 0"));
-  PageEnd();
-  SayAt(22.5, "None:  1 - 4 = -3 is negative.");
+  SayAt(17, "None:  1 - 4 = -3 is negative.");
+  PaperBox({"Positive:  two real roots", "0:         one real root", "Negative:  no real roots"});
   PageEnd();
 }
 
@@ -172,8 +216,8 @@ class TheQuadraticFormula final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{StandardForm, WhereItComesFrom, NameTheFormula},
-            {RationalRoots, RadicalRoots},
+    return {{StandardForm, CompleteTheSquare, TakeTheRoot, NameTheFormula},
+            {RationalRoots, RadicalRoots, NegativeLeadingTerm},
             {TheDiscriminant}};
   }
   void DrawProblem(RandomStream& random) override;
@@ -181,6 +225,7 @@ class TheQuadraticFormula final : public LessonScript {
   void ExplainProblem() override;
 
   void DrawChoices(RandomStream& random);
+  void TellAnswer() const;
 
   Quadratic equation_;
 };
@@ -215,11 +260,13 @@ void TheQuadraticFormula::DrawChoices(RandomStream& random) {
   const std::string lost = real ? "" : "loses the minus sign under the radical and ";
   Choices choices(problem, choice_kind::FiveShuffled, RootsText);
   choices.Right(RootsOf(-b, discriminant, 2 * a));
+  // 4ac with the wrong sign, or -5^2^ in place of (-5)^2^.
+  const bool signMistake = b * b + 4 * a * c < 0 || (b < 0 && -b * b - 4 * a * c < 0);
   if (real)
-    choices.Wrong("takes the discriminant to be negative", {});
+    choices.Wrong(signMistake ? "gets a negative discriminant by a sign mistake" : kFiller, {});
   else
     choices.Wrong("loses the minus sign under the radical", RootsOf(-b, under, 2 * a));
-  choices.Wrong(lost + "keeps the sign of b", RootsOf(b, under, 2 * a));
+  choices.Wrong(lost + "puts b where -b belongs", RootsOf(b, under, 2 * a));
   choices.Wrong("adds 4ac", RootsOf(-b, b * b + 4 * a * c, 2 * a));
   if (radicalAlone)
     choices.Wrong(lost + "divides only the radical by 2a", RootsOf(-2 * a * b, under, 2 * a));
@@ -248,7 +295,19 @@ void TheQuadraticFormula::ExplainProblem() {
   ProblemBanner();
   ReadOff(equation_);
   SolveWithFormula(equation_);
-  Conclude(problem);
+  TellAnswer();
+}
+
+void TheQuadraticFormula::TellAnswer() const {
+  const Roots roots = RootsOf(-equation_.b, equation_.Discriminant(), 2 * equation_.a);
+  if (!roots) {
+    Say(Text(R"(So this is the answer:  \y{}\z.)", RootsText(roots)));
+  } else if (roots->Rational()) {
+    CheckRoot(equation_);
+    Conclude(problem);
+  } else {
+    ShowRoots("The answer is ", *roots, ".");
+  }
 }
 
 const LessonRegistration<TheQuadraticFormula> kRegistration("The Quadratic Formula");

@@ -68,11 +68,13 @@ void AddMistakes(const Quadratic& q, Reading& reading) {
   const auto name = [&](const std::string& mistake) {
     return lost.empty() ? mistake : lost + " and " + mistake;
   };
-  if (real)
-    reading.mistakes["takes the discriminant to be negative"] = {kNoRealRoots};
-  else
-    reading.mistakes[lost] = {RootsText(-q.b, under, 2 * q.a)};
-  reading.mistakes[name("keeps the sign of b")] = {RootsText(q.b, under, 2 * q.a)};
+  // The sign of 4ac is wrong, or b^2^ of a negative b is taken to be negative.
+  const bool signMistake =
+      q.b * q.b + 4 * q.a * q.c < 0 || (q.b < 0 && -q.b * q.b - 4 * q.a * q.c < 0);
+  if (real && signMistake)
+    reading.mistakes["gets a negative discriminant by a sign mistake"] = {kNoRealRoots};
+  if (!real) reading.mistakes[lost] = {RootsText(-q.b, under, 2 * q.a)};
+  reading.mistakes[name("puts b where -b belongs")] = {RootsText(q.b, under, 2 * q.a)};
   reading.mistakes[name("forgets to divide by 2a")] = {RootsText(-q.b, under, 1)};
   reading.mistakes[name("divides only the radical by 2a")] = {
       RootsText(-2 * q.a * q.b, under, 2 * q.a)};

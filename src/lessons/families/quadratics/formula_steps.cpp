@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "display/grid.h"
+#include "display/stacked_text.h"
 #include "display/word_wrap.h"
 #include "engine/header.h"
 #include "engine/page.h"
@@ -40,6 +41,14 @@ void ShowSpread(double row, const std::string& square, const std::string& linear
   if (!linear.empty()) ShowAt(row, linear, kLinearColumn);
   if (!constant.empty()) ShowAt(row, constant, kConstantColumn);
   ShowAt(row, "= 0", kZeroColumn);
+}
+
+// "one, two and three".
+std::string Listed(const std::vector<std::string>& items) {
+  std::string list;
+  for (std::size_t i = 0; i < items.size(); ++i)
+    list += (i == 0 ? "" : i + 1 < items.size() ? ", " : " and ") + items[i];
+  return list;
 }
 
 void TurnIntoValue(const std::string& term, const std::string& letter, int value, int column) {
@@ -93,12 +102,15 @@ namespace {
 
 class FormulaSteps {
  public:
-  explicit FormulaSteps(const Quadratic& equation) : equation_(equation) {}
+  explicit FormulaSteps(const Quadratic& equation, Asked asked = Asked::Nothing)
+      : equation_(equation), asked_(asked) {}
   void ReadOff() const;
   void Solve() const;
+  void CheckRoot() const;
 
  private:
   void StartPage() const;
+  void ShowValues() const;
   void ShowNotes() const;
   void PutIn() const;
   void WorkOutDiscriminant() const;
@@ -107,7 +119,6 @@ class FormulaSteps {
   void SimplifyRadical() const;
   void ReduceRoots() const;
   void SplitRoots() const;
-  void CheckRoot() const;
 
   // What stands under the radical; b^2^ of 0 is left out as soon as it is worked out.
   std::string PutInDiscriminant() const {
@@ -127,6 +138,7 @@ class FormulaSteps {
   RootPair Answer() const { return *RootsOf(-equation_.b, Discriminant(), 2 * equation_.a); }
 
   const Quadratic equation_;
+  const Asked asked_;
 };
 
 void FormulaSteps::StartPage() const {
@@ -141,13 +153,9 @@ void FormulaSteps::Solve() const {
   WorkOutDiscriminant();
   if (Discriminant() < 0) return TellNoRealRoots();
   DiscriminantUnderRadical();
-  if (Answer().Rational()) {
-    SplitRoots();
-    CheckRoot();
-  } else {
-    SimplifyRadical();
-    ReduceRoots();
-  }
+  if (Answer().Rational()) return SplitRoots();
+  SimplifyRadical();
+  ReduceRoots();
 }
 
 // --- a, b and c ----------------------------------------------------------------------------------
@@ -181,15 +189,26 @@ void FormulaSteps::ReadOff() const {
   PageEnd();
 }
 
+void FormulaSteps::ShowValues() const {
+  const auto [a, b, c] = equation_;
+  ShowAt(6.5, Text(R"(\ya = {},  b = {},  c = {}\z)", a, b, c));
+}
+
 void FormulaSteps::PutIn() const {
   const auto [a, b, c] = equation_;
   StartPage();
-  ShowAt(6.5, Text(R"(\ya = {},  b = {},  c = {}\z)", a, b, c));
   ShowAt(9.5, QuadraticFormulaText());
-  const bool negative = a < 0 || b < 0 || c < 0;
-  SayAt(12, negative ? R"(\yNegative\z numbers go into \yparentheses\z.)"
-                     : "Now we put the numbers in.");
-  PageEnd();
+  if (asked_ == Asked::ValuesToo) {
+    SayAt(12, R"(\yTry it:\z  What are a, b and c?)");
+    PageEnd();
+    ShowValues();
+  } else {
+    ShowValues();
+    const bool negative = a < 0 || b < 0 || c < 0;
+    SayAt(12, negative ? R"(\yNegative\z numbers go into \yparentheses\z.)"
+                       : "Now we put the numbers in.");
+    PageEnd();
+  }
   const std::string minusB = b == 0 ? "0" : "-" + InParentheses(b);
   ShowAt(15, "x = (" + minusB + " " + tutor::PlusOrMinus + " `" + PutInDiscriminant() + "`)/(2" +
                  kTimes + InParentheses(a) + ")");
@@ -201,7 +220,11 @@ void FormulaSteps::WorkOutDiscriminant() const {
   const auto [a, b, c] = equation_;
   const int product = 4 * a * c;
   WhiteBox({17.5, 6});
-  SayInBox(R"(The number under the radical is called the \bdiscriminant\z:)");
+  if (asked_ == Asked::ValuesToo)
+    SayInBox(R"(\bTry it:\z  Find the discriminant.)");
+  else
+    SayInBox(R"(The number under the radical is called the \bdiscriminant\z)" +
+             std::string(asked_ == Asked::Nothing ? ":" : R"(.  \bTry it:\z  Find it.)"));
   SayInBox(PutInDiscriminant());
   PageEnd();
   std::string line = NumStr(b * b) + " - " + InParentheses(product);
@@ -220,13 +243,22 @@ void FormulaSteps::TellNoRealRoots() const {
   PageEnd();
 }
 
+// A square leaves the radical at once, another number on pages of its own.
 void FormulaSteps::DiscriminantUnderRadical() const {
   const auto [a, b, c] = equation_;
   StartPage();
   SayAt(kSimplifyRow, "Simplify the expression on the right side of the equation.");
-  const std::string twice = Text("2a is {}", 2 * a);
-  SayAt(9.5, b == 0 ? twice + ":" : Text("-b is {}, and {}:", -b, twice));
-  ShowAt(12, Unreduced(RadicalSignText(Discriminant())));
+  std::vector<std::string> values;
+  if (b != 0) values.push_back(Text("-b is {}", -b));
+  values.push_back(Text("2a is {}", 2 * a));
+  std::string line = Unreduced(RadicalSignText(Discriminant()));
+  if (Root().Whole()) {
+    const std::string spread = NumStr(Root().outside);
+    values.push_back(Text("{} is {}", Discriminant(), spread + "^2^"));
+    line += " = " + RootsOver(-b, spread, 2 * a);
+  }
+  SayAt(9.5, Listed(values) + ":");
+  ShowAt(12, line);
   PageEnd();
 }
 
@@ -243,40 +275,43 @@ void FormulaSteps::SimplifyRadical() const {
   }
   const std::string outside = NumStr(root.outside);
   const std::string radicand = outside + "^2^" + kTimes + NumStr(root.radicand);
-  SayAt(14.5,
-        Text(R"({} is {}, so \y{}\z can leave the radical.)", discriminant, radicand, outside));
-  constexpr double kRow = 17.5;
-  ShowAt(kRow, sign + " =    `" + radicand + "`");
+  SayAt(14, Text(R"({} is {}, so \y{}\z can leave the radical.)", discriminant, radicand, outside));
+  constexpr double kRow = 16.5;
+  const std::string line = sign + " = `" + radicand + "`";
+  ShowAt(kRow, line);
   PageEnd();
-  // Under the radical to its left side: the sign stands four columns behind the first blank.
+  // A copy of the number under the radical goes to the end of the line.
   const auto width = static_cast<double>(outside.size());
-  const double start = 3 + static_cast<double>(sign.size()) + 6;
-  CarryAcross(kRow, start, width, -width - 1);
-  ClearCells(kRow - 0.6, 1, 40, 2);
-  ShowAt(kRow, sign + " = " + RadicalText(root));
-  ShowAt(20.5, Unreduced(RadicalText(root)));
+  const double start = 3 + StackedTextWidth(sign + " = ") + 1;
+  const double end = 3 + StackedTextWidth(line) + 3;
+  SlideDown({kRow, start, width}, 1.5, Leaving::Copy);
+  SlideRight({kRow + 1.5, start, width}, end - start);
+  SlideUp({kRow + 1.5, end, width}, 1.5);
+  ShowAt(kRow, line + " = " + RadicalText(root));
+  ShowAt(19.5, Unreduced(RadicalText(root)));
   PageEnd();
 }
 
 void FormulaSteps::ReduceRoots() const {
   const auto [a, b, c] = equation_;
-  const int outside = Root().outside;
+  const Radical root = Root();
   const int common = 2 * a / Answer().den;
-  if (common == 1) return;
-  if (outside == 1) PageEnd();  // the radical was told to stay
+  if (common == 1 && root.outside == 1) return;
+  if (root.outside == 1) PageEnd();  // the radical was told to stay
   StartPage();
-  ShowAt(8, Unreduced(RadicalText(Root())));
+  ShowAt(8, Unreduced(RadicalText(root)));
+  if (common == 1) return;
   if (common == -1) {
-    Say("We divide by -1 to make the denominator positive.");
+    Say(R"(We divide the numerator and the denominator by \y-1\z.)");
   } else {
-    const std::string first = b == 0 ? NumStr(outside) : Text("{}, {}", -b, outside);
-    Say(Text(R"(We divide {} and {} by \y{}\z:)", Words{first}, 2 * a, common));
+    const std::string first = b == 0 ? NumStr(root.outside) : Text("{}, {}", -b, root.outside);
+    Say(Text(R"(We divide the numbers outside the radical, {} and {}, by \y{}\z.)", Words{first},
+             2 * a, common));
+    if (common > 0) AddLine(Text("The {} under the radical stays.", root.radicand));
   }
-  if (common < 0) {
-    Say(R"(\y)" + tutor::PlusOrMinus + R"(\z stands for both signs, so it stays.)");
-    PageEnd();
-  }
-  Show("x = " + RootsText(Answer()));
+  if (common < 0) Say("+ becomes - and - becomes +, so " + tutor::PlusOrMinus + " stays.");
+  if (asked_ == Asked::Nothing) PageEnd();
+  ShowRoots("  x = ", Answer());
 }
 
 // --- Rational roots ------------------------------------------------------------------------------
@@ -299,24 +334,15 @@ std::string FormulaSteps::OneRoot(int spread) const {
 void FormulaSteps::SplitRoots() const {
   const int spread = Root().outside;
   if (spread == 0) {
-    SayAt(14.5, "The square root of 0 is 0, so both signs give the same number:");
+    SayAt(14.5, "Adding 0 and subtracting 0 give the same number:");
     Show(OneRoot(0));
     PageEnd();
     return;
   }
-  SayAt(14.5, Text("{} is {}, so its square root is {}:", Discriminant(), NumStr(spread) + "^2^",
-                   spread));
-  constexpr double kRow = 17.5;
-  constexpr double kTop = 9;  // of what moves to the next step
-  ShowAt(kRow, Unreduced(NumStr(spread)));
-  PageEnd();
-  SlideUp(WholeRows(kRow - 1.5, 4), kRow - kTop);
-  ClearBelow(kTop + 2);
-  ClearCells(6.5, 1, 40, kTop - 1.5 - 6.5);
-  SayAt(12, R"(We take \y+\z first:)");
-  ShowAt(14.5, OneRoot(spread));
-  SayAt(17, R"(Then we take \y-\z:)");
-  ShowAt(19.5, OneRoot(-spread));
+  SayAt(14.25, R"(We take \y+\z first:)");
+  ShowAt(16.75, OneRoot(spread));
+  SayAt(19.25, R"(Then we take \y-\z:)");
+  ShowAt(21.75, OneRoot(-spread));
   PageEnd();
 }
 
@@ -367,18 +393,37 @@ void FormulaSteps::CheckRoot() const {
   }
   Say("Simplify the left and right sides of the equation.");
   PageEnd();
-  Show(InsertedValues(root));
-  Show("0 = 0");
+  GoBelow();
+  const std::string values = InsertedValues(root);
+  Show(values);
+  const std::string end = "0 = 0";
+  Show(end, kMathCol + StackedTextWidth(values) - StackedTextWidth(end));
 }
 
 }  // namespace
+
+void ShowRoots(const std::string& words, const RootPair& roots, const std::string& end) {
+  const std::string text = RootsText(roots);
+  const double row = RowBelow() + (text.find('/') == std::string::npos ? 0.5 : 1);
+  const auto behindWords = static_cast<double>(words.size()) + 1;
+  ShowAt(row, words, 1);
+  SetColor(platform::colour::Yellow);
+  ShowAt(row, text, behindWords);
+  SetColor(platform::colour::White);
+  if (!end.empty()) ShowAt(row, end, behindWords + StackedTextWidth(text));
+  GoBelow();
+}
 
 void ReadOff(const Quadratic& equation) {
   FormulaSteps(equation).ReadOff();
 }
 
-void SolveWithFormula(const Quadratic& equation) {
-  FormulaSteps(equation).Solve();
+void SolveWithFormula(const Quadratic& equation, Asked asked) {
+  FormulaSteps(equation, asked).Solve();
+}
+
+void CheckRoot(const Quadratic& equation) {
+  FormulaSteps(equation).CheckRoot();
 }
 
 }  // namespace course::quadratics

@@ -1,6 +1,6 @@
 // The steps in which the quadratic formula solves an equation, page by page: its coefficients are
 // read off and put in, the discriminant is worked out in the white box, the fraction is simplified,
-// and rational roots are put back.  The equation stands in view on every page.  The lesson shows
+// and a rational root is put back.  The equation stands in view on every page.  The lesson shows
 // the steps for its examples on teaching screens, and for a problem in its explanation.
 #pragma once
 
@@ -27,10 +27,19 @@ void TurnTermsIntoValues(const Quadratic& equation);
 // are negative, and comes back into the row.  The row below is free.
 void CarryAcross(double row, double column, double width, double columns);
 
+// The words in white, and behind them the roots in yellow, built up and with bars over their
+// radicals.
+void ShowRoots(const std::string& words, const RootPair& roots, const std::string& end = "");
+
 // The page on which a, b and c are read off, under its heading.
 void ReadOff(const Quadratic& equation);
-// The steps from there to the roots, or to no real ones, on new screens.  What concludes goes on
-// below the last line.
-void SolveWithFormula(const Quadratic& equation);
+
+// What the student is asked on the way; an explanation asks nothing.
+enum class Asked { Nothing, Discriminant, ValuesToo };
+// The steps from there to the roots, or to no real ones, on new screens.  What comes next goes on
+// below the last line, and on a new screen behind rational roots.
+void SolveWithFormula(const Quadratic& equation, Asked asked = Asked::Nothing);
+// One of the rational roots is put back, on a new screen.
+void CheckRoot(const Quadratic& equation);
 
 }  // namespace course::quadratics
