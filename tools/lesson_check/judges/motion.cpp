@@ -131,6 +131,19 @@ class MistakeList {
                    const Rational& less = 0) {
     if (below != 0) Add(name, above / below - less);
   }
+  // One that is not whole is rounded, and the name tells it.
+  void AddRoundedQuotient(const std::string& name, const Rational& above, const Rational& below,
+                          const Rational& less) {
+    if (below == 0) return;
+    const Rational value = above / below - less;
+    const Rational half = value + Rational(1, 2);
+    mpz_class rounded;
+    mpz_fdiv_q(rounded.get_mpz_t(), half.get_num_mpz_t(), half.get_den_mpz_t());
+    if (value.get_den() == 1)
+      Add(name, value);
+    else
+      Add(name + " and rounds", Rational(rounded));
+  }
 
  private:
   Unit unit_;
@@ -220,10 +233,14 @@ void AddMistakesAtRate(const Motion& m, MistakeList& list) {
     list.Add("takes the smaller digit from the larger in each column",
              Slipped(Slip::DifferenceUpward, real, m.drift));
   if (hours.rest != 0) {
-    list.AddQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
-    list.AddQuotient("counts the minutes as a full hour", *m.distance, hours.full + 1, m.drift);
-    list.AddQuotient("reads the minutes as hundredths of an hour", *m.distance,
-                     hours.AsHundredths(), m.drift);
+    list.AddRoundedQuotient("leaves the minutes out", *m.distance, hours.full, m.drift);
+    list.AddRoundedQuotient("counts the minutes as a full hour", *m.distance, hours.full + 1,
+                            m.drift);
+    list.AddRoundedQuotient("reads the minutes as hundredths of an hour", *m.distance,
+                            hours.AsHundredths(), m.drift);
+  } else if (m.drift == 0) {
+    list.AddQuotient("counts one hour too many", *m.distance, time + 1);
+    list.AddQuotient("counts one hour too few", *m.distance, time - 1);
   }
 }
 

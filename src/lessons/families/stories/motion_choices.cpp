@@ -57,6 +57,11 @@ Fraction Filler(const Motion& motion, RandomStream& random) {
   return value;
 }
 
+// To the nearest whole number, halves up; not negative.
+Fraction Rounded(const Fraction& value) {
+  return Whole((2 * value.num + value.den) / (2 * value.den));
+}
+
 // --- Slips with digits ---------------------------------------------------------
 
 // The product digit by digit, of which each keeps its last one only: 47 x 6 = 242.
@@ -153,9 +158,19 @@ std::vector<MotionMistake> MistakesAtRate(const Motion& motion) {
     mistakes.push_back({"takes the smaller digit from the larger in each column",
                         Whole(DifferenceOfDigits(real, motion.drift))});
   if (read.HasMinutes()) {
-    if (read.fullHours.num > 0) mistakes.push_back({kLeavesMinutesOut, d / read.fullHours - drift});
-    mistakes.push_back({kCountsFullHour, d / read.OneMore() - drift});
-    mistakes.push_back({kAsHundredths, d / read.AsHundredths() - drift});
+    const auto add = [&](const std::string& mistake, const Fraction& hours) {
+      const Fraction found = d / hours - drift;
+      const bool whole = found.den == 1;
+      mistakes.push_back(
+          {whole ? mistake : mistake + " and rounds", whole ? found : Rounded(found)});
+    };
+    if (read.fullHours.num > 0) add(kLeavesMinutesOut, read.fullHours);
+    add(kCountsFullHour, read.OneMore());
+    add(kAsHundredths, read.AsHundredths());
+  } else if (motion.direction == 0) {
+    mistakes.push_back({"counts one hour too many", d / read.OneMore()});
+    if (read.whole.num > 1)
+      mistakes.push_back({"counts one hour too few", d / (read.whole - Whole(1))});
   }
   return mistakes;
 }
