@@ -25,23 +25,6 @@ void ShowRule(double row = kUnder) {
   RuleBox(kRuleHeading, {kRule}, {.row = row, .width = kRuleWidth});
 }
 
-// Bases over exponents of two powers and of their product: cells 1 to 6, row by row.
-constexpr double kTableSize = 16;  // points
-PrintCellTable PowersTable() {
-  constexpr double kLefts[] = {22, 48, 74};
-  constexpr double kTops[] = {29, 65};
-  const char* kHeads[] = {"First power", "Second power", "Product"};
-  const char* kRows[] = {"Base", "Exponent"};
-  PrintCellTable table;
-  table.heightPixels = 140;
-  for (const double top : kTops)
-    for (const double left : kLefts) table.cells.push_back({left, top, 23, 30});
-  for (int i = 0; i < 3; ++i)
-    table.labels.push_back({kLefts[i], 7, 23, 20, kHeads[i], 12, platform::colour::Red});
-  for (int i = 0; i < 2; ++i) table.labels.push_back({2, kTops[i] + 8, 19, 20, kRows[i], 12});
-  return table;
-}
-
 // What is multiplied, b being the base that stands twice:
 enum class Form {
   OneBase = 1,    // 3b^2 b^5
@@ -81,26 +64,16 @@ void CountingFactors() {
   SayAt(3, Text("What is {} times {}?  Let's write both powers out:", "b^3^", "b^4^"));
   UnfoldPowers({"b", 3}, {"b", 4}, 5.5);
   PageEnd();
-  SayAt(9.5, "The first power has 3 factors, the second one has 4.  Together there are 7:");
-  Show("b^3^" + tutor::Dot + "b^4^ = b^7^", kExpressionCol);
-  PageEnd();
 }
 
-// The table says in numbers what the factors have shown.
+// The table says in numbers what the factors show.
 void CompareBasesAndExponents() {
-  enum { kFirstBase = 1, kSecondBase, kProductBase, kFirstExponent, kSecondExponent, kSum };
-  using platform::colour::Black;
-  using platform::colour::Blue;
-  CellTable(PowersTable(), 13);
-  picPrintCellPrint(kFirstBase, "b", Black, kTableSize);
-  picPrintCellPrint(kSecondBase, "b", Black, kTableSize);
-  picPrintCellPrint(kFirstExponent, "3", Black, kTableSize);
-  picPrintCellPrint(kSecondExponent, "4", Black, kTableSize);
-  SayAt(19.5, R"(\yTry it:\z  What belongs in the last column?)");
+  SayAt(9.5, "The first power has 3 factors, the second one has 4.  How many are there together?");
+  ShowPowersTable({"b", 3}, {"b", 4}, 13);
   PageEnd();
-  picPrintCellPrint(kProductBase, "b", Blue, kTableSize);
-  picPrintCellPrint(kSum, "7", Blue, kTableSize);
-  SayAt(22, R"(The base \ystays\z, the exponents are \yadded\z.)");
+  FillInProduct({"b", 7});
+  SayAt(19.5, Text(R"(Together there are 7:  \y{}\z)", "b^3^" + tutor::Dot + "b^4^ = b^7^"));
+  Say(R"(The base \ystays\z, the exponents are \yadded\z.)");
   PageEnd();
 }
 
@@ -113,18 +86,23 @@ void TheRule() {
   PageEnd();
   SayAt(13, "The base may be a number.  It stays:");
   PaperBox({"5^2^ " + tutor::Times + " 5^4^ = 5^6^,  " + R"(\rnot 25^6^\z)"});
+  Say(Text("{} is 5 as a factor 6 times.", JoinedByTimes({"5", "5", "5", "5", "5", "5"})));
   PageEnd();
-  WhiteBox();
-  SayInBox("Why do we not multiply 3 by 4 here?");
+
+  NewScreen();
+  ShowRule(3);
+  WhiteBox({.row = 7, .rows = 9});
+  SayInBox("Why do we not multiply the exponents 3 and 4?");
   SayInBox(" 2^3^ " + tutor::Times + " 2^4^ = 8 " + tutor::Times + " 16 = 128");
   PageEnd();
-  SayInBoxAnew("The sum 3 + 4 fits, the product does not:");
+  SayInBox("The sum 3 + 4 fits, the product does not:");
   SayInBox(R"( \b2^7^ = 128\z,  but 2^12^ = 4096)");
   PageEnd();
   SayInBoxAnew(R"(\bTry it:\z  What is k^5^)" + tutor::Dot + "k^3^?");
   PageEnd();
   SayInBox("The base stays k, and 5 + 3 = 8:");
   SayInBox(" k^5^" + tutor::Dot + R"(k^3^ = \bk^8^\z)");
+  SayInBox(Text(R"(Watch out:  \r{}\z leaves out the 3 factors of {}.)", "k^5^", "k^3^"));
   PageEnd();
 }
 
@@ -133,7 +111,7 @@ void NumberInFront() {
   SayAt(3, "A number in front stays as it is:");
   Show("6b^2^" + tutor::Dot + "b^5^ = 6b^7^", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The bases are not added.  We do not get 2b:)");
+  Say(R"(\yWatch out:\z  b and b do not make 2b, so the 6 is not doubled:)");
   PaperBox({"6b^2^" + tutor::Dot + R"(b^5^ = 6b^7^,  \rnot 12b^7^\z)"});
   PageEnd();
   Say("The rule needs equal bases.  With different ones nothing can be added:");
@@ -151,7 +129,7 @@ void BringLetterForward(double row) {
   constexpr double kLetter = kExpressionCol + 4;
   constexpr double kDrop = 1.48;  // rows; whole pixels
   ShowAt(row, "4b^2^" + tutor::Dot + R"(\ya\z)" + tutor::Dot + "b^3^", kExpressionCol);
-  ShowAt(row + kDrop, "4", kExpressionCol);
+  ShowAt(row + kDrop, "= 4", kExpressionCol - 2);
   SlideDown({row, kLetter, 1}, kDrop, Leaving::Copy);
   SlideLeft({row + kDrop, kLetter, 1}, 3);
   ShowAt(row + kDrop, tutor::Dot + "b^2^" + tutor::Dot + R"(b^3^ = 4ab^5^)", kExpressionCol + 2);
@@ -164,13 +142,20 @@ void OtherLetters() {
   PageEnd();
   Say(R"(\yWatch out:\z  Only b gets the sum.  There is still one factor a.)");
   PageEnd();
-  Say(R"(A \cbare letter\z has no exponent.  It is a factor once, so its exponent is 1:)");
+  NewScreen();
+  SayAt(
+      3,
+      R"(A \cbare letter\z is written without an exponent.  It is a factor once, so its exponent )"
+      "is 1:");
   Show("c^4^" + tutor::Dot + "c = c^4^" + tutor::Dot + "c^1^ = c^5^", kExpressionCol);
   PageEnd();
+  Say("We write the number first, then the letters in the order of the alphabet.");
   Say(R"(\yTry it:\z  Simplify  )" + JoinedByDots({"3n^2^", "d^4^", "n"}) + ".");
   PageEnd();
-  Say(R"(The exponents of n are 2 and 1, and d keeps its own.  We get  \y3d^4^n^3^\z.)");
-  Say("The last n is no factor d, so it does not change the 4.");
+  Say(R"(The exponents of n are 2 and 1.  The last n is not a factor d, so d keeps the exponent 4:)");
+  Show(JoinedByDots({"3n^2^", "d^4^", "n"}) + " = " + JoinedByDots({"3d^4^", "n^2^", "n"}) +
+           R"( = \y3d^4^n^3^\z)",
+       kExpressionCol);
   PageEnd();
 }
 
@@ -358,8 +343,8 @@ void MultiplyingWithExponents::BringTogether() {
     PageEnd();
   }
   Say("The order of factors does not matter, so we bring the powers of " + base_ + " together:");
-  Show(Front() + tutor::Dot + R"(\y)" + PowerText(First()) + tutor::Dot + PowerText(Second()) +
-           R"(\z)",
+  Show(Expression() + " = " + Front() + tutor::Dot + R"(\y)" + PowerText(First()) + tutor::Dot +
+           PowerText(Second()) + R"(\z)",
        kExpressionCol);
   PageEnd();
 }
@@ -380,7 +365,9 @@ void MultiplyingWithExponents::AddExponents() {
   Say("We keep the base and add the exponents:");
   SlideExponentsTogether(First(), Second(), 12);
   PageEnd();
-  Say(R"(The exponent of the final result is \c)" + NumStr(Sum()) + R"(\z.)");
+  // A result of two letters has two exponents.
+  const std::string whose = form_ == Form::OneBase ? "of the final" : "of " + base_ + " in the";
+  Say("The exponent " + whose + R"( result is \c)" + NumStr(Sum()) + R"(\z.)");
   PageEnd();
 }
 
@@ -391,7 +378,6 @@ void MultiplyingWithExponents::WriteResult() {
   else
     Say(number_ == 1 ? "So this is what we get:" : "The number stays in front:");
   Show(Expression() + " = " + RightText(problem), kExpressionCol);
-  PageEnd();
 }
 
 const LessonRegistration<MultiplyingWithExponents> kRegistration("Multiplying with Exponents");
