@@ -78,6 +78,8 @@ double RowsOf(const std::string& text, int lastCol = kScreenColumns) {
 // What "gets" leads to stands in the sentence, beside it, or on lines of its own below it.
 enum class Place { InLine, Beside, Below };
 
+enum class Shown { Question, Mathematics, Nothing };
+
 struct Told {
   std::string before;
   std::string value;
@@ -96,11 +98,14 @@ class MistakesPage {
     if (!problem.figure.empty()) question_.clear();
   }
 
-  // The question stands above the sentences, and a row between them, if there is room for it.
+  // The question stands above the sentences, and a row between them, if there is room for it;
+  // otherwise its mathematics alone, or nothing of it.
   void Draw() {
     constexpr double kRoom = kLastRow - kFirstRow + 1;
-    for (const bool withQuestion : {true, false}) {
-      if (!withQuestion) question_.clear();
+    const auto words = [](const std::string& line) { return !IsMath(line); };
+    for (const Shown shown : {Shown::Question, Shown::Mathematics, Shown::Nothing}) {
+      if (shown == Shown::Mathematics) std::erase_if(question_, words);
+      if (shown == Shown::Nothing) question_.clear();
       for (const double air : {1.0, 0.5}) {
         if (Rows(air) > kRoom) continue;
         return DrawWith(air);
