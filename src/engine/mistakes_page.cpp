@@ -106,9 +106,10 @@ class MistakesPage {
     for (const Shown shown : {Shown::Question, Shown::Mathematics, Shown::Nothing}) {
       if (shown == Shown::Mathematics) std::erase_if(question_, words);
       if (shown == Shown::Nothing) question_.clear();
-      for (const double air : {1.0, 0.5}) {
-        if (Rows(air) > kRoom) continue;
-        return DrawWith(air);
+      for (const bool onLastLine : {true, false}) {
+        onLastLine_ = onLastLine;
+        for (const double air : {1.0, 0.5})
+          if (Rows(air) <= kRoom) return DrawWith(air);
       }
     }
     platform::Stop("TellMistakes: no room for \"" + told_[0].before + "\" and what follows");
@@ -124,6 +125,9 @@ class MistakesPage {
       told_.push_back({"Someone who " + mistake.name + " gets", value, ""});
   }
 
+  // "gets" alone on a line would be lost.
+  static void BindLastWord(std::string& words) { words.replace(words.rfind(' '), 1, tutor::Gap); }
+
   // One built-up value puts all of them in a column of their own.
   void SetPlaces() {
     const bool builtUp =
@@ -132,6 +136,7 @@ class MistakesPage {
       const int width = WidthBeside(told.value);
       if (builtUp && width <= kWidestBeside) {
         told.place = Place::Beside;
+        if (told.after.empty()) BindLastWord(told.before);
         valueWidth_ = std::max(valueWidth_, width);
       } else if (builtUp || IsSentence(told.value) || told.value.size() > kLongestInLine) {
         told.place = Place::Below;
@@ -166,8 +171,20 @@ class MistakesPage {
     return IsMath(line) ? AirAt(line) + RowsOfMath(line) : RowsOf(line);
   }
 
-  double RowsOfBlock(const Told& told) const {
-    return std::max(RowsOf(told.before, LastColBeside()), RowsOfMath(told.value));
+  // Words and value side by side: the rows above either of them, and those of both together.
+  struct Block {
+    double words;
+    double value;
+    double rows;
+  };
+  // The value's middle row is that of "gets", the last one of the words, or that of them all.
+  Block BlockOf(const Told& told) const {
+    const double words = RowsOf(told.before, LastColBeside());
+    const double value = RowsOfMath(told.value);
+    const double toMiddle = onLastLine_ ? words - 1 : (words - 1) / 2;
+    const double down = toMiddle - (value - 1) / 2;
+    const double top = std::min(0.0, down);
+    return {-top, down - top, std::max(words, down + value) - top};
   }
   static double RowsOfValueBelow(const std::string& value) {
     return IsBuiltUp(value) ? RowsOfMath(value) : RowsOf(value, kScreenColumns - kMathCol + 1);
@@ -175,7 +192,7 @@ class MistakesPage {
   double RowsOfTold(const Told& told) const {
     if (told.place == Place::InLine) return RowsOf(told.before);
     const double after = told.after.empty() ? 0 : AirAt(told.value) + RowsOf(told.after);
-    if (told.place == Place::Beside) return RowsOfBlock(told) + after;
+    if (told.place == Place::Beside) return BlockOf(told).rows + after;
     return RowsOf(told.before) + RowsOfValueBelow(told.value) + after;
   }
 
@@ -207,10 +224,10 @@ class MistakesPage {
     if (told.place == Place::InLine) return Wrap(row, told.before);
     double next = row;
     if (told.place == Place::Beside) {
-      const double rows = RowsOfBlock(told);
-      Wrap(row + (rows - RowsOf(told.before, LastColBeside())) / 2, told.before, LastColBeside());
-      PrintMath(row + (rows - RowsOfMath(told.value)) / 2, ValueCol(told), told.value);
-      next += rows;
+      const Block block = BlockOf(told);
+      Wrap(row + block.words, told.before, LastColBeside());
+      PrintMath(row + block.value, ValueCol(told), told.value);
+      next += block.rows;
     } else {
       Wrap(row, told.before);
       next += RowsOf(told.before);
@@ -230,7 +247,8 @@ class MistakesPage {
 
   std::vector<std::string> question_;
   std::vector<Told> told_;
-  int valueWidth_ = 0;  // cells of the widest value beside a sentence
+  bool onLastLine_ = true;  // of its words stands a value beside them, not in their middle
+  int valueWidth_ = 0;      // cells of the widest value beside a sentence
 };
 
 }  // namespace
