@@ -6,6 +6,7 @@
 // numbers.
 #include "lessons/families/equations/equation_explanation.h"
 #include "lessons/families/equations/equation_machine.h"
+#include "lessons/families/equations/substitution.h"
 #include "lessons/families/graphs/interval_figure.h"
 #include "lessons/lesson.h"
 
@@ -44,46 +45,67 @@ void DrawLine() {
   }
 }
 
-// A number over the line, and the point under it.
-void MarkNumber(int value) {
-  ShowAtValue(kMarkerRow, value, NumStr(value), "y");
-  isDrawBullet(kLineRow - 0.7, LineColumn(value), platform::colour::Yellow);
+// A number over the line, and the point under it: yellow, or white where it came from.
+void MarkNumber(int value, platform::Colour colour = platform::colour::Yellow) {
+  ShowAtValue(kMarkerRow, value, NumStr(value), colour == platform::colour::Yellow ? "y" : "w");
+  isDrawBullet(kLineRow - 0.7, LineColumn(value), colour);
 }
 
-// Slides both numbers by the same distance, then writes what they have become.
-void SlideNumbers(int smaller, int larger, int distance) {
-  const double first = LineColumn(smaller) - 1;
-  const Cells markers = {kMarkerRow, first, LineColumn(larger) - first + 2, 1.8};
-  (distance < 0 ? SlideLeft : SlideRight)(markers, kColumnsPerUnit * std::abs(distance),
-                                          Leaving::Nothing, Pace::Brisk);
-  for (const int value : {smaller, larger}) {
-    ShowAtValue(kMarkerRow, value + distance, std::string(NumStr(value).size(), ' '));
-    MarkNumber(value + distance);
-  }
+void ShowTwoAndSix() {
+  DrawLine();
+  MarkNumber(2);
+  MarkNumber(6);
+}
+
+// An arrow over the numbers, and what it does at its tail.
+void DrawMove(double row, int from, int to, const std::string& label) {
+  constexpr double kNoteWidth = 2.2;  // columns
+  isDrawArrow1Segment(row, LineColumn(from), row, LineColumn(to), platform::colour::Yellow, "NA",
+                      "A");
+  Note(row + 0.1, LineColumn(from) + (to > from ? -kNoteWidth : 0.7), label);
+}
+
+// 2 and 6 stay, in white, beside what becomes of them.
+void ShowMoves(int ofTwo, int ofSix, const std::string& label) {
+  MarkNumber(2, platform::colour::White);
+  MarkNumber(6, platform::colour::White);
+  MarkNumber(ofTwo);
+  MarkNumber(ofSix);
+  DrawMove(9.3, 2, ofTwo, label);
+  DrawMove(8.3, 6, ofSix, label);
+}
+
+// Both numbers slide by the same distance.
+void SlideNumbers(int distance, const std::string& label) {
+  const double first = LineColumn(2) - 1;
+  const double width = LineColumn(6) - first + 2;
+  (distance < 0 ? SlideLeft : SlideRight)({kMarkerRow, first, width, 1.8},
+                                          kColumnsPerUnit * std::abs(distance), Leaving::Nothing,
+                                          Pace::Brisk);
+  ClearCells(kMarkerRow, LineColumn(2 + distance) - 1, width, 1);
+  ShowMoves(2 + distance, 6 + distance, label);
 }
 
 void AddingKeeps() {
   NewScreen();
-  Say(
-      Text("An inequality such as  {}  is solved in the steps of an equation.  But does its symbol "
-           "stay the same?",
-           "x + 5 < 8"));
+  Say("An inequality is solved with the same steps as an equation.  But does its symbol stay the "
+      "same?");
   PageEnd();
-  Say(Text(R"(In  {}  the 2 lies \yleft of\z the 6.)", "2 < 6"));
-  DrawLine();
-  MarkNumber(2);
-  MarkNumber(6);
-  PageEnd();
+  Say(Text(R"(2 lies \yto the left\z of 6:  {})", "2 < 6"));
+  ShowTwoAndSix();
   SayAt(15, "We add 3 to both.  Which one is smaller?");
-  SlideNumbers(2, 6, 3);
   PageEnd();
-  SayAt(17,
-        Text(R"(Still the left one:  {}  Then we subtract 10.  What comes out?)", R"(5 \y<\z 9.)"));
+  SlideNumbers(3, "+3");
+  SayAt(16.5,
+        Text("Still the left one:  {}  And when we subtract 7 from 2 and 6?", R"(5 \y<\z 9.)"));
   PageEnd();
-  SayAt(20, Text("Both go the same way:  {}", R"(-5 \y<\z -1.)"));
-  SlideNumbers(5, 9, -10);
-  PageEnd();
-  SayAt(22, R"(By the \cAddition and Subtraction Properties for Inequalities\z the < stays.)");
+  ClearRows(8, 3.9);  // arrows and numbers
+  lblNotesHide(1);
+  lblNotesHide(2);
+  ShowTwoAndSix();
+  SlideNumbers(-7, "-7");
+  SayAt(19, Text("Both move the same way:  {}", R"(-5 \y<\z -1.)"));
+  Say(R"(By the \cAddition and Subtraction Properties for Inequalities\z the < stays.)");
   PageEnd();
 }
 
@@ -153,36 +175,56 @@ void FillRow(int row) {
   picPrintCellPrint(cell + 1, done.reverses ? "reversed" : "stays", colour, kCellFontSize);
 }
 
+// A page of the word box: what was done, and what comes next.
+void TellAndAsk(const std::string& told, const std::string& asked) {
+  SayInBoxAnew(told);
+  SayInBox(asked);
+  PageEnd();
+}
+
 void MultiplyingMayReverse() {
   NewScreen();
-  Say(Text("Now we multiply and divide  {}.", "2 < 6"));
+  Say(Text("Now we multiply both sides of  {}.", "2 < 6"));
   ShowMultiplications();
   OpenWordBox();
-  SayInBox("First we multiply by 3:  2 becomes 6, and 6 becomes 18.");
-  SayInBox("Which result is smaller?");
+  SayInBox("By 3:  2 becomes 6, and 6 becomes 18.");
+  SayInBox("Or we divide by 2:  1 and 3.");
+  SayInBox("Which side is smaller each time?");
   PageEnd();
   FillRow(0);
   FillRow(1);
-  SayInBoxAnew(R"(6 is smaller.  With a \bpositive\z number the smaller side stays smaller.)");
-  SayInBox("The symbol stays.");
-  PageEnd();
-  SayInBoxAnew("Now we multiply by -3:  2 becomes -6, and 6 becomes -18.");
-  SayInBox("Which result is smaller?");
-  PageEnd();
+  TellAndAsk(R"(The left one.  With a \bpositive\z number the symbol stays.)",
+             "Now we multiply by -3:  -6 and -18.  Which side is smaller?");
   FillRow(2);
+  TellAndAsk("-18 is smaller:  it lies to the left of -6.",
+             "Now we divide by -2:  2 becomes -1, and 6 becomes -3.  Which is smaller?");
   FillRow(3);
-  SayInBoxAnew("-18 is smaller:  it lies to the left of -6.");
-  SayInBox(R"(With a \bnegative\z number the sides change places.)");
+  SayInBoxAnew(Text(R"(-3 is smaller.  With a \bnegative\z number the smaller side becomes the )"
+                    "greater one, so the symbol is reversed:  {}.",
+                    "< becomes >"));
+  PageEnd();
+}
+
+void WhyItIsReversed() {
+  NewScreen();
+  SayAt(5, "Why is that?  We multiply 2 and 6 by -1.");
+  ShowTwoAndSix();
+  SayAt(15, "Where does each number go?");
+  PageEnd();
+  ShowMoves(-2, -6, tutor::Times + " (-1)");
+  SayAt(16.5, "Each number goes to the other side of 0.");
+  Say("2 was the left one; -2 is the right one.");
+  AddLine(Text("So  {}  becomes  {}", "2 < 6", R"(-2 \y>\z -6.)"));
   PageEnd();
 }
 
 void RuleOfReversing() {
   NewScreen();
-  Say("Equations do not have this rule:");
-  picGalleryImagePrepare(1, gallery::InequalityFlip, 5.5, 12);
+  picGalleryImagePrepare(1, gallery::InequalityFlip, 3, 12);
   picGalleryImageShow(1);
-  SayAt(14.5, Text("< becomes >, and {} becomes {}.", tutor::LessOrEqual, tutor::GreaterOrEqual));
-  AddLine(R"(\yWatch out:\z  no other minus sign counts.)");
+  SayAt(12.5, Text("When we reverse, < and > change into each other, and so do {} and {}.",
+                   tutor::LessOrEqual, tutor::GreaterOrEqual));
+  SayAt(15, R"(\yWatch out:\z  A minus sign in another place does not reverse the symbol.)");
   PageEnd();
 }
 
@@ -198,8 +240,8 @@ const Question kQuestions[] = {
 };
 
 void WhichIsReversed() {
-  constexpr double kFirstRow = 18.5;
-  SayAt(17, "Try it:  Which of these is reversed?");
+  constexpr double kFirstRow = 19;
+  SayAt(17.5, R"(\yTry it:\z  Which of these is reversed?)");
   double row = kFirstRow;
   for (const Question& question : kQuestions) ShowAt(row++, question.asked, 4);
   PageEnd();
@@ -210,81 +252,76 @@ void WhichIsReversed() {
   PageEnd();
 }
 
+// The first page of an example.
+EquationSheet BeginExample(const std::string& heading, const LinearStatement& inequality,
+                           const std::string& asked) {
+  EquationSheet sheet = SheetFor(inequality);
+  NewScreen();
+  Say(heading);
+  WriteStatement(sheet, inequality);
+  OpenWordBox();
+  SayInBox(asked);
+  PageEnd();
+  return sheet;
+}
+
+void TryNumber(const LinearStatement& inequality, int value) {
+  SayInBoxAnew(Text(
+      "{}  We put {} in place of x:", Words{IsTrueFor(inequality, value) ? "Yes." : "No."}, value));
+  SaySubstituted(inequality, value);
+  PageEnd();
+}
+
+void PositiveDivisor() {
+  const LinearStatement inequality = {"x", {4, -5}, "<", {0, 3}};
+  EquationSheet sheet = BeginExample("We solve an inequality step by step.", inequality,
+                                     "What do we add to both sides first?");
+  WriteAddition(sheet, AdditionsOf(inequality)[0]);
+  TellAndAsk(R"(We add \b+5\z, and the < stays.)", "What do we divide by?");
+  WriteDivision(sheet, IsolatedOf(inequality), "<");
+  sheet.WriteSolved("x", "<", "2");
+  sheet.MarkSolution();
+  TellAndAsk(R"(By \b4\z.  It is positive, so the < stays.)", "Is 1 a solution?");
+  TryNumber(inequality, 1);
+}
+
 void NegativeDivisor() {
   const LinearStatement inequality = {"x", {-2, 3}, tutor::GreaterOrEqual, {0, 11}};
   const std::string reversed = tutor::LessOrEqual;
-  EquationSheet sheet = SheetFor(inequality);
-  NewScreen();
-  Say("We solve an inequality step by step.");
-  WriteStatement(sheet, inequality);
-  OpenWordBox();
-  SayInBox("What do we add to both sides first?");
-  PageEnd();
+  EquationSheet sheet = BeginExample("Here x has a negative coefficient.", inequality,
+                                     "What do we add to both sides?");
   WriteAddition(sheet, AdditionsOf(inequality)[0]);
-  SayInBoxAnew(Text(R"(We add \b-3\z, and the {} stays.)", inequality.relation));
-  SayInBox("What do we divide by?");
-  PageEnd();
+  TellAndAsk(Text(R"(We add \b-3\z, and the {} stays.)", inequality.relation),
+             "What do we divide by?");
   WriteDivision(sheet, IsolatedOf(inequality), " ");
-  SayInBoxAnew(R"(By \b-2\z, the coefficient of x.)");
-  SayInBox(Text("What becomes of the {}?", inequality.relation));
-  PageEnd();
+  TellAndAsk(R"(By \b-2\z, the coefficient of x.)",
+             Text("What becomes of the {}?", inequality.relation));
   sheet.WriteRelation(reversed, platform::colour::Yellow);
   sheet.WriteSolved("x", reversed, "-4");
   sheet.MarkSolution();
-  SayInBoxAnew(Text(R"(-2 is \bnegative\z, so it becomes {}.)", reversed));
-  SayInBox("Is -5 a solution?");
-  PageEnd();
-  SayInBoxAnew("Yes.  We put -5 in place of x:");
-  SaySubstituted(inequality, -5);
-  PageEnd();
+  TellAndAsk(Text(R"(-2 is \bnegative\z, so the {} becomes {}.)", inequality.relation, reversed),
+             "Is -5 a solution?");
+  TryNumber(inequality, -5);
 }
 
 void LetterOnBothSides() {
-  const LinearStatement inequality = {"x", {2, 9}, ">", {5, -3}};
+  constexpr double kRowsToFraction = 7;
+  const LinearStatement inequality = {"x", {2, 9}, ">", {5, 2}};
   const std::vector<Addition> additions = AdditionsOf(inequality);
-  EquationSheet sheet = SheetFor(inequality);
-  NewScreen();
-  Say("Here the letter stands on both sides.");
-  WriteStatement(sheet, inequality);
-  OpenWordBox();
-  SayInBox("What removes 5x from the right side?");
-  PageEnd();
+  EquationSheet sheet = BeginExample("Here the letter stands on both sides.", inequality,
+                                     "What removes 5x from the right side?");
   WriteAddition(sheet, additions[0]);
-  SayInBoxAnew(R"(We add \b-5x\z to both sides.)");
-  SayInBox("What do we add next?");
-  PageEnd();
+  TellAndAsk(R"(We add \b-5x\z to both sides.)", "What do we add next?");
   WriteAddition(sheet, additions[1]);
-  SayInBoxAnew(R"(We add \b-9\z.  The > still stays.)");
-  SayInBox("Will it be reversed?");
-  PageEnd();
-  WriteDivision(sheet, IsolatedOf(inequality), "<");
-  sheet.WriteSolved("x", "<", "4");
+  TellAndAsk(R"(We add \b-9\z.  The > still stays.)", "Will it be reversed?");
+  sheet.MakeRoom(kRowsToFraction);
+  WriteDivision(sheet, IsolatedOf(inequality), " ");
+  sheet.WriteRelation("<", platform::colour::Yellow);
+  TellAndAsk(R"(Yes.  We divide by \b-3\z, so > becomes <.)", "Which mixed number is -7/(-3)?");
+  sheet.WriteSolved("x", "<", "2 1/3");
   sheet.MarkSolution();
-  SayInBoxAnew(R"(Yes.  We divide by \b-3\z, so > becomes <.)");
-  PageEnd();
-}
-
-void FractionAsBound() {
-  const LinearStatement inequality = {"x", {4, -5}, "<", {0, 1}};
-  EquationSheet sheet = SheetFor(inequality);
-  NewScreen();
-  Say("The answer can have a fraction.");
-  WriteStatement(sheet, inequality);
-  OpenWordBox();
-  SayInBox("What do we add?  What do we divide by?");
-  PageEnd();
-  WriteAddition(sheet, AdditionsOf(inequality)[0]);
-  WriteDivision(sheet, IsolatedOf(inequality), "<");
-  SayInBoxAnew(R"(We add \b+5\z and divide by \b4\z.)");
-  PageEnd();
-  sheet.WriteSolved("x", "<", "1 1/2");
-  sheet.MarkSolution();
-  SayInBoxAnew("In lowest terms 6/4 is 3/2, and that is 1 1/2.");
-  SayInBox("Is 1 a solution?");
-  PageEnd();
-  SayInBoxAnew("Yes.  We put 1 in place of x:");
-  SaySubstituted(inequality, 1);
-  PageEnd();
+  TellAndAsk("-7/(-3) is positive:  7/3, or 2 1/3.", "Is 3 a solution?");
+  TryNumber(inequality, 3);
 }
 
 // --- The lesson ------------------------------------------------------------
@@ -297,8 +334,8 @@ class SolvingInequalities final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{AddingKeeps, SolvingByAdding},
-            {MultiplyingMayReverse, RuleOfReversing, WhichIsReversed},
-            {NegativeDivisor, LetterOnBothSides, FractionAsBound}};
+            {MultiplyingMayReverse, WhyItIsReversed, RuleOfReversing, WhichIsReversed},
+            {PositiveDivisor, NegativeDivisor, LetterOnBothSides}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
