@@ -4,6 +4,7 @@
 // The right choice stands beside four misreadings of the same two ends, so that every box carries
 // both numbers and only symbols and "or" tell them apart.
 #include "lessons/families/graphs/interval_figure.h"
+#include "lessons/families/graphs/interval_text.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -11,7 +12,6 @@ namespace {
 
 using namespace graphs;
 
-constexpr double kOpenEnd = 0.1;  // added to a value whose point is left out
 constexpr double kOpenShare = 0.5;
 
 constexpr double kProblemGraphRow = 7.6;
@@ -19,61 +19,9 @@ constexpr double kExplanationGraphRow = 5.5;
 constexpr double kBelowExplainedGraph = 9;
 constexpr double kGraphCol = 3;
 
-// --- Texts of inequalities ---------------------------------------------------
+constexpr double kJoinedCol = 10;
 
-std::string Number(double end) {
-  return NumStr(WholeOf(end));
-}
-
-std::string Less(double end) {
-  return IsOpen(end) ? "<" : tutor::LessOrEqual;
-}
-
-std::string Greater(double end) {
-  return IsOpen(end) ? ">" : tutor::GreaterOrEqual;
-}
-
-std::string AtLeft(double low) {
-  return Number(low) + " " + Less(low) + " x";
-}
-
-std::string AtRight(double high) {
-  return "x " + Less(high) + " " + Number(high);
-}
-
-std::string FromLeft(double low) {
-  return "x " + Greater(low) + " " + Number(low);
-}
-
-// "-3 < x <= 5".
-std::string Between(double low, double high) {
-  return AtLeft(low) + AtRight(high).substr(1);
-}
-
-// "x < -3 or x >= 5".
-std::string Outside(double low, double high) {
-  return AtRight(low) + " or " + FromLeft(high);
-}
-
-// The same end with the other circle.
-double Flipped(double end) {
-  return IsOpen(end) ? WholeOf(end) : end + kOpenEnd;
-}
-
-// The second of two inequalities slides over the "and" until both share their x.
-void JoinAtX(double row, double low, double high) {
-  constexpr int kCol = 10;
-  const std::string gap = " and ";
-  const std::string left = AtLeft(low);
-  const std::string right = AtRight(high);
-  ShowAt(row, left + gap + right, kCol);
-  PageEnd();
-  const double rightCol = kCol + static_cast<double>(left.size() + gap.size());
-  SlideLeft({row, rightCol, static_cast<double>(right.size())},
-            static_cast<double>(gap.size()) + 1);
-}
-
-// --- Teaching screen, in eight parts -----------------------------------------
+// --- Teaching screen, in nine parts -----------------------------------------
 
 constexpr double kGraphRow = 3;  // where a page begins with its graph
 constexpr double kBelowGraph = 6.5;
@@ -98,21 +46,18 @@ void EitherWayRound() {
   Say(R"(x is greater than -3:  \yx > -3\z)");
   Say(R"(Or we begin with -3.  It is less than x:  \y-3 < x\z)");
   PageEnd();
-  Say(R"(x > -3 says \ythe same\z as -3 < x.  The wide side of the symbol is at x both times: x )"
-      "is greater.");
-  PageEnd();
+  Say(R"(Both say \ythe same\z:  the wide side of the symbol is at x.)");
   Say(Text(R"(\yTry it:\z  How do we write {} with 4 on the left?)",
            "x " + tutor::LessOrEqual + " 4"));
   PageEnd();
-  Say(Text("We write {}.  4 is greater than x or equal to it.",
-           "4 " + tutor::GreaterOrEqual + " x"));
+  Say(Text("We write {}.  4 is greater than or equal to x.", "4 " + tutor::GreaterOrEqual + " x"));
   PageEnd();
 }
 
 void BothAtOnce() {
   NewScreen();
-  SayAt(2.5, R"(A \ccompound inequality\z joins two simple inequalities.  It is also called a )"
-             R"(\ccomplex inequality\z.)");
+  SayAt(2.5, R"(A \ccompound inequality\z, or \ccomplex inequality\z, joins two simple ones with )"
+             R"(the word "\yand\z" or the word "\yor\z".)");
   DrawNumberLine(7.4, kGraphCol, 1);
   DrawGraphOnLine(-3 + kOpenEnd, kFarRight, 1);
   ShowAt(6.2, "x > -3", 5);
@@ -120,7 +65,6 @@ void BothAtOnce() {
   ShowAt(10.6, "x " + tutor::LessOrEqual + " 4", 5);
   DrawNumberLine(11.8, kGraphCol, 2);
   DrawGraphOnLine(4, kFarLeft, 2);
-  PageEnd();
   SayAt(15.2, R"(\yTry it:\z  Which numbers do \yboth\z cover?)");
   PageEnd();
   ShowAt(17, "x > -3 and x " + tutor::LessOrEqual + " 4", 5);
@@ -130,12 +74,17 @@ void BothAtOnce() {
 }
 
 void OneX() {
+  constexpr double kPairRow = 9;
   NewScreen();
   ShowSegment(-3 + kOpenEnd, 4);
   SayAt(kBelowGraph, "x > -3 says the same as -3 < x.  So we write:");
-  JoinAtX(9.5, -3 + kOpenEnd, 4);
-  Say("Now x is written only once.  We read:  -3 is less than x, and x is less than or equal to "
-      "4.");
+  ShowPair({kPairRow, kJoinedCol}, -3 + kOpenEnd, 4);
+  SayAt(12.5, R"(\yTry it:\z  How do we write x only once?)");
+  PageEnd();
+  JoinPair({kPairRow, kJoinedCol}, 2, -3 + kOpenEnd, 4);
+  SayAt(14,
+        "The two share their x.  We read:  -3 is less than x, and x is less than or equal to "
+        "4.");
   PageEnd();
   Say(R"(\yTry it:\z  How do we write "x is greater than 2 and less than 6" with one x?)");
   PageEnd();
@@ -144,35 +93,39 @@ void OneX() {
 }
 
 void ReadingTheEnds() {
-  const std::string orEqual = tutor::LessOrEqual;
   NewScreen();
   ShowSegment(-3 + kOpenEnd, 4);
   ShowAt(kBelowGraph, Between(-3 + kOpenEnd, 4), 14);
-  SayAt(8.5, R"(This graph is in \yone piece\z.  It shows the numbers \ybetween\z -3 and 4.)");
+  SayAt(7.8, R"(This graph is in \yone piece\z.  It shows the numbers \ybetween\z -3 and 4.)");
+  SayAt(10.1, R"(\yTry it:\z  Which end is left out?)");
   PageEnd();
-  Say(R"(The \yopen\z circle leaves -3 out, so the symbol beside -3 is \y<\z.)");
-  Say(Text(R"(The \yfilled\z circle takes 4 in, so the symbol beside 4 is \y{}\z.)", orEqual));
+  SayAt(11.4, R"(The \yopen\z circle leaves -3 out, so the symbol beside -3 is \y<\z.)");
+  SayAt(13.7, Text(R"(The \yfilled\z circle takes 4 in, so the symbol beside 4 is \y{}\z.)",
+                   tutor::LessOrEqual));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What changes in {} when both circles are filled?)",
-           Between(-3 + kOpenEnd, 4)));
+  SayAt(16, Text(R"(\yTry it:\z  What changes in {} when both circles are filled?)",
+                 Between(-3 + kOpenEnd, 4)));
   PageEnd();
-  Say(Text(R"(Now -3 is taken in, too:  \y{}\z.)", Between(-3, 4)));
+  ShowSegment(-3, 4, 18.5, 2);
+  SayAt(22.2, Text(R"(Now -3 is taken in, too:  \y{}\z.)", Between(-3, 4)));
   PageEnd();
 }
 
 void WhichWay() {
+  const double low = -3 + kOpenEnd;
   NewScreen();
-  ShowSegment(-3 + kOpenEnd, 4);
-  ShowAt(kBelowGraph, Between(-3 + kOpenEnd, 4), 14);
+  ShowSegment(low, 4);
+  ShowAt(kBelowGraph, Between(low, 4), 14);
   SayAt(8.5,
         "The smaller number stands on the left, as it does on the number line.  Both symbols "
         "point to the left.");
   PageEnd();
-  Say(R"(\yWatch out:\z  Do not reverse the symbols.)");
-  PaperBox({Text(R"(\r-3 > x {} 4\z)", tutor::GreaterOrEqual)});
-  Say(R"(\yTry it:\z  Is there a number that is less than -3 and also 4 or more?)");
+  Say(R"(\yWatch out:\z  With the smaller number on the left, no symbol is reversed.)");
+  PaperBox({R"(\r)" + BetweenReversed(low, 4) + R"(\z)"});
+  Say(R"(\yTry it:\z  Which number makes this true?)");
   PageEnd();
-  Say("No.  A number less than -3 is always less than 4.  The inequality on paper has no graph.");
+  Say(Text("None.  A number less than -3 is always less than 4.  So {} has no graph.",
+           BetweenReversed(low, 4)));
   PageEnd();
 }
 
@@ -206,9 +159,23 @@ void TryNumbers() {
   Say(Text(R"(5 is.  {} is false, but 5 > 3 is true, and \yone of the two is enough\z.)",
            "5 " + orEqual + " -2"));
   PageEnd();
-  Say(Text(R"(\yWatch out:\z  {} shows the numbers between the arrows.  This graph leaves them )"
-           "out, as it does 0.",
+  Say(Text(R"(\yWatch out:\z  {} is one piece.  It covers 0, and this graph does not.)",
            Between(-2, 3 + kOpenEnd)));
+  PageEnd();
+}
+
+void EveryNumber() {
+  NewScreen();
+  ShowTwoArrows(-2, 3 + kOpenEnd);
+  ShowAt(kBelowGraph, Outside(-2, 3 + kOpenEnd), 12);
+  SayAt(8.5, "Someone reverses both symbols:");
+  PaperBox({R"(\r)" + OutsideReversed(-2, 3 + kOpenEnd) + R"(\z)"});
+  Say(R"(\yTry it:\z  Which numbers does the inequality on paper cover?)");
+  PageEnd();
+  DrawNumberLine(15, kGraphCol, 2);
+  DrawOnLine({GraphItem(-2, kFarRight), GraphItem(3 + kOpenEnd, kFarLeft)}, 2);
+  SayAt(18.5, R"(\yEvery number\z is -2 or greater, or less than 3.)");
+  Say(R"(\yWatch out:\z  The symbols of two arrows are not reversed either.)");
   PageEnd();
 }
 
@@ -217,11 +184,11 @@ void WriteOneYourself() {
   ShowSegment(-5, 1 + kOpenEnd);
   SayAt(kBelowGraph, R"(\yTry it:\z  Which inequality has this graph?)");
   PageEnd();
-  Say("x is in the middle of one piece.  -5 is taken in and 1 is left out:");
+  Say("One piece:  x stands in the middle.  -5 is taken in and 1 is left out:");
   ShowAt(NextRow() + 0.5, Between(-5, 1 + kOpenEnd), 14);
   PageEnd();
-  ShowTwoArrows(kOpenEnd, 6, 13.4, 2);
-  SayAt(17, R"(\yTry it:\z  And which one has this graph?)");
+  ShowTwoArrows(kOpenEnd, 6, 14.3, 2);
+  SayAt(17.8, R"(\yTry it:\z  And which one has this graph?)");
   PageEnd();
   Say(R"(Two pieces need the word "or".  0 is left out and 6 is taken in:)");
   ShowAt(NextRow() + 0.5, Outside(kOpenEnd, 6), 12);
@@ -237,7 +204,7 @@ class ComplexInequalities final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{EitherWayRound, BothAtOnce, OneX, ReadingTheEnds, WhichWay, OneOrTheOther, TryNumbers,
-             WriteOneYourself}};
+             EveryNumber, WriteOneYourself}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -248,6 +215,8 @@ class ComplexInequalities final : public LessonScript {
   void ExplainPieces();
   void ExplainEnd(double end, bool isLow);
   void JoinEnds();
+  std::string InPlaceOfX(const std::string& number) const;
+  void CheckOneBetween();
   void CheckEnds();
 
   bool union_ = false;  // two arrows; otherwise the segment between the ends
@@ -293,12 +262,10 @@ void ComplexInequalities::DrawProblem(RandomStream& random) {
     problem.Wrong(3, "reads the right circle the wrong way", right(low_, Flipped(high_)));
   if (union_) {
     problem.Wrong(4, "takes the numbers between the arrows", Between(low_, high_));
-    problem.Wrong(5, "reverses both symbols", FromLeft(low_) + " or " + AtRight(high_));
+    problem.Wrong(5, "reverses both symbols", OutsideReversed(low_, high_));
   } else {
     problem.Wrong(4, "takes the numbers outside the ends", Outside(low_, high_));
-    problem.Wrong(
-        5, "reverses both symbols",
-        Number(low_) + " " + Greater(low_) + " x " + Greater(high_) + " " + Number(high_));
+    problem.Wrong(5, "reverses both symbols", BetweenReversed(low_, high_));
   }
   if (union_)
     problem.figure = {GraphItem(low_, kFarLeft), GraphItem(high_, kFarRight)};
@@ -325,6 +292,9 @@ void ComplexInequalities::ExplainProblem() {
   NewScreen();
   BeginExplanation();
   JoinEnds();
+  NewScreen();
+  BeginExplanation();
+  CheckOneBetween();
   CheckEnds();
   Conclude(problem);
 }
@@ -341,7 +311,7 @@ void ComplexInequalities::ExplainPieces() {
   PageEnd();
   AddLine(Text(union_ ? R"(In two: an arrow to the \yleft\z of {} and one to the \yright\z of {}.)"
                       : R"(In one: it shows the numbers \ybetween\z {} and {}.)",
-               Number(low_), Number(high_)));
+               EndText(low_), EndText(high_)));
   PageEnd();
 }
 
@@ -351,7 +321,7 @@ void ComplexInequalities::ExplainEnd(double end, bool isLow) {
   Say(Text(IsOpen(end)
                ? R"(The \yopen\z circle at {} leaves it out.  x is {} than {}:)"
                : R"(The \yfilled\z circle at {} takes it in.  x is {} than or equal to {}:)",
-           Number(end), Words{less ? "less" : "greater"}, Number(end)));
+           EndText(end), Words{less ? "less" : "greater"}, EndText(end)));
   if (less)
     AddLine(AtRight(end), {.col = 5});
   else if (union_)
@@ -362,27 +332,46 @@ void ComplexInequalities::ExplainEnd(double end, bool isLow) {
 }
 
 void ComplexInequalities::JoinEnds() {
-  constexpr double kJoinedRow = 12;
+  constexpr double kPairRow = 12;
+  constexpr double kDrop = 4;
   if (union_) {
     SayAt(kBelowExplainedGraph,
           R"(For every number of the graph one inequality \yor\z the other is true:)");
-    ShowAt(kJoinedRow, problem.choices[1].text, 10);
+    ShowAt(kPairRow, problem.choices[1].text, kJoinedCol);
   } else {
-    SayAt(kBelowExplainedGraph,
-          R"(For every number of the graph \yboth\z are true.  We write x only once:)");
-    JoinAtX(kJoinedRow, low_, high_);
+    SayAt(kBelowExplainedGraph, R"(For every number of the graph \yboth\z are true:)");
+    ShowPair({kPairRow, kJoinedCol}, low_, high_);
+    PageEnd();
+    JoinPair({kPairRow, kJoinedCol}, kDrop, low_, high_);
+    SayAt(kPairRow + kDrop / 2, "We write x only once:");
   }
+  PageEnd();
+}
+
+// The right choice with a number in place of each x.
+std::string ComplexInequalities::InPlaceOfX(const std::string& number) const {
+  std::string statement = problem.choices[1].text;
+  for (std::size_t at; (at = statement.find('x')) != std::string::npos;)
+    statement.replace(at, 1, number);
+  return statement;
+}
+
+// A number between the ends, which tells one piece from two, and reversed symbols from right ones.
+void ComplexInequalities::CheckOneBetween() {
+  const int low = WholeOf(low_);
+  const int high = WholeOf(high_);
+  const double between = low < 0 && high > 0 ? 0 : high - low > 1 ? low + 1 : low + 0.5;
+  ShowAt(kBelowExplainedGraph, problem.choices[1].text, kJoinedCol);
+  SayAt(11, Text(R"(\yCheck:\z  {} is {}on the graph.)", between, Words{union_ ? "not " : ""}));
+  AddLine(InPlaceOfX(NumStr(between)) + (union_ ? "  is false." : "  is true."), {.col = 3});
   PageEnd();
 }
 
 // Each end in place of x: the statement is true exactly when the circle is filled.
 void ComplexInequalities::CheckEnds() {
-  Say(R"(\yCheck:\z  We put each end in place of x.)");
+  Say("Then we put each end in place of x.");
   for (const double end : {low_, high_}) {
-    std::string statement = problem.choices[1].text;
-    for (std::size_t at; (at = statement.find('x')) != std::string::npos;)
-      statement.replace(at, 1, Number(end));
-    ShowAt(NextRow() + 0.5, statement);
+    ShowAt(NextRow() + 0.5, InPlaceOfX(EndText(end)));
     AddLine(
         IsOpen(end) ? "is false, and the circle is open." : "is true, and the circle is filled.",
         {.col = 3});
