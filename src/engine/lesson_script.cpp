@@ -138,7 +138,8 @@ void LessonScript::ExplainMistakes(const DrawnProblem& drawn) {
   const bool boxesStood = session.gMode == mode::Explanation ||
                           session.gMode == mode::LessonTestExplanation ||
                           session.gMode == mode::UnitTestExplanation;
-  if (boxesStood && TellsMistakes()) TellMistakes(drawn.problem, drawn.order, StudentsBox());
+  if (boxesStood && TellsMistakes())
+    TellMistakes(drawn.problem, drawn.order, StudentsBox(), FigureOfMistakes());
 }
 
 void LessonScript::ExampleEnd() {

@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/mistakes_page.h"
 #include "engine/problem.h"
 #include "mathkit/random_stream.h"
 
@@ -64,6 +65,8 @@ class LessonScript {
   // The worked explanation of the drawn problem, from a cleared screen on, page by page.  Most
   // lessons begin it with ProblemBanner.  Behind its last line the base waits.
   virtual void ExplainProblem() = 0;
+  // The figure that stays in view where the mistakes are told.
+  virtual MistakesFigure FigureOfMistakes() { return {}; }
   // Whether practice offers a picture of the rules.
   virtual bool OffersRules() const { return false; }
 

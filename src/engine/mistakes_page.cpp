@@ -89,7 +89,9 @@ struct Told {
 
 class MistakesPage {
  public:
-  MistakesPage(const Problem& problem, const std::vector<NamedMistake>& mistakes) {
+  MistakesPage(const Problem& problem, const std::vector<NamedMistake>& mistakes,
+               const MistakesFigure& figure)
+      : figure_(figure) {
     for (const NamedMistake& mistake : mistakes) Add(mistake);
     SetPlaces();
     for (const std::string& line : problem.question)
@@ -157,7 +159,7 @@ class MistakesPage {
   int LastColBeside() const { return ValueColumn() - kColumnGap; }
 
   double Rows(double air) const {
-    double rows = air * static_cast<double>(told_.size() - 1);
+    double rows = air * static_cast<double>(told_.size() - 1) + figure_.rows;
     for (const std::string& line : question_) rows += RowsOfQuestion(line);
     if (!question_.empty()) rows += 1;
     for (const Told& told : told_) rows += RowsOfTold(told);
@@ -199,7 +201,8 @@ class MistakesPage {
   void DrawWith(double air) const {
     NewScreen();
     ProblemBanner();
-    double row = kFirstRow;
+    double row = kFirstRow + figure_.rows;
+    if (figure_.rows > 0) figure_.draw(kFirstRow);
     for (const std::string& line : question_) {
       if (IsMath(line))
         PrintMath(row + AirAt(line), kMathCol, line);
@@ -245,6 +248,7 @@ class MistakesPage {
     Wrap(row, value, kScreenColumns, kMathCol);
   }
 
+  const MistakesFigure& figure_;
   std::vector<std::string> question_;
   std::vector<Told> told_;
   bool onLastLine_ = true;  // of its words stands a value beside them, not in their middle
@@ -253,10 +257,11 @@ class MistakesPage {
 
 }  // namespace
 
-void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox) {
+void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox,
+                  const MistakesFigure& figure) {
   const std::vector<NamedMistake> mistakes = NamedMistakes(problem, order, studentsBox);
   if (mistakes.empty()) return;
-  MistakesPage(problem, mistakes).Draw();
+  MistakesPage(problem, mistakes, figure).Draw();
   PageEnd();
 }
 

@@ -209,6 +209,7 @@ class ComplexInequalities final : public LessonScript {
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
+  MistakesFigure FigureOfMistakes() override;
 
   void DrawEnds(RandomStream& random);
   void BeginExplanation() const;
@@ -377,6 +378,14 @@ void ComplexInequalities::CheckEnds() {
         {.col = 3});
     PageEnd();
   }
+}
+
+MistakesFigure ComplexInequalities::FigureOfMistakes() {
+  constexpr double kRows = 3.5;
+  return {kRows, [this](double row) {
+            DrawNumberLine(row - 0.5, kGraphCol);
+            DrawOnLine(problem.figure);
+          }};
 }
 
 const LessonRegistration<ComplexInequalities> kRegistration("Complex Inequalities");
