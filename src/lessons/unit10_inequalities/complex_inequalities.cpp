@@ -357,14 +357,19 @@ std::string ComplexInequalities::InPlaceOfX(const std::string& number) const {
   return statement;
 }
 
+// 0 if it can be, else the next whole number, or the half one when there is none.
+std::string NumberBetween(int low, int high) {
+  if (low < 0 && high > 0) return "0";
+  if (high - low > 1) return NumStr(low + 1);
+  return low < 0 ? "-" + NumStr(-low - 1) + ".5" : NumStr(low) + ".5";
+}
+
 // A number between the ends, which tells one piece from two, and reversed symbols from right ones.
 void ComplexInequalities::CheckOneBetween() {
-  const int low = WholeOf(low_);
-  const int high = WholeOf(high_);
-  const double between = low < 0 && high > 0 ? 0 : high - low > 1 ? low + 1 : low + 0.5;
+  const std::string between = NumberBetween(WholeOf(low_), WholeOf(high_));
   ShowAt(kBelowExplainedGraph, problem.choices[1].text, kJoinedCol);
   SayAt(11, Text(R"(\yCheck:\z  {} is {}on the graph.)", between, Words{union_ ? "not " : ""}));
-  AddLine(InPlaceOfX(NumStr(between)) + (union_ ? "  is false." : "  is true."), {.col = 3});
+  AddLine(InPlaceOfX(between) + (union_ ? "  is false." : "  is true."), {.col = 3});
   PageEnd();
 }
 
