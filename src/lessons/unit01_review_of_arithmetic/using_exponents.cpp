@@ -18,31 +18,25 @@ using namespace powers;
 using arithmetic::SteppingDisplay;
 using platform::colour::Blue;
 
-constexpr int kLargestValue = 1000;       // of a power that is worked out by hand
-constexpr int kLargestWrongValue = 9999;  // longer ones would stand out
-
-// What the student reads, and what it is worth: two powers may be the same number.
-struct PowerChoice {
-  std::string text;
-  long long value = 0;
-  bool operator==(const PowerChoice& other) const { return value == other.value; }
-};
+constexpr int kLargestValue = 1000;  // of a power that is worked out by hand
 
 // --- Teaching screens --------------------------------------------------------
 
 void FoldingPaper() {
   NewScreen();
   SayAt(3, "Let's fold a strip of paper in half.");
-  PaperStrip strip(5, 5, 32);
   CellTable(TwoRows("Folds", "Layers", 5), 7.5);
   FillCells(1, {"1", "2", "3", "4", "5"});
   FillCells(6, {"2"});
+  PaperStrip strip(6, 3);
+  strip.Fold();
   SayAt(12.5, R"(\yTry it:\z  Each fold doubles the layers.  How many are there after 3 folds?)");
   PageEnd();
-  for (int folds = 1; folds <= 3; ++folds) strip.Fold();
+  strip.Fold();
+  strip.Fold();
   FillCells(7, {"4", "8"}, Blue);
   Say(Text(R"(There are \y8\z:  {})", FactorsOf(2, 3) + " = 8"));
-  Say(Text("And after 5 folds:  {}.  Is there a shorter way to write this?",
+  Say(Text("After 5 folds:  {}.  Is there a shorter way to write this?",
            FactorsOf(2, 5) + " = 32"));
   FillCells(9, {"16", "32"}, Blue);
   PageEnd();
@@ -51,7 +45,7 @@ void FoldingPaper() {
 void BaseAndExponent() {
   NewScreen();
   SayAt(3, R"(Numbers that are multiplied are \cfactors\z.  A \cpower\z is a short way to write )"
-           "equal factors:");
+           "a product of equal factors:");
   ShowAt(8.5, "2^5^ = " + FactorsOf(2, 5), 9);
   Note(6.5, 9.8, "the exponent: how many factors");
   isDrawArrow1Segment(7.5, 10, 8, 10, platform::colour::Yellow, "NA", "A");
@@ -69,17 +63,16 @@ void BaseAndExponent() {
 void ReadingAloud() {
   NewScreen();
   SayAt(3, Text(R"(How do we read a power?  {} is "two to the \yfifth\z power".)", PowerOf(2, 5)));
-  Say("Two exponents have names of their own.  How many small squares make this square?");
+  Say("The exponents 2 and 3 have names.  How many small squares make this square?");
   DrawNineSquares(8.5, 3);
   PageEnd();
-  SayAt(8.5, Text("{}:  3 rows have 3 squares each.", PowerOf(3, 2) + " = 9"), {.col = 12});
-  SayAt(10.5, R"(We read "three \csquared\z".)", {.col = 12});
+  SayAt(8.5, Text("{}:  3 rows of 3 squares.", PowerOf(3, 2) + " = 9"), {.col = 12});
+  Say(R"(The exponent 2 is read "\csquared\z":  "three squared".)", {.col = 12});
   PageEnd();
-  SayAt(13, "Three such layers make a cube:");
-  for (const double col : {3, 11, 19}) DrawNineSquares(14.5, col);
-  SayAt(14.5, PowerOf(3, 3) + " = 27", {.col = 27});
-  SayAt(16, R"("three \ccubed\z")", {.col = 27});
-  SayAt(19.5, Text(R"(\yTry it:\z  How do we read {} and {}?)", PowerOf(8, 2), PowerOf(10, 6)));
+  SayAt(13, Text("Three such layers make a cube:  {}", PowerOf(3, 3) + " = 27"));
+  DrawCube(16, 3);
+  SayAt(16, R"(The exponent 3 is read "\ccubed\z":  "three cubed".)", {.col = 12});
+  SayAt(20, Text(R"(\yTry it:\z  How do we read {} and {}?)", PowerOf(8, 2), PowerOf(10, 6)));
   PageEnd();
   Say(R"("Eight squared", and "ten to the sixth power".)");
   PageEnd();
@@ -109,8 +102,10 @@ void NotBaseTimesExponent() {
   AddLine(Text("Ben says:  {} is 512.", PowerOf(2, 9)));
   Say("Who is right?");
   PageEnd();
-  Say(Text("Ben is.  Ann has multiplied base and exponent, but {} has nine factors 2:",
-           PowerOf(2, 9)));
+  Say("Ben is.  5 folds already make 32 layers, so 18 is too small.  Four more doublings:  64, "
+      "128, 256, 512.");
+  PageEnd();
+  Say(Text("Ann multiplied the base by the exponent.  But {} has nine factors 2:", PowerOf(2, 9)));
   PaperBox({PowerOf(2, 9) + R"( = 512,  \rnot 2 )" + tutor::Times + R"( 9 = 18\z)"});
   Say(Text(R"(\yTry it:\z  Are {} and {} the same?)", PowerOf(2, 5), PowerOf(5, 2)));
   PageEnd();
@@ -122,7 +117,7 @@ void NotBaseTimesExponent() {
 
 void OneFactorLess() {
   NewScreen();
-  SayAt(3, "Here the exponent gets 1 less from cell to cell.  What happens to the value?");
+  SayAt(3, "From cell to cell the exponent goes down by 1.  What happens to the value?");
   CellTable(TwoRows("Power", "Value", 5), 6);
   FillCells(1, {"2^4^", "2^3^", "2^2^", "2^1^", "2^0^"});
   FillCells(6, {"16", "8", "4"});
@@ -133,16 +128,18 @@ void OneFactorLess() {
   PageEnd();
   FillCells(9, {"2", "1"}, Blue);
   ShowAt(19.5, "4/2 = 2     2/2 = 1");
-  Say("So one factor 2 is 2.  And think of the paper:  with 0 folds it has 1 layer.");
+  Say(Text("So {}, and {}.  The paper agrees:  with 0 folds it has 1 layer.",
+           PowerOf(2, 1) + " = 2", PowerOf(2, 0) + " = 1"));
   PageEnd();
 }
 
 void OneAndZero() {
   NewScreen();
-  SayAt(3, "It is the same with every base b but 0:");
-  RuleBox("The Exponents 1 and 0", {"b^1^ = b", "b^0^ = 1"}, {.width = 26});
+  SayAt(3, "It is the same with every other base b:");
+  RuleBox("The Exponents 1 and 0", {"b^1^ = b        b^0^ = 1  (b is not 0)"}, {.width = 38});
+  Say("0^0^ has no value:  we cannot divide by 0.");
   PageEnd();
-  Say(R"(\yWatch out:\z  The value is 1, not 0.)");
+  Say(R"(\yWatch out:\z  The value of b^0^ is 1, not 0.)");
   PaperBox({R"(5^0^ = 1,  \rnot 0\z,  \rnot 5\z)"});
   Say(Text(R"(\yTry it:\z  What are the values of {} and {}?)", PowerOf(9, 1), PowerOf(9, 0)));
   PageEnd();
@@ -166,7 +163,7 @@ void NegativeBase() {
   PageEnd();
   SayAt(20,
         R"(It is \ypositive\z.  6 is even, so the minus signs go in pairs.  When their number is )"
-        "odd, one is left over.");
+        "odd, one is left over, and the value is negative.");
   PageEnd();
 }
 
@@ -175,11 +172,12 @@ void MinusOutside() {
   SayAt(3, "What if there are no parentheses?");
   ShowAt(5, PowerOf(-3, 4), 8);
   ShowAt(5, "-3^4^", 27);
-  Note(6.6, 5, "the base is -3");
+  Note(6.6, 2, "parentheses make -3 one base");
   Note(6.6, 24, "the base is 3");
-  SayAt(8.5, R"(An exponent belongs to what stands \yright before\z it.)");
+  SayAt(8.5,
+        R"(An exponent belongs only to the number \yjust before\z it, not to the minus sign.)");
   PageEnd();
-  Say("Without parentheses the minus waits:");
+  Say("First the power, then the minus sign:");
   PaperBox({PowerOf(-3, 4) + " = " + FactorsOf(-3, 4) + " = 81",
             "-3^4^ = -(" + FactorsOf(3, 4) + ") = -81"});
   Say(Text(R"(\yTry it:\z  What are {} and {}?)", PowerOf(-5, 2), "-5^2^"));
@@ -201,8 +199,8 @@ void PowersOfTen() {
   PaperBox({R"(10^4^ = 10,000,  \rnot 40\z)"});
   Say(Text(R"(\yTry it:\z  What are {} and {}?)", PowerOf(10, 6), PowerOf(10, 0)));
   PageEnd();
-  Say(Text("{}, one million.  And {}:  no zero stands behind the 1.",
-           PowerOf(10, 6) + " = 1,000,000", PowerOf(10, 0) + " = 1"));
+  Say(Text("{}, one million.  And {}:  no zero comes after the 1.", PowerOf(10, 6) + " = 1,000,000",
+           PowerOf(10, 0) + " = 1"));
   Say(R"(\yTry it:\z  Which power of 10 is 100,000?)");
   PageEnd();
   Say(R"(It has five zeros:  \y10^5^\z)");
@@ -228,10 +226,7 @@ class UsingExponents final : public LessonScript {
   void ExplainProblem() override;
 
   bool IsWorthSolving() const;
-  int Value() const;
   std::string Expression() const;
-  void OfferValues(RandomStream& random);
-  void OfferPowers(RandomStream& random);
 
   void BeginExplanation() const;
   void ExplainBase() const;
@@ -241,21 +236,22 @@ class UsingExponents final : public LessonScript {
   void ExplainCounting() const;
 
   Kind kind_ = Kind::Value;
-  int base_ = 2;               // 2 to 9, or -9 to 9 but not -1, 0 or 1
-  int exponent_ = 2;           // 2 to 9, or 0 to 8
-  bool minusOutside_ = false;  // -3^4: the value has the other sign
+  NumberPower power_;  // base 2 to 9, or -9 to 9 but not -1, 0 or 1; exponent 2 to 9, or 0 to 8
 };
 
 // --- Generator ---------------------------------------------------------------
 
 bool UsingExponents::IsWorthSolving() const {
+  // Who multiplies 2 by 2, or takes one for the other, is right by accident.
+  if (power_.base == 2 && power_.exponent == 2) return false;
   if (kind_ == Kind::WriteAsPower) return true;
-  if (std::abs(base_) < 2) return false;  // 0^0 has no value, and 1 leaves nothing to multiply
-  return std::llabs(ValueOfPower(base_, exponent_)) <= kLargestValue;
+  // 0^0 has no value, and 1 leaves nothing to multiply.
+  if (std::abs(power_.base) < 2) return false;
+  return std::llabs(ValueOfPower(power_.base, power_.exponent)) <= kLargestValue;
 }
 
 // All four numbers are drawn whatever the kind, and two of them used.  Of the draws of the first
-// kind 42 % are accepted, of the second 49 %.
+// kind 41 % are accepted, of the second 49 %.
 void UsingExponents::DrawProblem(RandomStream& random) {
   kind_ = static_cast<Kind>(random.Rand(1, 3));
   do {
@@ -263,84 +259,23 @@ void UsingExponents::DrawProblem(RandomStream& random) {
     const int anyBase = random.Rand(-9, 9);
     const int anyExponent = 9 - random.Index(9);
     const int exponent = random.Index(8) + 1;
-    base_ = kind_ == Kind::Special ? anyBase : base;
-    exponent_ = kind_ == Kind::Special ? anyExponent : exponent;
+    power_.base = kind_ == Kind::Special ? anyBase : base;
+    power_.exponent = kind_ == Kind::Special ? anyExponent : exponent;
   } while (!IsWorthSolving());
   // A positive base gets a minus sign in front, so that -3^4 is as frequent as (-3)^4.
-  minusOutside_ = kind_ == Kind::Special && base_ > 0 && exponent_ > 1;
+  power_.minusOutside = kind_ == Kind::Special && power_.base > 0 && power_.exponent > 1;
 
   if (kind_ == Kind::WriteAsPower) {
     problem.question = {"Write this product as a power:", Expression()};
-    OfferPowers(random);
+    OfferPowers(problem, power_, random);
   } else {
     problem.question = {"What is the value of this expression?", Expression()};
-    OfferValues(random);
+    OfferValues(problem, power_, random);
   }
-}
-
-int UsingExponents::Value() const {
-  const int value = static_cast<int>(ValueOfPower(base_, exponent_));
-  return minusOutside_ ? -value : value;
 }
 
 std::string UsingExponents::Expression() const {
-  if (kind_ == Kind::WriteAsPower) return FactorsOf(base_, exponent_);
-  return (minusOutside_ ? "-" : "") + PowerOf(base_, exponent_);
-}
-
-// Now one factor too few, now one too many: the right value shall not stand in the middle.
-void UsingExponents::OfferValues(RandomStream& random) {
-  const bool early = random.Rand(1, 2) == 1;
-  const int sign = minusOutside_ ? -1 : 1;
-  const int n = exponent_;
-  Choices choices(problem, choice_kind::FiveShuffled, NumStr);
-  choices.Right(Value());
-  const auto add = [&](const char* mistake, long long value) {
-    if (std::llabs(value) <= kLargestWrongValue) choices.Wrong(mistake, static_cast<int>(value));
-  };
-  if (n < 2) add("takes the exponent for the value", n);
-  if (n == 0) add("leaves the base as it is", base_);
-  if (n == 0 && base_ < 0) add("keeps the minus sign of the base", -1);
-  if (kind_ == Kind::Special && n > 1 && n % 2 == 0)
-    add(minusOutside_ ? "takes the minus sign into the base" : "ignores the parentheses", -Value());
-  if (Value() < 0 || base_ < 0) add("loses the minus sign", std::abs(n == 0 ? base_ : Value()));
-  if (n > 0) add("multiplies base and exponent", sign * base_ * n);
-  if (kind_ == Kind::Special && n > 1)
-    add("multiplies base and exponent and loses the minus sign", std::abs(base_) * n);
-  if (n > 1 && early) add("stops one factor early", sign * ValueOfPower(base_, n - 1));
-  if (n == 1 || (n > 1 && !early))
-    add("multiplies once too often", sign * ValueOfPower(base_, n + 1));
-  if (kind_ == Kind::Value) add("exchanges base and exponent", ValueOfPower(n, base_));
-  const int digits = 10 * std::abs(base_) + n;
-  add("sets base and exponent side by side", base_ < 0 ? -digits : sign * digits);
-  if (n > 0) add("adds base and exponent", sign * (base_ + n));
-  choices.Fill([&] { return random.Rand(2, 9) * (Value() < 0 ? -1 : 1); });
-}
-
-// The right power and the first three are two mistakes, made or not made.
-void UsingExponents::OfferPowers(RandomStream& random) {
-  const bool tooMany = random.Rand(1, 2) == 1;
-  const int other = exponent_ + (tooMany ? 1 : -1);
-  Choices<PowerChoice> choices(problem, choice_kind::FiveShuffled,
-                               [](const PowerChoice& choice) { return choice.text; });
-  const auto power = [](int base, int exponent) {
-    return PowerChoice{PowerOf(base, exponent), ValueOfPower(base, exponent)};
-  };
-  choices.Right(power(base_, exponent_));
-  choices.Wrong("exchanges base and exponent", power(exponent_, base_));
-  if (other > 1) {
-    choices.Wrong(tooMany ? "counts one factor too many" : "counts the signs, not the factors",
-                  power(base_, other));
-    choices.Wrong(tooMany ? "exchanges base and exponent and counts one factor too many"
-                          : "exchanges base and exponent and counts the signs, not the factors",
-                  power(other, base_));
-  }
-  choices.Wrong("multiplies the base by the number of factors",
-                {JoinedByTimes({NumStr(exponent_), NumStr(base_)}), exponent_ * base_});
-  choices.Wrong("counts one factor too many", power(base_, exponent_ + 1));
-  choices.Wrong("exchanges base and exponent and counts one factor too many",
-                power(exponent_ + 1, base_));
-  choices.Fill([&] { return power(random.Rand(2, 9), random.Rand(2, 9)); });
+  return kind_ == Kind::WriteAsPower ? FactorsOf(power_.base, power_.exponent) : TextOf(power_);
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -368,76 +303,81 @@ void UsingExponents::ExplainProblem() {
     ExplainCounting();
   } else {
     ExplainBase();
-    if (exponent_ == 0) ExplainZero();
-    if (exponent_ > 0) ExplainFactors();
-    if (exponent_ > 1 && kind_ == Kind::Special) ExplainSign();
+    if (power_.exponent == 0) ExplainZero();
+    if (power_.exponent > 0) ExplainFactors();
+    if (power_.exponent > 1 && kind_ == Kind::Special) ExplainSign();
   }
   Conclude(problem);
 }
 
 void UsingExponents::ExplainBase() const {
-  if (minusOutside_)
-    Say(Text(R"(There are no parentheses, so the base is \y{}\z.  The minus sign waits.)", base_));
-  else if (base_ < 0)
-    Say(Text(R"(The exponent belongs to the parentheses, so the base is \y{}\z.)", base_));
+  if (power_.minusOutside)
+    Say(Text(
+        R"(There are no parentheses, so the base is \y{}\z.  We find the power first, then the minus sign.)",
+        power_.base));
+  else if (power_.base < 0)
+    Say(Text(R"(The exponent belongs to the parentheses, so the base is \y{}\z.)", power_.base));
   else
-    Say(Text(R"(The base is \y{}\z, and the exponent is {}.)", base_, exponent_));
+    Say(Text(R"(The base is \y{}\z, and the exponent is {}.)", power_.base, power_.exponent));
   PageEnd();
 }
 
 void UsingExponents::ExplainFactors() const {
-  if (exponent_ == 1) {
-    Say(Text("{} is a factor once.  There is nothing to multiply:", base_));
-    Show(Expression() + " = " + NumStr(base_));
+  if (power_.exponent == 1) {
+    Say(Text("{} is a factor once.  There is nothing to multiply:", power_.base));
+    Show(Expression() + " = " + NumStr(power_.base));
     PageEnd();
     return;
   }
-  Say(Text("{} is a factor {} times:", base_, exponent_));
-  const std::string factors = FactorsOf(base_, exponent_);
-  Show(minusOutside_ ? "-(" + factors + ")" : factors);
+  Say(Text("{} is a factor {} times:", power_.base, power_.exponent));
+  const std::string factors = FactorsOf(power_.base, power_.exponent);
+  Show(power_.minusOutside ? "-(" + factors + ")" : factors);
   PageEnd();
-  Say(base_ < 0 ? "First we multiply without the signs:" : "We multiply from left to right:");
-  MultiplyStepByStep(std::abs(base_), exponent_);
+  Say(power_.base < 0 ? "First we multiply without the signs:" : "We multiply from left to right:");
+  MultiplyStepByStep(std::abs(power_.base), power_.exponent);
 }
 
 void UsingExponents::ExplainSign() const {
   NewScreen();
   BeginExplanation();
-  Say(Text("{} is {}.  {}", PowerOf(std::abs(base_), exponent_), std::abs(Value()),
-           Words{minusOutside_ ? "What is left to do?" : "What is the sign here?"}));
+  Say(Text("{} is {}.  {}", PowerOf(std::abs(power_.base), power_.exponent),
+           std::abs(ValueOf(power_)),
+           Words{power_.minusOutside ? "What is left to do?" : "What is the sign here?"}));
   PageEnd();
-  if (minusOutside_)
-    Say("Now comes the minus sign:");
-  else if (exponent_ % 2 == 0)
-    Say(Text("{} is even, so the minus signs go in pairs.  The value is positive:", exponent_));
+  if (power_.minusOutside)
+    Say("We put the minus sign in front:");
+  else if (power_.exponent % 2 == 0)
+    Say(Text("{} is even, so the minus signs go in pairs.  The value is positive:",
+             power_.exponent));
   else
-    Say(Text("{} is odd, so one minus sign is left over.  The value is negative:", exponent_));
-  Show(Expression() + " = " + NumStr(Value()));
+    Say(Text("{} is odd, so one minus sign is left over.  The value is negative:",
+             power_.exponent));
+  Show(Expression() + " = " + NumStr(ValueOf(power_)));
   PageEnd();
 }
 
 void UsingExponents::ExplainZero() const {
-  Say(Text("One factor less:  we divide by {}.", base_));
-  Show(PowerOf(base_, 2) + " = " + NumStr(base_ * base_) + "     " + PowerOf(base_, 1) + " = " +
-       NumStr(base_));
+  Say(Text("One factor less:  we divide by {}.", power_.base));
+  Show(PowerOf(power_.base, 2) + " = " + NumStr(power_.base * power_.base) + "     " +
+       PowerOf(power_.base, 1) + " = " + NumStr(power_.base));
   Say("What comes next?");
   PageEnd();
-  Say(Text("{} divided by {} is 1:", base_, base_));
-  Show(PowerOf(base_, 0) + " = 1");
+  Say(Text("{} divided by {} is 1:", power_.base, power_.base));
+  Show(PowerOf(power_.base, 0) + " = 1");
   Say("The exponent 0 gives 1 with every base but 0.");
   PageEnd();
 }
 
 void UsingExponents::ExplainCounting() const {
   constexpr int kStep = 4;  // columns from factor to factor
-  SayAt(9.5, Text(R"(All factors are {}, so the base is \y{}\z.)", base_, base_));
+  SayAt(9.5, Text(R"(All factors are {}, so the base is \y{}\z.)", power_.base, power_.base));
   PageEnd();
   Say("We count the factors:");
-  for (int i = 1; i <= exponent_; ++i)
+  for (int i = 1; i <= power_.exponent; ++i)
     ShowAt(kExpressionRow + 1, R"(\y)" + NumStr(i) + R"(\z)", kExpressionCol + kStep * (i - 1));
   PageEnd();
-  SayAt(13.5, Text(R"({} is a factor {} times, so the exponent is \y{}\z.)", base_, exponent_,
-                   exponent_));
+  SayAt(13.5, Text(R"({} is a factor {} times, so the exponent is \y{}\z.)", power_.base,
+                   power_.exponent, power_.exponent));
   PageEnd();
   Say("The signs between the factors are not counted.");
   PageEnd();

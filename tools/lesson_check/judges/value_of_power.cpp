@@ -56,21 +56,21 @@ void AddMistakesAtValue(const NumberPower& p, Reading& reading) {
   const auto add = [&](const char* name, const mpz_class& wrong) {
     reading.mistakes[name].push_back(wrong.get_str());
   };
-  add("multiplies base and exponent", p.sign * b * n);
-  add("multiplies base and exponent and loses the minus sign", std::labs(b) * n);
+  add("multiplies the base by the exponent", p.sign * b * n);
+  add("multiplies the base by the exponent and loses the minus sign", std::labs(b) * n);
   if (n > 0) add("stops one factor early", p.sign * PowerOf(b, n - 1));
   add("multiplies once too often", p.sign * PowerOf(b, n + 1));
-  if (b > 0) add("exchanges base and exponent", PowerOf(n, b));
+  if (b > 0) add("switches the base and the exponent", PowerOf(n, b));
   const bool minus = b < 0 || p.sign < 0;
-  add("sets base and exponent side by side",
+  add("writes the exponent next to the base as a digit",
       mpz_class((minus ? "-" : "") + std::to_string(std::labs(b)) + std::to_string(n), 10));
-  add("adds base and exponent", p.sign * (b + n));
+  add("adds the base and the exponent", p.sign * (b + n));
   if (n == 0) {
     add("leaves the base as it is", b);
     add("loses the minus sign", std::labs(b));
     if (b < 0) add("keeps the minus sign of the base", -1);
   }
-  if (n < 2) add("takes the exponent for the value", n);
+  if (n < 2) add("gives the exponent as the answer", n);
   if (value < 0) add("loses the minus sign", -value);
   if (b < 0) add("ignores the parentheses", -PowerOf(-b, n));
   if (p.sign < 0) add("takes the minus sign into the base", PowerOf(-b, n));
@@ -101,11 +101,12 @@ void AddMistakesAtProduct(long base, long factors, Reading& reading) {
   const auto add = [&](const char* name, long wrongBase, long exponent) {
     reading.mistakes[name].push_back(PowerOf(wrongBase, exponent).get_str());
   };
-  add("exchanges base and exponent", factors, base);
+  add("switches the base and the exponent", factors, base);
   add("counts one factor too many", base, factors + 1);
   add("counts the signs, not the factors", base, factors - 1);
-  add("exchanges base and exponent and counts one factor too many", factors + 1, base);
-  add("exchanges base and exponent and counts the signs, not the factors", factors - 1, base);
+  add("switches the base and the exponent and counts one factor too many", factors + 1, base);
+  add("switches the base and the exponent and counts the signs, not the factors", factors - 1,
+      base);
   reading.mistakes["multiplies the base by the number of factors"] = {
       std::to_string(base * factors)};
 }

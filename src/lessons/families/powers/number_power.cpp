@@ -17,6 +17,15 @@ std::string PowerOf(int base, int exponent) {
   return InParentheses(base) + "^" + NumStr(exponent) + "^";
 }
 
+int ValueOf(const NumberPower& power) {
+  const auto value = static_cast<int>(ValueOfPower(power.base, power.exponent));
+  return power.minusOutside ? -value : value;
+}
+
+std::string TextOf(const NumberPower& power) {
+  return (power.minusOutside ? "-" : "") + PowerOf(power.base, power.exponent);
+}
+
 std::string FactorsOf(int base, int exponent) {
   const std::vector<std::string> factors(static_cast<std::size_t>(exponent), InParentheses(base));
   if (base > 0) return JoinedByTimes(factors);

@@ -5,6 +5,8 @@
 #include "engine/page.h"
 #include "lessons/families/powers/number_power.h"
 #include "lessons/families/powers/power_text.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/page_lines.h"
 #include "lessons/page/say.h"
 #include "lessons/page/show.h"
 #include "lessons/page/slides.h"
@@ -14,6 +16,17 @@ namespace course::powers {
 
 using namespace page;
 using platform::colour::Cyan;
+
+namespace {
+
+constexpr int kColumns = 40;                        // of the lesson screen
+constexpr double kLayerHeight = 4.0 / gCellHeight;  // of folded paper, with the gap above it
+
+constexpr int kSide = 3;               // squares
+constexpr double kSquareWidth = 1.75;  // columns: 28 pixels, as many as 1.12 rows
+constexpr double kSquareHeight = 1.12;
+
+}  // namespace
 
 PrintCellTable TwoRows(const std::string& upper, const std::string& lower, int columns) {
   constexpr double kFirst = 20;  // hundredths of the width
@@ -34,26 +47,63 @@ void FillCells(int first, const std::vector<std::string>& texts, platform::Colou
   for (const std::string& text : texts) picPrintCellPrint(first++, text, colour, kSize);
 }
 
-PaperStrip::PaperStrip(double row, double col, int columns)
-    : row_(row), col_(col), columns_(columns) {
-  isDrawBoxFilled(row_, col_, row_, col_ + columns_ - 1, Cyan);
+PaperStrip::PaperStrip(double row, double col) : bottom_(row + 1), col_(col) {
+  DrawLayers();
+}
+
+void PaperStrip::DrawLayers() const {
+  constexpr double kThickness = 3.0 / gCellHeight;
+  for (int i = 1; i <= layers_; ++i) {
+    const double top = bottom_ - i * kLayerHeight;
+    isDrawBoxFilled(top, col_, top + kThickness - 1, col_ + columns_ - 1, Cyan);
+  }
 }
 
 void PaperStrip::Fold() {
   constexpr double kPixel = 1.0 / gCellWidth;
+  constexpr double kLabelCol = 18;
   const double half = columns_ / 2;
-  SlideLeft({row_ - 0.3, col_ + half, half + kPixel, 1.5}, half, Leaving::Nothing, Pace::Brisk);
+  const double height = layers_ * kLayerHeight;
+  constexpr double kAir = 0.4;  // above and below
+  SlideLeft({bottom_ - height - kAir, col_ + half, half + kPixel, height + 2 * kAir}, half,
+            Leaving::Nothing, Pace::Brisk);
   columns_ = half;
+  layers_ *= 2;
+  DrawLayers();
+  const double row = bottom_ - 1;
+  ClearCells(row, kLabelCol, kColumns - kLabelCol + 1, 1);
+  ++folds_;
+  ShowAt(row, Text("after {} fold{}: {} layers", folds_, Words{PluralSuffix(folds_)}, layers_),
+         kLabelCol);
+  GoBelow();
 }
 
 void DrawNineSquares(double row, double col) {
-  constexpr int kSide = 3;
-  constexpr double kWidth = 1.75;  // columns: 28 pixels, as many as 1.12 rows
-  constexpr double kHeight = 1.12;
   for (int i = 0; i < kSide; ++i)
     for (int j = 0; j < kSide; ++j)
-      isDrawBox(row + i * kHeight, col + j * kWidth, row + (i + 1) * kHeight - 1,
-                col + (j + 1) * kWidth - 1, Cyan, 2);
+      isDrawBox(row + i * kSquareHeight, col + j * kSquareWidth, row + (i + 1) * kSquareHeight - 1,
+                col + (j + 1) * kSquareWidth - 1, Cyan, 2);
+}
+
+void DrawCube(double row, double col) {
+  constexpr double kBackRows = 12.0 / gCellHeight;  // a layer further back: up, and to the right
+  constexpr double kBackCols = 12.0 / gCellWidth;
+  constexpr double kEdgeRows = kSide * kSquareHeight;
+  constexpr double kEdgeCols = kSide * kSquareWidth;
+  constexpr double kHalf = 0.5;  // lines end in the middle of a cell
+  // So many layers behind the corner (down, right) of the front.
+  const auto line = [&](double down, double right, int from, double down2, double right2, int to) {
+    isDrawDiagonalLineWithColor(
+        row + down - from * kBackRows - kHalf, col + right + from * kBackCols - kHalf,
+        row + down2 - to * kBackRows - kHalf, col + right2 + to * kBackCols - kHalf, 2, Cyan);
+  };
+  DrawNineSquares(row, col);
+  for (int i = 0; i <= kSide; ++i) {
+    line(0, i * kSquareWidth, 0, 0, i * kSquareWidth, kSide);
+    line(i * kSquareHeight, kEdgeCols, 0, i * kSquareHeight, kEdgeCols, kSide);
+    line(0, 0, i, 0, kEdgeCols, i);
+    line(0, kEdgeCols, i, kEdgeRows, kEdgeCols, i);
+  }
 }
 
 void MultiplyStepByStep(int base, int factors) {
