@@ -62,7 +62,8 @@ std::string TextOf(const Digits& number) {
 }
 
 // Commas in groups of three, a 0 before a point, and no 0 too many.
-std::string FlawOfStandard(const std::string& text) {
+std::string FlawOfStandard(std::string text) {
+  if (text.starts_with('-')) text.erase(0, 1);
   const std::string whole = text.substr(0, text.find('.'));
   std::string digits = whole;
   std::erase(digits, ',');
@@ -84,17 +85,26 @@ Reading ReadToStandard(const Scientific& given) {
   Reading reading;
   reading.kind = sign > 0 ? "a large number to standard form" : "a small number to standard form";
   reading.answer = at(given.exponent);
-  reading.value = [](const std::string& choice) { return TextOf(ReadDecimal(choice)); };
+  reading.value = [](const std::string& choice) {
+    const bool negative = choice.starts_with('-');
+    return (negative ? "-" : "") + TextOf(ReadDecimal(negative ? choice.substr(1) : choice));
+  };
   reading.flaw = FlawOfStandard;
   reading.mistakes["moves the point the wrong way"] = {at(-given.exponent)};
-  reading.mistakes["moves the point one place too far"] = {at(sign * (size + 1))};
-  reading.mistakes["stops one place early"] = {at(sign * (size - 1))};
+  reading.mistakes[sign < 0 && size > 1
+                       ? "puts as many zeros right after the decimal point as the exponent tells"
+                       : "moves the point one place too far"] = {at(sign * (size + 1))};
+  reading.mistakes[size == 1 ? "does not move the point" : "stops one place early"] = {
+      at(sign * (size - 1))};
   reading.mistakes["moves the point the wrong way and one place too far"] = {
       at(-sign * (size + 1))};
   reading.mistakes["moves the point the wrong way and stops one place early"] = {
       at(-sign * (size - 1))};
-  reading.mistakes["writes as many zeros as the exponent tells"] = {
-      at(size + static_cast<long>(digits.size()) - 1)};
+  if (sign > 0)
+    reading.mistakes["writes as many zeros as the exponent tells"] = {
+        at(size + static_cast<long>(digits.size()) - 1)};
+  else
+    reading.mistakes["takes the negative exponent for a minus sign"] = {"-" + at(size)};
   return reading;
 }
 
@@ -115,8 +125,10 @@ void AddZeros(const std::string& line, const Digits& given, const Digits& factor
     zeros = static_cast<long>(line.find_first_not_of('0', point + 1) - point - 1);
   }
   if (zeros < 1) return;
-  reading.mistakes["counts the zeros"] = {TextOf(Scientific{factor, sign * zeros})};
-  reading.mistakes["counts the zeros and gives the exponent the wrong sign"] = {
+  const std::string name =
+      sign > 0 ? "counts the zeros" : "counts only the zeros after the decimal point";
+  reading.mistakes[name] = {TextOf(Scientific{factor, sign * zeros})};
+  reading.mistakes[name + " and gives the exponent the wrong sign"] = {
       TextOf(Scientific{factor, -sign * zeros})};
 }
 
