@@ -72,7 +72,7 @@ void MachineThatAdds() {
   FillRow(4, {"15", Backward("- 4"), "19"}, platform::colour::Blue);
   ClearBelow(18);
   SayAt(18,
-        Text(R"(We let the machine run \ybackward\z.  There it subtracts 4:  {})", "19 - 4 = 15."));
+        Text(R"(We let the machine run \ybackward\z.  Then it subtracts 4:  {})", "19 - 4 = 15."));
   Say(Text("So x is 15.  Check:  {}", "15 + 4 = 19."));
   PageEnd();
 }
@@ -124,11 +124,11 @@ void AddingToBothSides() {
   SayInBox("Why do we add it to both sides?");
   PageEnd();
   WriteSum(sheet, addition);
-  SayInBoxAnew("So both sides stay equal.");
-  SayInBox(R"(x stands alone.  We have \bisolated the variable\z.)");
-  PageEnd();
   sheet.MarkSolution();
-  SayInBoxAnew("Check:  we put 15 in place of x.");
+  SayInBoxAnew("So both sides stay equal.");
+  SayInBox(R"(x is the \bvariable\z.  It stands alone:  we have \bisolated the variable\z.)");
+  PageEnd();
+  SayInBoxAnew(R"(15 is the \bsolution\z, the number that makes the equation true:)");
   SaySubstituted(equation, 15);
   PageEnd();
 }
@@ -139,7 +139,7 @@ void AddingPositive() {
   const Addition addition = AdditionsOf(equation)[0];
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  Say("What do we add here?  What is the sum?");
+  Say("What do we add?  What is the right side?");
   WriteStatement(sheet, equation);
   DrawWalkLine(-3);
   PageEnd();
@@ -148,7 +148,10 @@ void AddingPositive() {
   WalkFrom(-3, 7);
   WriteSum(sheet, addition);
   sheet.MarkSolution();
-  SayInBox(R"(We go 7 \bright\z, to 4, not to -4 or -10.)");
+  SayInBox(R"(We go 7 to the \bright\z, to 4.)");
+  PageEnd();
+  SayInBox(Text("-3 and 7 have different signs:  {}.  7 is farther from 0, so the sum is positive.",
+                "7 - 3 = 4"));
   PageEnd();
 }
 
@@ -167,7 +170,7 @@ void AddingNegative() {
   WalkFrom(-3, -5);
   WriteSum(sheet, addition);
   sheet.MarkSolution();
-  SayInBox(R"(We add -5, and go to the \bleft\z, to -8.)");
+  SayInBox(R"(We go 5 to the \bleft\z, to -8.)");
   PageEnd();
   SayInBox(
       "Watch out:  two negative numbers make a positive when we multiply them, not when we "
@@ -175,30 +178,35 @@ void AddingNegative() {
   PageEnd();
 }
 
-// What two students write, and behind each line what comes out when the answer is checked.
-constexpr double kSuzysRow = 6;
-constexpr double kPaulsRow = 8;
+// What students write in solving an equation, a row each; behind it what comes out when they check.
+constexpr double kFirstStudentsRow = 6;
+constexpr double kStudentRows = 2;
 
-void TwoStudents(const std::string& equation, const std::string& suzys, const std::string& pauls) {
-  NewScreen();
-  Say(Text("Suzy and Paul solve  {}.", equation));
-  ShowAt(kSuzysRow, "Suzy:  " + suzys);
-  ShowAt(kPaulsRow, "Paul:  " + pauls);
-  SayAt(10.5, "Check both answers.  Who is right?");
-  PageEnd();
+void ShowStudents(const std::vector<std::string>& texts, double col = 3) {
+  double row = kFirstStudentsRow;
+  for (const std::string& text : texts) {
+    ShowAt(row, text, col);
+    row += kStudentRows;
+  }
 }
 
-void CheckStudents(const std::string& suzys, const std::string& pauls) {
+void ShowChecks(const std::vector<std::string>& checks) {
   constexpr double kCol = 29;
-  ShowAt(kSuzysRow, R"(\y)" + suzys + R"(\z)", kCol);
-  ShowAt(kPaulsRow, R"(\y)" + pauls + R"(\z)", kCol);
+  ShowStudents(checks, kCol);
 }
 
-void WrongOrder() {
-  TwoStudents("x + 9 = 4", "x = 4 - 9 = -5", "x = 9 - 4 = 5");
-  CheckStudents("-5 + 9 = 4", "5 + 9 = 14");
-  SayAt(12.5, "Suzy is right.  She took 9 away from 4.");
-  PaperBox({R"(\rx = 9 - 4\z  is wrong.)"});
+void ThreeStudents() {
+  NewScreen();
+  Say(Text("Who is right about  {}?  Check.", "x + 9 = 4"));
+  ShowStudents({"Suzy:  x = 4 - 9 = -5", "Paul:  x = 9 - 4 = 5", "Sam:   x + 9 + 4 = 0, x = -13"});
+  PageEnd();
+  ShowChecks({R"(\y-5 + 9 = 4\z)", R"(\y5 + 9 = 14\z)"});
+  SayAt(12, R"(Sam's check:  \y-13 + 9 = -4\z)", {.col = 3});
+  Say("Suzy is right.  She took 9 away from 4.");
+  PageEnd();
+  PaperBox({R"(\r5 + 9 = 14\z:  Paul subtracts in the wrong order.)"});
+  Say("Sam:  when 4 leaves the right side, we must add -4 to both sides:");
+  Show("x + 9 - 4 = 0");
   PageEnd();
 }
 
@@ -220,16 +228,21 @@ void DividingBothSides() {
   sheet.WriteSolved("x", "=", "5");
   sheet.MarkSolution();
   SayInBoxAnew("");
-  SayBullet(ProductText(3, 5) + " = 15.");
-  SayBullet("We know that 1x is equal to just x.");
+  SayBullet("3 over 3 is 1, so 1x is left, and 1x is just x.");
+  SayBullet(Text("15 over 3 is 5, because {}.", ProductText(3, 5) + " = 15"));
   PageEnd();
 }
 
 void SumForProduct() {
-  TwoStudents("3x = 15", "x = 15 - 3 = 12", "x = 15 " + kBy3 + " = 5");
-  CheckStudents(ProductText(3, 12) + " = 36", ProductText(3, 5) + " = 15");
-  SayAt(12.5, "Paul is right.  3x is a product.");
-  PaperBox({R"(\r3x - 3 = x\z  is wrong.)"});
+  NewScreen();
+  Say("Suzy and Paul solve  3x = 15.  Check both answers.  Who is right?");
+  ShowStudents({"Suzy:  x = 15 - 3 = 12", "Paul:  x = 15 " + kBy3 + " = 5"});
+  PageEnd();
+  ShowChecks(
+      {R"(\y)" + ProductText(3, 12) + R"( = 36\z)", R"(\y)" + ProductText(3, 5) + R"( = 15\z)"});
+  PaperBox({R"(\r)" + ProductText(3, 12) + R"( = 36\z, not 15.  x was multiplied by 3,)",
+            "so subtracting 3 does not undo it.  Paul is right."},
+           10.5);
   PageEnd();
 }
 
@@ -249,9 +262,9 @@ void NegativeCoefficient() {
   sheet.MarkSolution();
   SayInBoxAnew(R"(\bNegative\z:  12 and -4 have different signs.)");
   PageEnd();
-  SayInBoxAnew("Check:  we put -3 in place of x.");
+  SayInBoxAnew("Check:  we put -3 in parentheses.");
   SaySubstituted(equation, -3);
-  SayInBox(Text(R"(Watch out:  \r{}\z would subtract 3.)", "-4 - 3"));
+  SayInBox(Text(R"(Watch out:  \r{}\z is a subtraction.)", "-4 - 3"));
   PageEnd();
 }
 
@@ -263,16 +276,16 @@ void OneOperationInShort() {
   PageEnd();
   Say("Try it:  Solve these three.");
   const char* const kAsked[] = {"A   m + 8 = -2", "B   -6n = -42", "C   y - 9 = -4"};
-  const char* const kSteps[] = {"add -8", "divide by -6", "add 9"};
   const char* const kAnswers[] = {"m = -10", "n = 7", "y = 5"};
+  const std::string checks[] = {"-10 + 8 = -2", ProductText(-6, 7) + " = -42", "5 - 9 = -4"};
   const double first = NextRow() + 1;
   for (int i = 0; i < 3; ++i) ShowAt(first + 2 * i, kAsked[i], 2);
   PageEnd();
   for (int i = 0; i < 3; ++i) {
-    ShowAt(first + 2 * i, kSteps[i], 19);
-    ShowAt(first + 2 * i, std::string(R"(\y)") + kAnswers[i] + R"(\z)", 33);
+    ShowAt(first + 2 * i, std::string(R"(\y)") + kAnswers[i] + R"(\z)", 18);
+    ShowAt(first + 2 * i, checks[i], 28);
   }
-  Say("B:  the same signs, so n is positive.");
+  Say("We add -8, divide by -6, and add 9.");
   PageEnd();
 }
 
@@ -286,7 +299,7 @@ class OneOperation final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{MachineThatAdds, MachineThatMultiplies, WhatUndoesIt},
-            {AddingToBothSides, AddingPositive, AddingNegative, WrongOrder},
+            {AddingToBothSides, AddingPositive, AddingNegative, ThreeStudents},
             {DividingBothSides, SumForProduct, NegativeCoefficient, OneOperationInShort}};
   }
   void DrawProblem(RandomStream& random) override;

@@ -48,15 +48,12 @@ int FloorOf(const Fraction& f) {
   return f.num % f.den < 0 ? whole - 1 : whole;
 }
 
-// Why a sum has its sign; "" when there is nothing to go wrong.
-std::string SignReason(int first, int second) {
-  if (first == 0 || (first > 0 && first + second > 0)) return "";
-  if (first < 0 && second < 0) return "Both are negative, so the sum is too.";
-  const int larger = std::abs(first) > std::abs(second) ? first : second;
-  const int smaller = larger == first ? second : first;
-  const std::string difference =
-      Text("{} - {} = {}", std::abs(larger), std::abs(smaller), std::abs(larger + smaller));
-  return Text("{}, with the sign of {}.", difference, WithSign(NumStr(larger)));
+// What decides on the sign of a sum, of numbers or of the letter's coefficients.
+enum class SignRule { Plain, BothNegative, Differ };
+
+SignRule SignRuleOf(int first, int second) {
+  if (first < 0 && second < 0) return SignRule::BothNegative;
+  return first == 0 || (first > 0 && first + second > 0) ? SignRule::Plain : SignRule::Differ;
 }
 
 class LinearExplanation {
@@ -137,10 +134,7 @@ class LinearExplanation {
     PageEnd();
     WriteSum(sheet_, addition);
     SayInBoxAnew(Text("{} and {} add up to 0.", removed, added));
-    SayInBox(Text("On the {} side, {}.", number ? "right" : "left",
-                  number ? SumOfNumbers(addition) : SumOfTerms(addition)));
-    const std::string reason = ReasonOf(addition);
-    if (!reason.empty()) SayInBox(reason);
+    ExplainSum(addition);
     PageEnd();
   }
 
@@ -164,13 +158,40 @@ class LinearExplanation {
            TermText(addition.after.left.coef, letter_);
   }
 
-  // What students get wrong in the sum, if there is anything.
-  std::string ReasonOf(const Addition& addition) const {
-    const int coef = addition.term.coef;
-    if (coef == 0) return SignReason(addition.before.right.number, addition.term.number);
-    const std::string reason = SignReason(addition.before.left.coef, coef);
-    if (!reason.empty() || std::abs(coef) != 1) return reason;
-    return Text("{} means {}.", TermText(coef, letter_), NumStr(coef) + letter_);
+  // The sum, and what students get wrong in it, if there is anything.
+  void ExplainSum(const Addition& addition) const {
+    const bool number = addition.term.coef == 0;
+    const std::string sum = Text("On the {} side, {}.", number ? "right" : "left",
+                                 number ? SumOfNumbers(addition) : SumOfTerms(addition));
+    const int first = number ? addition.before.right.number : addition.before.left.coef;
+    const int second = number ? addition.term.number : addition.term.coef;
+    const SignRule rule = SignRuleOf(first, second);
+    SayInBox(sum);
+    if (rule == SignRule::BothNegative) {
+      SayInBox(number ? "Both are negative, so the sum is too."
+                      : "Both have a minus, so the sum has one.");
+    } else if (rule == SignRule::Differ) {
+      SayInBox("Why does the sum have this sign?");
+      PageEnd();
+      SayInBoxAnew(sum);
+      SayInBox(WhyThisSign(first, second, !number));
+    } else if (!number && std::abs(second) == 1) {
+      SayInBox(Text("{} means {}.", TermText(second, letter_), NumStr(second) + letter_));
+    }
+  }
+
+  std::string WhyThisSign(int first, int second, bool terms) const {
+    const int larger = std::abs(first) > std::abs(second) ? first : second;
+    const int smaller = larger == first ? second : first;
+    const std::string subtracted =
+        Text("The signs differ, so we subtract:  {}.",
+             Text("{} - {} = {}", std::abs(larger), std::abs(smaller), std::abs(larger + smaller)));
+    if (!terms)
+      return Text("{}  {} is farther from 0, so the sum is {}.", Words{subtracted},
+                  WithSign(NumStr(larger)), larger < 0 ? "negative" : "positive");
+    return Text("{}  {} is the larger, so the sum has the {} sign of {}.", Words{subtracted},
+                std::abs(larger), larger < 0 ? "minus" : "plus",
+                WithSign(TermText(larger, letter_)));
   }
 
   void Divide() {

@@ -9,8 +9,8 @@
 //   EquationSheet sheet = SheetFor(equation);
 //   WriteStatement(sheet, equation);            // 3x + 4 = 19
 //   OpenWordBox();                              // then SayInBox, SayInBoxAnew
-//   (lessons/page/boxes.h) WriteAddition(sheet, AdditionsOf(equation)[0]);       // - 4 slides in;
-//   3x = 15 WriteDivision(sheet, IsolatedOf(equation), "=");      // both sides over 3
+//   WriteAddition(sheet, AdditionsOf(equation)[0]);       // - 4 slides in, and 3x = 15
+//   WriteDivision(sheet, IsolatedOf(equation), "=");      // both sides over 3
 //   sheet.WriteSolved("x", "=", "5");
 #pragma once
 

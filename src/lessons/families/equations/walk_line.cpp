@@ -4,6 +4,7 @@
 #include <string>
 
 #include "display/drawing.h"
+#include "display/grid.h"
 #include "lessons/page/page_lines.h"
 #include "lessons/page/show.h"
 #include "lessons/page/slides.h"
@@ -39,6 +40,21 @@ void MarkNumber(int value) {
   isDrawBullet(kBulletRow, ColumnOf(value), platform::colour::Yellow);
 }
 
+// Where the walk began, and the arrow from there with its length.
+void ShowWalk(int start, int step) {
+  constexpr double kGap = 0.6;         // columns between arrow and dot
+  constexpr double kHoleRadius = 3.5;  // pixels
+  MarkNumber(start);
+  isDrawBullet(kBulletRow, ColumnOf(start), screenState.gBackColor, kHoleRadius);
+  const double gap = step < 0 ? -kGap : kGap;
+  isDrawArrow1Segment(kBulletRow, ColumnOf(start) + gap, kBulletRow, ColumnOf(start + step) - gap,
+                      platform::colour::Yellow, "NA", "A");
+  const std::string length = (step < 0 ? "- " : "+ ") + NumStr(std::abs(step));
+  page::ShowAt(
+      kMarkRow, R"(\y)" + length + R"(\z)",
+      (ColumnOf(start) + ColumnOf(start + step) - static_cast<double>(length.size()) + 1) / 2);
+}
+
 }  // namespace
 
 void DrawWalkLine(int start) {
@@ -56,6 +72,7 @@ void WalkFrom(int start, int step) {
                                                   page::Leaving::Nothing, page::Pace::Brisk);
   page::ClearCells(kMarkRow, ColumnOf(start + step) - 1, kMarkWidth, 1);
   MarkNumber(start + step);
+  ShowWalk(start, step);
 }
 
 }  // namespace course::equations
