@@ -274,7 +274,7 @@ void OneOperationInShort() {
           {"1. What was done to the letter?", "2. Undo it on both sides.", "3. Check."},
           {.row = 3, .width = 34});
   PageEnd();
-  Say("Try it:  Solve these three.");
+  Say(R"(\yTry it:\z  Solve these three.)");
   const char* const kAsked[] = {"A   m + 8 = -2", "B   -6n = -42", "C   y - 9 = -4"};
   const char* const kAnswers[] = {"m = -10", "n = 7", "y = 5"};
   const std::string checks[] = {"-10 + 8 = -2", ProductText(-6, 7) + " = -42", "5 - 9 = -4"};
