@@ -54,14 +54,14 @@ const Piece kMarkedSeven = {7, "7", platform::colour::Yellow};
 
 void EqualBars() {
   NewScreen();
-  Say("Now x is on both sides of the equation.");
+  Say("Which parts are the same in both bars?");
   ShowAt(kEquationRow, "5x + 7 = 2x + 19", 12);
   DrawBar(kLeftBarRow, kBarCol, {kX, kX, kX, kX, kX, kSeven});
   DrawBar(kRightBarRow, kBarCol, {kX, kX, {19, "19"}});
   PageEnd();
   SayUnderBars(
-      "The sides are equal, so the bars are equally long.  Are they still, if we take "
-      "2x from both?");
+      R"(Both have \y2x\z:  now x is on both sides.  The sides are equal, so the bars are equally )"
+      "long.  Are they still, if we take 2x from both?");
   PageEnd();
 }
 
@@ -82,12 +82,13 @@ void ShorterBars() {
   TakeAway(sevens, kSeven.units, 5);
   DrawBar(kLeftBarRow, rest, {kX, kX, kX});
   DrawBar(kRightBarRow, rest, {{12, "12"}});
-  ShowAt(kEquationRow + 4, "3x = 12", 14);
+  ShowAt(kEquationRow + 4, "3x = 12", 16);
   SayUnderBars(R"(We take away \y7\z.  How long is one x?)");
   PageEnd();
   ClearCells(kRightBarRow, rest + 1, 10, 1);
   const Piece four = {4, "4"};
   DrawBar(kRightBarRow, rest, {four, four, four});
+  ShowAt(kEquationRow + 6, "x = 4", 17);
   SayUnderBars(Text(R"({} is 4.  So \yx is 4\z.)", "12 " + tutor::Divided + " 3"));
   PageEnd();
 }
@@ -103,7 +104,7 @@ void StepUnderStep() {
   SayInBox("Which term with x must leave the right side, and how?");
   PageEnd();
   WriteAddend(sheet, additions[0]);
-  SayInBoxAnew(R"(To remove 2x, we add \b-2x\z to both sides.)");
+  SayInBoxAnew(R"(The \bopposite\z of 2x is -2x.  To remove 2x, we add \b-2x\z to both sides.)");
   SayInBox("What does each side become?");
   PageEnd();
   WriteSum(sheet, additions[0]);
@@ -128,17 +129,26 @@ void StepUnderStep() {
 void OrderOfSteps() {
   NewScreen();
   RuleBox("Letters Left, Numbers Right",
-          {"1. Remove the letter from the right.", "2. Remove the number from the left.",
-           "3. Divide, and check."},
+          {"1. Remove the letter's term from the right:", "add its opposite to both sides."},
           {.row = 3, .width = 38});
+  Say("What do we do next?");
   PageEnd();
+  PaperBox({"2. Remove the number from the left the same way.",
+            "3. Divide both sides by the coefficient.  Check."});
   Say("Could we remove 5x from the left side?");
-  Show("5x + 7 = 2x + 19", 9);
+  Show("5x + 7 = 2x + 19", 7);
   PageEnd();
-  Say("We may.  Then x stays on the right:");
-  Show("7 = -3x + 19", 14);
-  Show("-12 = -3x", 12);
-  Show("4 = x", 14);
+  constexpr double kEqualCol = 14;
+  constexpr double kStepCol = 26;
+  const std::pair<std::string, std::string> lines[] = {
+      {"7 = -3x + 19", "add -5x"}, {"-12 = -3x", "add -19"}, {"4 = x", "divide by -3"}};
+  double row = NextRow();
+  for (const auto& [line, step] : lines) {
+    ShowAt(row, line, kEqualCol - static_cast<double>(line.find('=')));
+    ShowAt(row, R"(\y)" + step + R"(\z)", kStepCol);
+    ++row;
+  }
+  Say("We may:  4 = x  says the same as  x = 4.");
   PageEnd();
 }
 
@@ -154,8 +164,8 @@ void KeptSign() {
   ShowAt(9, R"(\y-7x + 4x\z)", kSumCol);
   SayAt(11, "Suzy is right.  To remove 4x, she added -4x to both sides.");
   PageEnd();
-  PaperBox({"Paul kept the sign of 4x.", R"(\r-3x - 5 = 17\z  is wrong.)"});
-  Say("Watch out:  two negative terms add up to a negative one, to -11x, not to 11x.");
+  PaperBox({"Paul added 4x.  On the right that makes", R"(\r4x + 4x = 8x\z, not 0.)"});
+  Say(R"(\yWatch out:\z  two negative terms add up to a negative one, to -11x, not to 11x.)");
   PageEnd();
 }
 
@@ -177,7 +187,8 @@ void NegativeTerms() {
   WriteDivision(sheet, IsolatedOf(equation), "=");
   sheet.WriteSolved("x", "=", "-2");
   sheet.MarkSolution();
-  SayInBoxAnew(R"(By \b-11\z.  What becomes of -7x when we check?)");
+  SayInBoxAnew(R"(By \b-11\z.  The signs differ, so x is -2.)");
+  SayInBox("To check, what is -7x when x is -2?");
   PageEnd();
   SayInBoxAnew(Text(R"(It is {}, not \r{}\z:)", "-7" + tutor::Dot + "(-2)", "-7 - 2"));
   SaySubstituted(equation, -2);
@@ -204,7 +215,11 @@ void NegativeTermOnTheRight() {
   WriteDivision(sheet, IsolatedOf(equation), "=");
   sheet.WriteSolved("x", "=", "-3");
   sheet.MarkSolution();
-  SayInBoxAnew(R"(We divide by \b7\z.  The signs differ, so the answer is negative.)");
+  SayInBoxAnew(R"(The signs differ, so -21 over \b7\z is -3.)");
+  SayInBox("To check, what is -x when x is -3?");
+  PageEnd();
+  SayInBoxAnew(Text("-x is -1x, so it is {}.", "-(-3) = 3"));
+  SaySubstituted(equation, -3);
   PageEnd();
 }
 
@@ -213,12 +228,17 @@ void BothTermsNegative() {
   const std::vector<Addition> additions = AdditionsOf(equation);
   EquationSheet sheet = SheetFor(equation);
   NewScreen();
-  Say("Try it:  Which two terms do we add?");
+  Say(R"(\yTry it:\z  Solve this one on paper.  Which two terms do we add?  What is x?)");
   WriteStatement(sheet, equation);
   PageEnd();
   OpenWordBox();
   WriteAddition(sheet, additions[0]);
-  SayInBox(R"(First \b+2x\z:  9 - 2 is 7, with the sign of -9x.)");
+  SayInBox(R"(First \b+2x\z.  Why is the sum -7x?)");
+  PageEnd();
+  SayInBoxAnew(
+      Text("The signs of -9x and +2x differ, so we subtract:  {}.  9 is the larger, so the sum has "
+           "the minus sign of -9x:  -7x.",
+           "9 - 2 = 7"));
   PageEnd();
   WriteAddition(sheet, additions[1]);
   SayInBoxAnew(R"(Then \b-5\z.)");
