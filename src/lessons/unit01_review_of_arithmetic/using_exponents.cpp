@@ -7,7 +7,6 @@
 #include "lessons/families/arithmetic/stepping_display.h"
 #include "lessons/families/powers/number_power.h"
 #include "lessons/families/powers/power_figures.h"
-#include "lessons/families/powers/power_text.h"
 #include "lessons/lesson.h"
 
 namespace course {

@@ -53,7 +53,8 @@ void OfferValues(Problem& problem, const NumberPower& power, RandomStream& rando
 // The right power and the first three are two mistakes, made or not made.
 void OfferPowers(Problem& problem, const NumberPower& power, RandomStream& random) {
   const bool tooMany = random.Rand(1, 2) == 1;
-  const auto [base, exponent, minusOutside] = power;
+  const int base = power.base;
+  const int exponent = power.exponent;
   const int other = exponent + (tooMany ? 1 : -1);
   Choices<PowerChoice> choices(problem, choice_kind::FiveShuffled,
                                [](const PowerChoice& choice) { return choice.text; });
