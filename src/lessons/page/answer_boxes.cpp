@@ -30,7 +30,7 @@ struct Layout {
 };
 constexpr Layout kTwoColumns = {2, 2, 16, 20, kUsualHeight, 27, 16};
 constexpr Layout kThreeColumns = {4, 3, 12.5, 13, kUsualHeight, 27, 16};
-constexpr Layout kOneColumn = {1, 1, 21, 38, 44, 12, 12};
+constexpr Layout kOneColumn = {1, 1, 21, 40, 44, 12, 12};
 
 bool AnyChoiceHas(const Problem& problem, const std::string& characters) {
   return std::ranges::any_of(problem.choices, [&](const Choice& choice) {
@@ -52,7 +52,7 @@ void Place(const Problem& problem, const Layout& layout, const AnswerBoxes& boxe
              CellText(bottom));
   const double offset = (height - kUsualHeight + kUsualFontSize - boxes.fontSize) / 2;
   picAnswerSetParameters(layout.number, boxes.row, column1, column2, column3, width, height, gap,
-                         offset, "", boxes.fontSize);
+                         offset, boxes.font, boxes.fontSize);
   if (high || radical) answerParameters.printChoice = picAnswerPrintStackedText;
 }
 

@@ -11,6 +11,7 @@ struct AnswerBoxes {
   double row = 11;   // of the first box
   double width = 0;  // of each box; its letter takes three and a half columns.  0 is the usual one
   double fontSize = 20;
+  const char* font = "";  // "TNR" for words; "" is the font of mathematics
 };
 
 // Called by ShowProblem.  Boxes that leave the screen are an author's error and stop the program.
@@ -19,7 +20,7 @@ struct AnswerBoxes {
 void ShowAnswersInTwoColumns(const Problem& problem, const AnswerBoxes& boxes = {});
 // A, B, C / D, E: 12.5 columns wide, at most 13.
 void ShowAnswersInThreeColumns(const Problem& problem, const AnswerBoxes& boxes = {});
-// One under the other, in the middle: 21 columns wide, and a little lower.
+// One under the other, in the middle: 21 columns wide, at most 40, and a little lower.
 void ShowAnswersInOneColumn(const Problem& problem, const AnswerBoxes& boxes = {});
 
 }  // namespace course::page
