@@ -1,0 +1,409 @@
+// The student turns words such as "the quantity 3 less than A" into algebraic expressions, and
+// back: finds the innermost part, the operation of its words and the order of its numbers.
+//
+// Problems are nests of one to three operations in one of the two directions.
+#include <algorithm>
+
+#include "lessons/families/stories/nest_draws.h"
+#include "lessons/families/stories/nest_steps.h"
+#include "lessons/families/stories/paired_rows.h"
+#include "lessons/families/stories/worded_nest.h"
+#include "lessons/lesson.h"
+
+namespace course {
+namespace {
+
+using namespace stories;
+
+const std::string kDot = " " + tutor::Dot + " ";
+const std::string kDivide = " " + tutor::Divided + " ";
+
+// --- Teaching screens --------------------------------------------------------
+
+// Arrows from numbers in words to their places in the expression, three rows below.
+struct Way {
+  double from;  // columns
+  double to;
+};
+void ShowWays(double row, std::initializer_list<Way> ways) {
+  for (const Way& way : ways) isDrawRay("", row + 0.7, way.from, row + 2.3, way.to, false);
+}
+
+// --- Screen 1: addition
+
+void SumInWords() {
+  NewScreen();
+  SayAt(3, "Algebra is a language of its own.  How do we write these words in it?");
+  ShowAt(6, "the sum of A and 5", 10);
+  SayAt(8, "Which word tells us what to do?");
+  PageEnd();
+  ClearBelow(8);
+  ShowAt(6, R"(the \ysum\z of A and 5)", 10);
+  ShowWays(6, {{21, 21}, {27, 27}});
+  ShowAt(9, R"(A  \y+\z  5)", 21);
+  SayAt(11, R"(The word ~sum~ tells us to add.  Letters, numbers and signs like these make an )"
+            R"(\calgebraic expression\z.)");
+  PageEnd();
+  SayAt(14, "A may be any number.  If A is 20, the sum is 25.");
+  PageEnd();
+}
+
+void WordsForAddition() {
+  NewScreen();
+  SayAt(3, "Other words for A + 5 are:");
+  PaperBox({"the quantity A plus 5", "the quantity A increased by 5", "the quantity A more than 5"},
+           4.5);
+  PageEnd();
+  Say(R"(\cThe quantity\z means:  here begins a number that is still to be worked out.)");
+  Say(R"(\yTry it:\z  What is the expression?)");
+  Show("the quantity B more than 7", 5);
+  PageEnd();
+  Show(R"(\yB + 7\z)", 5);
+  Say("7 + B is the same number.  In a sum the order does not matter.  Where does it matter?");
+  PageEnd();
+}
+
+// --- Screen 2: subtraction
+
+std::string Dots(int count) {
+  std::string dots;
+  for (int i = 0; i < count; ++i) dots += (i > 0 ? " " : "") + tutor::Bullet;
+  return dots;
+}
+
+void LessThan() {
+  NewScreen();
+  SayAt(3,
+        "It matters in a difference.  Dave has 10 dollars.  Mary has 3 dollars less than Dave.  "
+        "How many does she have?");
+  ShowAt(8, "Dave   " + Dots(7) + R"( \y)" + Dots(3) + R"(\z)", 5);
+  PageEnd();
+  ShowAt(9.5, "Mary   " + Dots(7), 5);
+  SayAt(11, "She has 7.  We start with 10, and 3 are taken away:  10 - 3.");
+  PageEnd();
+  SayAt(14, Text(R"(\yTry it:\z  And 3 less than A?  Is it {} or {}?)", "A - 3", "3 - A"));
+  PageEnd();
+  ClearBelow(14);
+  ShowAt(14, R"(the quantity 3 \yless than\z A)", 5);
+  ShowWays(14, {{18, 30}, {30, 18}});
+  ShowAt(17, R"(A     \y-\z     3)", 18);
+  SayAt(19, R"(We start with A.  So A comes \yfirst\z.)");
+  PaperBox({R"(3 less than A is  A - 3,  \rnot 3 - A\z)"});
+  PageEnd();
+}
+
+void WordsForSubtraction() {
+  NewScreen();
+  SayAt(3, "Other words for A - 3 are:");
+  PaperBox({"the difference of A and 3", "the quantity A minus 3", "the quantity A decreased by 3"},
+           4.5);
+  PageEnd();
+  SayAt(9.5, "Two phrases turn the order.  Here is the other one:");
+  ShowAt(13, "the quantity B subtracted from 9", 3);
+  SayAt(15, R"(\yTry it:\z  What is the expression?)");
+  PageEnd();
+  ClearBelow(15);
+  ShowWays(13, {{16, 34}, {34, 16}});
+  ShowAt(16, R"(9        \y-\z        B)", 16);
+  SayAt(18, R"(\yFrom\z 9 we take B.  And what is the difference of B and 9?)");
+  PageEnd();
+  Say(R"(That is \yB - 9\z.  The order stays.)");
+  PageEnd();
+}
+
+// --- Screen 3: multiplication
+
+void ProductInWords() {
+  NewScreen();
+  SayAt(3, "A box holds 6 eggs.  How many eggs are in N boxes?");
+  ShowPairedRows("boxes", "eggs");
+  FillPair(1, "1", "6");
+  FillPair(2, "2", "12");
+  FillPair(3, "10", "60");
+  FillPair(4, "N", "");
+  PageEnd();
+  FillPair(4, "N", "6" + kDot + "N");
+  Say("We multiply.  The dot means times.");
+  PaperBox({"the product of 6 and N", "the quantity 6 times N", "the quantity 6 multiplied by N"});
+  PageEnd();
+  GoBelow();
+  AddLine(R"(\yTry it:\z  Is the product of 6 and N the same as their sum?)");
+  PageEnd();
+  AddLine("No.  If N is 10, the product is 60, but the sum is 16.");
+  PageEnd();
+}
+
+void FactorAtTheRightSide() {
+  NewScreen();
+  SayAt(3,
+        "A school has 6 times as many students as teachers.  S is the number of students, and T "
+        "that of teachers.  Which is true?");
+  ShowAt(8, "S = 6" + kDot + "T     or     6" + kDot + "S = T", 6);
+  PageEnd();
+  SayAt(9.5, "Let us try some numbers.  What belongs in the empty cell?");
+  ShowPairedRows("teachers T", "students S");
+  FillPair(1, "1", "6");
+  FillPair(2, "2", "12");
+  FillPair(3, "10", "");
+  PageEnd();
+  FillPair(3, "10", "60");
+  FillPair(4, "T", "6" + kDot + "T");
+  Say("There are more students.  The 6 stands beside the smaller number, T.");
+  PaperBox({"S = 6" + kDot + "T,  \\rnot 6" + kDot + "S = T\\z"});
+  PageEnd();
+}
+
+// --- Screen 4: division
+
+void QuotientInWords() {
+  NewScreen();
+  SayAt(3, "12 cookies for 3 children are 4 each:");
+  ShowAt(5, "12" + kDivide + "3 = 4", 12);
+  SayAt(7, R"(This is the \cquotient\z of 12 and 3, or the \cratio\z of 12 to 3.)");
+  PageEnd();
+  SayAt(10, R"(\yTry it:\z  Is the quotient of 3 and 12 the same?)");
+  PageEnd();
+  SayAt(12, "No.  3 cookies for 12 children are less:");
+  ShowAt(14.5, "3" + kDivide + "12 = 3/12 = 1/4", 12);
+  SayAt(16.5, R"(In a quotient the \yorder matters\z.  What comes first is divided.)");
+  PageEnd();
+}
+
+void WordsForDivision() {
+  NewScreen();
+  SayAt(3, Text("Other words for {} are:", "A" + kDivide + "8"));
+  PaperBox({"the quotient of A and 8", "the ratio of A to 8", "the quantity A divided by 8"}, 4.5);
+  PageEnd();
+  SayAt(10, R"(\yTry it:\z  What is the expression?)");
+  ShowAt(12, "the ratio of B to 4", 8);
+  PageEnd();
+  ShowWays(12, {{21, 21}, {26, 26}});
+  ShowAt(15, Text(R"(B \y{}\z  4)", tutor::Gap + tutor::Divided), 21);
+  SayAt(17, "B comes first in the words, and so it is divided.");
+  PageEnd();
+  SayAt(19.5, R"(\yTry it:\z  In which two of the four operations may the numbers change places?)");
+  PageEnd();
+  SayAt(22, R"(In addition and multiplication.  The other two \ykeep\z the order.)");
+  PageEnd();
+}
+
+// --- Screen 5: one part inside another
+
+// The part in the words is replaced by its expression, in its place.
+void PartOfTheWords() {
+  NewScreen();
+  SayAt(3, "A part of the words can be an expression by itself:");
+  ShowAt(5.5, "the product of the sum of A and B and C", 1);
+  SayAt(7.5, "What is multiplied by C?");
+  PageEnd();
+  Bracket(6.25, 16, 18, 2, 1);
+  SayAt(7.5,
+        R"(The \ysum of A and B\z.  It is the innermost part.  We translate it first, and put )"
+        "it in parentheses:");
+  ShowAt(11.5, R"(the product of      \y(A + B)\z      and C)", 1);
+  PageEnd();
+  SayAt(13, R"(Now (A + B) counts as \yone\z number:)");
+  ShowAt(14.5, "(A + B)" + kDot + "C", 14);
+  PageEnd();
+  SayAt(16.5, R"(\yTry it:\z  A is 2, B is 3 and C is 4.  What is it worth, and what is it worth )"
+              "with the parentheses around the product?");
+  PageEnd();
+  const std::string times = " " + tutor::Times + " ";
+  ShowAt(20, "(2 + 3)" + times + "4 = 5" + times + "4 = 20", 6);
+  ShowAt(21, "2 + (3" + times + "4) = 2 + 12 = 14", 6);
+  SayAt(22.5, "So the words tell where they stand.");
+  PageEnd();
+}
+
+void QuantityOpensAPart() {
+  NewScreen();
+  SayAt(3, "Each ~the~ opens a new part.");
+  SayAt(5, R"(\yTry it:\z  Which is the innermost part?)");
+  ShowAt(7.5, "the quantity D minus", 4);
+  ShowAt(8.5, "the quantity A times B", 8);
+  PageEnd();
+  ShowAt(8.5, R"(\ythe quantity A times B\z)", 8);
+  SayAt(10, "It holds only letters.  Its expression takes its place:");
+  ShowAt(12, Text(R"(the quantity D minus \y{}\z)", "(A" + kDot + "B)"), 4);
+  SayAt(13.5, "What is the whole expression?");
+  PageEnd();
+  ShowAt(15, "D - (A" + kDot + "B)", 12);
+  PageEnd();
+  SayAt(17, "A part may hold a part.  Around parentheses we write brackets:");
+  ShowAt(20, "the ratio of [D - (A" + kDot + "B)] to 4", 4);
+  SayAt(21.5, R"(\yTry it:\z  What is the whole expression?)");
+  PageEnd();
+  ShowAt(23, R"(\y[D - (A)" + kDot + "B)]" + kDivide + R"(4\z)", 12);
+  PageEnd();
+}
+
+// --- Screen 6: from symbols to words
+
+void FromSymbolsToWords() {
+  NewScreen();
+  SayAt(3, "Now the other way.  How do we say this in English?");
+  ShowAt(5.5, "C - (A" + kDot + "B)", 13);
+  SayAt(7, "Where do we begin?");
+  PageEnd();
+  ShowAt(5.5, Text(R"(C - \y{}\z)", "(A" + kDot + "B)"), 13);
+  SayAt(7, "We begin inside the parentheses, with words for multiplication:");
+  ShowAt(10, R"(\ythe product of A and B\z)", 8);
+  PageEnd();
+  SayAt(12, "We take it from C, as a difference:");
+  ShowAt(15, R"(\ythe difference of C and\z)", 4);
+  ShowAt(16, "the product of A and B", 8);
+  SayAt(18, R"(\yTry it:\z  Can we also begin with the product?)");
+  PageEnd();
+  SayAt(20.3, R"(Yes, with words that turn the order:)");
+  ShowAt(21.5, R"(\ythe quantity\z the product of A and B)", 2);
+  ShowAt(22.5, R"(\yless than\z C)", 4);
+  PageEnd();
+}
+
+void ManyWordsForOne() {
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Do not keep the order of the signs with these words.)");
+  PaperBox({Text("C - (A{}B)  is", kDot), R"(\rnot the quantity C less than ...\z)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Say this in English:)");
+  Show(R"((A - 5))" + kDivide + "B", 13);
+  PageEnd();
+  Say("the quotient of the difference of A and 5 and B", {.col = 3});
+  Say("To check, we translate back:  it is something divided by B.");
+  PageEnd();
+  NewScreen();
+  SayAt(3, "In long phrases ~the quantity~ may stand twice:");
+  SayAt(5.5, "the ratio of the quantity the quantity A plus B times C to 4", {.col = 3});
+  PageEnd();
+  SayAt(8, R"(\yTry it:\z  What is the innermost part, and what comes next?)");
+  PageEnd();
+  SayAt(10.5, "The second ~the quantity~ opens the innermost part, A plus B.");
+  SayAt(13.5, Text(R"(the ratio of the quantity \y{}\z times C to 4)", "(A + B)"), {.col = 3});
+  PageEnd();
+  SayAt(16.5, Text(R"(the ratio of \y{}\z to 4)", "[(A + B)" + kDot + "C]"), {.col = 3});
+  ShowAt(18.5, R"(\y[(A + B))" + kDot + "C]" + kDivide + R"(4\z)", 12);
+  PageEnd();
+}
+
+// --- The lesson --------------------------------------------------------------
+
+class TranslatingWordsIntoExpressions final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{SumInWords, WordsForAddition},         {LessThan, WordsForSubtraction},
+            {ProductInWords, FactorAtTheRightSide}, {QuotientInWords, WordsForDivision},
+            {PartOfTheWords, QuantityOpensAPart},   {FromSymbolsToWords, ManyWordsForOne}};
+  }
+  bool TellsMistakes() const override;
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  bool FillChoices(RandomStream& random);
+  std::string ChoiceTextOf(const Nest& nest) const;
+  std::string NameInWords(const NestSlip& slip) const;
+
+  Nest nest_;
+  bool toAlgebra_ = true;  // the words are given
+};
+
+// --- Generator ---------------------------------------------------------------
+
+// A fifth of the draws is accepted: the others begin with doubled words, or some of their mistakes
+// come to the same.
+void TranslatingWordsIntoExpressions::DrawProblem(RandomStream& random) {
+  do {
+    problem = {};
+    nest_ = DrawNest(random);
+    toAlgebra_ = random.Rand(0, 1) == 1;
+  } while (nest_.BeginsTwice() || !FillChoices(random));
+  const std::string given = toAlgebra_ ? "English" : "algebraic";
+  const std::string wanted = toAlgebra_ ? "algebraic" : "English";
+  problem.question = {
+      "What " + wanted + " expression is equivalent to the " + given + " expression below?",
+      toAlgebra_ ? Capitalized(nest_.Words()) : nest_.Symbols()};
+}
+
+std::string TranslatingWordsIntoExpressions::ChoiceTextOf(const Nest& nest) const {
+  return toAlgebra_ ? nest.Symbols() : Capitalized(nest.Words());
+}
+
+// An exchange that comes from words such as "less than" has its own name.
+std::string TranslatingWordsIntoExpressions::NameInWords(const NestSlip& slip) const {
+  if (!toAlgebra_ || !slip.name.starts_with("exchanges")) return slip.name;
+  for (std::size_t i = 0; i < nest_.levels.size(); ++i)
+    if (nest_.levels[i].insideFirst != slip.nest.levels[i].insideFirst &&
+        nest_.levels[i].phrase.TurnsOrder())
+      return "keeps the order of the words";
+  return slip.name;
+}
+
+// False when two choices are the same or have the same mistake, or the words of one begin twice.
+bool TranslatingWordsIntoExpressions::FillChoices(RandomStream& random) {
+  const std::vector<NestSlip> slips = DrawSlips(nest_, random);
+  int slot = random.Rand(1, 5);
+  if (slot == 5) slot = 1;
+  std::vector<Nest> nests = {nest_};
+  problem.kind = choice_kind::FiveShuffled;
+  problem.Right(slot, ChoiceTextOf(nest_));
+  for (int i = 1; const NestSlip& slip : slips) {
+    if (slip.nest.BeginsTwice()) return false;
+    if (std::ranges::any_of(nests, [&](const Nest& n) { return n.SameValue(slip.nest); }))
+      return false;
+    nests.push_back(slip.nest);
+    const std::string name = NameInWords(slip);
+    if (std::ranges::count(problem.choices, name, &Choice::mistake) != 0) return false;
+    if (i == slot) ++i;
+    problem.Wrong(i++, name, ChoiceTextOf(slip.nest));
+  }
+  return true;
+}
+
+// Five long phrases with their mistakes are more than a page holds.
+bool TranslatingWordsIntoExpressions::TellsMistakes() const {
+  constexpr std::size_t kCharactersOfARow = 34;
+  constexpr std::size_t kMostRows = 17;
+  const auto rowsOf = [](std::size_t characters) { return characters / kCharactersOfARow + 1; };
+  std::size_t rows = 2;  // more for the student's own mistake
+  for (const Choice& choice : problem.choices)
+    if (!choice.mistake.empty())
+      rows += rowsOf(choice.mistake.size() + 18) + rowsOf(choice.text.size());
+  return toAlgebra_ || rows <= kMostRows;
+}
+
+// --- Problem page ------------------------------------------------------------
+
+void TranslatingWordsIntoExpressions::ShowProblem() {
+  SayAt(4, problem.question[0]);
+  if (toAlgebra_) {
+    SayAt(7, problem.question[1]);
+    ShowAnswersInOneColumn(problem, {.row = 12, .width = 26});
+    return;
+  }
+  ShowAt(7.5, problem.question[1], 10);
+  std::size_t longest = 0;
+  for (const Choice& choice : problem.choices) longest = std::max(longest, choice.text.size());
+  // Points; words on one line take about half of it for each character.
+  const double size = std::clamp(880.0 / static_cast<double>(longest), 9.0, 16.0);
+  ShowAnswersInOneColumn(problem, {.row = 11, .width = 40, .fontSize = size, .font = "TNR"});
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+void TranslatingWordsIntoExpressions::ExplainProblem() {
+  ProblemBanner();
+  if (toAlgebra_)
+    ExplainWords(nest_);
+  else
+    ExplainSymbols(nest_);
+  SayInBoxAnew(ConclusionText(problem, 'b'));
+}
+
+const LessonRegistration<TranslatingWordsIntoExpressions> kRegistration(
+    "Translating Words Into Expressions");
+
+}  // namespace
+}  // namespace course
