@@ -49,11 +49,11 @@ void OlderByYears() {
 void TheOtherOne() {
   NewScreen();
   SayAt(3, "Suzy is 3 years older than Bill.  Now we know Suzy's age.  It is 20.");
-  ShowPairedRows("Bill", "Suzy");
-  FillPair(1, "?", "20");
+  ShowPairedRows("Bill", "Suzy", kUnder, 1);
+  FillPair(1, "?", "20", 1);
   Say("Who of them is younger?  How old is Bill?");
   PageEnd();
-  FillPair(1, "17", "20");
+  FillPair(1, "17", "20", 1);
   Say(R"(Bill is younger.  So we \ysubtract\z:)");
   Show("20 - 3 = 17", 14);
   PageEnd();
@@ -62,11 +62,11 @@ void TheOtherOne() {
   PageEnd();
   NewScreen();
   SayAt(3, "Dave is 4 years younger than Mary.  Dave is x years old.");
-  ShowPairedRows("Dave", "Mary");
-  FillPair(1, "x", "?");
+  ShowPairedRows("Dave", "Mary", kUnder, 1);
+  FillPair(1, "x", "?", 1);
   Say(R"(\yTry it:\z  How old is Mary?)");
   PageEnd();
-  FillPair(1, "x", "x + 4");
+  FillPair(1, "x", "x + 4", 1);
   Say(R"(Mary is older, and we look for her age.  We add:  \yx + 4\z.)");
   PageEnd();
 }
@@ -151,8 +151,8 @@ void OneTable() {
   PageEnd();
   Say(R"(\yTry it:\z  Suzy is 6 years younger than Paul.  Paul is 15 years old.  How old is Suzy?)");
   PageEnd();
-  AddLine("Suzy is younger, and it is told in years.");
-  ShowAt(21, "15 - 6 = 9", 14);
+  Say("Suzy is younger, and it is told in years.");
+  ShowAt(22, "15 - 6 = 9", 14);
   AddLine("Check:  9 is 6 less than 15.");
   PageEnd();
 }
