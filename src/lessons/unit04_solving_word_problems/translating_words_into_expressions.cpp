@@ -44,7 +44,7 @@ void SumInWords() {
   SayAt(11, R"(The word ~sum~ tells us to add.  Letters, numbers and signs like these make an )"
             R"(\calgebraic expression\z.)");
   PageEnd();
-  SayAt(14, "A may be any number.  If A is 20, the sum is 25.");
+  SayAt(15, "A may be any number.  If A is 20, the sum is 25.");
   PageEnd();
 }
 
@@ -178,10 +178,10 @@ void WordsForDivision() {
   ShowAt(12, "the ratio of B to 4", 8);
   PageEnd();
   ShowWays(12, {{21, 21}, {26, 26}});
-  ShowAt(15, Text(R"(B \y{}\z  4)", tutor::Gap + tutor::Divided), 21);
+  ShowAt(15, Text(R"(B \y{}\z 4)", tutor::Gap + tutor::Divided), 21);
   SayAt(17, "B comes first in the words, and so it is divided.");
   PageEnd();
-  SayAt(19.5, R"(\yTry it:\z  In which two of the four operations may the numbers change places?)");
+  SayAt(19.5, R"(\yTry it:\z  In which two operations may the numbers change places?)");
   PageEnd();
   SayAt(22, R"(In addition and multiplication.  The other two \ykeep\z the order.)");
   PageEnd();
