@@ -66,6 +66,10 @@ MovingPoint MovingPoint::ToStandard(double row, const ScientificNumber& number) 
   return {row, number.digits, 1, number.exponent};
 }
 
+MovingPoint MovingPoint::ByPlaces(double row, const std::string& digits, int before, int places) {
+  return {row, digits, before, places};
+}
+
 MovingPoint::MovingPoint(double row, const std::string& digits, int before, int places)
     : row_(row), digits_(static_cast<int>(digits.size())), before_(before), places_(places) {
   const int after = before_ + places_;

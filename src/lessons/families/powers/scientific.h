@@ -30,15 +30,18 @@ class MovingPoint {
   // included; two rows of the lesson screen from the row on.
   static MovingPoint ToScientific(double row, const ScientificNumber& number);
   static MovingPoint ToStandard(double row, const ScientificNumber& number);
+  // The point stands behind so many digits, 1 or more, and will move by so many places, to the left
+  // when negative.
+  static MovingPoint ByPlaces(double row, const std::string& digits, int before, int places);
+
+  // Of a digit; the first one given is 0.
+  double ColumnOfDigit(int index) const;
 
   // Zeros come up where the point finds no digit.  The next Say goes on below.
   void Move();
 
  private:
-  // The point stands behind so many digits and will move by so many places, to the left when
-  // negative.
   MovingPoint(double row, const std::string& digits, int before, int places);
-  double ColumnOfDigit(int index) const;  // the first digit given is 0
   double ColumnOfPoint(int before) const;
   void PrintZero(int index) const;
 
