@@ -1,0 +1,89 @@
+#include "lessons/families/percents/percent_figures.h"
+
+#include <algorithm>
+
+#include "display/drawing.h"
+#include "display/grid.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/show.h"
+#include "lessons/page/slides.h"
+
+namespace course::percents {
+
+using namespace page;
+using platform::colour::White;
+using platform::colour::Yellow;
+
+namespace {
+
+constexpr double kBarDrop = 1.3;   // rows from the line above it to the bar
+constexpr double kNameDrop = 2.4;  // and to the line below it
+
+// The bar: ten tenths.
+constexpr double kBarCol = 3;
+constexpr double kBarWidth = 36;
+constexpr double kHalf = kBarWidth / 2;
+constexpr int kTenths = 10;
+
+double ColumnAt(int percent) {
+  return kBarCol + kBarWidth * percent / kHundred;
+}
+double ColumnOfText(const std::string& text, double end) {
+  return end - static_cast<double>(text.size());
+}
+
+}  // namespace
+
+void DrawHundredSquares(double row, double col, int filled) {
+  constexpr int kSide = 10;
+  constexpr double kHeight = 0.64;  // rows: as many pixels as a column
+  for (int i = 0; i < kSide; ++i) {
+    const double top = row + i * kHeight;
+    const int inRow = std::clamp(filled - i * kSide, 0, kSide);
+    if (inRow > 0) isDrawBoxFilled(top, col, top + kHeight - 1, col + inRow - 1, Yellow);
+  }
+  const platform::Colour line = platform::colour::FormGrey;
+  for (int i = 0; i < kSide; ++i) {
+    isDrawBox(row + i * kHeight, col, row + (i + 1) * kHeight - 1, col + kSide - 1, line, 1);
+    isDrawBox(row, col + i, row + kSide * kHeight - 1, col + i, line, 1);
+  }
+}
+
+PercentBar::PercentBar(double row, const std::string& whole) : row_(row) {
+  ShowAt(row_, whole, ColumnOfText(whole, kBarCol + kBarWidth));
+  Fill(0);
+}
+
+void PercentBar::Fill(int percent) {
+  percent_ = percent;
+  const double row = row_ + kBarDrop;
+  if (percent > 0) isDrawBoxFilled(row, kBarCol, row, ColumnAt(percent) - 1, Yellow);
+  for (int i = 0; i < kTenths; ++i)
+    isDrawBox(row, ColumnAt(i * kTenths), row, ColumnAt((i + 1) * kTenths) - 1, White, 2);
+}
+
+void PercentBar::NameLeft(const std::string& text) const {
+  ShowAt(row_ + kNameDrop, R"(\y)" + text + R"(\z)", kBarCol);
+  GoBelow();
+}
+
+void PercentBar::NameRight(const std::string& text) const {
+  ClearCells(row_ + kNameDrop, kBarCol + kHalf, kHalf, 1);
+  ShowAt(row_ + kNameDrop, text, ColumnOfText(text, kBarCol + kBarWidth));
+  GoBelow();
+}
+
+void PercentBar::DropRight() const {
+  constexpr double kDrop = 1.3;
+  constexpr double kEdge = 2.0 / gCellWidth;  // the outline
+  const double row = row_ + kBarDrop;
+  const double col = ColumnAt(percent_);
+  const double end = kBarCol + kBarWidth;
+  isDrawBox(row, col, row, end - 1, White, 2);
+  SlideDown({row_ + kNameDrop, kBarCol + kHalf, kHalf}, kDrop);
+  SlideDown({row - 0.25, col - kEdge, end - col + kEdge, 1.3}, kDrop);
+  isDrawBox(row, kBarCol, row, col - 1, White, 2);
+}
+
+}  // namespace course::percents

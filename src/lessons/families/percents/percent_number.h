@@ -1,0 +1,46 @@
+// A number as a percent and as a decimal number, and the point that moves between the two.
+#pragma once
+
+#include <string>
+
+#include "lessons/families/powers/scientific.h"
+
+namespace course::percents {
+
+// Digits of which the first and the last are not 0, with the decimal number's point behind so many
+// of them: "45" and 0 are 0.45 and 45%, "4" and -1 are 0.04 and 4%, "25" and 1 are 2.5 and 250%.
+struct PercentNumber {
+  std::string digits;
+  int before = 0;
+
+  std::string DecimalText() const { return powers::DecimalText(digits, before); }
+  std::string PercentText() const;
+};
+
+// "0.4": NumStr, with a 0 before a point that would begin the text.
+std::string WithZero(double x);
+
+// The digits in a row of the lesson screen, and the point that moves two places: two rows from the
+// row on.  A percent sign stands behind them before the movement or after it.
+class PercentPoint {
+ public:
+  static PercentPoint ToPercent(double row, const PercentNumber& number);
+  static PercentPoint ToDecimal(double row, const PercentNumber& number);
+
+  // Zeros come up where the point finds no digit, and go where they are not needed any more.  The
+  // next Say goes on below.
+  void Move();
+
+ private:
+  PercentPoint(double row, const std::string& digits, int before, int places);
+  void PrintSign() const;
+
+  double row_;
+  int digits_;
+  int before_;
+  int places_;
+  int zerosInFront_;  // that go when the point has moved
+  powers::MovingPoint point_;
+};
+
+}  // namespace course::percents
