@@ -1,0 +1,343 @@
+// The student can turn a question about part, percent and whole into the percent equation,
+// part = percent x whole, and find whichever of the three is missing.
+//
+// Three kinds of problems with equal chances: the part, the percent or the whole is asked for.
+#include "lessons/families/percents/percent_figures.h"
+#include "lessons/families/percents/percent_number.h"
+#include "lessons/families/percents/percent_question.h"
+#include "lessons/lesson.h"
+
+namespace course {
+namespace {
+
+using namespace percents;
+
+const std::string kTimes = " " + tutor::Times + " ";
+
+// --- Teaching screens --------------------------------------------------------
+
+void PartPercentWhole() {
+  const PercentQuestion question = {Asked::Part, 25, 20};
+  NewScreen();
+  SayAt(3, "A class has 20 students.  5 of them, that is 25%, come to school by bike.");
+  PercentBar bar(6, "20 students = 100%");
+  bar.Fill(25);
+  bar.NameLeft("5 students = 25%");
+  PageEnd();
+  SayAt(10, R"(All 20 students are the \cwhole\z.)");
+  AddLine(R"(The 5 students are the \cpart\z.)");
+  AddLine("The percent compares the two.");
+  ShowPartPercentWhole(13.5, question);
+  FillAsked(question);
+  PageEnd();
+  ShowPartPercentWhole(13.5, question);
+  SayAt(17,
+        R"(\yTry it:\z  Suppose that we do not know the 5.  How do we get it from 25% and 20?)");
+  PageEnd();
+  SayAt(20, Text("25% of 20 is a quarter of 20:  {}", "0.25" + kTimes + "20 = 5"));
+  FillAsked(question);
+  PageEnd();
+}
+
+void ThePercentEquation() {
+  NewScreen();
+  SayAt(3, R"(The word "of" means \ytimes\z.  This gives the percent equation:)");
+  RuleBox("The Percent Equation", {"part = percent" + kTimes + "whole"});
+  PageEnd();
+  Say(R"(\yWatch out:\z  25% is the decimal number 0.25.  Someone takes 25:)");
+  PaperBox({R"(\r25)" + kTimes + R"(20 = 500 students\z)"});
+  Say("How can you see that this is wrong?");
+  PageEnd();
+  Say("The whole class has only 20 students.  A part cannot be more than the whole.");
+  PageEnd();
+}
+
+void FindThePart() {
+  const PercentQuestion question = {Asked::Part, 15, 60};
+  NewScreen();
+  const SentenceFigure sentence(4, question);
+  SayAt(8, R"(\yTry it:\z  Say this as an equation.  Let n be the number that we look for.)");
+  PageEnd();
+  ClearBelow(8);
+  sentence.Translate();
+  SayAt(8, R"("What number" is the letter, "is" is the equal sign, and "of" is times.)");
+  PageEnd();
+  Say("Now we multiply.  15" + kTimes + "60 = 900, and these are hundredths:");
+  Show(question.Equation() + " = 9");
+  PageEnd();
+  Say(R"(\yCheck:\z  10% of 60 is 6, and half of that, 5%, is 3.  6 + 3 = 9)");
+  Say(R"(\yTry it:\z  What number is 8% of 50?)");
+  PageEnd();
+  Say(Text("8% is 0.08, not 0.8:  {}", "n = 0.08" + kTimes + "50 = 4"));
+  PageEnd();
+}
+
+void FindThePercent() {
+  const PercentQuestion question = {Asked::Percent, 25, 48};
+  NewScreen();
+  const SentenceFigure sentence(4, question);
+  SayAt(8, R"(\yTry it:\z  Which is the whole, 12 or 48?)");
+  PageEnd();
+  ClearBelow(8);
+  sentence.Translate();
+  SayAt(8, R"(The whole stands behind "of": it is \y48\z.  p is the percent.)");
+  PageEnd();
+  Say("p is multiplied by 48.  We divide both sides by 48:");
+  Show("p = 12/48 = 1/4 = 0.25");
+  Say("What percent is 0.25?");
+  PageEnd();
+  Say(R"(The point moves two places to the right:  \y25%\z)");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Someone divides the other way round:)");
+  PaperBox({R"(\r48/12 = 4 = 400%\z)"});
+  Say("What is wrong with 400%?");
+  PageEnd();
+  PercentBar bar(10, "48 = 100%");
+  bar.Fill(25);
+  bar.NameLeft("12 = 25%");
+  SayAt(14, R"(12 is less than 48, so it is \yless than 100%\z.  We divide part by whole.)");
+  PageEnd();
+}
+
+void FindTheWhole() {
+  const PercentQuestion question = {Asked::Whole, 30, 60};
+  NewScreen();
+  const SentenceFigure sentence(4, question);
+  SayAt(8, R"(\yTry it:\z  Now which of the three are we looking for?)");
+  PageEnd();
+  ClearBelow(8);
+  sentence.Translate();
+  SayAt(8, R"(n stands behind "of".  We are looking for the \ywhole\z.)");
+  PageEnd();
+  Say("n is multiplied by 0.3.  We divide both sides by 0.3:");
+  Show("n = 18/(0.3)");
+  PageEnd();
+  Say("It is easier to divide by a whole number.  So we multiply both by 10:");
+  Show("n = 180/3 = 60");
+  PageEnd();
+
+  NewScreen();
+  PercentBar bar(3, "60 = 100%");
+  bar.Fill(30);
+  bar.NameLeft("18 = 30%");
+  Say(Text(R"(\yCheck:\z  30% of 60 is {})", "0.3" + kTimes + "60 = 18."));
+  PageEnd();
+  Say(R"(\yWatch out:\z  Someone multiplies again:)");
+  PaperBox({R"(\r0.3)" + kTimes + R"(18 = 5.4\z)"});
+  Say("Can 5.4 be the whole when 18 is a part of it?");
+  PageEnd();
+  Say("No.  The whole is more than its part.");
+  PageEnd();
+}
+
+void WhichIsAsked() {
+  const std::string over = " " + tutor::Divided + " ";
+  NewScreen();
+  SayAt(3, "Which of the three is missing?");
+  PaperBox({"part    = percent" + kTimes + "whole", "percent = part" + over + "whole",
+            "whole   = part" + over + "percent"});
+  PageEnd();
+  Say(R"(\yTry it:\z  6 is what percent of 40?)");
+  PageEnd();
+  Say(R"(The \ypercent\z is missing:)");
+  Show("p = 6/40 = 0.15 = 15%");
+  Say(R"(\yTry it:\z  7 is 35% of what number?)");
+  PageEnd();
+  Say(Text(R"(The \ywhole\z is missing:  {})", "7" + over + "0.35 = 700" + over + "35 = 20"));
+  PageEnd();
+}
+
+// --- The lesson --------------------------------------------------------------
+
+class UsingThePercentEquation final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{PartPercentWhole, ThePercentEquation, FindThePart},
+            {FindThePercent, FindTheWhole, WhichIsAsked}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  // In ten-thousandths.
+  struct Mistake {
+    std::string name;
+    int value;
+  };
+  std::vector<Mistake> Mistakes() const;
+  std::vector<Mistake> MistakesAtPart() const;
+  std::vector<Mistake> MistakesAtPercent() const;
+  std::vector<Mistake> MistakesAtWhole() const;
+  int Answer() const;
+
+  void ExplainSolution() const;
+  void Check() const;
+
+  PercentQuestion question_;
+};
+
+// --- Generator ---------------------------------------------------------------
+
+constexpr int kUnit = 10000;  // 1 in ten-thousandths
+constexpr int kHundredth = 100;
+
+// Halves upward; a and b are positive, a in ten-thousandths.
+int RoundedQuotient(int a, int b) {
+  const int step = b * kHundredth;
+  return (2 * a + step) / (2 * step) * kHundredth;
+}
+
+// 98 % of the draws are accepted.
+void UsingThePercentEquation::DrawProblem(RandomStream& random) {
+  do {
+    question_.percent = random.Rand(10, 99);
+    question_.asked = static_cast<Asked>(random.Rand(1, 3));
+    question_.whole = random.Rand(1, 100);
+  } while (question_.PartInHundredths() < kHundred);  // a part of less than 1 is hard to picture
+
+  problem.question = {question_.Sentence()};
+  const std::vector<Mistake> mistakes = Mistakes();
+  const int others = static_cast<int>(mistakes.size()) - 1;
+  const std::vector<int> order = random.RandSeq(others, others);
+  const bool isPercent = question_.asked == Asked::Percent;
+  Choices<int> choices(problem, choice_kind::FiveShuffled, [=](int value) {
+    return WithZero(value / double{kUnit}) + (isPercent ? "%" : "");
+  });
+  choices.Right(Answer());
+  choices.Wrong(mistakes[0].name, mistakes[0].value);
+  for (const int i : order) choices.Wrong(mistakes[i].name, mistakes[i].value);
+}
+
+int UsingThePercentEquation::Answer() const {
+  if (question_.asked == Asked::Part) return question_.PartInHundredths() * kHundredth;
+  return kUnit * (question_.asked == Asked::Percent ? question_.percent : question_.whole);
+}
+
+// The first one is always offered.  What does not end with the hundredths is rounded to them.
+std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::Mistakes() const {
+  if (question_.asked == Asked::Part) return MistakesAtPart();
+  return question_.asked == Asked::Percent ? MistakesAtPercent() : MistakesAtWhole();
+}
+
+std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtPart() const {
+  const int whole = question_.whole * kUnit;
+  return {{"divides by the percent in place of multiplying",
+           RoundedQuotient(whole * kHundred, question_.percent)},
+          {"gives what is left of the whole", whole - Answer()},
+          {"moves the point one place only", Answer() * 10},
+          {"moves the point three places", Answer() / 10},
+          {"multiplies by the percent without moving the point", Answer() * kHundred}};
+}
+
+std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtPercent() const {
+  const int part = question_.PartInHundredths() * kHundredth;
+  return {{"multiplies in place of dividing", part * question_.whole},
+          {"exchanges the part and the whole",
+           RoundedQuotient(kHundred * kHundred * kUnit, question_.percent)},
+          {"gives the percent that is left", kHundred * kUnit - Answer()},
+          {"moves the point one place only", Answer() / 10},
+          {"moves the point three places", Answer() * 10},
+          {"forgets to move the point", Answer() / kHundred},
+          {"takes the part for the percent", part}};
+}
+
+std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtWhole() const {
+  const int part = question_.PartInHundredths() * kHundredth;
+  const int percentOfPart = RoundedQuotient(part * question_.percent, kHundred);
+  return {{"multiplies in place of dividing", percentOfPart},
+          {"moves the point one place only", Answer() / 10},
+          {"moves the point three places", Answer() * 10},
+          {"divides by the percent without moving the point", Answer() / kHundred},
+          {"adds the percent of the part to the part",
+           RoundedQuotient(part * (kHundred + question_.percent), kHundred)}};
+}
+
+// --- Problem page ------------------------------------------------------------
+
+void UsingThePercentEquation::ShowProblem() {
+  SayAt(6, problem.question[0]);
+  ShowAnswersInTwoColumns(problem, {.row = 10});
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+constexpr double kWordsRow = 11.5;
+constexpr double kSolutionRow = 16.5;
+
+void UsingThePercentEquation::ExplainProblem() {
+  ProblemBanner();
+  const SentenceFigure sentence(4, question_);
+  ShowPartPercentWhole(8, question_);
+  SayAt(kWordsRow, R"(The whole stands behind "of".  Which of the three are we looking for?)");
+  PageEnd();
+  const char* names[] = {"part", "percent", "whole"};
+  ClearRows(kWordsRow, 2);
+  SayAt(kWordsRow, Text(R"(We are looking for the \y{}\z.  We write the sentence as an equation.)",
+                        names[static_cast<int>(question_.asked) - 1]));
+  sentence.Translate();
+  PageEnd();
+  ExplainSolution();
+  FillAsked(question_);
+  PageEnd();
+  Check();
+  Conclude(problem);
+}
+
+void UsingThePercentEquation::ExplainSolution() const {
+  const std::string part = question_.PartText();
+  const std::string whole = question_.WholeText();
+  const std::string rate = question_.DecimalText();
+  const std::string hundredths = NumStr(question_.PartInHundredths());
+  const std::string percent = NumStr(question_.percent);
+  if (question_.asked == Asked::Part) {
+    SayAt(kSolutionRow - 2,
+          Text("We multiply:  {} hundredths.", percent + kTimes + whole + " = " + hundredths));
+    Show(question_.Equation() + " = " + part);
+    return;
+  }
+  const bool isPercent = question_.asked == Asked::Percent;
+  const std::string quotient =
+      question_.Letter() + " = (" + part + ")/(" + (isPercent ? whole : rate) + ")";
+  SayAt(kSolutionRow - 2.5, Text("We divide both sides by {}:", isPercent ? whole : rate));
+  ShowAt(kSolutionRow, quotient);
+  PageEnd();
+  ShowAt(kSolutionRow,
+         quotient + " = " + (isPercent ? rate : hundredths + "/" + percent + " = " + whole));
+  GoBelow();
+  AddLine(isPercent ? Text(R"(As a percent, {} is \y{}\z.)", rate, question_.PercentText())
+                    : std::string("We multiplied both by 100."));
+}
+
+// A part is compared with a percent that ends with 0, the others are put into the equation.
+void UsingThePercentEquation::Check() const {
+  const std::string whole = question_.WholeText();
+  if (question_.asked != Asked::Part) {
+    Say(Text(R"(\yCheck:\z  {})",
+             question_.DecimalText() + kTimes + whole + " = " + question_.PartText()));
+    PageEnd();
+    return;
+  }
+  const int tens = (question_.percent + 5) / 10;
+  const std::string tenth = WithZero(question_.whole / 10.0);
+  const std::string tenths = WithZero(tens * question_.whole / 10.0);
+  Say(Text(R"(\yCheck:\z  10% of {} is {}.)", whole, tenth));
+  if (question_.percent == 10) {
+    AddLine("That is the same.");
+  } else {
+    AddLine(Text("So {}% is {} times as much:  {}", 10 * tens, tens, tenths + "."));
+    if (question_.percent != 10 * tens)
+      AddLine(Text("{} of {} is a little {}.", question_.PercentText(), whole,
+                   question_.percent < 10 * tens ? "less" : "more"));
+  }
+  PageEnd();
+}
+
+const LessonRegistration<UsingThePercentEquation> kRegistration("Using the Percent Equation");
+
+}  // namespace
+}  // namespace course

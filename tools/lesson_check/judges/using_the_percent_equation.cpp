@@ -1,0 +1,122 @@
+// "30.71 is 37% of what number?" and the two other questions about part, percent and whole.
+#include <utility>
+
+#include "lesson_check/exact/notation.h"
+#include "lesson_check/exact/unreadable.h"
+#include "lesson_check/judge.h"
+#include "lesson_check/judges/decimal_form.h"
+
+namespace lesson_check {
+namespace {
+
+Rational PercentIn(const std::string& text) {
+  if (!text.ends_with('%')) throw Unreadable("\"" + text + "\" is no percent");
+  return DecimalIn(text.substr(0, text.size() - 1));
+}
+
+// Both sides of a word that stands between blanks.
+std::pair<std::string, std::string> PartedAt(const std::string& text, const std::string& word) {
+  const std::size_t at = text.find(" " + word + " ");
+  if (at == std::string::npos) throw Unreadable("no \"" + word + "\" in \"" + text + "\"");
+  return {Trimmed(text.substr(0, at)), Trimmed(text.substr(at + word.size() + 2))};
+}
+
+Rational ToHundredths(const Rational& value) {
+  return RoundedTo(Rational(1, 100), value);
+}
+
+class PercentEquation {
+ public:
+  explicit PercentEquation(const std::string& sentence) {
+    if (!sentence.ends_with('?')) throw Unreadable("no question: " + sentence);
+    const auto [part, rest] = PartedAt(sentence.substr(0, sentence.size() - 1), "is");
+    const auto [percent, whole] = PartedAt(rest, "of");
+    if (part == "What number") {
+      kind_ = "the part";
+      percent_ = PercentIn(percent);
+      whole_ = DecimalIn(whole);
+      part_ = percent_ * whole_ / 100;
+    } else if (percent == "what percent") {
+      kind_ = "the percent";
+      part_ = DecimalIn(part);
+      whole_ = DecimalIn(whole);
+      percent_ = 100 * part_ / whole_;
+    } else if (whole == "what number") {
+      kind_ = "the whole";
+      part_ = DecimalIn(part);
+      percent_ = PercentIn(percent);
+      whole_ = 100 * part_ / percent_;
+    } else {
+      throw Unreadable("nothing is asked for: " + sentence);
+    }
+  }
+
+  Reading Read() const {
+    Reading reading;
+    reading.kind = kind_;
+    const bool isPercent = kind_ == "the percent";
+    if (kind_ == "the part") AddMistakesAtPart(reading);
+    if (kind_ == "the whole") AddMistakesAtWhole(reading);
+    if (isPercent) AddMistakesAtPercent(reading);
+    reading.answer = (isPercent ? percent_ : kind_ == "the part" ? part_ : whole_).get_str();
+    reading.value = [isPercent](const std::string& choice) {
+      return (isPercent ? PercentIn(choice) : DecimalIn(choice)).get_str();
+    };
+    reading.flaw = [isPercent](const std::string& choice) {
+      return FlawOfDecimal(isPercent ? choice.substr(0, choice.size() - 1) : choice);
+    };
+    reading.excused = {"a number that begins with 0"};
+    reading.Within("the percent", percent_, 10, 99);
+    reading.Within("the whole", whole_, 1, 100);
+    reading.Within("the part", part_, 1, 99);
+    if (percent_.get_den() != 1 || whole_.get_den() != 1)
+      reading.faults.emplace_back("percent or whole is not a whole number");
+    return reading;
+  }
+
+ private:
+  static void Add(Reading& reading, const char* name, const Rational& value) {
+    reading.mistakes[name] = {value.get_str()};
+  }
+
+  void AddMistakesAtPart(Reading& reading) const {
+    Add(reading, "divides by the percent in place of multiplying",
+        ToHundredths(100 * whole_ / percent_));
+    Add(reading, "gives what is left of the whole", whole_ - part_);
+    Add(reading, "moves the point one place only", part_ * 10);
+    Add(reading, "moves the point three places", part_ / 10);
+    Add(reading, "multiplies by the percent without moving the point", percent_ * whole_);
+  }
+  void AddMistakesAtPercent(Reading& reading) const {
+    Add(reading, "multiplies in place of dividing", part_ * whole_);
+    Add(reading, "exchanges the part and the whole", ToHundredths(100 * whole_ / part_));
+    Add(reading, "gives the percent that is left", 100 - percent_);
+    Add(reading, "moves the point one place only", percent_ / 10);
+    Add(reading, "moves the point three places", percent_ * 10);
+    Add(reading, "forgets to move the point", percent_ / 100);
+    Add(reading, "takes the part for the percent", part_);
+  }
+  void AddMistakesAtWhole(Reading& reading) const {
+    Add(reading, "multiplies in place of dividing", ToHundredths(percent_ * part_ / 100));
+    Add(reading, "moves the point one place only", 10 * part_ / percent_);
+    Add(reading, "moves the point three places", 1000 * part_ / percent_);
+    Add(reading, "divides by the percent without moving the point", part_ / percent_);
+    Add(reading, "adds the percent of the part to the part",
+        ToHundredths(part_ + percent_ * part_ / 100));
+  }
+
+  std::string kind_;
+  Rational part_;
+  Rational percent_;
+  Rational whole_;
+};
+
+Reading ReadPercentEquation(const course::Problem& problem) {
+  if (problem.question.size() != 1) throw Unreadable("not one line");
+  return PercentEquation(Trimmed(problem.question[0])).Read();
+}
+
+const JudgeRegistration kRegistration(ReadPercentEquation, {"Using the Percent Equation"});
+
+}  // namespace
+}  // namespace lesson_check
