@@ -1,0 +1,35 @@
+// A purchase at a discount: the words and the prices of its story, and what is asked.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "mathkit/random_stream.h"
+
+namespace course::percents {
+
+enum class StoryAsked { Discount, SalePrice, PercentSaved };
+
+struct PercentStory {
+  StoryAsked asked = StoryAsked::Discount;
+  std::string buyer;
+  std::string item;
+  int price = 0;    // the usual one, in cents
+  int percent = 0;  // of the discount: 5, 10 and so on to 50
+
+  // A percent saved on something large in half of the stories; else the discount or the sale price
+  // of something small.  The discount is in whole cents.
+  static PercentStory Draw(RandomStream& random);
+
+  int Discount() const { return price * percent / 100; }  // cents
+  int SalePrice() const { return price - Discount(); }    // cents
+  // Two lines: what happened, and the question.
+  std::vector<std::string> Question() const;
+  // In cents, or in percent.
+  int Answer() const;
+};
+
+// "$12.50".
+std::string MoneyOf(int cents);
+
+}  // namespace course::percents
