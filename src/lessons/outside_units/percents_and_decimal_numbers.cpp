@@ -119,7 +119,7 @@ void SmallPercents() {
   SayAt(10, "8% = 0.08", {.col = 3});
   SayAt(10, "80% = 0.80 = 0.8", {.col = 22});
   Say(R"(\yWatch out:\z  8% is not 0.8.  That would be 80 of the 100 squares.)");
-  Say("A zero at the end may be left out.");
+  Say("In 0.80 the last zero may be left out.");
   PageEnd();
 }
 

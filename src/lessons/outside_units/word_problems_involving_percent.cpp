@@ -74,9 +74,8 @@ void TheDiscount() {
   PageEnd();
 
   NewScreen();
-  SayAt(3,
-        R"(\yTry it:\z  A jacket is usually priced at $60.00.  The discount is 5%.  What is the )"
-        "discount?");
+  SayAt(3, R"(\yTry it:\z  A jacket is usually priced at $60.00.  Jose gets a discount of 5%.  )"
+           "How much does he save?");
   PageEnd();
   Say("5% is 0.05, not 0.5:");
   Show("0.05" + kTimes + "$60.00 = $3.00");
