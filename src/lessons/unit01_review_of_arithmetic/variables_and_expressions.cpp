@@ -1,6 +1,7 @@
 // The student knows what a variable, an expression and a term are, and finds the value of an
 // expression in one or two letters: puts numbers in place of the letters, negative ones in
 // parentheses, then works out powers, products and sums in this order.
+#include "lessons/families/substitution/expression_draw.h"
 #include "lessons/families/substitution/value_steps.h"
 #include "lessons/lesson.h"
 
@@ -9,28 +10,6 @@ namespace {
 
 using namespace substitution;
 using arithmetic::kSteppingRows;
-
-// What stands in the terms: exponents of the first and the second letter.
-struct Shape {
-  std::size_t count;  // of terms
-  std::array<int, kLetters> exponents[3];
-};
-constexpr std::array<Shape, 7> kShapes = {{
-    {2, {{1, 0}, {0, 0}}},          // 3x + 4
-    {2, {{0, 0}, {1, 0}}},          // 4 + 3x
-    {2, {{2, 0}, {0, 0}}},          // 3x^2 + 4
-    {2, {{1, 0}, {0, 1}}},          // 3x + 4y
-    {1, {{1, 1}}},                  // 3xy
-    {1, {{2, 1}}},                  // 3x^2 y, or x y^2
-    {3, {{2, 0}, {0, 1}, {0, 0}}},  // 3x^2 + 4y + 5
-}};
-constexpr std::size_t kSquareOfALetter = 5;
-
-constexpr std::string_view kTenLetters = "abcdhkmnxy";  // that cannot be taken for digits
-constexpr int kLargestNumber = 9;
-constexpr int kLargestInTheHead = 100;  // of products and sums on the way
-constexpr int kLargestWrong = 300;      // beyond, nobody believes it
-constexpr int kFewestMistakes = 3;      // so that at most one box of five is drawn at random
 
 constexpr double kLineRow = 8.5;  // of a line of numbers in an explanation
 
@@ -90,8 +69,8 @@ void LetterForANumber() {
   PaperBox({"n is the number of pens,", R"(\rnot a pen, and not 14, the 14th letter\z)"});
   Say(R"(\yTry it:\z  n is 3 today.  And tomorrow?)");
   PageEnd();
-  Say("That may differ.  A letter keeps its value in one problem.  In the next one it may have "
-      "another.  This is n on four days:");
+  Say("We do not know.  Each day n may be another number.  But in one calculation n keeps its "
+      "value.  This is n on four days:");
   ShowValueTable("n", "dollars");
   constexpr int kPens[kColumns] = {3, 5, 0, 8};
   for (int day = 1; day <= kColumns; ++day)
@@ -99,23 +78,27 @@ void LetterForANumber() {
   PageEnd();
 }
 
-// The 3 drops from "x = 3" into the place of the x below it.
-void DropIntoPlace() {
-  constexpr double kRow = 10;
-  constexpr double kCol = 18;
-  ShowAt(kRow - 2, R"(x = \y3\z)", kCol - 4);
+// The 3 of "x = 3" comes into the place of the x, on the row below.
+void BringIntoPlace() {
+  constexpr double kRow = 7;
+  constexpr double kCol = 12;
+  constexpr double kValueCol = 26;
+  constexpr double kDown = 1.5;
   ShowAt(kRow, "x + 4", kCol);
+  ShowAt(kRow, R"(x = \y3\z)", kValueCol - 4);
   PageEnd();
-  SlideDown({kRow - 2, kCol, 1}, 2, Leaving::Copy);
-  ShowAt(kRow, R"(\y3\z + 4 = 7)", kCol);
-  SayAt(12, R"(3 takes the place of x.  The \cvalue\z of the expression is 7 if x is 3.)");
-  PageEnd();
+  SlideDown({kRow, kValueCol, 1}, kDown, Leaving::Copy);
+  SlideLeft({kRow + kDown, kValueCol, 1}, kValueCol - kCol);
+  ShowAt(kRow + kDown, R"(\y3\z + 4 = 7)", kCol);
+  SayAt(10.5, R"(3 takes the place of x.  The \cvalue\z of the expression is 7 if x is 3.)");
 }
 
 void ValueOfAnExpression() {
   NewScreen();
-  SayAt(3, R"(Numbers, variables and operations make an \cexpression\z.  What is it if x is 3?)");
-  DropIntoPlace();
+  SayAt(3,
+        R"(x + 4 is an \cexpression\z:  numbers and variables joined by operations.  What is it )"
+        "if x is 3?");
+  BringIntoPlace();
   ShowValueTable("x", "x + 4");
   FillColumn(1, "3", "7");
   FillColumn(2, "0", "4");
@@ -147,47 +130,54 @@ void ProductsBeforeSums() {
   ValueSteps steps(line, 18.5, 4);
   PageEnd();
   steps.Finish();
-  SayAt(18.5, "We multiply before we add.  From left to right, or as 11x, it would be 110.",
+  SayAt(18.5,
+        Text("We multiply before we add.  Adding 5 and 6 first gives {}.  That is wrong.",
+             Words{"11 " + tutor::Times + " 10 = 110"}),
         {.col = 19});
   PageEnd();
 }
 
 void NegativeValues() {
   NewScreen();
-  SayAt(3, "What is 3x + 5 if x = -2?  We write the negative number in parentheses:");
+  PaperBox({"same signs:  the product is positive", "different signs:  it is negative"}, 3);
+  SayAt(6.5, Text(R"(\yTry it:\z  What is 3x + 5 if {}?)", "x = -2"));
   const NumberLine line = LineOf(InXY({TermOf(3, 1), TermOf(5, 0)}, -2));
-  ValueSteps steps(line, 6.5, CentredCol(line));
+  ValueSteps steps(line, 8.5, CentredCol(line));
   PageEnd();
   steps.Finish();
-  SayAt(12, R"(\yWatch out:\z  -2 without them would say:)");
-  PaperBox({R"(\r3 - 2 + 5\z)"});
+  SayAt(13.8, "3 and -2 have different signs, so the product is -6.");
   PageEnd();
-  Say(Text("A lone minus sign means -1 times.  If x is -4, then -x is {}.",
-           "-1 " + tutor::Times + " (-4) = 4"));
+  Say(R"(\yWatch out:\z  If we put -2 right behind the 3, we read a subtraction:)");
+  PaperBox({R"(\r3 - 2 + 5 = 6\z,  not -1)"});
+  Say(Text(R"(\yTry it:\z  What is -x if {}?)", "x = -4"));
   PageEnd();
-  SayAt(18, Text(R"(\yTry it:\z  What is 7 - 3x if {}?)", "x = -2"));
-  ValueSteps answer(LineOf(InXY({TermOf(7, 0), TermOf(-3, 1)}, -2)), 19.4, 4);
+  NewScreen();
+  SayAt(3, "A minus sign in front of a letter means -1 times the letter:");
+  ShowAt(6, "-x = -1 " + tutor::Times + " (-4) = 4", 12);
+  SayAt(8, Text(R"(\yTry it:\z  What is 7 - 3x if {}?)", "x = -2"));
   PageEnd();
+  ValueSteps answer(LineOf(InXY({TermOf(7, 0), TermOf(-3, 1)}, -2)), 10, 4);
   answer.Finish();
-  SayAt(19.4, R"(3x is -6.  To subtract -6 means to \yadd 6\z.)", {.col = 20});
+  SayAt(10, R"(3x is -6.  To subtract -6 means to \yadd 6\z.)", {.col = 20});
   PageEnd();
 }
 
 void Exponents() {
   const std::string times = " " + tutor::Times + " ";
   NewScreen();
-  SayAt(3, Text("{} means {}.  Let's put in -3:", "x^2^", "x" + times + "x"));
-  ShowAt(5, "(-3)^2^ = (-3)" + times + "(-3)", 10);
-  SayAt(7, "Is that 9 or -9?");
+  SayAt(3, Text(R"({} is a \cpower\z:  {}.  The small 2 is the \cexponent\z.  We put in -3:)",
+                "x^2^", "x" + times + "x"));
+  ShowAt(6, "(-3)^2^ = (-3)" + times + "(-3)", 10);
+  SayAt(8, R"(\yTry it:\z  Is that 9 or -9?)");
   PageEnd();
-  SayAt(9, "The signs are the same:  positive.");
+  SayAt(10, "The signs are the same:  positive.");
   AddLine("-3 times 2 would be -6.");
   PaperBox({R"((-3)^2^ = 9,  \rnot -9 and not -6\z)"});
   Say(Text(R"(\yTry it:\z  What is {} if x = 3?)", "2x^2^"));
   PageEnd();
   const NumberLine line = LineOf(InXY({TermOf(2, 2)}, 3));
-  ValueSteps(line, 15.5, 4).Finish();
-  SayAt(15.5, "The exponent belongs to x alone.  (2x)^2^ would be 36.", {.col = 18});
+  ValueSteps(line, 16.5, 4).Finish();
+  SayAt(16.5, "The exponent belongs to x alone.  (2x)^2^ would be 36.", {.col = 18});
   PageEnd();
   NewScreen();
   PaperBox({"First powers, then products,", "then sums and differences."}, 3);
@@ -196,51 +186,51 @@ void Exponents() {
   ValueSteps steps(minus, 9, CentredCol(minus));
   PageEnd();
   steps.Finish();
-  SayAt(14.5, "The minus sign in front of x is not squared.");
+  SayAt(14.5, Text("The square takes in only (-5).  The minus sign in front stays:  {}.",
+                   "-1" + times + "25"));
   PageEnd();
 }
 
 void TwoLetters() {
   NewScreen();
-  SayAt(3, "Where there are two variables, each letter gets its own number:");
-  ShowAt(6, "3x - 2y", 12);
-  ShowAt(7, "x = 4 and y = -5", 12);
-  PageEnd();
-  ValueSteps steps(LineOf(InXY({TermOf(3, 1), TermOf(-2, 0, 1)}, 4, -5)), 9, 12);
-  SayAt(16.5, "4 goes in for x and (-5) for y, not the other way around.  What is the value?");
+  SayAt(3, "What is 3x - 2y if x = 4 and y = -5?");
+  Say("Each letter gets its own number:  4 goes in for x, and (-5) for y.");
+  const NumberLine line = LineOf(InXY({TermOf(3, 1), TermOf(-2, 0, 1)}, 4, -5));
+  ValueSteps steps(line, 8, CentredCol(line));
   PageEnd();
   steps.Finish();
-  ClearBelow(16.5);
-  SayAt(17, R"(\yTry it:\z  May x and y be the same number?)");
+  SayAt(15.2, R"(\yTry it:\z  May x and y be the same number?)");
   PageEnd();
-  SayAt(18.5, "Yes.  Two letters may stand for the same number, say 4:  12 - 8 = 4.");
-  SayAt(21, Text(R"(\yTry it:\z  In {}, may one x be 2 and the other one 3?)", "x^2^ + 5x"));
+  SayAt(17, "Yes.  Two letters may stand for the same number, say 4:  12 - 8 = 4.");
+  Say(Text(R"(\yTry it:\z  In {}, may one x be 2 and the other one 3?)", "x^2^ + 5x"));
   PageEnd();
-  SayAt(23, "No.  Every x is the same number here.");
+  Say("No.  Every x is the same number here.");
   PageEnd();
 }
 
-// An expression whose terms are underlined by brackets.
-void ShowTerms() {
-  constexpr double kRow = 6;
-  constexpr double kCol = 12;
-  ShowAt(kRow, "2x^2^ - 3xy + 4", kCol);
-  constexpr std::pair<double, double> kTerms[] = {{0, 3}, {6, 3}, {12, 1}};  // column and width
-  for (const auto& [col, width] : kTerms) Bracket(kRow + 0.75, kCol + col, width, 2, 1);
+// The terms of a printed expression are underlined by brackets, with the signs before them.
+void UnderlineTerms(double row, double col) {
+  constexpr std::pair<double, double> kTerms[] = {{0, 3}, {4, 5}, {10, 3}};  // column and width
+  for (const auto& [at, width] : kTerms) Bracket(row + 0.75, col + at, width, 2, 1);
 }
 
 void Terms() {
   NewScreen();
-  SayAt(3, R"(The parts between plus and minus signs are called \cterms\z.)");
-  ShowTerms();
-  Say("How many terms are there here?");
+  constexpr double kRow = 7;
+  constexpr double kCol = 12;
+  SayAt(3, R"(Plus and minus signs separate \cterms\z.  The sign in front belongs to the term.  )"
+           "How many terms are there here?");
+  ShowAt(kRow, "2x^2^ - 3xy + 4", kCol);
   PageEnd();
-  SayAt(10, "Three.  In each term we multiply.");
-  SayAt(12, R"(\yTry it:\z  Find -3xy if x = 2, y = -4.)");
+  UnderlineTerms(kRow, kCol);
+  SayAt(9, Text("Three:  {}, -3xy and 4.  Inside a term, numbers and letters side by side are "
+                "multiplied.",
+                "2x^2^"));
+  Say(R"(\yTry it:\z  Find -3xy if x = 2, y = -4.)");
   PageEnd();
   const NumberLine product = LineOf(InXY({TermOf(-3, 1, 1)}, 2, -4));
-  ValueSteps(product, 15, CentredCol(product)).Finish();
-  SayAt(20.5, "-6 and -4 have the same sign:  positive.");
+  ValueSteps(product, 15.5, CentredCol(product)).Finish();
+  SayAt(21, "-6 and -4 have the same sign:  positive.");
   PageEnd();
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  What is {} if {} and {}?)", "2x^2^ - 3y + 4", "x = -3", "y = 5"));
@@ -251,7 +241,7 @@ void Terms() {
   SayAt(18, "First powers, then products.");
   PageEnd();
   steps.Finish();
-  SayAt(20, R"(At last we add and subtract, from left to right.  The value is \y7\z.)");
+  SayAt(20, R"(Then we add and subtract, from left to right.  The value is \y7\z.)");
   PageEnd();
 }
 
@@ -275,10 +265,6 @@ class VariablesAndExpressions final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  void DrawShape(RandomStream& random);
-  void DrawLetters(RandomStream& random);
-  void DrawNumbers(RandomStream& random);
-  bool IsWorthSolving() const;
   bool IsTerm() const { return expression_.terms.size() == 1; }
   void FillChoices(RandomStream& random);
   void ShowQuestion(double row) const;
@@ -290,70 +276,19 @@ class VariablesAndExpressions final : public LessonScript {
 // --- Generator ---------------------------------------------------------------
 
 void VariablesAndExpressions::DrawProblem(RandomStream& random) {
-  DrawShape(random);
-  DrawLetters(random);
-  do {
-    DrawNumbers(random);
-  } while (!IsWorthSolving());
-
+  expression_ = DrawExpression(random);
   problem.question = {IsTerm() ? "Multiply to determine the value of the term."
                                : "Find the value of this expression:",
                       expression_.Text(), "if " + expression_.ValuesText()};
   FillChoices(random);
 }
 
-void VariablesAndExpressions::DrawShape(RandomStream& random) {
-  const auto kind = static_cast<std::size_t>(random.Rand(0, 6));
-  const Shape& shape = kShapes[kind];
-  expression_ = {};
-  for (std::size_t i = 0; i < shape.count; ++i)
-    expression_.terms.push_back({1, shape.exponents[i]});
-  const bool second = random.Rand(0, 1) == 1;
-  if (kind == kSquareOfALetter && second)
-    std::swap(expression_.terms[0].exponents[0], expression_.terms[0].exponents[1]);
-}
-
-void VariablesAndExpressions::DrawLetters(RandomStream& random) {
-  auto& [first, second] = expression_.letters;
-  first = random.OneOf(kTenLetters);
-  do {
-    second = random.OneOf(kTenLetters);
-  } while (second == first);
-  if (second < first) std::swap(first, second);  // in a term they stand by the alphabet
-}
-
-void VariablesAndExpressions::DrawNumbers(RandomStream& random) {
-  for (Term& term : expression_.terms) term.coef = random.Rand(-kLargestNumber, kLargestNumber);
-  for (int& value : expression_.values) value = random.Rand(-kLargestNumber, kLargestNumber);
-}
-
-// A twelfth of the draws at 3x^2 y, a quarter and more at all others.
-bool VariablesAndExpressions::IsWorthSolving() const {
-  const auto fits = [](int number) { return std::abs(number) <= kLargestInTheHead; };
-  for (const Term& term : expression_.terms) {
-    if (term.coef == 0) return false;
-    // x + 4 has nothing to multiply.
-    if (term.coef == 1 && term.exponents[0] + term.exponents[1] == 1) return false;
-  }
-  for (std::size_t i = 0; i < kLetters; ++i)
-    // With 0, 1 or -1 most mistakes lead to the same.
-    if (expression_.Has(i) && std::abs(expression_.values[i]) < 2) return false;
-  for (const Product& product : LineOf(expression_))
-    if (!fits(product.Value())) return false;
-  const int value = ValueOf(expression_);
-  if (value == 0 || !fits(value)) return false;  // 0 has no sign to be lost
-  return std::ranges::count_if(WrongValuesOf(expression_), [](const WrongValue& wrong) {
-           return std::abs(wrong.value) <= kLargestWrong;
-         }) >= kFewestMistakes;
-}
-
 void VariablesAndExpressions::FillChoices(RandomStream& random) {
   const int right = ValueOf(expression_);
   Choices choices(problem, choice_kind::FiveShuffled, NumStr);
   choices.Right(right);
-  for (const WrongValue& wrong : WrongValuesOf(expression_))
-    if (std::abs(wrong.value) <= kLargestWrong)
-      choices.Wrong(std::string(wrong.mistake), wrong.value);
+  for (const WrongValue& wrong : BelievableMistakes(expression_))
+    choices.Wrong(std::string(wrong.mistake), wrong.value);
   const int reach = 2 * std::abs(right);
   choices.Fill([&] { return random.Rand(-reach, reach); });
 }
@@ -385,7 +320,12 @@ std::string VariablesAndExpressions::PuttingIn() const {
   }
   text += negative ? ".  Negative numbers take parentheses.  " : ".  ";
   for (const Term& term : expression_.terms)
-    if (term.coef == -1 && term.HasLetter()) return text + "A lone minus sign means -1 times.";
+    if (term.coef == -1 && term.HasLetter()) {
+      Term positive = term;
+      positive.coef = 1;
+      const std::string letters = ValuedExpression{{positive}, expression_.letters}.Text();
+      return text + Text("{} means -1 times {}.", "-" + letters, letters);
+    }
   return text + "Where no sign stands, we multiply.";
 }
 

@@ -81,6 +81,7 @@ struct Habit {
   bool adds = false;        // for times
   bool sideBySide = false;  // digits
   bool oneWrongSign = false;
+  bool stopsAtTwoFactors = false;
 };
 
 class Student {
@@ -138,6 +139,8 @@ class Student {
     }
     const bool loneMinus = !term.coefficient && i == 0 && term.minus;
     if (habit_.adds && !loneMinus) return sum;
+    if (habit_.stopsAtTwoFactors && !loneMinus && factors.size() > 2)
+      return factors[0] * factors[1];
     if (habit_.sideBySide && !loneMinus && CanStandSideBySide(term)) return Rational(digits);
     if (habit_.oneWrongSign && !turned_ && hasNegative && factors.size() > 1) {
       turned_ = true;
@@ -227,6 +230,7 @@ void AddMistakes(const std::vector<Term>& terms, const Numbers& numbers, Reading
   addHabit("adds instead of multiplying", {.adds = true});
   addHabit("sets the digits side by side", {.sideBySide = true});
   addHabit("gives a product the wrong sign", {.oneWrongSign = true});
+  addHabit("multiplies only the first two factors", {.stopsAtTwoFactors = true});
   add("works from left to right", FromLeft(terms, numbers));
   add("adds and subtracts first", AdditionsFirst(terms, numbers));
   add("exchanges the values of the letters", Student(terms, Exchanged(numbers)).Value());

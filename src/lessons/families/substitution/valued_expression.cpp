@@ -69,6 +69,13 @@ int AddedFactors(const Product& product) {
                          [](int sum, const Factor& factor) { return sum + factor.Value(); });
 }
 
+// 2 x 3 x 5 as 2 x 3.
+int OfTwoFactors(const Product& product) {
+  const std::vector<Factor>& factors = product.factors;
+  if (factors.size() < 3 || factors[0].isUnprinted) return product.Value();
+  return factors[0].Value() * factors[1].Value();
+}
+
 int FromLeftToRight(const NumberLine& line) {
   int value = 0;
   for (const Product& product : line) {
@@ -238,6 +245,7 @@ std::vector<WrongValue> WrongValuesOf(const ValuedExpression& expression) {
       {"adds and subtracts first", SumsFirst(line)},
       {"exchanges the values of the letters", WithExchangedValues(expression)},
       {"adds the number to the coefficient", WithUnlikeTermsGathered(expression)},
+      {"multiplies only the first two factors", Sum(line, OfTwoFactors)},
       {"takes a letter for its place in the alphabet", WithPlacesInAlphabet(expression)}};
   const int right = ValueOf(line);
   std::vector<WrongValue> wrong;
