@@ -55,8 +55,7 @@ void PositiveAndNegative() {
   SayAt(kUnderLine, R"(\yTry it:\z  Which number does K represent?)");
   PageEnd();
   line.Hop(2, 3);
-  Say(R"(From 0 to 2 there are two spaces, so each tick is worth 1.  K is one tick to the right of )"
-      R"(2.  K represents \y3\z.)");
+  Say(ScaleSentence({2, 1}) + R"(  K is one tick to the right of 2:  \y3\z.)");
   PageEnd();
   line.Add({PointOnLineItem(-5, "M")});
   Say(R"(\yTry it:\z  Which number is M:  -3 or -5?)");
@@ -68,21 +67,21 @@ void PositiveAndNegative() {
 
 void OtherScales() {
   NewScreen();
-  SayAt(3, R"(A tick is not always worth 1.  The \cscale\z tells what it is worth.)");
-  const ScaleLine line({4, 2}, 5.5);
+  SayAt(3, R"(The numbers under the line, the \cscale\z, tell what each tick is worth.)");
+  const ScaleLine line({4, 2}, 5.2);
   line.Add({PointOnLineItem(6, "K")});
-  SayAt(10, R"(\yTry it:\z  How many spaces are there from 0 to 4?  Which number is K?)");
+  SayAt(9.2, R"(\yTry it:\z  How many spaces are there from 0 to 4?  Which number is K?)");
   PageEnd();
   line.Hop(4, 6);
-  SayAt(12.5, ScaleSentence({4, 2}) + R"(  From 4 we count one tick:  \y6\z, not 5.)");
+  SayAt(11.5, ScaleSentence({4, 2}) + R"(  From 4 we count one tick:  \y6\z, not 5.)");
   PageEnd();
-  const ScaleLine other({6, 2}, 16, 2);
+  const ScaleLine other({6, 2}, 14.9, 2);
   other.Add({PointOnLineItem(-10, "M")});
-  SayAt(20.2, R"(\yTry it:\z  Which number does M represent?)");
+  SayAt(18.9, R"(\yTry it:\z  Which number does M represent?)");
   PageEnd();
   other.Hop(-6, -10);
-  SayAt(21.5,
-        R"(Each tick is worth 2.  From -6, not from -12, we count to the left:  -8, \y-10\z.)");
+  SayAt(20, R"(Each tick is worth 2.  From -6 we count two ticks to the left:  -8, \y-10\z.  )"
+            "Check:  from -12 one tick to the right is -10, too.");
   PageEnd();
 }
 
@@ -97,10 +96,22 @@ void Opposites() {
   PageEnd();
   Say("The opposite of 4 is -4, and the opposite of -4 is 4.  The opposite of 0 is 0.");
   PageEnd();
-  Say(R"(We write a minus sign for ~the opposite of~.  So -K means the opposite of K.)");
-  Say(R"(\yTry it:\z  K is -7.  Which number is -K?)");
+  NewScreen();
+  SayAt(3, R"(We write a minus sign for ~the opposite of~.  So -K means the opposite of K.)");
+  const ScaleLine other({5, 1}, kLineRow - 1);
+  other.Add({PointOnLineItem(-7, "K")});
+  SayAt(kUnderLine - 1, R"(\yTry it:\z  Which number is K?  Which number is -K?)");
   PageEnd();
-  Say(R"(It is \y7\z, the number on the other side of 0.  -K is not always a negative number.)");
+  other.Distance(-7);
+  other.Distance(7);
+  Say(R"(K is -7, so -K is \y7\z, the number as far from 0 on the other side.  -K is not always )"
+      "negative.");
+  PageEnd();
+  ClearBelow(kUnderLine - 1);
+  other.Add({PointOnLineItem(-4, "A"), PointOnLineItem(4, "B")});
+  SayAt(kUnderLine - 1, R"(\yTry it:\z  Which letter represents the opposite of 4?)");
+  PageEnd();
+  Say(R"(The opposite of 4 is -4.  \yA\z stands there.  B stands at 4 itself.)");
   PageEnd();
 }
 
@@ -111,18 +122,21 @@ void AbsoluteValue() {
   line.Add({PointOnLineItem(-7, "A")});
   line.Distance(-7);
   ShowAt(kUnderLine, "|-7| = 7", 16);
-  SayAt(kUnderLine + 2, "We write two bars.  Can it be negative?");
+  SayAt(kUnderLine + 2,
+        "We write the absolute value with two bars.  Can an absolute value be negative?");
   PageEnd();
   Say("No.  A distance is never negative.");
   PaperBox({R"(|-7| = 7,  \rnot -7\z)"});
   PageEnd();
   ClearBelow(kUnderLine);
   line.Add({PointOnLineItem(9, "B")});
-  SayAt(kUnderLine, Text(R"(\yTry it:\z  What is {}?  Do the bars change the sign?)", "|9|"));
+  SayAt(kUnderLine,
+        Text(R"(\yTry it:\z  What is {}?  Do the bars change a positive number?)", "|9|"));
   PageEnd();
   line.Distance(9);
-  Say(R"(They do not.  9 lies 9 units from 0, so |9| is \y9\z.  The bars take away a minus sign, )"
-      R"(and leave a positive number as it is.)");
+  Say(Text(R"(They do not.  9 lies 9 units from 0, so {}.  Only a negative number changes:  {}.  )"
+           "And {}.",
+           "|9| = 9", "|-7| = 7", "|0| = 0"));
   PageEnd();
 }
 
@@ -143,14 +157,16 @@ void LessAndGreater() {
   Say(R"(It is \yB\z.  -3 is the negative number farthest to the right.)");
   Say(R"(\yTry it:\z  Which is the least of all?)");
   PageEnd();
-  Say(R"(It is \yA\z, the point farthest to the left.  The number nearest to 0 need not be the )"
-      "least.");
+  Say(R"(It is \yA\z, the point farthest to the left.  )");
+  Say(R"(\yWatch out:\z  B is nearest to 0, but it is not the least.  -8 is less than -3.)");
   PageEnd();
 }
 
 void OrderOfDistances() {
   NewScreen();
-  SayAt(3, R"(Absolute values compare distances.  Which point has the greatest absolute value?)");
+  SayAt(
+      3,
+      "Absolute values are distances from 0.  We compare them.  Which point has the greatest one?");
   const ScaleLine line({5, 1}, 6.5);
   line.Add({PointOnLineItem(-8, "A"), PointOnLineItem(-3, "B"), PointOnLineItem(6, "C")});
   PageEnd();
@@ -180,6 +196,7 @@ class NumberLineAndAbsoluteValue final : public LessonScript {
   void DrawProblem(RandomStream& random) override { question_.Draw(random, problem); }
   void ShowProblem() override;
   void ExplainProblem() override;
+  MistakesFigure FigureOfMistakes() override;
 
   ScaleLine ShowLine(double row) const;
   std::string LetterAt(int number) const;
@@ -332,6 +349,15 @@ void NumberLineAndAbsoluteValue::ExplainDistances(const ScaleLine& line) const {
   Say(Text("{} lies {} from 0.  On the other side {} lies {} from 0.", LetterAt(number),
            Counted(std::abs(number), "unit"), LetterAt(rival), Counted(std::abs(rival), "unit")));
   PageEnd();
+}
+
+// The question stays with its line.
+MistakesFigure NumberLineAndAbsoluteValue::FigureOfMistakes() {
+  constexpr double kQuestionRows = 2.5;
+  return {kQuestionRows + ScaleLine::kRows + 0.7, [this](double row) {
+            SayAt(row - 1, problem.question[0]);
+            ShowLine(row - 1 + kQuestionRows);
+          }};
 }
 
 const LessonRegistration<NumberLineAndAbsoluteValue> kRegistration(

@@ -127,8 +127,16 @@ void AddMistakesOfOrder(const Line& line, Reading& reading) {
     mistake("takes the least positive number", positive.front());
   } else {
     mistake("takes the least number of all", sorted.front());
-    mistake("takes the least absolute value", sizes.front());
-    mistake("overlooks a point", answer == sizes.front() ? sizes[1] : sizes[sizes.size() - 2]);
+    const bool least = answer == sizes.front();
+    if (least) {
+      mistake("leaves out the negative numbers", positive.front());
+      mistake("leaves out the positive numbers", negative.back());
+    } else {
+      mistake("takes the least absolute value", sizes.front());
+      std::ranges::reverse(sizes);
+    }
+    mistake("overlooks a point", sizes[1]);
+    mistake("overlooks two points", sizes.at(2));
   }
   mistake("takes the greatest number of all", sorted.back());
 }

@@ -243,9 +243,16 @@ std::vector<ScaleQuestion::NamedValue> ScaleQuestion::DistanceMistakes(
   if (greatest_) std::ranges::reverse(byDistance);
   std::vector<NamedValue> values = {{"", byDistance[0]},
                                     {"takes the greatest number of all", sorted.back()},
-                                    {"takes the least number of all", sorted.front()},
-                                    {"overlooks a point", byDistance[1]}};
-  if (greatest_) values.push_back({"takes the least absolute value", byDistance.back()});
+                                    {"takes the least number of all", sorted.front()}};
+  if (greatest_) {
+    values.push_back({"takes the least absolute value", byDistance.back()});
+  } else {
+    const auto positive = std::ranges::find_if(sorted, [](int n) { return n > 0; });
+    values.push_back({"leaves out the negative numbers", *positive});
+    values.push_back({"leaves out the positive numbers", *(positive - 1)});
+  }
+  values.push_back({"overlooks a point", byDistance[1]});
+  values.push_back({"overlooks two points", byDistance[2]});
   for (const int n : byDistance) values.push_back({kFiller, n});
   return values;
 }
