@@ -139,7 +139,7 @@ void LessonScript::ExplainMistakes(const DrawnProblem& drawn) {
                           session.gMode == mode::LessonTestExplanation ||
                           session.gMode == mode::UnitTestExplanation;
   if (boxesStood && TellsMistakes())
-    TellMistakes(drawn.problem, drawn.order, StudentsBox(), FigureOfMistakes());
+    TellMistakes(drawn.problem, drawn.order, StudentsBox(), FigureOfMistakes(), ChoicesAreWords());
 }
 
 void LessonScript::ExampleEnd() {

@@ -41,6 +41,8 @@ class LessonScript {
 
   // Whether a page behind the explanation tells which mistakes lead to the wrong choices.
   virtual bool TellsMistakes() const { return true; }
+  // Whether the choices are words, which that page quotes, and not values.
+  virtual bool ChoicesAreWords() const { return false; }
 
   // The problem of a seed, drawn without a window; a run of the seed shows and grades the same.
   struct DrawnProblem {

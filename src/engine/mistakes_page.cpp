@@ -90,8 +90,8 @@ struct Told {
 class MistakesPage {
  public:
   MistakesPage(const Problem& problem, const std::vector<NamedMistake>& mistakes,
-               const MistakesFigure& figure)
-      : figure_(figure) {
+               const MistakesFigure& figure, bool choicesAreWords)
+      : figure_(figure), choicesAreWords_(choicesAreWords) {
     for (const NamedMistake& mistake : mistakes) Add(mistake);
     SetPlaces();
     for (const std::string& line : problem.question)
@@ -119,12 +119,14 @@ class MistakesPage {
 
  private:
   void Add(const NamedMistake& mistake) {
-    const std::string value = ExponentCharsToCarets(mistake.text);
+    const std::string value =
+        choicesAreWords_ ? "~" + mistake.text + "~" : ExponentCharsToCarets(mistake.text);
+    const std::string verb = choicesAreWords_ ? " chooses" : " gets";
     if (mistake.own)
       told_.push_back(
           {"You chose", value, "That is what we get when we " + InOurWords(mistake.name) + "."});
     else
-      told_.push_back({"Someone who " + mistake.name + " gets", value, ""});
+      told_.push_back({"Someone who " + mistake.name + verb, value, ""});
   }
 
   // "gets" alone on a line would be lost.
@@ -135,6 +137,11 @@ class MistakesPage {
     const bool builtUp =
         std::ranges::any_of(told_, [](const Told& told) { return IsBuiltUp(told.value); });
     for (Told& told : told_) {
+      if (choicesAreWords_) {
+        told.before += " " + told.value + ".";
+        if (!told.after.empty()) told.before += "  " + told.after;
+        continue;
+      }
       const int width = WidthBeside(told.value);
       if (builtUp && width <= kWidestBeside) {
         told.place = Place::Beside;
@@ -249,6 +256,7 @@ class MistakesPage {
   }
 
   const MistakesFigure& figure_;
+  bool choicesAreWords_;
   std::vector<std::string> question_;
   std::vector<Told> told_;
   bool onLastLine_ = true;  // of its words stands a value beside them, not in their middle
@@ -258,10 +266,10 @@ class MistakesPage {
 }  // namespace
 
 void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox,
-                  const MistakesFigure& figure) {
+                  const MistakesFigure& figure, bool choicesAreWords) {
   const std::vector<NamedMistake> mistakes = NamedMistakes(problem, order, studentsBox);
   if (mistakes.empty()) return;
-  MistakesPage(problem, mistakes, figure).Draw();
+  MistakesPage(problem, mistakes, figure, choicesAreWords).Draw();
   PageEnd();
 }
 

@@ -508,6 +508,13 @@ TEST(PageText, EveryNamedMistakeIsToldWhole) {
   EXPECT_NE(told({first, "2/6"}, 1), "") << "a box is left out";
   EXPECT_NE(told({first, "2/6", second, "Someone who guesses gets 3."}, 1), "");
   EXPECT_NE(told({"You chose", "2/6", second}, 2), "") << "no reason";
+  PageText quoted;
+  quoted.panels = {{"pnlLesson", {}}};
+  for (const char* text : {"Someone who adds the denominators too chooses \"2/6\".",
+                           "Someone who multiplies chooses \"8\"."})
+    quoted.panels[0].fragments.push_back({5, 1, 0, 0, text, 1});
+  EXPECT_EQ(FaultOfMistakesPage(quoted, drawn, 1, true), "");
+  EXPECT_NE(FaultOfMistakesPage(quoted, drawn, 1), "") << "values are not quoted";
   PageText plain;
   plain.lines = {"x = 5"};
   PageText page;

@@ -63,9 +63,11 @@ PageText TakeMistakesPage(std::vector<PageText>& explanation) {
 }
 
 std::string FaultOfMistakesPage(const PageText& page,
-                                const course::LessonScript::DrawnProblem& drawn, int pickedBox) {
+                                const course::LessonScript::DrawnProblem& drawn, int pickedBox,
+                                bool choicesAreWords) {
   const course::Problem& problem = drawn.problem;
   const std::string printed = Printed(page);
+  const std::string verb = choicesAreWords ? " chooses" : " gets";
   std::size_t others = 0;
   std::size_t own = 0;
   for (int box = 1; box <= course::ChoiceCountOf(problem.kind); ++box) {
@@ -74,8 +76,9 @@ std::string FaultOfMistakesPage(const PageText& page,
     if (choice == problem.correct || mistake.empty() || mistake == course::kFiller) continue;
     const bool isOwn = box == pickedBox;
     ++(isOwn ? own : others);
-    const std::string words = isOwn ? std::string(kOwn) : std::string(kOthers) + mistake + " gets";
-    const std::string value = ChoiceText(problem, choice);
+    const std::string words = isOwn ? std::string(kOwn) : std::string(kOthers) + mistake + verb;
+    const std::string text = ChoiceText(problem, choice);
+    const std::string value = choicesAreWords ? '"' + text + '"' : text;
     if (!Tells(printed, words, value)) return "it does not tell \"" + words + " " + value + "\"";
   }
   const std::string reason = Bare("That is what we get when we ");

@@ -19,6 +19,7 @@ PageText TakeMistakesPage(std::vector<PageText>& explanation);
 // What is wrong with such a page of a student who picked a box, 1 to 5: a named mistake of a box
 // that is not spoken of in whole sentences, or one that no box has.  "" for nothing.
 std::string FaultOfMistakesPage(const PageText& page,
-                                const course::LessonScript::DrawnProblem& drawn, int pickedBox);
+                                const course::LessonScript::DrawnProblem& drawn, int pickedBox,
+                                bool choicesAreWords = false);
 
 }  // namespace lesson_check

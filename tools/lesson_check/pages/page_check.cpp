@@ -238,7 +238,8 @@ void PageChecker::CheckEnd(int entry, int seed, std::vector<PageText> pages,
                            const Complain& complain) {
   const PageText mistakes = TakeMistakesPage(pages);
   if (entry != mode::Example && lesson_.TellsMistakes()) {
-    const std::string fault = FaultOfMistakesPage(mistakes, drawn_, PickedBox(seed));
+    const std::string fault =
+        FaultOfMistakesPage(mistakes, drawn_, PickedBox(seed), lesson_.ChoicesAreWords());
     if (!fault.empty()) complain("page of mistakes: " + fault);
   } else if (!mistakes.lines.empty()) {
     complain("page of mistakes: there is to be none");
