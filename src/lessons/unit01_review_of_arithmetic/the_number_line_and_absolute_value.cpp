@@ -81,7 +81,7 @@ void OtherScales() {
   PageEnd();
   other.Hop(-6, -10);
   SayAt(20, R"(Each tick is worth 2.  From -6 we count two ticks to the left:  -8, \y-10\z.  )"
-            "Check:  from -12 one tick to the right is -10, too.");
+            "Check:  one tick to the right of -12 is -10.");
   PageEnd();
 }
 
@@ -117,13 +117,12 @@ void Opposites() {
 
 void AbsoluteValue() {
   NewScreen();
-  SayAt(3, R"(The \cabsolute value\z of a number is its distance from 0.)");
+  SayAt(3, R"(The \cabsolute value\z of a number is its distance from 0.  We write two bars:)");
   const ScaleLine line({5, 1}, kLineRow);
   line.Add({PointOnLineItem(-7, "A")});
   line.Distance(-7);
   ShowAt(kUnderLine, "|-7| = 7", 16);
-  SayAt(kUnderLine + 2,
-        "We write the absolute value with two bars.  Can an absolute value be negative?");
+  SayAt(kUnderLine + 2, "Can an absolute value be negative?");
   PageEnd();
   Say("No.  A distance is never negative.");
   PaperBox({R"(|-7| = 7,  \rnot -7\z)"});
@@ -157,7 +156,7 @@ void LessAndGreater() {
   Say(R"(It is \yB\z.  -3 is the negative number farthest to the right.)");
   Say(R"(\yTry it:\z  Which is the least of all?)");
   PageEnd();
-  Say(R"(It is \yA\z, the point farthest to the left.  )");
+  Say(R"(It is \yA\z, the point farthest left.)");
   Say(R"(\yWatch out:\z  B is nearest to 0, but it is not the least.  -8 is less than -3.)");
   PageEnd();
 }
