@@ -103,7 +103,7 @@ void DotsInBlocks() {
   SayAt(13, Text("Each has {}.  Both together:", Product("3", "4") + " = 12"));
   ShowAt(14.5, "2" + kTimes + "(3" + kTimes + "4) = 2" + kTimes + "12 = 24", 10);
   SayAt(16.5, R"(This is the \cassociative property\z:)");
-  ShowParenthesesMove(19, 14, "234", tutor::Times[0]);
+  ShowParenthesesMove(19, 8, "234", tutor::Times[0]);
   PageEnd();
 }
 
@@ -281,6 +281,7 @@ void AllFive() {
 class PropertiesOfMultiplication final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreWords() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override {

@@ -146,17 +146,22 @@ void ScaleLine::Hop(int from, int to) const {
   box.Refresh();
 }
 
-void ScaleLine::Distance(int to) const {
+void ScaleLine::Jump(int from, int to, const std::string& label) const {
   platform::PictureBox& box = Figure(index_);
-  const int way = to < 0 ? -1 : 1;
+  const int way = to < from ? -1 : 1;
+  const int start = PixelOf(from);
   for (int y = kArrowY - 1; y <= kArrowY; ++y)
-    box.Line(PixelOf(0), y, PixelOf(to) - way * kHeadLength, y, kMarks);
-  box.Line(PixelOf(0), kArrowY - kHeadHalfWidth, PixelOf(0), kArrowY + kHeadHalfWidth, kMarks);
+    box.Line(start, y, PixelOf(to) - way * kHeadLength, y, kMarks);
+  box.Line(start, kArrowY - kHeadHalfWidth, start, kArrowY + kHeadHalfWidth, kMarks);
   DrawHeadAlong(box, PixelOf(to), kArrowY, way, kMarks);
   box.ForeColor = kMarks;
-  PrintCentred(box, NumStr(std::abs(to)), (PixelOf(0) + PixelOf(to)) / 2, 0, kNumberSize, true);
+  PrintCentred(box, label, (start + PixelOf(to)) / 2, 0, kNumberSize, true);
   box.ForeColor = platform::colour::Black;
   box.Refresh();
+}
+
+void ScaleLine::Distance(int to) const {
+  Jump(0, to, NumStr(std::abs(to)));
 }
 
 }  // namespace course::graphs

@@ -5,8 +5,10 @@
 //   line.Add({PointOnLineItem(-6, "K")});
 //   line.Hop(-4, -6);                 // an arc below the line, from tick to tick
 //   line.Distance(-6);                // an arrow above the letters, from 0
+//   line.Jump(2, 6, "+ 4");           // an arrow from 2 to 6
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "display/figure_item.h"
@@ -39,7 +41,9 @@ class ScaleLine {
            platform::Colour colour = platform::colour::Black) const;
   // Arcs over the spaces from one tick to another, the last one with an arrowhead.
   void Hop(int from, int to) const;
-  // From 0 to the point, with the number of units above it.
+  // An arrow above the letters from one number to another, with what is added above it.
+  void Jump(int from, int to, const std::string& label) const;
+  // The same from 0 to the point, with the number of units.
   void Distance(int to) const;
 
  private:

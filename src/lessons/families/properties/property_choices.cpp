@@ -41,6 +41,8 @@ constexpr Misreading kMisreadings[] = {
     {kInverse, kCommutative, "takes opposite numbers for a new order",
      "takes reciprocals for a new order"},
     {kIdentity, kNone, "overlooks the 0 that is added", "overlooks the factor 1"},
+    {kIdentity, kCommutative, "",
+     "overlooks the factor 1 and sees a new order where there is none"},
     {kIdentity, kZero, "", "treats the factor 1 like a 0"},
     {kInverse, kZero, "", "expects reciprocals to give 0"},
     {kZero, kIdentity, "", "treats the factor 0 like a 1"},

@@ -71,10 +71,11 @@ std::string Reason(const Operation& operation, const Side& before, const Step& s
     case kAssociative:
       return Text("The parentheses move from {} to {}.", GroupText(before), GroupText(step.side));
     case kIdentity: {
-      const Side pair = FirstPair(before);
-      return Text(operation.isProduct ? "{} is {}.  Multiplying by 1 changes nothing."
-                                      : "{} is {}.  Adding 0 changes nothing.",
-                  SideText(pair), ValueText(ValueOf(pair)));
+      const std::string number = ValueText(ValueOf(FirstPair(before)));
+      return Text(operation.isProduct
+                      ? "Multiplying by 1 changes nothing.  {} keeps its identity:  it stays {}."
+                      : "Adding 0 changes nothing.  {} keeps its identity:  it stays {}.",
+                  number, number);
     }
     case kInverse:
       return Text(operation.isProduct ? "The product of a number and its reciprocal is {}."
@@ -102,8 +103,6 @@ std::string NotShown(const Operation& operation, const Statement& statement) {
     return operation.isProduct
                ? "1 comes out here.  The identity property would need a factor of 1."
                : "0 comes out here.  The identity property would need a 0 that is added.";
-  if (statement.properties == kIdentity)
-    return "The number keeps its identity:  it stays the same.";
   return "";
 }
 
@@ -124,18 +123,27 @@ void ExplainSteps(const Operation& operation, const Statement& statement) {
   }
 }
 
+// A sum or product of two numbers beside its value would be worked out as it stands there.
+bool NeedsCheck(const Statement& statement) {
+  return statement.Start().numbers.size() > 2 || statement.End().numbers.size() > 1;
+}
+
 void CheckTrue(const Operation& operation, const Statement& statement) {
   const double below = BelowEquation(statement.Text());
-  ClearBelow(below);
-  SayAt(below, R"(\yCheck:\z  Both sides give the same number.)");
-  GoBelow();
-  for (const Side* side : {&statement.Left(), &statement.Right()})
-    if (side->numbers.size() > 1) Show(WorkText(*side), 5);
-  PageEnd();
   const std::string notShown = NotShown(operation, statement);
-  if (notShown.empty()) return;
-  Say(notShown);
-  PageEnd();
+  if (NeedsCheck(statement)) {
+    ClearBelow(below);
+    SayAt(below, R"(\yCheck:\z  Both sides give the same number.)");
+    GoBelow();
+    for (const Side* side : {&statement.Left(), &statement.Right()})
+      if (side->numbers.size() > 1) Show(WorkText(*side), 5);
+    PageEnd();
+    if (!notShown.empty()) Say(notShown);
+  } else if (!notShown.empty()) {
+    ClearBelow(below);
+    SayAt(below, notShown);
+  }
+  if (!notShown.empty()) PageEnd();
 }
 
 // --- False equations -----------------------------------------------------------------------------
@@ -233,21 +241,27 @@ void ShowExchange(double row, double col, const std::string& first, char sign,
 
 void ShowParenthesesMove(double row, double col, const std::string& digits, char sign) {
   constexpr double kDistance = 5;  // columns from the first number's side to the second's
-  const std::string between = std::string(" ") + sign + "  ";
-  ShowAt(row,
-         "(" + digits.substr(0, 1) + between + digits.substr(1, 1) + ") " + sign + " " +
-             digits.substr(2, 1),
-         col);
+  const std::string plus = std::string(" ") + sign + " ";
+  const std::string a = digits.substr(0, 1);
+  const std::string b = digits.substr(1, 1);
+  const std::string c = digits.substr(2, 1);
+  const std::string left = "(" + a + plus + b + ")" + plus + c + " = ";
+  const double right = col + static_cast<double>(left.size());
+  ShowAt(row, left, col);
+  ShowAt(row, "(" + a + plus + " " + b + ")" + plus + c, right);
   // Parentheses are higher than their cells.
   constexpr double kAbove = 0.2;
   constexpr double kHeight = 1.4;
   constexpr double kLift = 1.3;  // clear of the digits over which they pass
-  for (const double at : {col + 7, col}) {
+  for (const double at : {right + 7, right}) {
     SlideUp({row - kAbove, at, 1, kHeight}, kLift, Leaving::Nothing, Pace::Brisk);
     SlideRight({row - kLift - kAbove, at, 1, kHeight}, kDistance, Leaving::Nothing, Pace::Brisk);
     SlideDown({row - kLift - kAbove, at + kDistance, 1, kHeight}, kLift, Leaving::Nothing,
               Pace::Brisk);
   }
+  // Evenly spaced, once they have come to rest.
+  ClearBelow(row - kAbove);
+  ShowAt(row, left + a + plus + "(" + b + plus + c + ")", col);
 }
 
 }  // namespace course::properties

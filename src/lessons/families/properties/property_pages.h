@@ -30,8 +30,8 @@ std::vector<std::string> Aligned(std::vector<std::string> lines);
 // above and below stay free.
 void ShowExchange(double row, double col, const std::string& first, char sign,
                   const std::string& second);
-// Prints "(2 + 3) + 4", numbers of one digit, then lets the parentheses move to the last two.  The
-// two rows above stay free.
+// Prints "(2 + 3) + 4 =", numbers of one digit, and behind it the same; there the parentheses move
+// to the last two.  The two rows above stay free, and nothing stands below.
 void ShowParenthesesMove(double row, double col, const std::string& digits, char sign);
 
 }  // namespace course::properties

@@ -1,5 +1,6 @@
 #include "lessons/families/properties/statement.h"
 
+#include <algorithm>
 #include <array>
 
 #include "mathkit/tutor_codes.h"
@@ -198,6 +199,9 @@ Statement DrawStatement(const Operation& operation, RandomStream& random) {
   else
     for (std::size_t i = kFirstSpecialKind; i <= kLastKind; ++i)
       statement.rivals.push_back(kinds[i].properties);
+  // Who sees reciprocals and a factor of 1 does not think of 0.
+  if (operation.isProduct && kind.properties == kInverseAndIdentity)
+    std::ranges::replace(statement.rivals, PropertySet{kZero}, kCommutative | kInverse);
   return statement;
 }
 
