@@ -53,16 +53,18 @@ void RowsAndColumns() {
   DrawDotRows(kRow, kCol, 3, 5);
   for (int i = 0; i < 3; ++i) DrawFrame(kRow + i, kCol, kRow + i, kCol + 8, White);
   ShowAt(9, Product("3", "5") + " = 15", 16);
-  SayAt(11, R"(\yTry it:\z  Now we count \ycolumns\z.  Which product is that?)");
+  Note(10, 14, "factors");
+  Note(10, 22, "product");
+  SayAt(12, R"(\yTry it:\z  Now we count \ycolumns\z.  Which product is that?)");
   PageEnd();
   ClearRows(kRow, kRow + 2);
   DrawDotRows(kRow, kCol, 3, 5);
   for (int i = 0; i < 5; ++i) DrawFrame(kRow, kCol + 2 * i, kRow + 2, kCol + 2 * i, Cyan);
-  Say("5 columns of 3 dots:  " + Product("5", "3") + R"( = \y15\z.  They are the same dots.)");
-  PageEnd();
+  Say("5 columns of 3 dots:  " + Product("5", "3") + R"( = \y15\z.)");
   ShowExchange(18, 14, "3", tutor::Times[0], "5");
-  SayAt(20, R"(Two factors may change places.  This is the \ccommutative property\z of )"
-            "multiplication.");
+  SayAt(
+      20,
+      R"(The \ccommutative property\z:  \cfactors\z, the numbers we multiply, may change places.)");
   PageEnd();
 }
 
@@ -89,21 +91,23 @@ void DotsInBlocks() {
     for (int i = 0; i < kBlocks; ++i) DrawDotRows(kRow, kCol + kBlock * i, 2, 3);
   };
   NewScreen();
-  SayAt(3, Text("4 blocks, each of {} dots:", Product("2", "3")));
+  SayAt(2.5, Text("Each block has {} dots.  There are 4 blocks, so we multiply by 4:",
+                  Product("2", "3")));
   draw();
   for (int i = 0; i < kBlocks; ++i)
     DrawFrame(kRow, kCol + kBlock * i, kRow + 1, kCol + kBlock * i + 4, White);
   ShowAt(8, "(2" + kTimes + "3)" + kTimes + "4 = 6" + kTimes + "4 = 24", 10);
-  SayAt(10, R"(\yTry it:\z  Now we look at the two long rows.  How many dots has each?)");
+  SayAt(10, R"(\yTry it:\z  How many dots has a long row?)");
   PageEnd();
   ClearRows(kRow, kRow + 1);
   draw();
   for (int i = 0; i < 2; ++i)
     DrawFrame(kRow + i, kCol, kRow + i, kCol + kBlock * kBlocks - 4, Cyan);
-  SayAt(13, Text("Each has {}.  Both together:", Product("3", "4") + " = 12"));
-  ShowAt(14.5, "2" + kTimes + "(3" + kTimes + "4) = 2" + kTimes + "12 = 24", 10);
-  SayAt(16.5, R"(This is the \cassociative property\z:)");
-  ShowParenthesesMove(19, 8, "234", tutor::Times[0]);
+  SayAt(13,
+        Text("Each row has 3 dots, 4 times:  {}.  There are 2 rows:", Product("3", "4") + " = 12"));
+  ShowAt(15.5, "2" + kTimes + "(3" + kTimes + "4) = 2" + kTimes + "12 = 24", 10);
+  SayAt(17, R"(This is the \cassociative property\z:)");
+  ShowParenthesesMove(20, 8, "234", tutor::Times[0]);
   PageEnd();
 }
 
@@ -126,13 +130,20 @@ void GroupingRule() {
 
 void OrderAndGrouping() {
   NewScreen();
-  Say(R"(\yTry it:\z  Is the order new?  Is the grouping new?)");
-  ShowAt(6, "(5" + kTimes + "7)" + kTimes + "2 = (5" + kTimes + "2)" + kTimes + "7", 6);
+  Say(R"(\yTry it:\z  What is new:  order, grouping?)");
+  ShowAt(5, "(5" + kTimes + "7)" + kTimes + "2 = (5" + kTimes + "2)" + kTimes + "7", 6);
+  SayAt(7, "We begin with the left side:");
+  ShowAt(8.5, "(5" + kTimes + "7)" + kTimes + "2", 6);
   PageEnd();
-  SayAt(8, "Both are new.  It takes three steps:");
-  ShowAt(9.5, "= 5" + kTimes + "(7" + kTimes + R"(2)   \yassociative\z)", 4);
-  ShowAt(11, "= 5" + kTimes + "(2" + kTimes + R"(7)   \ycommutative\z)", 4);
-  ShowAt(12.5, "= (5" + kTimes + "2)" + kTimes + R"(7   \yassociative\z)", 4);
+  ShowAt(10, "= 5" + kTimes + "(7" + kTimes + R"(2)   \yassociative\z)", 4);
+  ShowAt(11.5, "= 5" + kTimes + "(2" + kTimes + R"(7)   \ycommutative\z)", 4);
+  ShowAt(13, "= (5" + kTimes + "2)" + kTimes + R"(7   \yassociative\z)", 4);
+  SayAt(15.5, R"(\yTry it:\z  )" + WithoutBreaks("(3" + kTimes + "6)" + kTimes + "7 = (6" + kTimes +
+                                                 "3)" + kTimes + "7"));
+  PageEnd();
+  SayAt(17.5,
+        R"(Only the order is new:  it is \ycommutative\z.  The parentheses hold 3 and 6 on both )"
+        "sides.");
   PageEnd();
 }
 
@@ -168,29 +179,37 @@ void IdentityRule() {
   NewScreen();
   Say(R"(\yTry it:\z  Which two properties does this equation show?)");
   ShowAt(6, "(6" + kTimes + "1)" + kTimes + "2 = 2" + kTimes + "6", 6);
+  SayAt(8, "We begin with the left side:");
   PageEnd();
-  ShowAt(8.5, "= 6" + kTimes + R"(2         \yidentity\z)", 4);
-  ShowAt(10, "= 2" + kTimes + R"(6         \ycommutative\z)", 4);
-  SayAt(12, Text("{} is 6.  Then 6 and 2 have changed places.", Product("6", "1")));
+  ShowAt(9.5, "(6" + kTimes + "1)" + kTimes + "2", 6);
+  ShowAt(11, "= 6" + kTimes + R"(2         \yidentity\z)", 4);
+  ShowAt(12.5, "= 2" + kTimes + R"(6         \ycommutative\z)", 4);
+  SayAt(14.5, Text("{} is 6.  Then 6 and 2 have changed places.", Product("6", "1")));
   PageEnd();
 }
 
 // --- Screen 4: the inverse -----------------------------------------------------------------------
 
+constexpr double kStripCol = 4;
+constexpr double kFifth = 7;  // columns
+
+// 1/5 under each of the first parts of the strip.
+void ShowFifths(double row, int count) {
+  for (int i = 0; i < count; ++i) ShowAt(row, "1/5", kStripCol + kFifth * (i + 0.5) - 0.5);
+}
+
 void FiveFifths() {
-  constexpr double kCol = 4;
-  constexpr double kWidth = 35;
   NewScreen();
   SayAt(3, "Of 5 equal parts each one is a fifth:");
-  fractions::DrawStrip(6, kCol, kWidth, 5, {{1, Yellow}});
-  ShowAt(8.5, "1/5", 7);
+  fractions::DrawStrip(6, kStripCol, 5 * kFifth, 5, {{1, Yellow}});
+  ShowFifths(8.5, 1);
   SayAt(11, R"(\yTry it:\z  How many fifths make the whole strip?)");
   PageEnd();
-  fractions::DrawStrip(6, kCol, kWidth, 5, {{5, Yellow}});
+  fractions::DrawStrip(6, kStripCol, 5 * kFifth, 5, {{5, Yellow}});
   SayAt(14, R"(It takes \y5\z.  The whole is 1:)");
+  ShowFifths(8.5, 5);
   ShowAt(16.5, "5" + kTimes + "1/5 = 1", 6);
-  SayAt(19, R"(5 and 1/5 are \creciprocals\z.  Each is the \cmultiplicative inverse\z of the )"
-            "other.");
+  SayAt(19, R"(Two numbers whose product is 1 are \creciprocals\z, such as 5 and 1/5.)");
   PageEnd();
 }
 
@@ -202,9 +221,9 @@ void InverseRule() {
   SayAt(9.5, R"(\yTry it:\z  By which number must we multiply 8 to get 1?)");
   PageEnd();
   ShowAt(13, "8" + kTimes + "1/8 = 1", 6);
-  SayAt(15.5, "By its reciprocal:  eight eighths are 1.");
-  SayAt(17, R"(\yWatch out:\z  -8 is not its reciprocal.)");
-  PaperBox({R"(\r8)" + kTimes + R"((-8) = 1\z  is false.)"});
+  SayAt(15.5, R"(By 1/8, its \cmultiplicative inverse\z.)");
+  SayAt(17, R"(\yWatch out:\z  The opposite is not the reciprocal.)");
+  PaperBox({"8" + kTimes + R"((-8) = -64,  \rnot 1\z)"});
   PageEnd();
 }
 
@@ -217,10 +236,11 @@ void IdentityOrInverse() {
   Note(9.2, 23, "inverse: 1 comes out");
   SayAt(11.5, R"(\yTry it:\z  Which two does this one show?)");
   ShowAt(14, "4" + kTimes + "1/4" + kTimes + "7 = 7", 6);
+  SayAt(16, "We begin with the left side:");
   PageEnd();
-  ShowAt(16.5, "= 1" + kTimes + R"(7         \yinverse\z)", 4);
-  ShowAt(18, R"(= 7             \yidentity\z)", 4);
-  SayAt(20, Text("4 times a fourth is 1, and {} is 7.", Product("1", "7")));
+  ShowAt(18.5, "4" + kTimes + "1/4" + kTimes + "7", 6);
+  ShowAt(20.5, "= 1" + kTimes + R"(7         \yinverse\z)", 4);
+  ShowAt(22, R"(= 7             \yidentity\z)", 4);
   PageEnd();
 }
 
@@ -264,15 +284,17 @@ void AllFive() {
   PaperBox(
       Aligned({"commutative: a" + kTimes + "b = b" + kTimes + "a",
                "associative: (a" + kTimes + "b)" + kTimes + "c = a" + kTimes + "(b" + kTimes + "c)",
-               "inverse:     a" + kTimes + "1/a = 1  (a is not 0)",
-               "identity:    a" + kTimes + "1 = a     zero: a" + kTimes + "0 = 0"}),
+               "inverse:     a" + kTimes + "1/a = 1  (a is not 0)"}),
       3);
   PageEnd();
-  Say(R"(\yTry it:\z  Which property is this?)");
-  ShowAt(10.5, "20" + kDivided + "5 = 5" + kDivided + "20", 6);
+  PaperBox(
+      Aligned({"identity:    a" + kTimes + "1 = a     ", "zero:        a" + kTimes + "0 = 0"}));
+  Say(R"(\yTry it:\z  Which property does each show?)");
+  ShowAt(14, Product("9", "0") + " = 0        " + Product("5", "1") + " = 1", 6);
   PageEnd();
-  Say(Text(R"(\yNone\z, since it is false.  {} is 4, but {} is less than 1.)",
-           "20" + kDivided + "5", "5" + kDivided + "20"));
+  Say(Text(R"({} shows the \yproperty of zero\z.)", Product("9", "0") + " = 0"));
+  Say(Text(R"({} shows \ynone\z, since it is false:  {} is 5.)", Product("5", "1") + " = 1",
+           Product("5", "1")));
   PageEnd();
 }
 
