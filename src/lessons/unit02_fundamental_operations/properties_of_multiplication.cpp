@@ -97,15 +97,14 @@ void DotsInBlocks() {
   for (int i = 0; i < kBlocks; ++i)
     DrawFrame(kRow, kCol + kBlock * i, kRow + 1, kCol + kBlock * i + 4, White);
   ShowAt(8, "(2" + kTimes + "3)" + kTimes + "4 = 6" + kTimes + "4 = 24", 10);
-  SayAt(10, R"(\yTry it:\z  How many dots has a long row?)");
+  SayAt(10, R"(\yTry it:\z  How many dots are in one row?)");
   PageEnd();
   ClearRows(kRow, kRow + 1);
   draw();
   for (int i = 0; i < 2; ++i)
     DrawFrame(kRow + i, kCol, kRow + i, kCol + kBlock * kBlocks - 4, Cyan);
-  SayAt(13,
-        Text("Each row has 3 dots, 4 times:  {}.  There are 2 rows:", Product("3", "4") + " = 12"));
-  ShowAt(15.5, "2" + kTimes + "(3" + kTimes + "4) = 2" + kTimes + "12 = 24", 10);
+  SayAt(13, Text("3 dots, 4 times:  {}.  2 rows:", Product("3", "4") + " = 12"));
+  ShowAt(14.5, "2" + kTimes + "(3" + kTimes + "4) = 2" + kTimes + "12 = 24", 10);
   SayAt(17, R"(This is the \cassociative property\z:)");
   ShowParenthesesMove(20, 8, "234", tutor::Times[0]);
   PageEnd();
@@ -184,7 +183,7 @@ void IdentityRule() {
   ShowAt(9.5, "(6" + kTimes + "1)" + kTimes + "2", 6);
   ShowAt(11, "= 6" + kTimes + R"(2         \yidentity\z)", 4);
   ShowAt(12.5, "= 2" + kTimes + R"(6         \ycommutative\z)", 4);
-  SayAt(14.5, Text("{} is 6.  Then 6 and 2 have changed places.", Product("6", "1")));
+  SayAt(14.5, Text("{} is 6.  Then 6 and 2 change places.", Product("6", "1")));
   PageEnd();
 }
 
@@ -193,21 +192,20 @@ void IdentityRule() {
 constexpr double kStripCol = 4;
 constexpr double kFifth = 7;  // columns
 
-// 1/5 under each of the first parts of the strip.
-void ShowFifths(double row, int count) {
-  for (int i = 0; i < count; ++i) ShowAt(row, "1/5", kStripCol + kFifth * (i + 0.5) - 0.5);
+// 1/5 under each part of the strip.
+void ShowFifths(double row) {
+  for (int i = 0; i < 5; ++i) ShowAt(row, "1/5", kStripCol + kFifth * (i + 0.5) - 0.5);
 }
 
 void FiveFifths() {
   NewScreen();
   SayAt(3, "Of 5 equal parts each one is a fifth:");
   fractions::DrawStrip(6, kStripCol, 5 * kFifth, 5, {{1, Yellow}});
-  ShowFifths(8.5, 1);
+  ShowFifths(8.5);
   SayAt(11, R"(\yTry it:\z  How many fifths make the whole strip?)");
   PageEnd();
   fractions::DrawStrip(6, kStripCol, 5 * kFifth, 5, {{5, Yellow}});
   SayAt(14, R"(It takes \y5\z.  The whole is 1:)");
-  ShowFifths(8.5, 5);
   ShowAt(16.5, "5" + kTimes + "1/5 = 1", 6);
   SayAt(19, R"(Two numbers whose product is 1 are \creciprocals\z, such as 5 and 1/5.)");
   PageEnd();
@@ -222,7 +220,7 @@ void InverseRule() {
   PageEnd();
   ShowAt(13, "8" + kTimes + "1/8 = 1", 6);
   SayAt(15.5, R"(By 1/8, its \cmultiplicative inverse\z.)");
-  SayAt(17, R"(\yWatch out:\z  The opposite is not the reciprocal.)");
+  SayAt(17, R"(\yWatch out:\z  The opposite will not do:)");
   PaperBox({"8" + kTimes + R"((-8) = -64,  \rnot 1\z)"});
   PageEnd();
 }
@@ -290,7 +288,7 @@ void AllFive() {
   PaperBox(
       Aligned({"identity:    a" + kTimes + "1 = a     ", "zero:        a" + kTimes + "0 = 0"}));
   Say(R"(\yTry it:\z  Which property does each show?)");
-  ShowAt(14, Product("9", "0") + " = 0        " + Product("5", "1") + " = 1", 6);
+  ShowAt(12.5, Product("9", "0") + " = 0        " + Product("5", "1") + " = 1", 6);
   PageEnd();
   Say(Text(R"({} shows the \yproperty of zero\z.)", Product("9", "0") + " = 0"));
   Say(Text(R"({} shows \ynone\z, since it is false:  {} is 5.)", Product("5", "1") + " = 1",
