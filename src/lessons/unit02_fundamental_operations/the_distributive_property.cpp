@@ -27,7 +27,7 @@ void DrawSpread(double row, double col, const std::string& product) {
   const std::size_t open = product.find('(');
   const std::size_t sign = product.find_first_of("+-", open);
   const double tops[] = {row - 0.75, row - 1.1};
-  const double ends[] = {col + static_cast<double>(open + sign) / 2,
+  const double ends[] = {col + static_cast<double>(open + sign - 1) / 2,
                          col + static_cast<double>(sign + product.find(')')) / 2 + 0.5};
   for (int i = 0; i < 2; ++i)
     isDrawArrow3Segment(row - 0.4, col, tops[i], col, tops[i], ends[i], row - 0.35, ends[i], Yellow,
@@ -48,11 +48,13 @@ void TwoColours() {
   DrawDotRows(kRow, kCol, 3, 4, Yellow);
   DrawDotRows(kRow, kCol + 8, 3, 2, Cyan);
   ShowAt(9, "3(4 + 2) = 3" + kDot + "6 = 18", 8);
-  SayAt(11, R"(\yTry it:\z  Now the colors come apart.  How many dots has each color?)");
+  Note(10.2, 4, "A number before parentheses multiplies.");
+  Note(11.2, 18, "The dot means times:  3" + kDot + "6 is 3 " + tutor::Times + " 6.");
+  SayAt(13, R"(\yTry it:\z  Now the colors come apart.  How many dots has each color?)");
   PageEnd();
   SlideRight({kRow - 0.2, kCol + 8, 4, 3.2}, 6);
-  SayAt(14, R"(Yellow has 3 rows of 4, and the other color has 3 rows of 2.  Together:)");
-  ShowAt(17, "3" + kDot + "4 + 3" + kDot + "2 = 12 + 6 = 18", 8);
+  SayAt(16, R"(Yellow has 3 rows of 4, and the other color has 3 rows of 2.  Together:)");
+  ShowAt(19, "3" + kDot + "4 + 3" + kDot + "2 = 12 + 6 = 18", 8);
   PageEnd();
 }
 
@@ -62,8 +64,8 @@ void FactorToEachTerm() {
   ShowAt(6, "3(4 + 2) = 3" + kDot + "4 + 3" + kDot + "2", 8);
   DrawSpread(6, 8, "3(4 + 2)");
   PageEnd();
-  Note(7.5, 4, "factor");
-  Note(7.5, 11, "terms");
+  Note(7.5, 6.3, "factor");
+  Note(7.5, 10.8, "terms");
   SayAt(9.5, R"(4 and 2 are the \cterms\z in the parentheses:  they are added.  3 is the )"
              R"(\cfactor\z before them:  it multiplies.)");
   PageEnd();
@@ -81,7 +83,7 @@ void UnknownNumber() {
   DrawSpread(7, 8, "5(x + 2)");
   ShowAt(7, "= 5" + kDot + "x + 5" + kDot + "2", 17);
   ShowAt(8.5, "= 5x + 10", 17);
-  SayAt(10, "Yes.  We multiply x by 5, and 2 by 5.");
+  SayAt(10, Text("Yes.  We multiply x by 5, and 2 by 5.  {} is written 5x.", "5" + kDot + "x"));
   PageEnd();
   Say(R"(\yTry it:\z  5 friends buy lunch.  Each has a pizza for x dollars and a drink for 2 )"
       "dollars.  How much are the drinks?");
@@ -125,17 +127,18 @@ void TakeAway() {
   constexpr double kRow = 5;
   constexpr double kCol = 10;
   NewScreen();
-  SayAt(3, "From 3 rows of 6 dots we take 2 each:");
+  SayAt(3, "We take 2 dots from each of 3 rows of 6:");
   DrawDotRows(kRow, kCol, 3, 4, Yellow);
   DrawDotRows(kRow, kCol + 8, 3, 2, Cyan);
   SayAt(9, R"(\yTry it:\z  How many do we take away, and how many are left?)");
   PageEnd();
   SlideRight({kRow - 0.2, kCol + 8, 4, 3.2}, 10);
-  Say(Text("{} go, and {} stay:", "3" + kDot + "2 = 6", "18 - 6 = 12"));
-  ShowAt(14.5, "3(6 - 2) = 3" + kDot + "6 - 3" + kDot + "2", 8);
-  DrawSpread(14.5, 8, "3(6 - 2)");
+  Say(Text("Each row keeps {}:  {}.  Or we take {} from {}:  {}.", "6 - 2 = 4",
+           "3(6 - 2) = 3" + kDot + "4 = 12", "3" + kDot + "2", "3" + kDot + "6", "18 - 6 = 12"));
+  ShowAt(17, "3(6 - 2) = 3" + kDot + "6 - 3" + kDot + "2", 8);
+  DrawSpread(17, 8, "3(6 - 2)");
   PageEnd();
-  SayAt(16, "The minus sign stays a minus sign:");
+  SayAt(18.5, "The minus sign stays a minus sign:");
   RuleBox("Distributive Property", {"a(b - c) = ab - ac"}, {.width = 28});
   PageEnd();
 }
@@ -151,12 +154,13 @@ void MinusStays() {
   SayAt(10, R"(\yWatch out:\z  The sign must not change.)");
   PaperBox({R"(4(x - 3) = 4x - 12,  \rnot 4x + 12\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  And what is this, with 2x in place of x?)");
+  Say(R"(\yTry it:\z  Now the first term is 2x.  What is this without parentheses?)");
   ShowAt(17.5, "3(2x + 5)", 8);
   PageEnd();
   DrawSpread(17.5, 8, "3(2x + 5)");
   ShowAt(17.5, "= 6x + 15", 18);
-  SayAt(19.5, Text("{} is {}, and so {} is {}.", "3" + kDot + "2", "6", "3" + kDot + "2x", "6x"));
+  SayAt(19.5, Text("{} is {}, and {} is 15.", "3" + kDot + "2x", Words{"2x + 2x + 2x = 6x"},
+                   "3" + kDot + "5"));
   PageEnd();
 }
 
@@ -171,6 +175,10 @@ void BothDirections() {
   PageEnd();
   SayAt(12.5, R"(Yes.  We distribute the 8 on the right side:  8x, and 8)" + kDot +
                   R"(5 = 40, with a \yminus\z sign.)");
+  Say(R"(\yTry it:\z  And this?  )" + WithoutBreaks("7x + 9 = 7(x + 9)"));
+  PageEnd();
+  Say(Text("No.  {} is 63, not 9.", "7" + kDot + "9"));
+  Say(R"(An equation \yobeys\z if distributing gives exactly the other side.)");
   PageEnd();
 }
 
@@ -181,12 +189,25 @@ void FindTheWrongOne() {
   ShowAt(6.5, "B:  3(x - 5) = 3x - 5", 6);
   ShowAt(8, "C:  2x + 18 = 2(x + 9)", 6);
   PageEnd();
-  WhiteBox({.row = 10, .rows = 8});
+  WhiteBox({.row = 10, .rows = 9});
   SayInBox(Text("A:  {} is 28, and {} is 14.  Right.", "7" + kDot + "4", "7" + kDot + "2"));
   PageEnd();
   SayInBox(Text(R"(B:  {} is 15.  The 5 was not multiplied.  \bB is wrong.\z)", "3" + kDot + "5"));
   PageEnd();
   SayInBox(Text("C:  {} is 2x, and {} is 18.  Right.", "2" + kDot + "x", "2" + kDot + "9"));
+  SayInBox(R"(The answer is \bB\z.)");
+  PageEnd();
+}
+
+void AllObey() {
+  NewScreen();
+  Say(R"(\yTry it:\z  And which one of these two?)");
+  ShowAt(5, "A:  6(x - 2) = 6x - 12", 6);
+  ShowAt(6.5, "B:  5x + 20 = 5(x + 4)", 6);
+  PageEnd();
+  SayAt(8.5, Text("A:  {} is 12, and minus stays minus.", "6" + kDot + "2"));
+  SayAt(10, Text("B:  {} is 20.", "5" + kDot + "4"));
+  SayAt(12, Text(R"(Both obey.  Then the answer is:  \y{}\z)", kAllCorrect));
   PageEnd();
 }
 
@@ -202,7 +223,7 @@ class TheDistributiveProperty final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{TwoColours, FactorToEachTerm, UnknownNumber, PutANumberIn, InTheHead},
-            {TakeAway, MinusStays, BothDirections, FindTheWrongOne}};
+            {TakeAway, MinusStays, BothDirections, FindTheWrongOne, AllObey}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
