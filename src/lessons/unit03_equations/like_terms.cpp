@@ -19,7 +19,7 @@ namespace {
 using namespace polynomials;
 
 // The letters of a problem; a and b stand for them in the patterns.
-constexpr std::string_view kPairs[] = {"ab", "mn", "pq", "st", "xy"};
+constexpr std::string_view kPairs[] = {"ab", "cd", "mn", "pq", "xy"};
 
 constexpr int kLargestShown = 99;  // a coefficient that is looked at, and not calculated with
 
@@ -68,7 +68,7 @@ void CoefficientAndLetters() {
   PrintCells(1, {"4x^2^", "4", "x^2^"});
   PrintCells(4, {"-3x", "-3", "x"});
   PrintCells(7, {"x", "", "x"});
-  SayAt(12, R"(\yTry it:\z  No number stands in front of the last x.  What is its coefficient?)");
+  SayAt(12, R"(In the last row no number stands in front of x.  What is the coefficient?)");
   PageEnd();
   PrintCells(8, {"1"}, platform::colour::Blue);
   Say(R"(It is \y1\z.  x is one x, so x means 1x.  In the same way -x means -1x.)");
@@ -79,8 +79,8 @@ void CoefficientAndLetters() {
 }
 
 void WhyTheyMustBeAlike() {
-  constexpr double kRow = 6;
-  constexpr double kLabelRow = 10;
+  constexpr double kRow = 5.6;
+  constexpr double kLabelRow = 9.4;
   NewScreen();
   SayAt(3, "Why is that?  Let's draw terms.  A strip is x long and 1 high.");
   for (int i = 0; i < 2; ++i) DrawSquareTile(kRow, 2 + i * (kTileSide + 0.7));
@@ -90,14 +90,14 @@ void WhyTheyMustBeAlike() {
   ShowAt(kLabelRow, "3x", 20.5);
   ShowAt(kLabelRow, "4", 32.5);
   PageEnd();
-  SayAt(12,
+  SayAt(11,
         "2x^2^ counts squares, 3x counts strips, and 4 counts little squares.  Only what has the "
-        "same shape can be counted together.");
+        "same shape and the same size can be counted together.");
   PageEnd();
   Say(R"(\yTry it:\z  Is 7x like 7?  Is 7x like -2x?)");
   PageEnd();
-  Say("7x is not like 7.  A strip is not a little square, though there are 7 of each.");
-  Say("7x is like -2x.  Both count strips.");
+  Say("7x is not like 7.  A strip is not a little square.");
+  Say("7x is like -2x:  7x puts down 7 strips, and -2x takes 2 strips away.");
   PageEnd();
 }
 
@@ -133,7 +133,7 @@ void CountingStrips() {
   SlideDown({kRow + 0.3, kAway - 0.2, kTileSide + 0.5, 1.4}, 1.5);
   SlideLeft({kRow + 1.8, kAway - 0.2, kTileSide + 0.5, 1.4}, kAway - kCol);
   SayAt(10, R"(Now there are \y3 strips\z:  2x + 1x = 3x)");
-  Say(R"(\yWatch out:\z  No square comes from putting strips together, and x is not 0.)");
+  Say(R"(\yWatch out:\z  Strips make no square, and x counts as 1 strip, not as 0.)");
   PaperBox({R"(2x + x = 3x,  \rnot 2x^2^\z, \rnot 2x\z)"});
   PageEnd();
   RuleBox("Combining Like Terms", {"Add the coefficients.", "Keep the letters and exponents."},
@@ -161,8 +161,8 @@ void CoefficientsWithSigns() {
 
 void LettersAndNumbers() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Which of these terms are like?)");
-  GatheringTable table({{4, "x"}, {-3, ""}, {-2, "x"}, {8, ""}}, 5);
+  SayAt(3, R"(\yTry it:\z  Which terms go into each column?)");
+  GatheringTable table({{4, "x"}, {-3, ""}, {-2, "x"}, {8, ""}}, 5.5);
   PageEnd();
   table.GatherAll();
   SayAt(table.RowBelow(),
@@ -185,28 +185,28 @@ void LettersAndNumbers() {
 
 void SquaresAndLetters() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  How many kinds of terms are there, and what are their sums?)");
-  GatheringTable table({{3, "xx"}, {1, "x"}, {-5, "xx"}, {4, "x"}}, 6);
+  SayAt(3, R"(\yTry it:\z  Which terms go into each column, and what are the sums?)");
+  GatheringTable table({{3, "xx"}, {4, "x"}, {-5, "xx"}}, 6);
   PageEnd();
   table.GatherAll();
   table.AddUp(0);
   table.AddUp(1);
   SayAt(table.RowBelow(),
-        R"(There are two, and we get \y)" + WithoutBreaks("-2x^2^ + 5x") + R"(\z.)");
+        R"(4x has no like term, so it stays:  \y)" + WithoutBreaks("-2x^2^ + 4x") + R"(\z)");
   Say(R"(\yWatch out:\z  The exponent is kept.)");
   PaperBox({R"(3x^2^ - 5x^2^ = -2x^2^,  \rnot -2x^4^\z)"});
   PageEnd();
 
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Combine the like terms.)");
-  GatheringTable last({{6, "a"}, {-1, "b"}, {-2, "a"}, {4, "b"}}, 5);
+  GatheringTable last({{6, "a"}, {-1, "b"}, {-5, "a"}, {4, "b"}}, 5);
   PageEnd();
   last.GatherAll();
   last.AddUp(0);
   last.AddUp(1);
-  SayAt(last.RowBelow(), "6a + (-2a) = 4a, and -1b + 4b = 3b:");
-  Show(R"(6a - b - 2a + 4b = \y4a + 3b)", kExpressionCol);
-  Say("a and b may be different numbers, so 4a and 3b stay apart.");
+  SayAt(last.RowBelow(), "6a + (-5a) = 1a, which we write a, and -1b + 4b = 3b:");
+  Show(R"(6a - b - 5a + 4b = \ya + 3b)", kExpressionCol);
+  Say("a and 3b are unlike, so they stay apart.");
   PageEnd();
 }
 
@@ -340,9 +340,12 @@ void LikeTerms::ExplainLikeTerm() {
            Words{alone ? ", though no 1 is written" : ""}));
   PageEnd();
   if (given_.letters.size() == 1) {
-    Say(Text("Only the letters count.  Here {} is the only one.", given_.letters));
+    Say(
+        Text("Only the letters and their exponents count.  Here {} is the only letter, and its "
+             "exponent is 1.",
+             given_.letters));
   } else {
-    Say("Only the letters count.  We write them out as factors:");
+    Say("Only the letters and their exponents count.  We write the letters out as factors:");
     Show(LettersText(given_.letters) + " = " + WrittenOut(given_.letters), kExpressionCol);
   }
   PageEnd();
@@ -363,7 +366,8 @@ void LikeTerms::CompareWithChoices() {
   }
   PageEnd();
   GoBelow();
-  Say(Text("Only {} has the same letters as {}.", TermText(terms_[0]), TermText(given_)));
+  Say(Text("Only {} has the same letters with the same exponents as {}.", TermText(terms_[0]),
+           TermText(given_)));
 }
 
 const LessonRegistration<LikeTerms> kRegistration("Like Terms");

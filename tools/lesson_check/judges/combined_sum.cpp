@@ -180,7 +180,11 @@ void AddReadingSlips(const Terms& terms, Reading& reading) {
     }
     Terms positive = terms;
     positive[i] = -positive[i];
-    if (i > 0 && coefficient < 0) AddSlip("leaves a minus sign behind", positive, reading);
+    if (i == 0 || coefficient > 0) continue;
+    AddSlip("leaves a minus sign behind", positive, reading);
+    const bool isLast = std::all_of(terms.begin() + static_cast<std::ptrdiff_t>(i) + 1, terms.end(),
+                                    [](const Polynomial& t) { return CoefficientOf(t) > 0; });
+    if (!isLast) Mistakes(reading).Add("leaves an earlier minus sign behind", SumOf(positive));
   }
 }
 

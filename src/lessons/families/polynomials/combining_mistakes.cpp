@@ -12,6 +12,8 @@ constexpr int kLargestByHand = 99;
 
 constexpr const char* kUnlike = "combines unlike terms";
 constexpr const char* kExponents = "adds the exponents too";
+constexpr const char* kMinusLeft = "leaves a minus sign behind";
+constexpr const char* kEarlierMinusLeft = "leaves an earlier minus sign behind";
 constexpr const char* kUnlikeAndExponents = "combines unlike terms and adds the exponents too";
 
 // The terms that are like a term, in their order.
@@ -114,10 +116,25 @@ void AddAroundUnlike(Choices<Sum>& choices, const std::vector<WrongSum>& mistake
   }
 }
 
+// Of someone who goes wrong once; it need not be the last minus sign that is left behind.
+std::vector<WrongSum> SingleMistakes(const Sum& sum, const std::vector<Slip>& slips) {
+  std::vector<WrongSum> singles = CombiningMistakes(sum);
+  for (const Slip& slip : slips) singles.push_back({slip.mistake, Combined(slip.terms)});
+  for (std::size_t i = 1; i < sum.size(); ++i) {
+    Sum positive = sum;
+    positive[i].coef = std::abs(positive[i].coef);
+    if (positive != sum) singles.push_back({kEarlierMinusLeft, Combined(positive)});
+  }
+  return singles;
+}
+
 // The first slip, another mistake, both of them, and one more behind the slip: they lie around the
-// slip.  Another slip comes at times in place of the last one.
-void AddAroundSlip(Choices<Sum>& choices, std::vector<WrongSum> mistakes,
-                   const std::vector<Slip>& slips, RandomStream& random) {
+// slip.  Another slip comes at times in place of the last one.  What a single mistake
+// leads to bears its name alone.
+void AddAroundSlip(Choices<Sum>& choices, const Sum& sum, const std::vector<Slip>& slips,
+                   RandomStream& random) {
+  const std::vector<WrongSum> singles = SingleMistakes(sum, slips);
+  std::vector<WrongSum> mistakes = CombiningMistakes(sum);
   const Slip& slip = slips[0];
   const bool manySlips = slips.size() > 2;
   std::vector<WrongSum> second = CombiningMistakes(slip.terms);
@@ -130,7 +147,10 @@ void AddAroundSlip(Choices<Sum>& choices, std::vector<WrongSum> mistakes,
   StartAnywhere(second, random);
   choices.Wrong(slip.mistake, Combined(slip.terms));
   const auto addBehindSlip = [&](const WrongSum& wrong) {
-    choices.Wrong(slip.mistake + " and " + wrong.mistake, wrong.sum);
+    const auto single = std::ranges::find(singles, wrong.sum, &WrongSum::sum);
+    choices.Wrong(
+        single == singles.end() ? slip.mistake + " and " + wrong.mistake : single->mistake,
+        wrong.sum);
   };
   if (!mistakes.empty()) {
     choices.Wrong(mistakes[0].mistake, mistakes[0].sum);
@@ -144,8 +164,7 @@ void AddAroundSlip(Choices<Sum>& choices, std::vector<WrongSum> mistakes,
 }  // namespace
 
 std::vector<Slip> ReadingSlips(const Sum& sum) {
-  return {{"counts a letter alone as 0", LoneLetterDropped(sum)},
-          {"leaves a minus sign behind", LastMinusLost(sum)}};
+  return {{"counts a letter alone as 0", LoneLetterDropped(sum)}, {kMinusLeft, LastMinusLost(sum)}};
 }
 
 std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
@@ -178,7 +197,7 @@ void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> sli
                 [&](const Slip& slip) { return !IsBelievable(Combined(slip.terms), right); });
   StartAnywhere(slips, random);
   const bool aroundUnlike = random.Index(3) == 1 && right.size() > 1;
-  if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, mistakes, slips, random);
+  if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, sum, slips, random);
   slips.push_back(last);
   if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips);
   for (const WrongSum& wrong : mistakes) choices.Wrong(wrong.mistake, wrong.sum);

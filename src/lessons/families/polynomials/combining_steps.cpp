@@ -48,7 +48,9 @@ std::string OneText(const Term& total) {
 
 // Why a sum of two numbers has its sign; "" where nobody doubts it.
 std::string SignSentence(const Sum& like) {
-  if (AllNegative(like)) return "All are negative, so their sum is negative, too.";
+  if (AllNegative(like))
+    return Text("{} are negative, so their sum is negative, too.",
+                Words{like.size() == 2 ? "Both" : "All"});
   if (!HasBothSigns(like)) return "";
   if (like.size() > 2) return "We add from left to right.";
   const int a = like[0].coef;

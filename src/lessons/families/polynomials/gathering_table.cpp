@@ -62,7 +62,7 @@ GatheringTable::GatheringTable(const Sum& sum, double row) : sum_(sum), row_(row
 
 std::string GatheringTable::Name(int kind) const {
   const std::string& letters = Terms(kind).front().letters;
-  return letters.empty() ? "numbers" : LettersText(letters) + tutor::Gap + "terms";
+  return letters.empty() ? "numbers" : "terms with" + tutor::Gap + LettersText(letters);
 }
 
 Term GatheringTable::Total(int kind) const {

@@ -1,7 +1,7 @@
 // The like terms of a sum gathered in print cells: a column a kind of term, their sum below.
 //
 //   GatheringTable table({{4, "x"}, {-3, ""}, {-2, "x"}, {8, ""}}, 5);
-//   table.Gather(0);   // 4x and -2x slide out of the sum into the column "x terms"
+//   table.Gather(0);   // 4x and -2x slide out of the sum into the column "terms with x"
 //   table.Gather(1);   // -3 and 8 into the column "numbers"
 //   table.AddUp(0);    // 2x appears under its column
 #pragma once
@@ -22,7 +22,7 @@ class GatheringTable {
   int Kinds() const { return static_cast<int>(kinds_.size()); }
   // Kinds count from 0, in falling powers.
   const Sum& Terms(int kind) const { return kinds_.at(static_cast<std::size_t>(kind)); }
-  // "x terms", "numbers".
+  // "terms with x", "numbers".
   std::string Name(int kind) const;
   // The sum of a kind: one term.
   Term Total(int kind) const;
