@@ -65,12 +65,14 @@ void MultiplyThenCombine() {
   NewScreen();
   SayAt(3, Text(R"(To \csimplify\z {} we write it with as few terms as we can.)", "3(2x + 5) - 8"));
   DistributingTable table(3, {{2, "x"}, {5, ""}}, 5.5);
+  SayAt(table.RowBelow(), R"(\yTry it:\z  What are the two products?)");
   PageEnd();
+  ClearBelow(table.RowBelow());
   table.Multiply(0);
   table.Multiply(1);
   SayAt(table.RowBelow(), "First we multiply out the parentheses:");
   Show("3(2x + 5) - 8 = 6x + 15 - 8", kExpressionCol);
-  Say("Which of these terms are like?");
+  Say(R"(\yTry it:\z  Which of these terms are like?)");
   PageEnd();
   Say("15 and -8 are like, and 15 - 8 = 7.  We combine them:");
   Show(R"(3(2x + 5) - 8 = \y6x + 7)", kExpressionCol);
@@ -81,18 +83,21 @@ void MultiplyThenCombine() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yCheck:\z  The value must stay the same.  We put 2 in place of x:)");
-  Show("3(2x + 5) - 8:   3(4 + 5) - 8 = 19", 3);
-  Show("6x + 7:          12 + 7 = 19", 3);
+  SayAt(3,
+        Text(R"(\yCheck:\z  We put 2 in place of x in {} and in {}:)", "3(2x + 5) - 8", "6x + 7"));
+  Show("3(4 + 5) - 8 = 27 - 8 = 19", kExpressionCol);
+  Show("12 + 7 = 19", kExpressionCol);
   PageEnd();
+  Say("Both have the same value, as they must.");
   Say(Text(R"(\yTry it:\z  Simplify {}.)", "4(2x - 3) - x"));
   PageEnd();
 }
 
 void LetterBehind() {
   NewScreen();
-  SayAt(3, Text("We multiply out {}, and x stays:", "4(2x - 3)"));
-  GatheringTable table({{8, "x"}, {-12, ""}, {-1, "x"}}, 5);
+  ShowAt(3, "4(2x - 3) - x", kExpressionCol);
+  SayAt(4.5, "We multiply out, and -x stays:");
+  GatheringTable table({{8, "x"}, {-12, ""}, {-1, "x"}}, 5.5);
   PageEnd();
   table.GatherAll();
   table.AddUp(1);
@@ -100,7 +105,7 @@ void LetterBehind() {
   SayAt(table.RowBelow(),
         R"(-x means -1x, and 8 + (-1) = 7.  We get \y)" + WithoutBreaks("7x - 12") + R"(\z.)");
   PageEnd();
-  Say(R"(\yWatch out:\z  x is not 0, unlike terms stay apart, and exponents are not added.)");
+  Say(R"(\yWatch out:\z  -x means -1x, not 0.  Unlike terms stay apart.  The exponent is kept.)");
   PaperBox({R"(7x - 12,  \rnot 8x - 12\z, \rnot -5x\z, \rnot 7x^2^ - 12\z)"});
   PageEnd();
 }
@@ -115,7 +120,7 @@ void NegativeFactor() {
   SayAt(table.RowBelow(),
         "The first is negative.  The second is positive:  two negatives make a positive product.");
   PageEnd();
-  Say(R"(\yWatch out:\z  The minus sign is carried to both terms.)");
+  Say(R"(\yWatch out:\z  Both terms are multiplied by -2, so both signs change.)");
   PaperBox({R"(-2(3x - 4) = -6x + 8,  \rnot -6x - 8\z)"});
   PageEnd();
   Say(Text(R"(\yTry it:\z  What is {}?)", "-(3x - 4)"));
@@ -146,9 +151,10 @@ void NumberInFront() {
 
 void TwoProducts() {
   NewScreen();
-  SayAt(3, Text("The second factor is -3.  So the last number is positive:  {}.",
-                "-3 " + tutor::Times + " (-1) = 3"));
-  GatheringTable table({{2, "x"}, {12, ""}, {-6, "x"}, {3, ""}}, 6);
+  ShowAt(3, "2(x + 6) - 3(2x - 1)", kExpressionCol);
+  SayAt(4.5, Text("The second factor is -3.  So the last number is positive:  {}.",
+                  "-3 " + tutor::Times + " (-1) = 3"));
+  GatheringTable table({{2, "x"}, {12, ""}, {-6, "x"}, {3, ""}}, 7);
   PageEnd();
   table.GatherAll();
   table.AddUp(1);
@@ -171,8 +177,10 @@ void TwoProducts() {
   last.GatherAll();
   last.AddUp(1);
   last.AddUp(0);
-  SayAt(last.RowBelow(), "-12 and -15 are both negative, and so is their sum.  We get " +
-                             WithoutBreaks(R"(\y-5x - 27\z.)"));
+  SayAt(last.RowBelow(),
+        "-8 + 3 = -5:  the signs differ, and -8 is farther from 0.  -12 and -15 are both "
+        "negative, and so is their sum.  We get " +
+            WithoutBreaks(R"(\y-5x - 27\z.)"));
   PageEnd();
 }
 
@@ -281,6 +289,17 @@ void SimplifyingExpressions::ExplainProblem() {
   Conclude(problem);
 }
 
+// Of a negative factor and both terms.
+std::string SignsOfProducts(const Part& part) {
+  if (AllNegative(part.inside))
+    return "Both signs are plus:  two negatives make a positive product.";
+  const auto negative = std::ranges::find_if(part.inside, [](const Term& t) { return t.coef < 0; });
+  if (negative == part.inside.end())
+    return "Both signs are minus:  a negative number times a positive one is negative.";
+  return Text("{} is positive:  two negatives make a positive product.",
+              NumStr(part.factor) + " " + tutor::Times + " (" + NumStr(negative->coef) + ")");
+}
+
 // What the factor makes of both terms, on a screen of its own.
 void SimplifyingExpressions::MultiplyOut(const Part& part) {
   NewScreen();
@@ -297,7 +316,7 @@ void SimplifyingExpressions::MultiplyOut(const Part& part) {
     table.Multiply(i);
     AddLine(table.ProductText(i), {.col = kExpressionCol});
   }
-  if (part.factor < 0) Say("The minus sign of the factor goes to both terms.");
+  if (part.factor < 0) Say(SignsOfProducts(part));
   PageEnd();
 }
 
