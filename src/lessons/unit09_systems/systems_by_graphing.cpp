@@ -21,10 +21,14 @@ constexpr double kBelowPlane = 14.2;  // row
 
 // --- Teaching screens --------------------------------------------------------
 
+// Asks about a pair on a row that is cleared before.
+void AskForPair(double row, int x, int y) {
+  ClearRows(row, 1);
+  SayAt(row, Text(R"(\yTry it:\z  Is {} a solution?)", PairText(x, y)));
+}
+
 // The pair put into both equations of the first example.
 void TryInFirstExample(int x, int y) {
-  SayInBoxAnew("");
-  SayPairInBox(x, y);
   TryPairInBox(kFirstExample.first, x, y);
   TryPairInBox(kFirstExample.second, x, y);
 }
@@ -37,17 +41,23 @@ void TwoEquations() {
   PageEnd();
   Say(R"(A \csolution\z of the system is a pair of numbers, (x,y), that makes \yboth\z equations )"
       "true.");
-  Say(R"(\yTry it:\z  Is (2,1) a solution?)");
+  const double askedRow = NextRow() + 1;
+  AskForPair(askedRow, 2, 1);
   PageEnd();
   WhiteBox({.rows = 6.5});
+  SayPairInBox(2, 1);
   TryInFirstExample(2, 1);
   SayInBox(R"((2,1) is a \bsolution\z.  Is (3,0)?)");
   PageEnd();
+  AskForPair(askedRow, 3, 0);
+  SayInBoxAnew("");
   TryInFirstExample(3, 0);
-  SayInBox(R"((3,0) is \rno solution\z.  Is (1,2)?)");
+  SayInBox(R"((3,0) is \rnot a solution\z.  Is (1,2)?)");
   PageEnd();
+  AskForPair(askedRow, 1, 2);
+  SayInBoxAnew("");
   TryInFirstExample(1, 2);
-  SayInBox("(1,2) and (2,1) are different pairs.");
+  SayInBox(R"((1,2) is \rnot one\z.  The order matters.)");
   PageEnd();
 }
 
@@ -61,13 +71,14 @@ void GraphOfOneEquation() {
   PageEnd();
   ClearCells(3, 1, kBesidePlane.lastCol, 10);
   board::ExpectBothGraphs(kFirstExample);
-  SayAt(3, "(-1,4), (0,3) and (2,1) make it true.", kBesidePlane);
-  Say("For (-1,4) we go 1 left and 4 up.", kBesidePlane);
+  SayAt(3, "Many pairs do, for example (-1,4), (0,3) and (2,1).", kBesidePlane);
+  SayAt(kBelowPlane, "For (-1,4) we go 1 left and 4 up.");
   board::Plot(-1, 4, colour);
   board::Plot(0, 3, colour);
   board::Plot(2, 1, colour);
   PageEnd();
-  Say(R"(They lie on one line, the \cgraph\z of the equation.)", kBesidePlane);
+  ClearRows(kBelowPlane, 1);
+  SayAt(7, R"(They lie on one line, the \cgraph\z of the equation.)", kBesidePlane);
   board::DrawGraph(equation, 1, EquationText(equation));
   SayAt(kBelowPlane, R"(\yTry it:\z  Does (2,3) lie on the line?)");
   PageEnd();
@@ -83,14 +94,13 @@ void CrossingPoint() {
   board::ExpectBothGraphs(kFirstExample);
   board::DrawGraph(kFirstExample.first, 1, EquationText(kFirstExample.first));
   board::DrawGraph(kFirstExample.second, 2, EquationText(kFirstExample.second));
-  Say(Text("{} is solid, {} is broken.", EquationText(kFirstExample.first),
+  Say(Text("The solid line is {}, the dashed line is {}.", EquationText(kFirstExample.first),
            EquationText(kFirstExample.second)),
       kBesidePlane);
-  SayAt(kBelowPlane, R"(\yTry it:\z  Which point makes both true?)");
+  Say(R"(\yTry it:\z  Which point makes both true?)", kBesidePlane);
   PageEnd();
-  SayAt(6,
-        Text(R"(The lines \ycross\z there.  From the axes we read {} and {}.)", "x = 2", "y = 1"),
-        kBesidePlane);
+  Say("(2,1) lies on both lines, so it makes both true.", kBesidePlane);
+  SayAt(kBelowPlane, R"(There the lines \ycross\z:  2 right, 1 up.)");
   board::MarkCrossing(2, 1);
   board::NameCrossing(2, 1);
   PageEnd();
@@ -112,7 +122,7 @@ void ParallelLines() {
   Say("Here are both lines of another system.", kBesidePlane);
   SayAt(kBelowPlane, R"(\yTry it:\z  Where do these two lines cross?)");
   PageEnd();
-  Say(R"(Nowhere.  Both have the slope 1.  Such lines are \cparallel\z.)");
+  Say(R"(Nowhere.  Both have the slope 1, but different intercepts.  Such lines are \cparallel\z.)");
   Say(SolutionSentence(SystemClass::NoSolution));
   PageEnd();
 }
@@ -138,9 +148,16 @@ void OneLineTwice() {
 void ThreeSteps() {
   NewScreen();
   board::ShowTable(kStepsExample);
+  SayAt(3,
+        "Now we solve a whole system.  A line is easy to graph from y = mx + b:  m is the slope, "
+        "and b is the intercept.");
+  Say(R"(\yTry it:\z  What is b in y = 2x?)");
+  PageEnd();
+  Say("It is 0.  The line passes through (0,0).");
+  PageEnd();
   PaperBox({R"(\bThree steps lead to the solution:\z)", "1. Solve both equations for y.",
             "2. Graph both lines.", "3. Read the point, and check it."},
-           7);
+           11);
   PageEnd();
 }
 
@@ -158,10 +175,13 @@ void SolveGraphReadCheck() {
   board::ShowCrossing(system, R"(\yStep 3:\z  We read the point.)");
   SayAt(board::kTextRow, R"(\yTry it:\z  Is it (-1,0) or (0,-1)?)", kBesidePlane);
   PageEnd();
-  Say(R"(x comes first, so the solution is \y(-1,0)\z.)", kBesidePlane);
+  Say("x comes first.", kBesidePlane);
+  Say(R"(The solution is \y(-1,0)\z.)", kBesidePlane);
   board::NameCrossing(-1, 0);
   PageEnd();
-  board::WriteHeading(R"(\yCheck:\z  We try it in both equations.)");
+  board::WriteHeading(R"(\yCheck:\z  We try (-1,0) in both equations.)");
+  ClearCells(board::kTextRow, 1, kBesidePlane.lastCol, 10);
+  SayAt(board::kTextRow, R"(The solution is \y(-1,0)\z.)", kBesidePlane);
   board::CheckSolution(system);
 }
 
@@ -251,14 +271,18 @@ void SystemsByGraphing::ReadCrossing() const {
 }
 
 void SystemsByGraphing::ExplainProblem() {
+  constexpr double kSystemCol = 14;
+  constexpr double kBelowSystem = 9;  // row
   ProblemBanner();
   board::ShowTable(system_);
   SayAt(board::kTextRow, problem.question[0] + " " + problem.question[1]);
+  ShowAt(board::kTextRow + 2.3, problem.question[2], kSystemCol);
+  ShowAt(board::kTextRow + 3.3, problem.question[3], kSystemCol);
   Say("We graph both lines and read the point where they cross.");
   Say("A line is easy to graph from y = mx + b, so we solve both equations for y.");
   PageEnd();
-  ClearRows(board::kTextRow + 2, 10);
-  board::OpenWorkBox(7.2);
+  ClearRows(kBelowSystem, 10);
+  board::OpenWorkBox(kBelowSystem);
   board::SolveForY(system_, 1);
   board::SolveForY(system_, 2);
   board::ShowBoard(system_);
