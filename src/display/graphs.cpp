@@ -28,14 +28,15 @@ void PrintAt(platform::Surface& figure, double x, double y, const std::string& t
   figure.Print(text);
 }
 
-void LabelAxes(platform::Surface& figure) {
+template <class PrintNumber>
+void LabelAxes(PrintNumber print) {
   for (int n = 1; n <= 5; ++n) {
     const std::string positive = std::to_string(n);
     const std::string negative = std::to_string(-n);
-    PrintAt(figure, -0.6, n + 0.5, positive);
-    PrintAt(figure, -0.8, -n + 0.5, negative);
-    PrintAt(figure, n - 0.2, -0.2, positive);
-    PrintAt(figure, -n - 0.4, -0.2, negative);
+    print(-0.6, n + 0.5, positive);
+    print(-0.8, -n + 0.5, negative);
+    print(n - 0.2, -0.2, positive);
+    print(-n - 0.4, -0.2, negative);
   }
 }
 
@@ -81,7 +82,20 @@ void picGraph2DShowPlane(int index, const std::string& numbers, bool thin) {
     figure.FilledBox(-0.05, 5.5, 0.05, -5.5);
     figure.FilledBox(-5.5, -0.05, 5.5, 0.05);
   }
-  if (UpperCase(numbers) == "SHOWNUMBERS") LabelAxes(figure);
+  if (UpperCase(numbers) == "SHOWNUMBERS")
+    LabelAxes(
+        [&](double x, double y, const std::string& number) { PrintAt(figure, x, y, number); });
+  figure.Refresh();
+}
+
+void picGraph2DPrintNumbersOnTop(int index) {
+  platform::PictureBox& figure = Figure("picGraph2DPrintNumbersOnTop", index);
+  LabelAxes([&](double x, double y, const std::string& number) {
+    const double height = figure.TextHeight(number);  // the digits fill the middle of the line
+    figure.FilledBox(x, y - 0.15 * height, x + figure.TextWidth(number), y - 0.85 * height,
+                     platform::colour::White);
+    PrintAt(figure, x, y, number);
+  });
   figure.Refresh();
 }
 

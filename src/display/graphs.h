@@ -14,6 +14,8 @@ namespace course {
 void picGraph2DPrepare(int index, double row, double col, double wd, double ht);
 // "SHOWNUMBERS", in any case, labels the axes.
 void picGraph2DShowPlane(int index, const std::string& numbers, bool thin = false);
+// The plane's numbers again, each on a small white ground: above what was drawn since.
+void picGraph2DPrintNumbersOnTop(int index);
 // style "arrows" or "noarrows", in any case; u, above 0, is the value of a labelled tick's step.
 void picGraph2DShowNumberLine(int index, const std::string& style, double u);
 void picGraph2DPlotPoint(int index, double x, double y, platform::Colour colour,

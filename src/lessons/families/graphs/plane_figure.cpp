@@ -151,6 +151,7 @@ void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items) {
 void DrawOnPlane(int index, const std::vector<FigureItem>& items, platform::Colour colour) {
   KeepLabelsClearOf(index, items);
   for (const FigureItem& item : items) DrawItem(index, item, colour);
+  picGraph2DPrintNumbersOnTop(index);
 }
 
 }  // namespace course::graphs

@@ -121,27 +121,24 @@ LabelBox LabelGround::PlaceAtLine(const FigureItem& line, LabelSize label) {
   return Take(places);
 }
 
-// Round about the point, near it first.
+// Round about the point, the nearest first.
 LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
-  constexpr int kFarthest = 5;
+  constexpr double kFarthest = 1.6;  // squares
+  constexpr double kStep = 0.16;
+  const auto gapTo = [](double foot, double size) { return std::max({0.0, foot, -foot - size}); };
   std::vector<LabelBox> places;
-  for (int far = 1; far <= kFarthest; ++far) {
-    const double gap = far * kPointGap;
-    const double left = -gap - label.width;
-    const double beside = -label.height / 2;
-    const double above = gap - kPointGap;
-    const double below = -above - label.height;
-    const double middle = -label.width / 2;
-    for (const Vector place : {Vector{gap, above},
-                               {left, above},
-                               {gap, below},
-                               {left, below},
-                               {gap, beside},
-                               {left, beside},
-                               {middle, gap},
-                               {middle, -gap - label.height}})
-      places.push_back({point + place, {1, 0}, label});
-  }
+  for (double right = kFarthest; right >= -kFarthest - label.width; right -= kStep)
+    for (double up = kFarthest; up >= -kFarthest - label.height; up -= kStep)
+      if (std::max(gapTo(right, label.width), gapTo(up, label.height)) >= kPointGap)
+        places.push_back({point + Vector{right, up}, {1, 0}, label});
+  const auto distance = [&](const LabelBox& place) {
+    const Vector foot = place.foot + -1 * point;
+    const double gap = LengthOf({gapTo(foot.x, label.width), gapTo(foot.y, label.height)});
+    // Among places as near the one whose middle is nearest, a little rather above.
+    return std::pair(std::round(gap / kStep),
+                     LengthOf(foot + Vector{label.width / 2, label.height / 2 - kStep}));
+  };
+  std::ranges::stable_sort(places, {}, distance);
   return Take(places);
 }
 
