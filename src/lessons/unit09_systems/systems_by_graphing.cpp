@@ -94,7 +94,7 @@ void CrossingPoint() {
   board::ExpectBothGraphs(kFirstExample);
   board::DrawGraph(kFirstExample.first, 1, EquationText(kFirstExample.first));
   board::DrawGraph(kFirstExample.second, 2, EquationText(kFirstExample.second));
-  Say(Text("The solid line is {}, the dashed line is {}.", EquationText(kFirstExample.first),
+  Say(Text("Solid:  {}.  Dashed:  {}.", EquationText(kFirstExample.first),
            EquationText(kFirstExample.second)),
       kBesidePlane);
   Say(R"(\yTry it:\z  Which point makes both true?)", kBesidePlane);
