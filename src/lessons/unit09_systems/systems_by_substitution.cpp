@@ -42,13 +42,16 @@ void OneEquationFromTwo() {
   PageEnd();
 }
 
+// With the signs of equality in one column.
 void ShowBelow(const std::string& math) {
-  ShowAt(NextRow() + (math.find('/') == std::string::npos ? 0.3 : 1.5), math, 14);
+  constexpr double kEqualsCol = 21;
+  const auto before = static_cast<double>(math.find('='));
+  ShowAt(NextRow() + (math.find('/') == std::string::npos ? 0.3 : 1.5), math, kEqualsCol - before);
 }
 
 void CoefficientOne() {
   NewScreen();
-  Say(R"(\yTry it:\z  Which variable do we isolate?)");
+  Say(R"(\yTry it:\z  Which variable is easiest to \cisolate\z, that is, to get alone?)");
   ShowBelow("3x + y = 5");
   ShowBelow("2x + 5y = -1");
   PageEnd();
@@ -57,6 +60,8 @@ void CoefficientOne() {
   Say("x in the second brings a fraction:");
   ShowBelow("x = (-5y - 1)/2");
   PageEnd();
+
+  NewScreen();
   Say(R"(\yTry it:\z  And which one here?)");
   ShowBelow("x - 4y = 2");
   ShowBelow("3x + 2y = 6");
@@ -67,7 +72,6 @@ void CoefficientOne() {
 }
 
 void OtherCoefficients() {
-  NewScreen();
   Say(R"(\yTry it:\z  Isolate y here.)");
   ShowBelow("2x - y = 4");
   PageEnd();
@@ -76,19 +80,25 @@ void OtherCoefficients() {
   Say("Multiplying both sides by -1:");
   ShowBelow("y = 2x - 4");
   PageEnd();
+
+  NewScreen();
   Say(R"(\yTry it:\z  No coefficient is 1 here.  Which number divides all three?)");
   ShowBelow("6x + 2y = 8");
   PageEnd();
-  Say("2 does.  So y is still easy to isolate:");
+  Say("2 does, the coefficient of y.");
   ShowBelow("2y = -6x + 8");
   ShowBelow("y = -3x + 4");
   PageEnd();
 }
 
 void Parentheses() {
+  const auto showSystem = [] {
+    ShowAt(3, "Equation 1:  y = x - 2", 1);
+    ShowAt(4, "Equation 2:  x - 3y = 8", 1);
+  };
   NewScreen();
+  showSystem();
   Say(R"(\yTry it:\z  Put x - 2 in place of y.)");
-  ShowBelow("x - 3y = 8");
   PageEnd();
   ShowBelow("x - 3(x - 2) = 8");
   Say(R"(We need \yparentheses\z:  -3 multiplies all of x - 2.)");
@@ -98,24 +108,35 @@ void Parentheses() {
   PaperBox({R"(\rx - 3x - 2 = 8\z  forgets the parentheses.)",
             R"(\rx - 3x - 6 = 8\z  loses a sign.)", R"(\bx - 3x + 6 = 8\z  is right.)"});
   PageEnd();
-  Say("Then -2x + 6 = 8, so x is -1.");
+
+  NewScreen();
+  showSystem();
+  Say("So -2x + 6 = 8, -2x = 2, and x = -1.");
   AddLine(R"(\yTry it:\z  Is the solution -1?)");
   PageEnd();
-  Say("No, that is half.  y = -1 - 2 = -3.");
-  AddLine("The pair is (-1,-3).");
+  Say("No, that is half of the solution.  Equation 1 gives y = -1 - 2 = -3.");
+  AddLine(R"(The solution is \y(-1,-3)\z.)");
   PageEnd();
 }
 
 void WorkedExample() {
   const SubstitutionBoard board(kWorked);
   NewScreen();
-  SayAt(2.5, R"(\ySolve one equation for one of the variables.\z)");
+  SayAt(2, R"(\ySolve one equation for one of the variables.\z)");
   board.ShowEquations();
+  PageEnd();
+  SayAt(SubstitutionBoard::kBelow, R"(\yTry it:\z  Which one is easy to isolate?)");
+  PageEnd();
+  Say("In Equation 1 the coefficient of y is -3, and 3 divides every number.  So y is easy to "
+      "isolate there.");
   PageEnd();
   board.IsolateY();
   ClearRows(2, 2.4);
-  SayAt(2.5, R"(\yPut it into the other equation.\z)");
+  SayAt(2.5, R"(\yPut -2x + 1 into the other equation.\z)");
   board.Substitute();
+  SayInBoxAnew(
+      R"(\bWatch out:\z  In Equation 1 itself x would drop out, and only -3 = -3 would be left.)");
+  PageEnd();
   board.SolveForX();
   PageEnd();
   board.FindY();
@@ -127,16 +148,18 @@ void WorkedExample() {
 // The letter can drop out.
 void NoLetterLeft() {
   NewScreen();
-  Say("Sometimes x drops out:");
+  Say(Text("Sometimes x drops out.  Here is a system:  {} and {}.", "y = x - 2", "2x - 2y = 6"));
+  ShowBelow("2x - 2(x - 2) = 6");
+  PageEnd();
   ShowBelow("2x - 2x + 4 = 6");
   ShowBelow("4 = 6");
-  Say(R"(\yTry it:\z  Which x makes this true?)");
+  Say(R"(\yTry it:\z  Which x make this true?)");
   PageEnd();
-  Say("No x does.  The lines are parallel.");
+  Say("No x does.  No point is on both lines, so the lines are parallel.");
   AddLine(SolutionSentence(SystemClass::NoSolution));
-  Say(R"(\yTry it:\z  And if we end with 4 = 4?)");
+  Say(R"(\yTry it:\z  Which x make 4 = 4 true?)");
   PageEnd();
-  Say("That is always true.  Both equations have the same line.");
+  Say("Every x does.  Both equations have the same line.");
   AddLine(SolutionSentence(SystemClass::SameLine));
   PageEnd();
 }
@@ -193,7 +216,7 @@ void SystemsBySubstitution::TellWhyY() const {
   if (std::abs(b) == 1)
     Say(Text("In Equation 1 the coefficient of y is {}.  So y is easy to isolate there.", b));
   else
-    Say(Text("In Equation 1 we can divide each number by {}.  So y is easy to isolate there.",
+    Say(Text("In Equation 1 y has the coefficient {}, and {} divides each number.", b,
              std::abs(b)));
 }
 

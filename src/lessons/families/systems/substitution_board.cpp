@@ -156,7 +156,7 @@ void SubstitutionBoard::FindY() const {
   const std::string substituted = TermText(slope, system_.x) + constant;
   const std::string product = NumStr(slope * system_.x) + constant;
   const std::string value = NumStr(system_.y);
-  SayInBoxAnew(Text("We put {} in place of x in Equation 1:", system_.x));
+  SayInBoxAnew(Text("With x = {} in {}:", system_.x, "y = " + ValueOfY()));
   SayInBox(AlignedEquation("y = " + substituted));
   if (product != substituted && product != value) SayInBox(AlignedEquation("y = " + product));
   if (value != substituted) SayInBox(AlignedEquation("y = " + value));
