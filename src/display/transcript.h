@@ -26,6 +26,7 @@ struct Fragment {
   double Bottom() const { return row - rise + height; }
   // One letter a cell, which a later letter may replace.
   bool InCells() const { return !whole && width == static_cast<double>(text.size()); }
+  bool operator==(const Fragment&) const = default;
 };
 
 struct TextLine {

@@ -206,7 +206,7 @@ TEST_F(LessonCheckTest, UnpaintedPagesReadAsPaintedOnes) {
     reader.Read(*lesson, course::mode::Explanation, 17, [&] {
       const PageText page = ReadPage(*course::frmPR);
       pages.push_back(page.lines);
-      pages.push_back(LayoutFaults(*course::frmPR));
+      pages.push_back(PageLayout().FaultsOf(*course::frmPR));
     });
     return pages;
   };
@@ -278,7 +278,7 @@ class PageLayoutTest : public Test {
     course::Locate(row, col);
     course::isPrint(text);
   }
-  static std::vector<std::string> Found() { return LayoutFaults(*course::frmPR); }
+  static std::vector<std::string> Found() { return PageLayout().FaultsOf(*course::frmPR); }
 
   PageReader reader_;
 };

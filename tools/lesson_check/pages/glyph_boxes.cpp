@@ -60,70 +60,17 @@ bool Erases(const TextPanel& panel, const Glyph& later, const Glyph& earlier) {
          std::fabs(later.col - earlier.col) < 0.5;
 }
 
-// Builds up what stands from the fragments, in the order in which they were printed.
-class Standing {
- public:
-  explicit Standing(const TextPanel& panel) : panel_(panel) {
-    std::size_t letters = 0;
-    for (const Fragment& fragment : panel.Transcript()) letters += fragment.text.size();
-    glyphs_.reserve(letters);
-  }
+bool CanMeet(const Fragment& fragment, const Glyph& earlier) {
+  const double reach = fragment.whole || earlier.whole ? kFractionReach : kSamePlace;
+  return std::fabs(earlier.row - fragment.row) <= reach &&
+         earlier.col + earlier.width >= fragment.col - kSamePlace &&
+         earlier.col <= fragment.Right() + kSamePlace;
+}
 
-  void Print(const Fragment& fragment) {
-    const std::vector<Glyph> printed = GlyphsOf(panel_, fragment);
-    Replace(fragment, printed);
-    for (Glyph glyph : printed) {
-      if (glyph.blank) continue;
-      const bool goesOn = !glyphs_.empty() && SamePlace(glyph, RightOf(glyphs_.back()));
-      glyph.word = goesOn ? glyphs_.back().word : ++words_;
-      glyphs_.push_back(glyph);
-    }
-  }
-
-  StandingText Take() {
-    StandingText text;
-    for (const Glyph& glyph : glyphs_) {
-      const bool cut = std::ranges::find(replaced_, glyph.word) != replaced_.end();
-      const bool told = !text.cutAt.empty() && text.cutAt.back().word == glyph.word;
-      if (cut && !told) text.cutAt.push_back(glyph);
-    }
-    text.glyphs = std::move(glyphs_);
-    return text;
-  }
-
- private:
-  static Glyph RightOf(Glyph glyph) {
-    glyph.col += glyph.width;
-    return glyph;
-  }
-
-  void Replace(const Fragment& fragment, const std::vector<Glyph>& printed) {
-    std::erase_if(glyphs_, [&](const Glyph& earlier) {
-      if (!CanMeet(fragment, earlier)) return false;
-      bool gone = false;
-      for (const Glyph& later : printed) {
-        const bool same = SameText(later, earlier);
-        if (!same && !Erases(panel_, later, earlier)) continue;
-        gone = true;
-        // Blanks clean away on purpose; the same text only gets another colour.
-        if (!same && !later.blank) replaced_.push_back(earlier.word);
-      }
-      return gone;
-    });
-  }
-
-  static bool CanMeet(const Fragment& fragment, const Glyph& earlier) {
-    const double reach = fragment.whole || earlier.whole ? kFractionReach : kSamePlace;
-    return std::fabs(earlier.row - fragment.row) <= reach &&
-           earlier.col + earlier.width >= fragment.col - kSamePlace &&
-           earlier.col <= fragment.Right() + kSamePlace;
-  }
-
-  const TextPanel& panel_;
-  std::vector<Glyph> glyphs_;
-  std::vector<int> replaced_;  // words that lost a glyph to another text
-  int words_ = 0;
-};
+Glyph RightOf(Glyph glyph) {
+  glyph.col += glyph.width;
+  return glyph;
+}
 
 }  // namespace
 
@@ -149,10 +96,59 @@ std::vector<Glyph> GlyphsOf(const TextPanel& panel, const Fragment& fragment) {
   return glyphs;
 }
 
-StandingText StandingTextOf(const TextPanel& panel) {
-  Standing standing(panel);
-  for (const Fragment& fragment : panel.Transcript()) standing.Print(fragment);
-  return standing.Take();
+bool StandingText::Follow(const TextPanel& panel) {
+  const std::vector<Fragment>& printed = panel.Transcript();
+  isAnew_ =
+      printed.size() < read_.size() || !std::equal(read_.begin(), read_.end(), printed.begin());
+  if (!isAnew_ && printed.size() == read_.size()) return false;
+  if (isAnew_) {
+    read_.clear();
+    glyphs_.clear();
+    replaced_.clear();
+  }
+  ++readings_;
+  for (std::size_t i = read_.size(); i < printed.size(); ++i) Print(panel, printed[i]);
+  read_.insert(read_.end(), printed.begin() + static_cast<long>(read_.size()), printed.end());
+  return true;
+}
+
+std::vector<Glyph> StandingText::CutAt() const {
+  std::vector<Glyph> cut;
+  for (const Glyph& glyph : glyphs_) {
+    if (replaced_.empty()) break;
+    const bool isCut = std::ranges::find(replaced_, glyph.word) != replaced_.end();
+    const bool told = !cut.empty() && cut.back().word == glyph.word;
+    if (isCut && !told) cut.push_back(glyph);
+  }
+  return cut;
+}
+
+void StandingText::Print(const TextPanel& panel, const Fragment& fragment) {
+  std::vector<Glyph> printed = GlyphsOf(panel, fragment);
+  Replace(panel, fragment, printed);
+  for (Glyph& glyph : printed) {
+    if (glyph.blank) continue;
+    const bool goesOn = !glyphs_.empty() && SamePlace(glyph, RightOf(glyphs_.back()));
+    glyph.word = goesOn ? glyphs_.back().word : ++words_;
+    glyph.reading = readings_;
+    glyphs_.push_back(std::move(glyph));
+  }
+}
+
+void StandingText::Replace(const TextPanel& panel, const Fragment& fragment,
+                           const std::vector<Glyph>& printed) {
+  std::erase_if(glyphs_, [&](const Glyph& earlier) {
+    if (!CanMeet(fragment, earlier)) return false;
+    bool gone = false;
+    for (const Glyph& later : printed) {
+      const bool same = SameText(later, earlier);
+      if (!same && !Erases(panel, later, earlier)) continue;
+      gone = true;
+      // Blanks clean away on purpose; the same text only gets another colour.
+      if (!same && !later.blank) replaced_.push_back(earlier.word);
+    }
+    return gone;
+  });
 }
 
 }  // namespace lesson_check

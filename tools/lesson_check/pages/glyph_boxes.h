@@ -36,20 +36,40 @@ struct Glyph {
   double col = 0;
   double width = 1;  // columns
   InkBox ink;
-  int word = 0;  // glyphs that stand side by side without a blank share a number
+  int word = 0;     // glyphs that stand side by side without a blank share a number
+  int reading = 0;  // in which it was read, see StandingText
 };
 
 // The glyphs of a fragment, from left to right.
 std::vector<Glyph> GlyphsOf(const course::TextPanel& panel, const course::Fragment& fragment);
 
-// What stands on the panel, and the words that a later text has cut.
-struct StandingText {
+// What stands on a panel, page after page.
+class StandingText {
+ public:
+  // Reads what was printed since the last call, or all of it where the panel was cleared meanwhile.
+  // False when nothing has changed.
+  bool Follow(const course::TextPanel& panel);
+
   // Without blanks, and without what a later text has replaced.  On a panel that erases, a text
   // replaces what stood in its cells; elsewhere only the same text does.
-  std::vector<Glyph> glyphs;
-  // Words of which a part was replaced and a part still stands.
-  std::vector<Glyph> cutAt;  // a standing glyph of each
+  const std::vector<Glyph>& Glyphs() const { return glyphs_; }
+  // A standing glyph of each word of which a part was replaced and a part still stands.
+  std::vector<Glyph> CutAt() const;
+  // Whether the last call began anew, and whether it has read the glyph.
+  bool IsAnew() const { return isAnew_; }
+  bool IsFresh(const Glyph& glyph) const { return glyph.reading == readings_; }
+
+ private:
+  void Print(const course::TextPanel& panel, const course::Fragment& fragment);
+  void Replace(const course::TextPanel& panel, const course::Fragment& fragment,
+               const std::vector<Glyph>& printed);
+
+  std::vector<course::Fragment> read_;
+  std::vector<Glyph> glyphs_;
+  std::vector<int> replaced_;  // words that lost a glyph to another text
+  int words_ = 0;
+  int readings_ = 0;
+  bool isAnew_ = true;
 };
-StandingText StandingTextOf(const course::TextPanel& panel);
 
 }  // namespace lesson_check

@@ -170,7 +170,7 @@ const PageChecker::SeenPage& PageChecker::See() {
   if (!isNew) return page->second;
   page->second.text = ReadPage(*frmPR);
   if (faultless_.contains(page->first)) return page->second;
-  page->second.faults = LayoutFaults(*frmPR);
+  page->second.faults = layout_.FaultsOf(*frmPR);
   if (page->second.faults.empty()) faultless_.insert(page->first);
   return page->second;
 }

@@ -11,6 +11,7 @@
 
 #include "engine/lesson_script.h"
 #include "lesson_check/judge.h"
+#include "lesson_check/pages/page_layout.h"
 #include "lesson_check/pages/page_reader.h"
 #include "lesson_check/pages/page_style.h"
 #include "lesson_check/pages/page_text.h"
@@ -52,6 +53,7 @@ class PageChecker {
   course::LessonScript::DrawnProblem drawn_;
   PageReader reader_;
   PageStyle style_;
+  PageLayout layout_;
   // Pages by a number for all that is looked at: of ten million pages two share one with a chance
   // of one in 300,000.
   std::unordered_map<std::uint64_t, SeenPage> seen_;

@@ -92,7 +92,7 @@ void FindTextUnder(const StandingText& text, const platform::Control& panel, con
                    std::vector<std::string>& faults) {
   const InkBox outline = Outline(*box.control, panel);
   std::string hidden;
-  for (const Glyph& glyph : text.glyphs)
+  for (const Glyph& glyph : text.Glyphs())
     if (Overlap(glyph.ink, outline)) hidden += glyph.text;
   if (!hidden.empty())
     faults.push_back("text under " + box.control->Name() + ": " + Quoted(hidden));
@@ -134,21 +134,23 @@ void FindOutsideBox(const PanelView& box, std::vector<std::string>& faults) {
   }
 }
 
-std::vector<std::string> OverprintsOf(const StandingText& text) {
+// Those of which the later text is fresh.
+std::vector<std::string> FreshOverprints(const StandingText& text) {
   std::vector<std::string> faults;
-  for (const Glyph& rest : text.cutAt)
+  for (const Glyph& rest : text.CutAt())
     faults.push_back("of a word that was printed over there still stands " +
-                     Quoted(WordOf(text.glyphs, rest)) + Place(rest.row, rest.col));
+                     Quoted(WordOf(text.Glyphs(), rest)) + Place(rest.row, rest.col));
   // Most rows have no ink at a glyph's height.  Overlaps of one row are told as one.
   std::map<long, InkRow> rows;
   std::map<long, OverlappedRow> overlapped;
-  for (const Glyph& glyph : text.glyphs) {
-    for (const auto& [near, inked] : rows)
-      if (inked.Meets(glyph.ink))
-        for (const Glyph* earlier : inked.glyphs)
-          if (Overlap(earlier->ink, glyph.ink))
-            overlapped[std::lround(glyph.row)].Add(*earlier, glyph);
-    rows[std::lround(glyph.row)].Add(glyph);
+  for (const Glyph& glyph : text.Glyphs()) {
+    const long row = std::lround(glyph.row);
+    for (const auto& [near, inked] : rows) {
+      if (!text.IsFresh(glyph) || !inked.Meets(glyph.ink)) continue;
+      for (const Glyph* earlier : inked.glyphs)
+        if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
+    }
+    rows[row].Add(glyph);
   }
   for (const auto& [row, overlap] : overlapped)
     faults.push_back(Quoted(overlap.later) + " over " + Quoted(overlap.earlier) +
@@ -158,24 +160,43 @@ std::vector<std::string> OverprintsOf(const StandingText& text) {
 
 }  // namespace
 
-std::vector<std::string> Overprints(const TextPanel& panel) {
-  return OverprintsOf(StandingTextOf(panel));
+const PageLayout::Panel& PageLayout::Read(const PanelView& view) {
+  Panel& panel = panels_[view.control->Name()];
+  const bool changed = panel.text.Follow(*view.text);
+  if (changed) {
+    if (panel.text.IsAnew()) panel.overprints.clear();
+    for (std::string& fault : FreshOverprints(panel.text))
+      panel.overprints.push_back(std::move(fault));
+  }
+  const int width = view.control->PixelWidth();
+  const int height = view.control->PixelHeight();
+  if (view.kind != PanelKind::Lesson &&
+      (changed || width != panel.width || height != panel.height)) {
+    panel.outside.clear();
+    FindOutsideBox(view, panel.outside);
+  }
+  panel.width = width;
+  panel.height = height;
+  return panel;
 }
 
-std::vector<std::string> LayoutFaults(LessonWindow& window) {
-  const StandingText text = StandingTextOf(window.lessonText);
-  std::vector<std::string> faults = OverprintsOf(text);
+std::vector<std::string> PageLayout::FaultsOf(LessonWindow& window) {
+  const std::vector<PanelView> views = course::ShownPanels(window);
+  std::vector<std::string> faults;
+  const Panel& lesson = Read(views.front());
+  faults = lesson.overprints;
   FindOutsideGrid(window.lessonText, faults);
-  for (const PanelView& view : course::ShownPanels(window)) {
+  for (const PanelView& view : views) {
     if (view.kind == PanelKind::Lesson) continue;
     if (view.text != nullptr) {
-      const std::string name = view.control->Name();
-      for (const std::string& fault : Overprints(*view.text)) faults.push_back(name + ": " + fault);
-      FindOutsideBox(view, faults);
+      const Panel& panel = Read(view);
+      for (const std::string& fault : panel.overprints)
+        faults.push_back(view.control->Name() + ": " + fault);
+      faults.insert(faults.end(), panel.outside.begin(), panel.outside.end());
     }
     if (view.kind == PanelKind::Cell) continue;  // lies in its table
     FindOutsidePanel(window, view, faults);
-    FindTextUnder(text, window.pnlLesson, view, faults);
+    FindTextUnder(lesson.text, window.pnlLesson, view, faults);
   }
   for (std::string& fault : OverlappingBoxes(window)) faults.push_back(std::move(fault));
   return faults;
