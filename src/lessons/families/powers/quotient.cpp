@@ -74,12 +74,13 @@ void SlideExponentsToDifference(const Power& above, const Power& below, double r
   ShowAt(row, above.base + R"(\y)" + ExponentText(above.exponent), kCol);
   isDrawHorizLine(middle, kCol, kCol + 1, 2);
   ShowAt(row + 2 * kHalf, below.base + R"(\y)" + ExponentText(below.exponent), kCol);
-  ShowAt(middle, "= " + above.base, kBase - 2);
   SlideRight({row, kExponent, 1}, kBase + 1 - kExponent, Leaving::Copy);
   SlideDown({row, kBase + 1, 1}, kHalf);
-  ShowAt(middle, "^-^", kBase + 2);
   SlideRight({row + 2 * kHalf, kExponent, 1}, kBase + 3 - kExponent, Leaving::Copy);
   SlideUp({row + 2 * kHalf, kBase + 3, 1}, kHalf);
+  // Not before: an exponent that passes below would cut the tail of a p.
+  ShowAt(middle, "= " + above.base, kBase - 2);
+  ShowAt(middle, "^-^", kBase + 2);
   const int difference = above.exponent - below.exponent;
   ShowAt(middle, "= " + above.base + (difference == 1 ? "" : "^" + NumStr(difference) + "^"),
          kBase + 5);
