@@ -101,7 +101,7 @@ class MistakesPage {
   }
 
   // The question stands above the sentences, and a row between them, if there is room for it;
-  // otherwise its mathematics alone, or nothing of it.
+  // otherwise its mathematics alone, or nothing of it; and the figure goes at last.
   void Draw() {
     constexpr double kRoom = kLastRow - kFirstRow + 1;
     const auto words = [](const std::string& line) { return !IsMath(line); };
@@ -114,6 +114,10 @@ class MistakesPage {
           if (Rows(air) <= kRoom) return DrawWith(air);
       }
     }
+    // A figure is worth more than air.
+    if (figure_.rows > 0 && Rows(0) <= kRoom) return DrawWith(0);
+    figure_ = {};
+    if (Rows(0) <= kRoom) return DrawWith(Rows(0.5) <= kRoom ? 0.5 : 0);
     platform::Stop("TellMistakes: no room for \"" + told_[0].before + "\" and what follows");
   }
 
@@ -255,7 +259,7 @@ class MistakesPage {
     Wrap(row, value, kScreenColumns, kMathCol);
   }
 
-  const MistakesFigure& figure_;
+  MistakesFigure figure_;
   bool choicesAreWords_;
   std::vector<std::string> question_;
   std::vector<Told> told_;

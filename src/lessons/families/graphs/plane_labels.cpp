@@ -18,7 +18,7 @@ constexpr double kSlide = 0.25;     // from one place along a line to the next
 constexpr double kSample = 0.2;     // of a label: closer than a line is wide
 
 double LengthOf(Vector v) {
-  return std::hypot(v.x, v.y);
+  return std::sqrt(v.x * v.x + v.y * v.y);  // hypot minds overflow, and takes ten times as long
 }
 
 double DistanceTo(Vector place, Vector from, Vector to) {
@@ -126,19 +126,20 @@ LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
   constexpr double kFarthest = 1.6;  // squares
   constexpr double kStep = 0.16;
   const auto gapTo = [](double foot, double size) { return std::max({0.0, foot, -foot - size}); };
-  std::vector<LabelBox> places;
+  // Among places as near the one whose middle is nearest, a little rather above.
+  const auto distanceOf = [&](double right, double up) {
+    const double gap = LengthOf({gapTo(right, label.width), gapTo(up, label.height)});
+    return std::pair(std::round(gap / kStep),
+                     LengthOf({right + label.width / 2, up + label.height / 2 - kStep}));
+  };
+  std::vector<std::pair<std::pair<double, double>, LabelBox>> byDistance;
   for (double right = kFarthest; right >= -kFarthest - label.width; right -= kStep)
     for (double up = kFarthest; up >= -kFarthest - label.height; up -= kStep)
       if (std::max(gapTo(right, label.width), gapTo(up, label.height)) >= kPointGap)
-        places.push_back({point + Vector{right, up}, {1, 0}, label});
-  const auto distance = [&](const LabelBox& place) {
-    const Vector foot = place.foot + -1 * point;
-    const double gap = LengthOf({gapTo(foot.x, label.width), gapTo(foot.y, label.height)});
-    // Among places as near the one whose middle is nearest, a little rather above.
-    return std::pair(std::round(gap / kStep),
-                     LengthOf(foot + Vector{label.width / 2, label.height / 2 - kStep}));
-  };
-  std::ranges::stable_sort(places, {}, distance);
+        byDistance.push_back({distanceOf(right, up), {point + Vector{right, up}, {1, 0}, label}});
+  std::ranges::stable_sort(byDistance, {}, [](const auto& place) { return place.first; });
+  std::vector<LabelBox> places;
+  for (const auto& [distance, place] : byDistance) places.push_back(place);
   return Take(places);
 }
 
@@ -150,11 +151,11 @@ bool LabelGround::IsFree(Vector place) const {
          });
 }
 
-int LabelGround::Covered(const LabelBox& label) const {
+int LabelGround::Covered(const LabelBox& label, int most) const {
   const int across = static_cast<int>(std::ceil(label.size.width / kSample));
   const int up = static_cast<int>(std::ceil(label.size.height / kSample));
   int covered = 0;
-  for (int i = 0; i <= across; ++i)
+  for (int i = 0; i <= across && covered < most; ++i)
     for (int j = 0; j <= up; ++j)
       covered += IsFree(label.foot + label.size.width * i / across * label.along +
                         label.size.height * j / up * label.Upward())
@@ -167,7 +168,7 @@ LabelBox LabelGround::Take(const std::vector<LabelBox>& places) {
   int fewest = std::numeric_limits<int>::max();
   LabelBox best;
   for (const LabelBox& place : places) {
-    const int covered = Covered(place);
+    const int covered = Covered(place, fewest);
     if (covered < fewest) {
       fewest = covered;
       best = place;

@@ -59,8 +59,8 @@ class LabelGround {
   };
 
   bool IsFree(Vector place) const;
-  // How much of the label lies on something, in samples.
-  int Covered(const LabelBox& label) const;
+  // How much of the label lies on something, in samples; counted up to most or a little more.
+  int Covered(const LabelBox& label, int most) const;
   LabelBox Take(const std::vector<LabelBox>& places);
 
   std::vector<Stroke> strokes_;
