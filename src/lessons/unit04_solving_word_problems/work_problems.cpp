@@ -19,6 +19,7 @@ using platform::colour::Cyan;
 using platform::colour::Yellow;
 
 constexpr int kMinutesOfHour = 60;
+constexpr WorkPart kAllParts[] = {WorkPart::First, WorkPart::Second, WorkPart::Together};
 constexpr const char* kHowMuch =
     "If it takes H hours to complete a job then how much work is done in 1 hour?";
 constexpr const char* kOneOverH =
@@ -31,26 +32,6 @@ constexpr double kWorkRow = 17.4;
 constexpr double kWorkCol = 2;
 constexpr double kBoxRow = 19.6;
 constexpr double kFactColumn = 19;
-
-// "5T/12", "T/6", "T" of a rate times T.
-std::string RateTimesT(const Fraction& rate) {
-  const std::string above = CoefText(rate.num) + "T";
-  return rate.den == 1 ? above : FractionOfTexts(above, NumStr(rate.den));
-}
-
-// "1/6 + 1/4 = 2/12 + 3/12 = 5/12", each step only where it changes something.
-std::string RatesLine(const Fraction& a, const std::string& sign, const Fraction& b) {
-  const int lcd = static_cast<int>(Lcm(a.den, b.den));
-  const int first = a.num * (lcd / a.den);
-  const int second = b.num * (lcd / b.den);
-  const int result = sign == "+" ? first + second : first - second;
-  const auto over = [lcd](int n) { return FractionOfTexts(NumStr(n), NumStr(lcd)); };
-  std::string line = ValueText(a) + " " + sign + " " + ValueText(b);
-  if (lcd > 1 && a.den != b.den) line += " = " + over(first) + " " + sign + " " + over(second);
-  if (lcd > 1) line += " = " + over(result);
-  const std::string reduced = ValueText(Reduced(result, lcd));
-  return lcd > 1 && reduced == over(result) ? line : line + " = " + reduced;
-}
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -83,7 +64,7 @@ void RatesAdd() {
   SayAt(14.5, R"(We \yadd the rates\z:)");
   Show("1/3 + 1/6 = 2/6 + 1/6 = 3/6 = 1/2");
   PageEnd();
-  Say("1 hour paints half of the wall.  How long do they need for all of it?");
+  Say("In 1 hour they paint half of the wall.  How long do they need for all of it?");
   PageEnd();
   DrawStrip(12.5, 8, 30, 6, {{2, Yellow}, {1, Cyan}, {2, Yellow}, {1, Cyan}});
   AddLine(R"(They need \y2 hours\z: two halves are 1.)");
@@ -120,13 +101,15 @@ void TheTable() {
   FillWork(WorkPart::Together, WorkColumn::Rate, "5/12");
   PageEnd();
   FillWork(WorkPart::Together, WorkColumn::Time, "T", Blue);
-  FillWork(WorkPart::Together, WorkColumn::Part, "1", Blue);
-  Say(R"(We call their time \yT\z.  The whole job is 1.  Rate times time is the part:)");
-  Show("5T/12 = 1");
+  Say(Text("In 1 hour they do 5/12 of it, and in 2 hours {}.", "2 " + tutor::Times + " 5/12"));
+  Say(Text(R"(We call their time \yT\z.  In T hours they do {}.  What is the whole garden?)",
+           "T " + tutor::Times + " 5/12"));
   PageEnd();
   ClearBelow(12);
+  FillWork(WorkPart::Together, WorkColumn::Part, "1", Blue);
+  SayAt(12.5, "The whole garden is 1:");
   Show("5T/12 = 1");
-  Say("We multiply by 12, and then we divide by 5:");
+  AddLine("We multiply by 12, and divide by 5:");
   Show("5T = 12      T = 12/5 = 2 2/5");
   PageEnd();
   ClearBelow(12);
@@ -143,11 +126,9 @@ void CheckTheTable() {
   PageEnd();
   ClearBelow(12);
   SayAt(12.5, "Check:  in 12/5 hours they do these two parts.");
-  FillWork(WorkPart::First, WorkColumn::Time, "12/5");
+  for (const WorkPart part : kAllParts) FillWork(part, WorkColumn::Time, "12/5");
   FillWork(WorkPart::First, WorkColumn::Part, "3/5", Blue);
-  FillWork(WorkPart::Second, WorkColumn::Time, "12/5");
   FillWork(WorkPart::Second, WorkColumn::Part, "2/5", Blue);
-  FillWork(WorkPart::Together, WorkColumn::Time, "12/5");
   Show("3/5 + 2/5 = 1");
   Say("That is the whole garden.");
   PageEnd();
@@ -155,21 +136,23 @@ void CheckTheTable() {
 
 void PartsOfAnHour() {
   NewScreen();
-  SayAt(3, "The Red pump fills a pool in 1 hour & 30 minutes.  What is its rate?");
+  SayAt(3, "The Red pump fills a pool in 1 hour & 20 minutes.  What is its rate?");
+  Say("First we write the time in hours.  What part of an hour are 20 minutes?");
   PageEnd();
-  Say("First we write the time in hours.  30 minutes are half of an hour:");
-  Show("1 1/2 = 3/2");
+  Say("We divide the minutes by 60:");
+  Show("20/60 = 1/3");
+  AddLine("So the time is 1 1/3 = 4/3 hours.");
   PageEnd();
   Say(R"(The rate is 1 over it.  We \yturn the fraction over\z:)");
-  Show("1 " + tutor::Divided + " 3/2 = 2/3");
+  Show("1 " + tutor::Divided + " 4/3 = 3/4");
   PageEnd();
-  NewScreen();
-  SayAt(
-      3,
-      R"(The Red pump's rate is 2/3.  \yTry it:\z  The Blue pump takes 3 hours.  How long do both pumps take?)");
+  ClearBelow(5);
+  SayAt(6, "The Red pump's rate is 3/4.");
+  Say(R"(\yTry it:\z  The Blue pump takes 4 hours.  How long do both pumps take?)");
   PageEnd();
-  Show("2/3 + 1/3 = 3/3 = 1");
-  AddLine("In 1 hour they fill the whole pool.  They take 1 hour.");
+  Say("The Blue pump's rate is 1/4:");
+  Show("3/4 + 1/4 = 4/4 = 1");
+  Say("In 1 hour they fill the whole pool.  They take 1 hour.");
   PageEnd();
 }
 
@@ -179,25 +162,35 @@ void OneAlone() {
         "Working together, John and Bill can load a truck in 2 hours.  John alone can load it in "
         "6 hours.  How long does Bill need alone?");
   PageEnd();
-  DrawStrip(8, 8, 30, 6, {{3, Yellow}});
-  SayAt(8, "both", {.col = 2});
-  DrawStrip(10, 8, 30, 6, {{1, Cyan}});
-  SayAt(10, "John", {.col = 2});
-  SayAt(12, "In 1 hour both load 1/2, and John loads 1/6.  What is left for Bill?");
+  DrawStrip(8, 3, 36, 6, {{1, Cyan}, {2, Yellow}});
+  SayAt(10,
+        "In 1 hour they load 1/2 together, and John loads 1/6 of it all.  The yellow part is "
+        "Bill's.  How much is it?");
   PageEnd();
   Say(R"(We \ysubtract the rates\z:)");
   Show("1/2 - 1/6 = 3/6 - 1/6 = 2/6 = 1/3");
   Say("His rate is 1/3.  What is his time?");
   PageEnd();
+  ClearBelow(10);
+  SayAt(10.5, "The rate is 1 over the time.  So the time is 1 over the rate:");
+  Show("1 " + tutor::Divided + " 1/3 = 3");
   Say(R"(Bill needs \y3 hours\z alone.)");
   PageEnd();
+}
 
+void AloneInHoursAndMinutes() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  6 - 2 = 4 hours is wrong.  We subtract rates, not times.)");
-  Say(R"(\yTry it:\z  Sue and Ann need 3 hours, and Sue alone needs 4.  And Ann alone?)");
+  SayAt(3, "Bill alone must need more than 2 hours, the time together.  3 hours is more.");
+  Say(R"(\yWatch out:\z  6 - 2 = 4 hours is wrong.  We subtract rates, not times.)");
   PageEnd();
-  Show("1/3 - 1/4 = 4/12 - 3/12 = 1/12");
-  AddLine("Ann's rate is 1/12.  She needs 12 hours.");
+  Say(R"(\yTry it:\z  Sue and Ann need 1 hour & 30 minutes, and Sue alone needs 2 hours & 30 )"
+      "minutes.  And Ann alone?");
+  PageEnd();
+  Say("The times are 3/2 and 5/2 hours.  So the rates are 2/3 and 2/5:");
+  Show("2/3 - 2/5 = 10/15 - 6/15 = 4/15");
+  PageEnd();
+  Show("1 " + tutor::Divided + " 4/15 = 15/4 = 3 3/4");
+  AddLine("Ann needs 3 hours & 45 minutes.");
   PageEnd();
 }
 
@@ -210,7 +203,8 @@ class WorkProblems final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{OneHour, RatesAdd, ThreeStudents, TheTable, CheckTheTable, PartsOfAnHour, OneAlone}};
+    return {{OneHour, RatesAdd, ThreeStudents, TheTable, CheckTheTable, PartsOfAnHour, OneAlone,
+             AloneInHoursAndMinutes}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -227,13 +221,12 @@ class WorkProblems final : public LessonScript {
   void Check();
   void TellAnswer();
 
-  std::string Question() const;
   std::string TimeText(WorkPart part) const { return DurationText(job_.MinutesOf(part)); }
   bool AsksTogether() const { return job_.asked == WorkPart::Together; }
   SharedJob job_;
 };
 
-// --- Generator ---------------------------------------------------------------
+// --- Problem ------------------------------------------------------------------
 
 void WorkProblems::DrawProblem(RandomStream& random) {
   job_ = SharedJob::Draw(random);
@@ -241,14 +234,8 @@ void WorkProblems::DrawProblem(RandomStream& random) {
   FillChoices(job_, problem, random);
 }
 
-// --- Problem page ------------------------------------------------------------
-
-std::string WorkProblems::Question() const {
-  return problem.question[0] + "  " + problem.question[1] + "  " + problem.question[2];
-}
-
 void WorkProblems::ShowProblem() {
-  SayAt(5, Question());
+  SayAt(5, OneParagraph(problem.question));
   // "11 hours & 45 minutes" is long.
   ShowAnswersInTwoColumns(problem, {.row = 12, .width = 19, .fontSize = 14});
 }
@@ -257,16 +244,13 @@ void WorkProblems::ShowProblem() {
 
 void WorkProblems::ExplainProblem() {
   ProblemBanner();
-  SayAt(4, Question());
+  SayAt(4, OneParagraph(problem.question));
   PageEnd();
   ShowFacts();
   WhiteBox({.row = kBoxRow});
   ExplainHours();
   ExplainRate();
-  if (AsksTogether())
-    AddRates();
-  else
-    SubtractRates();
+  AsksTogether() ? AddRates() : SubtractRates();
   ExplainMinutes();
   Check();
   TellAnswer();
@@ -281,7 +265,7 @@ void WorkProblems::StartStep(const std::string& words) {
 void WorkProblems::ShowFacts() {
   double row = kStageRow;
   SayAt(row, "Let's summarize what we know.");
-  for (const WorkPart part : {WorkPart::First, WorkPart::Second, WorkPart::Together}) {
+  for (const WorkPart part : kAllParts) {
     ++row;
     SayAt(row, AtStart(WithoutArticle(job_.NameOf(part))), {.col = 3});
     SayAt(row, part == job_.asked ? R"(\y?\z)" : TimeText(part), {.col = kFactColumn});
@@ -290,20 +274,19 @@ void WorkProblems::ShowFacts() {
 }
 
 void WorkProblems::ExplainHours() {
-  double row = kWorkRow - 3;
-  bool told = false;
+  double row = kStageRow + 1.4;
   for (const WorkPart part : job_.Given()) {
-    const Fraction hours = job_.HoursOf(part);
-    if (hours.den == 1) continue;
-    if (!told) SayInBoxAnew("We write the times in hours.");
-    told = true;
-    const std::string mixed = MixedText(hours);
-    const std::string improper = ValueText(hours);
-    ShowAt(row, TimeText(part) + " = " + mixed + (mixed == improper ? "" : " = " + improper),
-           kWorkCol);
-    row += 3;
+    const int minutes = job_.MinutesOf(part) % kMinutesOfHour;
+    if (minutes == 0) continue;
+    ClearRows(row - 1.4, kBoxRow - row + 1.4);
+    SayInBoxAnew(Text("We write the times in hours.  We divide the minutes by 60:  {}/60 = {}.",
+                      minutes, ValueText(HoursOf(minutes))));
+    const std::string mixed = MixedText(job_.HoursOf(part));
+    const std::string value = ValueText(job_.HoursOf(part));
+    ShowAt(row, TimeText(part) + " = " + mixed + (mixed == value ? "" : " = " + value), kWorkCol);
+    PageEnd();
+    row += 4;
   }
-  if (told) PageEnd();
 }
 
 void WorkProblems::ExplainRate() {
@@ -319,7 +302,6 @@ void WorkProblems::ExplainRate() {
   }
 }
 
-// From the time of a worker, or of both.
 void WorkProblems::ShowRate(WorkPart part) {
   const Fraction hours = job_.HoursOf(part);
   const Fraction rate = job_.RateOf(part);
@@ -348,20 +330,17 @@ void WorkProblems::AddRates() {
   FillWork(WorkPart::Together, WorkColumn::Part, "1", Blue);
   ShowAt(kWorkRow, RateTimesT(sum) + " = 1", kWorkCol);
   PageEnd();
-  constexpr double kSecond = 13;
-  constexpr double kThird = 24;
+  // Said where a single expression is left.
+  const std::string simplify = "  Simplify the expression to find the time.";
   if (sum.den > 1) {
-    SayInBoxAnew("Simplify the expression to find the time.  We multiply both sides by " +
-                 NumStr(sum.den) + ".");
-    ShowAt(kWorkRow, CoefText(sum.num) + "T = " + NumStr(sum.den), kSecond);
+    SayInBoxAnew("We multiply both sides by " + NumStr(sum.den) + "." +
+                 (sum.num == 1 ? simplify : ""));
+    ShowAt(kWorkRow, CoefText(sum.num) + "T = " + NumStr(sum.den), 13);
     PageEnd();
   }
   if (sum.num == 1) return;
-  const Fraction hours = job_.HoursOf(WorkPart::Together);
-  SayInBoxAnew("We divide both sides by " + NumStr(sum.num) + ".");
-  const std::string mixed = MixedText(hours);
-  ShowAt(kWorkRow, "T = " + ValueText(hours) + (mixed == ValueText(hours) ? "" : " = " + mixed),
-         kThird);
+  SayInBoxAnew("We divide both sides by " + NumStr(sum.num) + "." + simplify);
+  ShowAt(kWorkRow, "T = " + AndMixed(job_.HoursOf(WorkPart::Together)), 24);
   PageEnd();
 }
 
@@ -369,17 +348,17 @@ void WorkProblems::SubtractRates() {
   const WorkPart other = job_.Given().front();
   const std::string asked = job_.NameOf(job_.asked);
   const Fraction rate = job_.RateOf(job_.asked);
-  const Fraction hours = job_.HoursOf(job_.asked);
   StartStep("Each rate is the part done in an hour.  What is left for " + asked + "?");
   PageEnd();
   SayInBoxAnew("We subtract the rates, not the times.");
   ShowAt(kWorkRow, RatesLine(job_.RateOf(WorkPart::Together), "-", job_.RateOf(other)), kWorkCol);
   FillWork(job_.asked, WorkColumn::Rate, ValueText(rate), Blue);
   PageEnd();
-  StartStep("The rate is 1 over the time.  So the time is 1 over the rate.");
+  StartStep(
+      "The rate is 1 over the time.  So the time is 1 over the rate.  Simplify the expression to "
+      "find the time.");
   ShowAt(kWorkRow,
-         "1 " + tutor::Divided + " " + ValueText(rate) + " = " + ValueText(hours) +
-             (hours.den == 1 ? "" : " = " + MixedText(hours)),
+         "1 " + tutor::Divided + " " + ValueText(rate) + " = " + AndMixed(job_.HoursOf(job_.asked)),
          kWorkCol);
   PageEnd();
 }
@@ -394,30 +373,31 @@ void WorkProblems::ExplainMinutes() {
   PageEnd();
 }
 
-// The parts of both make the whole job.
 void WorkProblems::Check() {
   const Fraction hours = job_.HoursOf(WorkPart::Together);
-  const Fraction first = job_.RateOf(WorkPart::First) * hours;
-  const Fraction second = job_.RateOf(WorkPart::Second) * hours;
+  const auto done = [&](WorkPart part) { return ValueText(job_.RateOf(part) * hours); };
   StartStep("Check:  each one works for " + HoursText(hours) +
             ".  The two parts make the whole job.");
-  for (const WorkPart part : {WorkPart::First, WorkPart::Second, WorkPart::Together}) {
+  for (const WorkPart part : kAllParts) {
     FillWork(part, WorkColumn::Time, ValueText(hours), Blue);
-    FillWork(part, WorkColumn::Part, ValueText(job_.RateOf(part) * hours), Blue);
+    FillWork(part, WorkColumn::Part, done(part), Blue);
   }
-  ShowAt(kWorkRow, ValueText(first) + " + " + ValueText(second) + " = 1", kWorkCol);
+  ShowAt(kWorkRow, done(WorkPart::First) + " + " + done(WorkPart::Second) + " = 1", kWorkCol);
   PageEnd();
 }
 
 void WorkProblems::TellAnswer() {
-  const std::string both = job_.first + " and " + job_.second;
+  const std::string together = "Working together, " + job_.first + " and " + job_.second +
+                               " share the job, and together it takes them only ";
+  const std::string time = TimeText(job_.asked);
   if (AsksTogether()) {
-    StartStep("Working together, " + both + " share the job, and together it takes them only \\b" +
-              TimeText(job_.asked) + "\\z.");
+    StartStep(together + "\\b" + time + "\\z.");
     return;
   }
-  StartStep("Working together, " + both + " share the job, and together it takes them only " +
-            TimeText(WorkPart::Together) + ".");
+  StartStep(together + TimeText(WorkPart::Together) + ".");
+  PageEnd();
+  SayInBoxAnew(AtStart(job_.NameOf(job_.asked)) + " alone must need more than that.  " + time +
+               " is more.");
   PageEnd();
   SayInBoxAnew(ConclusionText(problem, 'b'));
 }

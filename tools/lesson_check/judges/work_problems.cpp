@@ -102,7 +102,7 @@ Rational ReadAlone(const std::vector<std::string>& line, Reading& reading) {
   CheckTime(both[4], alone, reading);
   CheckTime(both[4], answer, reading);
   AddCommon(together, alone, answer, reading);
-  Add(reading, "takes both for equally fast", 2 * together);
+  Add(reading, "thinks that both are equally fast", 2 * together);
   reading.kind = firstAsked ? "the first one alone" : "the second one alone";
   return answer;
 }

@@ -160,15 +160,17 @@ void FillChoices(const SharedJob& job, Problem& problem, RandomStream& random) {
   const bool together = job.asked == WorkPart::Together;
   const bool named = random.Rand(1, 2) == 1;
   choices.Right(right);
+  // First, because it names its value best where others come to the same.
+  choices.Wrong("subtracts the two times", std::abs(one - other));
   choices.Wrong("adds the two times", one + other);
   AddHalf("takes the mean of the two times", one + other, choices);
-  choices.Wrong("subtracts the two times", std::abs(one - other));
   const int misread = DecimalsAsMinutes(right);
   if (misread > 0) choices.Wrong("reads the decimal part of the hours as minutes", misread);
   if (named && together)
     choices.Wrong("takes the faster worker's time alone", std::min(one, other));
   if (named && together) AddHalf("halves the faster worker's time", std::min(one, other), choices);
-  if (named && !together) choices.Wrong("takes both for equally fast", 2 * job.togetherMinutes);
+  if (named && !together)
+    choices.Wrong("thinks that both are equally fast", 2 * job.togetherMinutes);
   choices.Fill([&] {
     return kQuarterHour * random.Rand(job.thing.leastQuarters, job.thing.mostQuarters - 1);
   });

@@ -20,4 +20,10 @@ std::string WithoutArticle(const std::string& name) {
   return name.starts_with(kArticle) ? name.substr(kArticle.size()) : name;
 }
 
+std::string OneParagraph(const std::vector<std::string>& sentences) {
+  std::string text;
+  for (const std::string& sentence : sentences) text += (text.empty() ? "" : "  ") + sentence;
+  return text;
+}
+
 }  // namespace course::stories

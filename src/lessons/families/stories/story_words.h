@@ -1,7 +1,8 @@
-// Articles and capitals, for sentences that are joined from the words of a table.
+// Articles, capitals and blanks, for sentences that are joined from the words of a table.
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace course::stories {
 
@@ -11,5 +12,7 @@ std::string ArticleOfNumber(int number);
 std::string AtStart(std::string text);
 // "Blue pump" for "the Blue pump"; other names stay.
 std::string WithoutArticle(const std::string& name);
+// The sentences behind each other, two blanks between.
+std::string OneParagraph(const std::vector<std::string>& sentences);
 
 }  // namespace course::stories

@@ -4,6 +4,8 @@
 #include "display/print_cells.h"
 #include "lessons/families/stories/story_words.h"
 #include "lessons/page/boxes.h"
+#include "mathkit/expressions.h"
+#include "mathkit/integers.h"
 
 namespace course::stories {
 namespace {
@@ -49,6 +51,29 @@ void FillWork(WorkPart row, WorkColumn column, const std::string& text, platform
   const int cell = (static_cast<int>(row) - 1) * kColumns + static_cast<int>(column);
   picPrintCellCls(cell);
   picPrintCellPrint(cell, text, colour, kCellSize);
+}
+
+std::string AndMixed(const Fraction& value) {
+  const std::string mixed = MixedText(value);
+  return ValueText(value) + (mixed == ValueText(value) ? "" : " = " + mixed);
+}
+
+std::string RateTimesT(const Fraction& rate) {
+  const std::string above = CoefText(rate.num) + "T";
+  return rate.den == 1 ? above : FractionOfTexts(above, NumStr(rate.den));
+}
+
+std::string RatesLine(const Fraction& a, const std::string& sign, const Fraction& b) {
+  const int lcd = static_cast<int>(Lcm(a.den, b.den));
+  const int first = a.num * (lcd / a.den);
+  const int second = b.num * (lcd / b.den);
+  const int result = sign == "+" ? first + second : first - second;
+  const auto over = [lcd](int n) { return FractionOfTexts(NumStr(n), NumStr(lcd)); };
+  std::string line = ValueText(a) + " " + sign + " " + ValueText(b);
+  if (lcd > 1 && a.den != b.den) line += " = " + over(first) + " " + sign + " " + over(second);
+  if (lcd > 1) line += " = " + over(result);
+  const std::string reduced = ValueText(Reduced(result, lcd));
+  return lcd > 1 && reduced == over(result) ? line : line + " = " + reduced;
 }
 
 }  // namespace course::stories
