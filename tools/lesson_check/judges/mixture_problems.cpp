@@ -81,8 +81,8 @@ void AddMistakes(const Story& story, const Rational& answer, Reading& reading) {
   const Rational original = story.original.percent;
   const Rational added = story.added.percent;
   const Rational final = story.final.percent;
-  Add(reading, "exchanges the two parts", a * a / answer);
-  Add(reading, "averages the percents and takes the same quantity of both", a);
+  Add(reading, "uses the two distances the wrong way around", a * a / answer);
+  Add(reading, "takes the same quantity of both", a);
   Add(reading, "gives the quantity of the whole mixture", a + answer);
   if (original > final)
     Add(reading, "takes the additive for water", a * original / final - a);

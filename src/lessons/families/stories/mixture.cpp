@@ -114,6 +114,26 @@ std::vector<std::string> Mixture::Question() const {
   return lines;
 }
 
+std::string AsDecimal(int percent) {
+  return NumStr(percent / 100.0);
+}
+
+std::string AmountText(int percent, int quantity) {
+  return NumStr(percent * quantity / 100.0);
+}
+
+std::string TermText(int percent) {
+  return CoefText(percent / 100.0) + "x";
+}
+
+std::string PercentText(int percent) {
+  return NumStr(percent) + "%";
+}
+
+std::string TimesText(const std::string& a, const std::string& b) {
+  return WithoutBreaks(a + " " + tutor::Times + " " + b);
+}
+
 void FillChoices(const Mixture& mixture, Problem& problem, RandomStream& random) {
   Choices<double> choices(problem, choice_kind::FiveShuffled,
                           [&mixture](double value) { return mixture.ValueText(value); });
@@ -124,8 +144,8 @@ void FillChoices(const Mixture& mixture, Problem& problem, RandomStream& random)
   const int down = mixture.original - mixture.final;  // both positive, or both negative
   const int up = mixture.final - mixture.added;
   choices.Right(mixture.Answer());
-  wrong("exchanges the two parts", Reduced(a * up, down));
-  wrong("averages the percents and takes the same quantity of both", {a, 1});
+  wrong("uses the two distances the wrong way around", Reduced(a * up, down));
+  wrong("takes the same quantity of both", {a, 1});
   if (mixture.added == kWater || mixture.added == kPure)
     wrong("gives the quantity of the whole mixture", mixture.Exact() + Fraction{a, 1});
   else if (down > 0)

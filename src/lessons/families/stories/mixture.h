@@ -36,6 +36,17 @@ struct Mixture {
   std::vector<std::string> Question() const;
 };
 
+// ".6", "1", "0" of a percent.
+std::string AsDecimal(int percent);
+// A percent of a quantity, exact.
+std::string AmountText(int percent, int quantity);
+// ".25x", "x": so much percent of x.
+std::string TermText(int percent);
+// "25%".
+std::string PercentText(int percent);
+// A product with its sign, not broken between two lines.
+std::string TimesText(const std::string& a, const std::string& b);
+
 // The right quantity and the wrong ones, five shuffled boxes.
 void FillChoices(const Mixture& mixture, Problem& problem, RandomStream& random);
 
