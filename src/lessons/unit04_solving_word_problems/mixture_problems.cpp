@@ -202,8 +202,8 @@ void DoesItFit() {
   ShowPercentLine();
   SayAt(10, "Is 70 nearer to 50 or to 80?");
   PageEnd();
-  SayAt(5.8, "20 away", {.col = 12});
-  SayAt(5.8, "10 away", {.col = 26});
+  SayAt(5.2, "20 away", {.col = 12});
+  SayAt(5.2, "10 away", {.col = 26});
   SayAt(11.5,
         "With equal quantities we get 65%, the mean.  70 is nearer to 80, so there must be "
         R"(\ymore\z of the 80% alloy.)");
