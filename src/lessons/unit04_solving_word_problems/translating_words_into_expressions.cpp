@@ -44,8 +44,6 @@ void SumInWords() {
   SayAt(11, R"(The word ~sum~ tells us to add.  Letters, numbers and signs like these make an )"
             R"(\calgebraic expression\z.)");
   PageEnd();
-  SayAt(15, "A may be any number.  If A is 20, the sum is 25.");
-  PageEnd();
 }
 
 void WordsForAddition() {
@@ -74,14 +72,13 @@ std::string Dots(int count) {
 void LessThan() {
   NewScreen();
   SayAt(3,
-        "It matters in a difference.  Dave has 10 dollars.  Mary has 3 dollars less than Dave.  "
+        "It matters when we subtract.  Dave has 10 dollars.  Mary has 3 dollars less than Dave.  "
         "How many does she have?");
   ShowAt(8, "Dave   " + Dots(7) + R"( \y)" + Dots(3) + R"(\z)", 5);
   PageEnd();
   ShowAt(9.5, "Mary   " + Dots(7), 5);
-  SayAt(11, "She has 7.  We start with 10, and 3 are taken away:  10 - 3.");
-  PageEnd();
-  SayAt(14, Text(R"(\yTry it:\z  And 3 less than A?  Is it {} or {}?)", "A - 3", "3 - A"));
+  SayAt(11, "We start with 10, and 3 are taken away:  10 - 3.");
+  SayAt(14, Text("3 less than A:  is it {} or {}?", "A - 3", "3 - A"));
   PageEnd();
   ClearBelow(14);
   ShowAt(14, R"(the quantity 3 \yless than\z A)", 5);
@@ -98,16 +95,14 @@ void WordsForSubtraction() {
   PaperBox({"the difference of A and 3", "the quantity A minus 3", "the quantity A decreased by 3"},
            4.5);
   PageEnd();
-  SayAt(9.5, "Two phrases turn the order.  Here is the other one:");
+  SayAt(9.5, "Like ~less than~, these words turn the order of a difference:");
   ShowAt(13, "the quantity B subtracted from 9", 3);
   SayAt(15, R"(\yTry it:\z  What is the expression?)");
   PageEnd();
   ClearBelow(15);
   ShowWays(13, {{16, 34}, {34, 16}});
   ShowAt(16, R"(9        \y-\z        B)", 16);
-  SayAt(18, R"(\yFrom\z 9 we take B.  And what is the difference of B and 9?)");
-  PageEnd();
-  Say(R"(That is \yB - 9\z.  The order stays.)");
+  SayAt(18, R"(\yFrom\z 9 we take B.  So 9 comes first.)");
   PageEnd();
 }
 
@@ -126,11 +121,6 @@ void ProductInWords() {
   Say("We multiply.  The dot means times.");
   PaperBox({"the product of 6 and N", "the quantity 6 times N", "the quantity 6 multiplied by N"});
   PageEnd();
-  GoBelow();
-  AddLine(R"(\yTry it:\z  Is the product of 6 and N the same as their sum?)");
-  PageEnd();
-  AddLine("No.  If N is 10, the product is 60, but the sum is 16.");
-  PageEnd();
 }
 
 void FactorAtTheRightSide() {
@@ -140,15 +130,13 @@ void FactorAtTheRightSide() {
         "that of teachers.  Which is true?");
   ShowAt(8, "S = 6" + kDot + "T     or     6" + kDot + "S = T", 6);
   PageEnd();
-  SayAt(9.5, "Let us try some numbers.  What belongs in the empty cell?");
+  SayAt(9.5, "Let us try some numbers:");
   ShowPairedRows("teachers T", "students S");
   FillPair(1, "1", "6");
   FillPair(2, "2", "12");
-  FillPair(3, "10", "");
-  PageEnd();
   FillPair(3, "10", "60");
   FillPair(4, "T", "6" + kDot + "T");
-  Say("There are more students.  The 6 stands beside the smaller number, T.");
+  Say("The 6 stands beside the smaller number.");
   PaperBox({"S = 6" + kDot + "T,  \\rnot 6" + kDot + "S = T\\z"});
   PageEnd();
 }
@@ -161,11 +149,9 @@ void QuotientInWords() {
   ShowAt(5, "12" + kDivide + "3 = 4", 12);
   SayAt(7, R"(This is the \cquotient\z of 12 and 3, or the \cratio\z of 12 to 3.)");
   PageEnd();
-  SayAt(10, R"(\yTry it:\z  Is the quotient of 3 and 12 the same?)");
-  PageEnd();
-  SayAt(12, "No.  3 cookies for 12 children are less:");
-  ShowAt(14.5, "3" + kDivide + "12 = 3/12 = 1/4", 12);
-  SayAt(16.5, R"(In a quotient the \yorder matters\z.  What comes first is divided.)");
+  SayAt(10.5, "3 cookies for 12 children are less than one each:");
+  ShowAt(14, "3" + kDivide + "12 = 3/12 = 1/4", 12);
+  SayAt(16.5, R"(In a quotient the \yorder matters\z.)");
   PageEnd();
 }
 
@@ -181,10 +167,6 @@ void WordsForDivision() {
   ShowAt(15, Text(R"(B \y{}\z 4)", tutor::Gap + tutor::Divided), 21);
   SayAt(17, "B comes first in the words, and so it is divided.");
   PageEnd();
-  SayAt(19.5, R"(\yTry it:\z  In which two operations may the numbers change places?)");
-  PageEnd();
-  SayAt(22, R"(In addition and multiplication.  The other two \ykeep\z the order.)");
-  PageEnd();
 }
 
 // --- Screen 5: one part inside another
@@ -198,40 +180,36 @@ void PartOfTheWords() {
   PageEnd();
   Bracket(6.25, 16, 18, 2, 1);
   SayAt(7.5,
-        R"(The \ysum of A and B\z.  It is the innermost part.  We translate it first, and put )"
-        "it in parentheses:");
-  ShowAt(11.5, R"(the product of      \y(A + B)\z      and C)", 1);
+        R"(The \ysum of A and B\z.  The sum takes two numbers, and the first ~and~ is its own:)");
+  ShowAt(11, R"(the product of      \y(A + B)\z      and C)", 1);
+  ShowAt(13, "(A + B)" + kDot + "C", 14);
   PageEnd();
-  SayAt(13, R"(Now (A + B) counts as \yone\z number:)");
-  ShowAt(14.5, "(A + B)" + kDot + "C", 14);
-  PageEnd();
-  SayAt(16.5, R"(\yTry it:\z  A is 2, B is 3 and C is 4.  What is it worth, and what is it worth )"
-              "with the parentheses around the product?");
+  SayAt(15, Text(R"(\yTry it:\z  A is 2, B is 3 and C is 4.  What is {} worth?  And {}?)",
+                 "(A + B)" + kDot + "C", "A + (B" + kDot + "C)"));
   PageEnd();
   const std::string times = " " + tutor::Times + " ";
-  ShowAt(20, "(2 + 3)" + times + "4 = 5" + times + "4 = 20", 6);
-  ShowAt(21, "2 + (3" + times + "4) = 2 + 12 = 14", 6);
-  SayAt(22.5, "So the words tell where they stand.");
+  ShowAt(19, "(2 + 3)" + times + "4 = 5" + times + "4 = 20", 6);
+  ShowAt(20, "2 + (3" + times + "4) = 2 + 12 = 14", 6);
+  SayAt(21.5, "So the words tell where the parentheses stand.");
   PageEnd();
 }
 
 void QuantityOpensAPart() {
   NewScreen();
   SayAt(3, "Each ~the~ opens a new part.");
-  SayAt(5, R"(\yTry it:\z  Which is the innermost part?)");
+  SayAt(5.5, R"(\yTry it:\z  Which is the innermost part?)");
   ShowAt(7.5, "the quantity D minus", 4);
   ShowAt(8.5, "the quantity A times B", 8);
   PageEnd();
   ShowAt(8.5, R"(\ythe quantity A times B\z)", 8);
-  SayAt(10, "It holds only letters.  Its expression takes its place:");
+  SayAt(10, "It has no other part in it.  Its expression takes its place:");
   ShowAt(12, Text(R"(the quantity D minus \y{}\z)", "(A" + kDot + "B)"), 4);
   SayAt(13.5, "What is the whole expression?");
   PageEnd();
   ShowAt(15, "D - (A" + kDot + "B)", 12);
-  PageEnd();
-  SayAt(17, "A part may hold a part.  Around parentheses we write brackets:");
-  ShowAt(20, "the ratio of [D - (A" + kDot + "B)] to 4", 4);
-  SayAt(21.5, R"(\yTry it:\z  What is the whole expression?)");
+  SayAt(17, "Around parentheses we write brackets:");
+  ShowAt(19, "the ratio of [D - (A" + kDot + "B)] to 4", 4);
+  SayAt(21, "What is the whole expression?");
   PageEnd();
   ShowAt(23, R"(\y[D - (A)" + kDot + "B)]" + kDivide + R"(4\z)", 12);
   PageEnd();
@@ -246,42 +224,29 @@ void FromSymbolsToWords() {
   SayAt(7, "Where do we begin?");
   PageEnd();
   ShowAt(5.5, Text(R"(C - \y{}\z)", "(A" + kDot + "B)"), 13);
-  SayAt(7, "We begin inside the parentheses, with words for multiplication:");
-  ShowAt(10, R"(\ythe product of A and B\z)", 8);
-  PageEnd();
-  SayAt(12, "We take it from C, as a difference:");
-  ShowAt(15, R"(\ythe difference of C and\z)", 4);
-  ShowAt(16, "the product of A and B", 8);
-  SayAt(18, R"(\yTry it:\z  Can we also begin with the product?)");
-  PageEnd();
-  SayAt(20.3, R"(Yes, with words that turn the order:)");
-  ShowAt(21.5, R"(\ythe quantity\z the product of A and B)", 2);
-  ShowAt(22.5, R"(\yless than\z C)", 4);
+  SayAt(7, "We begin inside the parentheses, and take that product from C:");
+  ShowAt(10, R"(\ythe difference of C and\z)", 4);
+  ShowAt(11, "the product of A and B", 8);
   PageEnd();
 }
 
 void ManyWordsForOne() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Do not keep the order of the signs with these words.)");
+  SayAt(3, R"(\yWatch out:\z  ~Less than~ turns the order.)");
   PaperBox({Text("C - (A{}B)  is", kDot), R"(\rnot the quantity C less than ...\z)"});
-  PageEnd();
-  Say(R"(\yTry it:\z  Say this in English:)");
-  Show(R"((A - 5))" + kDivide + "B", 13);
+  Say(R"(\yTry it:\z  Say (A - 5))" + kDivide + "B in English.");
   PageEnd();
   Say("the quotient of the difference of A and 5 and B", {.col = 3});
   Say("To check, we translate back:  it is something divided by B.");
   PageEnd();
   NewScreen();
-  SayAt(3, "In long phrases ~the quantity~ may stand twice:");
-  SayAt(5.5, "the ratio of the quantity the quantity A plus B times C to 4", {.col = 3});
+  SayAt(3, "~The quantity~ may stand twice:");
+  SayAt(5, "the ratio of the quantity the quantity A plus B times C to 4", {.col = 3});
+  SayAt(8, "What is the innermost part?");
   PageEnd();
-  SayAt(8, R"(\yTry it:\z  What is the innermost part, and what comes next?)");
-  PageEnd();
-  SayAt(10.5, "The second ~the quantity~ opens the innermost part, A plus B.");
-  SayAt(13.5, Text(R"(the ratio of the quantity \y{}\z times C to 4)", "(A + B)"), {.col = 3});
-  PageEnd();
-  SayAt(16.5, Text(R"(the ratio of \y{}\z to 4)", "[(A + B)" + kDot + "C]"), {.col = 3});
-  ShowAt(18.5, R"(\y[(A + B))" + kDot + "C]" + kDivide + R"(4\z)", 12);
+  SayAt(10.5, "The second one opens the innermost part:");
+  SayAt(12, Text(R"(the ratio of the quantity \y{}\z times C to 4)", "(A + B)"), {.col = 3});
+  ShowAt(15, R"(\y[(A + B))" + kDot + "C]" + kDivide + R"(4\z)", 12);
   PageEnd();
 }
 
