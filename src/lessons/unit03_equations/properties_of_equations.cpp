@@ -94,21 +94,20 @@ void Solutions() {
   PageEnd();
   FillTrials(1);
   FillTrials(2);
-  Say(R"(Only 5.  It is the \csolution\z of the equation.)");
+  Say(R"(Only 5.  A number that makes an equation true is a \csolution\z of it.)");
   Say("Now look at x + 3 = 10.  Is x 5 here, too?");
   PageEnd();
   NewScreen();
   SayAt(3, "No, here x is 7.  It is a new equation.");
-  Say(R"(\yWatch out:\z  Within one equation x keeps its value.  Is 2 + 4 = 6 a way to solve )"
-      "x + x = 6?");
+  Say(R"(\yTry it:\z  Is 2 + 4 = 6 a way to solve x + x = 6?)");
   PageEnd();
-  Say("It is not, for then x would be 2 and also 4.  Both x are 3:  3 + 3 = 6.");
+  Say(R"(No:  within one equation x \ykeeps its value\z.  Both x are 3.)");
   Say(R"(\yTry it:\z  Is -2 a solution?)");
   ShowAt(14, "3x + 10 = 4", 8);
   PageEnd();
   ShowAt(15.5, "3(-2) + 10 = 4", 5);
   ShowAt(16.5, "-6 + 10 = 4", 8);
-  Say("Both sides are 4, so -2 is the solution.  The parentheses keep its sign.");
+  Say("Both sides are 4, so -2 is the solution.  Without parentheses 3 - 2 would be 1.");
   PageEnd();
 }
 
@@ -119,7 +118,7 @@ void AddingOnBothSides() {
   balance.Show("x - 4", "5");
   PageEnd();
   balance.PutOnBoth("+ 4");
-  RuleBox(PrincipleOf(Operation::Add), {"We may add the same to both sides."},
+  RuleBox(PrincipleOf(Operation::Add), {"Add the same number to both sides."},
           {.row = 14, .width = 36});
   Say("It is level.  And 4 on the left only?");
   PageEnd();
@@ -145,13 +144,13 @@ void AddingOnPaper() {
   equations::WriteStatement(sheet, given);
   AddOnSheet(sheet, 4, solved);
   equations::OpenWordBox();
-  SayInBox("Must it be 4?  What if we add 1?");
+  SayInBox("Now x stands alone.  What if we add 1?");
   PageEnd();
   const LinearStatement other = {"x", {1, -3}, "=", {0, 6}};
   EquationSheet second(10, 16, {RowOf(given), AddendRow({0, 1}, "x"), RowOf(other)});
   equations::WriteStatement(second, given);
   AddOnSheet(second, 1, other);
-  SayInBoxAnew(Text("It may be any number.  9 is the solution again:  {}.", "9 - 3 = 6"));
+  SayInBoxAnew(Text("Any number is allowed:  {}.  But only + 4 leaves x alone.", "9 - 3 = 6"));
   PageEnd();
 }
 
@@ -159,7 +158,7 @@ void SubtractingOnBothSides() {
   const LinearStatement given = {"x", {1, 12}, "=", {0, 5}};
   const LinearStatement solved = {"x", {1, 0}, "=", {0, -7}};
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Subtract), {"We may subtract the same from both sides."},
+  RuleBox(PrincipleOf(Operation::Subtract), {"Subtract the same number from both sides."},
           {.row = 3, .width = 36});
   EquationSheet sheet(7.5, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
@@ -215,7 +214,7 @@ void DividingBothSides() {
   ClearBelow(10);
   lines.Write("20/(-4)", "(-4x + 12)/(-4)");
   lines.Write("-5", "x - 3");
-  SayAt(14.5, R"(\yEvery\z term is divided:  it becomes -3.)");
+  SayAt(14.5, R"(\yEvery\z term is divided:  12 becomes -3.)");
   Say("Why may we not divide by 0?");
   PageEnd();
   SayAt(19, "20 over 0 has no value, for no number times 0 is 20.");

@@ -184,17 +184,17 @@ void SumInParentheses() {
 // Half of a rectangle: base b and height h.
 void DrawTriangle(double row) {
   isDrawBox(row, 29, row + 2, 36, platform::colour::Cyan, 1);
-  isDrawDiagonalLineWithColor(row + 2, 29, row, 36, 2, platform::colour::Yellow);
+  isDrawDiagonalLineWithColor(row + 2.45, 28.5, row - 0.5, 36.5, 2, platform::colour::Yellow);
   ShowAt(row + 3, "b", 32);
   ShowAt(row + 1, "h", 38);
 }
 
 void AreaOfATriangle() {
   NewScreen();
-  SayAt(3, "A triangle is half of a rectangle.  So its area is", {.lastCol = 26});
+  SayAt(3, "Half of a rectangle is a triangle.  Its area is", {.lastCol = 26});
   DrawTriangle(3);
-  ShowAt(6, "A = bh/2", 9);
-  SayAt(9, R"(Let's solve for \yh\z.  What undoes the 2?)");
+  ShowAt(6.5, "A = bh/2", 9);
+  SayAt(9.3, R"(Let's solve for \yh\z.  What undoes the 2?)");
   PageEnd();
   SayAt(11.5, "We multiply both sides by 2:");
   ShowAt(13.5, "2A = bh", 8);

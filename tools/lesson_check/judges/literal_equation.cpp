@@ -139,7 +139,8 @@ void AddMistakes(const LiteralEquation& e, Reading& reading) {
   if (wholeSum) {
     const Polynomial letter = Polynomial::Letter(LetterIn(e.alone));
     const Polynomial quotient = e.coefficient / Polynomial(number);
-    add("turns the fraction upside down", quotient * letter - e.added);
+    for (const char* name : {"turns the fraction upside down", "divides by what should multiply"})
+      add(name, quotient * letter - e.added);
     add("subtracts in the wrong order", e.added - e.alone / e.coefficient);
   }
   if (wholeSum && CoefficientIsOne(e)) return;

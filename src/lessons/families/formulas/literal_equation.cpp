@@ -115,10 +115,11 @@ std::string FirstTermOnly(const LiteralEquation& equation, const LetterTerm& add
   return SumText({{alone.coef / coef, alone.letter}, -added});
 }
 
-const char* NameOfUpsideDown(LiteralForm form) {
-  if (form == SumOfLetters) return "turns the fraction upside down";
-  return form == FractionFormula ? "multiplies by the fraction itself"
-                                 : "multiplies by what should divide";
+const char* NameOfUpsideDown(const LiteralEquation& equation) {
+  if (equation.form == SumOfLetters)
+    return IsOne(equation.p) ? "divides by what should multiply" : "turns the fraction upside down";
+  return equation.form == FractionFormula ? "multiplies by the fraction itself"
+                                          : "multiplies by what should divide";
 }
 
 const char* NameOfFirstTermOnly(LiteralForm form) {
@@ -249,7 +250,7 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
   choices.Wrong(std::string("exchanges the other two letters") + also(exchangeKeepsSign),
                 SolvedWith(exchanged, added(exchanged, exchangeKeepsSign)));
   if (NeedsNoDivision(equation)) return AddMistakesWithoutDivision(choices, equation);
-  choices.Wrong(NameOfUpsideDown(equation.form), UpsideDown(equation));
+  choices.Wrong(NameOfUpsideDown(equation), UpsideDown(equation));
   if (equation.form == SumOfLetters && IsOne(equation.p))  // no parentheses to multiply out
     return choices.Wrong("subtracts in the wrong order", SolvedInWrongOrder(equation));
   choices.Wrong(std::string(NameOfFirstTermOnly(equation.form)) + also(keepsSign),

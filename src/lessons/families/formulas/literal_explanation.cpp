@@ -186,7 +186,7 @@ class Explanation {
   void Divide(equations::EquationSheet& sheet) {
     SayInBoxAnew(Text(R"(Now we divide both sides by \b{}\z.)", Divisor()));
     sheet.WriteQuotients({Unknown(), Rest(), Divisor()}, "=");
-    SayInBox(Text("Watch out:  {} is divided too, not only {}.", Added(), TermText(e_.Alone())));
+    SayInBox(Text("Watch out:  {} is divided too, not only {}.", Opposite(), TermText(e_.Alone())));
     PageEnd();
     SayInBoxAnew(Text("{} over {} is just {}.", Unknown(), Divisor(), e_.x));
     if (const std::string signs = HowSignsChange(); !signs.empty()) SayInBox(signs);

@@ -133,13 +133,27 @@ TwoLists<Step> MistakenSumSteps(const StepProblem& p) {
   const int beside = p.After().number;
   const int alone = p.AfterNumber();
   const Mistaken<Step> reversed = {"does the opposite", {opposite, n}};
-  return {{{{"reads the number beside x in the second equation", {operation, beside}},
-            {"reads the number on the side without x of the second equation", {operation, alone}},
+  // Subtracting -5 makes a side larger: what counts is what becomes of the sides.
+  const auto effectOf = [](const Step& step) {
+    return step.operation == Add ? step.number : -step.number;
+  };
+  const auto called = [&](const char* reads, const char* reverses, const Step& wrong) {
+    const int effect = effectOf(wrong);
+    const int right = effectOf(p.step);
+    if (effect == -right) return Mistaken<Step>{"does the opposite", wrong};
+    return Mistaken<Step>{(effect > 0) == (right > 0) ? reads : reverses, wrong};
+  };
+  constexpr const char* kBeside = "reads the number beside x in the second equation";
+  constexpr const char* kAlone = "reads the number on the side without x of the second equation";
+  constexpr const char* kBack = "does the opposite and reads the number beside x";
+  constexpr const char* kBackAlone = "does the opposite and reads the number without x";
+  return {{{called(kBeside, kBack, {operation, beside}),
+            called(kAlone, kBackAlone, {operation, alone}),
             reversed,
             {"takes a sum for a product", {operation == Add ? Multiply : Divide, n}}},
            {reversed,
-            {"does the opposite and reads the number beside x", {opposite, beside}},
-            {"does the opposite and reads the number without x", {opposite, alone}},
+            called(kBeside, kBack, {opposite, beside}),
+            called(kAlone, kBackAlone, {opposite, alone}),
             {"thinks that the number beside x was removed", {Subtract, p.given.number}}}}};
 }
 
