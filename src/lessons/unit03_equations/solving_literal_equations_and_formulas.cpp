@@ -142,7 +142,7 @@ void LetterAsCoefficient() {
   PageEnd();
   boards.Write("5", "x", "(c - b)/a", "x");
   ClearBelow(kWordsRow);
-  SayAt(kWordsRow, "By 3, or by a.  Both sides name the same number, so we may exchange them:");
+  SayAt(kWordsRow, "By 3, or by a, if a is not 0.  The sides are equal, so we may exchange them:");
   ShowAt(20, "x = (c - b)/a", 27);
   PageEnd();
 }
@@ -172,12 +172,14 @@ void SumInParentheses() {
   NewScreen();
   SayAt(3, "They may:  then it is a square.  Two letters may be the same number.");
   SayAt(7, R"(\yTry it:\z  Solve for x.)");
-  ShowAt(9, "4(x + y) = 6z", 8);
+  ShowAt(9, "-4(x + y) = -6z", 6);
   PageEnd();
-  SayAt(11, "We divide by 4.  6 over 4 is 3 over 2:");
+  SayAt(11, "Divide by -4:  -6 over -4 is 3 over 2.");
   ShowAt(14, "x + y = 3z/2", 9);
   SayAt(16.5, "Then we subtract y:");
   ShowAt(19.5, "x = 3z/2 - y", 13);
+  PageEnd();
+  SayAt(22, Text("A minus alone is the factor -1:  {}.", "-(x + y)"));
   PageEnd();
 }
 
