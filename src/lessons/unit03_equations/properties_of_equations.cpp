@@ -107,7 +107,7 @@ void Solutions() {
   PageEnd();
   ShowAt(15.5, "3(-2) + 10 = 4", 5);
   ShowAt(16.5, "-6 + 10 = 4", 8);
-  Say("Both sides are 4, so -2 is the solution.  Without parentheses 3 - 2 would be 1.");
+  Say("Both sides are 4, so -2 is a solution.  Without parentheses 3 - 2 would be 1.");
   PageEnd();
 }
 

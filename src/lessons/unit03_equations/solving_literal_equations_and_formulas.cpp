@@ -86,7 +86,7 @@ void SubtractingALetter() {
   SayInBoxAnew(R"(We subtract \b4y\z from both sides.)");
   SayInBox("Could we now put z and 4y together?");
   PageEnd();
-  SayInBoxAnew(R"(No:  \r4yz\z or \r3z\z would be wrong.  They are not like terms.)");
+  SayInBoxAnew(R"(No:  \r-4yz\z or \r-3yz\z would be wrong.  They are not like terms.)");
   SayInBox("So the answer has two terms, and x stands alone.");
   PageEnd();
 }
