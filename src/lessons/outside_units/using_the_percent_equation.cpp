@@ -48,7 +48,7 @@ void ThePercentEquation() {
   PaperBox({R"(\r25)" + kTimes + R"(20 = 500 students\z)"});
   Say("How can you see that this is wrong?");
   PageEnd();
-  Say("The whole class has only 20 students.  A part cannot be more than the whole.");
+  Say("25% is less than 100%, so the part is less than the whole class.  That has 20 students.");
   PageEnd();
 }
 
@@ -62,8 +62,8 @@ void FindThePart() {
   sentence.Translate();
   SayAt(8, R"("What number" is the letter, "is" is the equal sign, and "of" is times.)");
   PageEnd();
-  Say("Now we multiply.  15" + kTimes + "60 = 900, and these are hundredths:");
-  Show(question.Equation() + " = 9");
+  Say("Now we multiply.  15" + kTimes + "60 = 900, so we have 900 hundredths:");
+  Show(question.Equation() + " = 900/100 = 9");
   PageEnd();
   Say(R"(\yCheck:\z  10% of 60 is 6, and half of that, 5%, is 3.  6 + 3 = 9)");
   Say(R"(\yTry it:\z  What number is 8% of 50?)");
@@ -128,7 +128,7 @@ void FindTheWhole() {
   PaperBox({R"(\r0.3)" + kTimes + R"(18 = 5.4\z)"});
   Say("Can 5.4 be the whole when 18 is a part of it?");
   PageEnd();
-  Say("No.  The whole is more than its part.");
+  Say("No.  18 is only 30% of the whole, so the whole is more than 18.");
   PageEnd();
 }
 
@@ -236,14 +236,15 @@ std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesA
 
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtPercent() const {
   const int part = question_.PartInHundredths() * kHundredth;
-  return {{"multiplies in place of dividing", part * question_.whole},
-          {"exchanges the part and the whole",
-           RoundedQuotient(kHundred * kHundred * kUnit, question_.percent)},
-          {"gives the percent that is left", kHundred * kUnit - Answer()},
-          {"moves the point one place only", Answer() / 10},
-          {"moves the point three places", Answer() * 10},
-          {"forgets to move the point", Answer() / kHundred},
-          {"takes the part for the percent", part}};
+  return {
+      {"multiplies in place of dividing and only writes the percent sign", part * question_.whole},
+      {"switches the part and the whole",
+       RoundedQuotient(kHundred * kHundred * kUnit, question_.percent)},
+      {"gives the percent that is left", kHundred * kUnit - Answer()},
+      {"moves the point one place only", Answer() / 10},
+      {"moves the point three places", Answer() * 10},
+      {"forgets to move the point", Answer() / kHundred},
+      {"takes the part for the percent", part}};
 }
 
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtWhole() const {
@@ -295,8 +296,8 @@ void UsingThePercentEquation::ExplainSolution() const {
   const std::string hundredths = NumStr(question_.PartInHundredths());
   const std::string percent = NumStr(question_.percent);
   if (question_.asked == Asked::Part) {
-    SayAt(kSolutionRow - 2,
-          Text("We multiply:  {} hundredths.", percent + kTimes + whole + " = " + hundredths));
+    SayAt(kSolutionRow - 2, Text("We multiply:  {}.  These are hundredths.",
+                                 percent + kTimes + whole + " = " + hundredths));
     Show(question_.Equation() + " = " + part);
     return;
   }

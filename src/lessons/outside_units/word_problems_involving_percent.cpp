@@ -214,7 +214,9 @@ std::vector<WordProblemsInvolvingPercent::Mistake> WordProblemsInvolvingPercent:
             {"subtracts the percent as dollars", story_.price - percentAsDollars}};
   return {{"gives the percent that is paid", kHundred - story_.percent},
           {"divides by the sale price", RoundedQuotient(discount * kHundred, salePrice)},
-          {"takes the dollars saved for the percent", RoundedQuotient(discount, kHundred)}};
+          {discount % kHundred == 0 ? "takes the dollars saved for the percent"
+                                    : "rounds the dollars saved and takes them for the percent",
+           RoundedQuotient(discount, kHundred)}};
 }
 
 // The first mistake and one of the two others; the rest lies within a quarter of the right one, or

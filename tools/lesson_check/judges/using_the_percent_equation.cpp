@@ -88,8 +88,9 @@ class PercentEquation {
     Add(reading, "multiplies by the percent without moving the point", percent_ * whole_);
   }
   void AddMistakesAtPercent(Reading& reading) const {
-    Add(reading, "multiplies in place of dividing", part_ * whole_);
-    Add(reading, "exchanges the part and the whole", ToHundredths(100 * whole_ / part_));
+    Add(reading, "multiplies in place of dividing and only writes the percent sign",
+        part_ * whole_);
+    Add(reading, "switches the part and the whole", ToHundredths(100 * whole_ / part_));
     Add(reading, "gives the percent that is left", 100 - percent_);
     Add(reading, "moves the point one place only", percent_ / 10);
     Add(reading, "moves the point three places", percent_ * 10);

@@ -59,7 +59,10 @@ void AddMistakes(const Purchase& bought, const std::string& kind, Reading& readi
   } else {
     add("gives the percent that is paid", 100 - bought.percent);
     add("divides by the sale price", RoundedTo(1, 100 * bought.Saved() / bought.paid));
-    add("takes the dollars saved for the percent", RoundedTo(1, bought.Saved()));
+    const Rational rounded = RoundedTo(1, bought.Saved());
+    add(rounded == bought.Saved() ? "takes the dollars saved for the percent"
+                                  : "rounds the dollars saved and takes them for the percent",
+        rounded);
   }
 }
 
