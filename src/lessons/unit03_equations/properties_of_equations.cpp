@@ -237,9 +237,19 @@ void WhichStepWasIt() {
   ShowAt(14, "x + 3 = 5", 23);
   isDrawArrowPointingRightWithColor(14, 20, platform::colour::Yellow, 3);
   PageEnd();
-  SayAt(16, "2x became x.  So something was divided.  2, 6 and 10 were all divided by 2.");
-  Say(Text(R"(\yWatch out:\z  Adding 3 to {} does not give {}.  The 2 stays.)", "2x + 5",
-           "5x + 5"));
+  SayAt(16, "2x became x.  So both sides were divided by 2:  2, 6 and 10 all were.");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, "A step has two names.  Both sides grew by 5:");
+  ShowAt(5.5, "2x + 3 = 9", 5);
+  ShowAt(5.5, "2x + 8 = 14", 23);
+  isDrawArrowPointingRightWithColor(5.5, 20, platform::colour::Yellow, 3);
+  PageEnd();
+  SayAt(7.5, R"(\yTry it:\z  We may call it adding 5.  Which subtraction does the same?)");
+  PageEnd();
+  Say(R"(\ySubtracting -5\z does.  In the same way, adding -5 is subtracting 5.)");
+  Say(Text(R"(\yWatch out:\z  Adding 3 to {} gives {}, not {}.)", "2x + 5", "2x + 8", "5x + 5"));
   PageEnd();
 }
 

@@ -56,8 +56,8 @@ class Explanation {
       FindStep();
     else
       TakeStep();
-    CheckSolution(Given(), "Check:  the given, with x =");
-    CheckSolution(Second(), "And the second equation, with x =");
+    CheckSolution(Given(), "Check:  the given holds for x =");
+    CheckSolution(Second(), "So does the second one for x =");
     SayInBoxAnew(ConclusionText(problem_, 'b'));
   }
 
