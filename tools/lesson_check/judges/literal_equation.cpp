@@ -141,7 +141,9 @@ void AddMistakes(const LiteralEquation& e, Reading& reading) {
     const Polynomial quotient = e.coefficient / Polynomial(number);
     for (const char* name : {"turns the fraction upside down", "divides by what should multiply"})
       add(name, quotient * letter - e.added);
-    add("subtracts in the wrong order", e.added - e.alone / e.coefficient);
+    for (const char* name :
+         {"subtracts in the wrong order", "forgets the minus sign before the letter"})
+      add(name, e.added - e.alone / e.coefficient);
   }
   if (wholeSum && CoefficientIsOne(e)) return;
   if (CoefficientIsOne(e))

@@ -252,7 +252,7 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
   if (NeedsNoDivision(equation)) return AddMistakesWithoutDivision(choices, equation);
   choices.Wrong(NameOfUpsideDown(equation), UpsideDown(equation));
   if (equation.form == SumOfLetters && IsOne(equation.p))  // no parentheses to multiply out
-    return choices.Wrong("subtracts in the wrong order", SolvedInWrongOrder(equation));
+    return choices.Wrong("forgets the minus sign before the letter", SolvedInWrongOrder(equation));
   choices.Wrong(std::string(NameOfFirstTermOnly(equation.form)) + also(keepsSign),
                 FirstTermOnly(equation, added(equation, keepsSign)));
 }
