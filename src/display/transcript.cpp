@@ -63,6 +63,7 @@ void Add(const Fragment& fragment, Row& row) {
   piece.fraction = fragment.whole && fragment.text.find('/') != std::string::npos;
   row.inCells = row.inCells && piece.inCells;
   if (!piece.inCells) return row.pieces.push_back(piece);
+  row.pieces.reserve(std::max(row.pieces.capacity(), row.pieces.size() + fragment.text.size()));
   long cell = std::lround(fragment.col);
   for (const char c : fragment.text) {
     piece.text = c;

@@ -178,17 +178,19 @@ bool Meet(const Tree& left, const Tree& right, int laws) {
                              [&](const std::string& form) { return forms.contains(form); });
 }
 
-// Unreadable when no laws lead from side to side, or two smallest sets do.
+// Fewer laws never reach more forms, so that the sets are tried from the smallest on.  Unreadable
+// when no laws lead from side to side, or two smallest sets do.
 int FewestLaws(const Tree& left, const Tree& right) {
-  std::vector<int> found;
-  for (int laws = 1; laws <= kAllLaws; ++laws)
-    if (Meet(left, right, laws)) found.push_back(laws);
-  if (found.empty()) throw Unreadable("no properties lead from side to side");
-  const auto count = [](int laws) { return std::popcount(static_cast<unsigned>(laws)); };
-  std::ranges::stable_sort(found, {}, count);
-  if (found.size() > 1 && count(found[0]) == count(found[1]))
-    throw Unreadable("the equation can be read as two sets of properties");
-  return found[0];
+  for (int count = 1; count <= std::popcount(static_cast<unsigned>(kAllLaws)); ++count) {
+    int found = 0;
+    for (int laws = 1; laws <= kAllLaws; ++laws) {
+      if (std::popcount(static_cast<unsigned>(laws)) != count || !Meet(left, right, laws)) continue;
+      if (found != 0) throw Unreadable("the equation can be read as two sets of properties");
+      found = laws;
+    }
+    if (found != 0) return found;
+  }
+  throw Unreadable("no properties lead from side to side");
 }
 
 // --- False equations -----------------------------------------------------------------------------

@@ -42,8 +42,10 @@ class PageChecker {
   std::vector<PageText> Read(int entry, int seed, const Complain& complain);
   void CheckQuestion(const PageText& page, const Complain& complain);
   // What the judge says of the last page's figures.  A problem that it cannot read has no such
-  // page, and is a fault of the drawing.
-  std::vector<course::FigureItem> FigureAtEnd() const;
+  // page, and is a fault of the drawing.  A lesson that draws nothing where the judge wants a
+  // figure does so for many seeds, so that the judge is not asked again for each.
+  std::vector<course::FigureItem> FigureAtEnd(int seed,
+                                              const std::vector<PageText>& explanation) const;
   void CheckEnd(int entry, int seed, std::vector<PageText> pages, const Complain& complain);
   void CheckSameProblem(const std::vector<PageText>& pages, const Complain& complain);
   void CheckReview(int entry, int seed, const PageText& practice, const Complain& complain);

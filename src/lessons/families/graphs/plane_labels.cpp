@@ -21,15 +21,6 @@ double LengthOf(Vector v) {
   return std::sqrt(v.x * v.x + v.y * v.y);  // hypot minds overflow, and takes ten times as long
 }
 
-double DistanceTo(Vector place, Vector from, Vector to) {
-  const Vector way = to + -1 * from;
-  const Vector there = place + -1 * from;
-  const double length = LengthOf(way);
-  if (length == 0) return LengthOf(there);
-  const double along = (there.x * way.x + there.y * way.y) / length;
-  return LengthOf(there + -std::clamp(along, 0.0, length) / length * way);
-}
-
 // How far a line runs inside the plane: its ends from a point of it, in squares.
 struct Reach {
   double first;
@@ -83,20 +74,33 @@ void LabelGround::Avoid(const FigureItem& item) {
   if (item.shape == "line") {
     const Vector point = PointOf(item);
     const Vector along = DirectionOf(item);
-    strokes_.push_back({point + -kFarAway * along, point + kFarAway * along, kLineHalf});
+    AddStroke(point + -kFarAway * along, point + kFarAway * along, kLineHalf);
     return;
   }
   const Vector from = {item.Value("x"), item.Value("y")};
   if (item.shape == "point") {
-    strokes_.push_back({from, from, kPointHalf});
+    AddStroke(from, from, kPointHalf);
   } else if (item.shape == "step") {
     const Vector corner = from + Vector{item.Value("right"), 0};
-    strokes_.push_back({from, corner, kLineHalf});
-    strokes_.push_back({corner, corner + Vector{0, item.Value("up")}, kLineHalf});
+    AddStroke(from, corner, kLineHalf);
+    AddStroke(corner, corner + Vector{0, item.Value("up")}, kLineHalf);
   } else if (item.shape == "guides") {
-    strokes_.push_back({from, {from.x, 0}, kLineHalf});
-    strokes_.push_back({from, {0, from.y}, kLineHalf});
+    AddStroke(from, {from.x, 0}, kLineHalf);
+    AddStroke(from, {0, from.y}, kLineHalf);
   }
+}
+
+void LabelGround::AddStroke(Vector from, Vector to, double halfWidth) {
+  const Vector way = to + -1 * from;
+  const double length = LengthOf(way);
+  strokes_.push_back({from, length == 0 ? way : 1 / length * way, length, halfWidth});
+}
+
+bool LabelGround::Stroke::Holds(Vector place) const {
+  const Vector there = place + -1 * from;
+  const double way = std::clamp(there.x * along.x + there.y * along.y, 0.0, length);
+  const Vector apart = there + -way * along;
+  return apart.x * apart.x + apart.y * apart.y < halfWidth * halfWidth;
 }
 
 // Places from the right or upper end to the other one, on both sides of the line.
@@ -146,9 +150,7 @@ LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
 bool LabelGround::IsFree(Vector place) const {
   if (std::abs(place.x) > kEdge || std::abs(place.y) > kEdge) return false;
   return std::ranges::none_of(boxes_, [&](const LabelBox& box) { return box.Holds(place); }) &&
-         std::ranges::none_of(strokes_, [&](const Stroke& stroke) {
-           return DistanceTo(place, stroke.from, stroke.to) < stroke.halfWidth;
-         });
+         std::ranges::none_of(strokes_, [&](const Stroke& stroke) { return stroke.Holds(place); });
 }
 
 int LabelGround::Covered(const LabelBox& label, int most) const {
@@ -156,7 +158,7 @@ int LabelGround::Covered(const LabelBox& label, int most) const {
   const int up = static_cast<int>(std::ceil(label.size.height / kSample));
   int covered = 0;
   for (int i = 0; i <= across && covered < most; ++i)
-    for (int j = 0; j <= up; ++j)
+    for (int j = 0; j <= up && covered < most; ++j)
       covered += IsFree(label.foot + label.size.width * i / across * label.along +
                         label.size.height * j / up * label.Upward())
                      ? 0

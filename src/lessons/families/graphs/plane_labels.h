@@ -54,12 +54,16 @@ class LabelGround {
  private:
   struct Stroke {
     Vector from;
-    Vector to;
+    Vector along;  // of length 1, or 0 where the stroke is a point
+    double length;
     double halfWidth;
+
+    bool Holds(Vector place) const;
   };
 
+  void AddStroke(Vector from, Vector to, double halfWidth);
   bool IsFree(Vector place) const;
-  // How much of the label lies on something, in samples; counted up to most or a little more.
+  // How much of the label lies on something, in samples; counted up to most.
   int Covered(const LabelBox& label, int most) const;
   LabelBox Take(const std::vector<LabelBox>& places);
 
