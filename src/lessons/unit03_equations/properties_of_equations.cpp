@@ -49,8 +49,8 @@ void EqualSides() {
   PaperBox({R"(\r3 + 4 = 7 + 1 = 8\z)"});
   PageEnd();
   balance.Show("3 + 4", "8", Heavier::Right);
-  SayUnderBalance(Text("It says that 3 + 4 is 8.  We need two equations:  {} and {}.", "3 + 4 = 7",
-                       "7 + 1 = 8"));
+  Say(Text("It says that 3 + 4 is 8.  We need two equations:  {} and {}.", "3 + 4 = 7",
+           "7 + 1 = 8"));
   PageEnd();
 }
 
@@ -162,12 +162,12 @@ void SubtractingOnBothSides() {
           {.row = 3, .width = 36});
   EquationSheet sheet(7.5, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
-  SayAt(12, "Subtract 12:  is it 5 - 12 or 12 - 5?");
+  SayAt(12, "Take 12 from 5:  is it 5 - 12 or 12 - 5?");
   PageEnd();
   AddOnSheet(sheet, -12, solved);
   ClearBelow(11);
-  SayAt(12, Text("12 is taken from 5:  {}.", "5 - 12 = -7"));
-  SayAt(14.5, Text(R"(\yTry it:\z  Subtract -6 from {}.)", "x - 10 = -4"));
+  SayAt(13, Text(R"(It is {}.  \yTry it:\z  Subtract -6 from both sides of {}.)", "5 - 12",
+                 "x - 10 = -4"));
   PageEnd();
   const LinearStatement tried = {"x", {1, -10}, "=", {0, -4}};
   const LinearStatement after = {"x", {1, -4}, "=", {0, 2}};
@@ -180,7 +180,7 @@ void SubtractingOnBothSides() {
 
 void MultiplyingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Multiply), {"We may multiply both sides by a number, not 0."},
+  RuleBox(PrincipleOf(Operation::Multiply), {"Multiply both sides by the same number, not 0."},
           {.row = 3, .width = 38});
   SolutionLines lines(8);
   lines.Write("2x + 5", "11");
@@ -193,19 +193,20 @@ void MultiplyingBothSides() {
   PaperBox({R"(\r6x + 5 = 33\z  is wrong.)"});
   PageEnd();
   ClearBelow(12);
-  SayAt(13.5, R"(\yTry it:\z  Multiply both sides by -1.)");
-  SolutionLines tried(15.5);
+  SayAt(13, "Not by 0:  0 = 0 is true for every x, and does not tell what x is.");
+  SayAt(15.5, R"(\yTry it:\z  Multiply both sides by -1.)");
+  SolutionLines tried(17);
   tried.Write("2", "x - 3");
   PageEnd();
   tried.Write("-1(2)", "-1(x - 3)");
   tried.Write("-2", "-x + 3");
-  SayAt(20.5, "Every sign changes, on both sides.  And 5 was the solution, and still is.");
+  SayAt(21.5, "Every sign changes, on both sides.  And 5 was the solution, and still is.");
   PageEnd();
 }
 
 void DividingBothSides() {
   NewScreen();
-  RuleBox(PrincipleOf(Operation::Divide), {"We may divide both sides by a number, not 0."},
+  RuleBox(PrincipleOf(Operation::Divide), {"Divide both sides by the same number, not 0."},
           {.row = 3, .width = 38});
   SolutionLines lines(8);
   lines.Write("20", "-4x + 12");
@@ -218,7 +219,7 @@ void DividingBothSides() {
   Say("Why may we not divide by 0?");
   PageEnd();
   SayAt(19, "20 over 0 has no value, for no number times 0 is 20.");
-  Say("And x = 5, multiplied by 0, is 0 = 0:  then nobody knows what x was.");
+  Say("-2 is the solution of both equations.");
   PageEnd();
 }
 
@@ -241,12 +242,11 @@ void WhichStepWasIt() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, "A step has two names.  Both sides grew by 5:");
+  SayAt(3, "Here 5 was added to both sides:");
   ShowAt(5.5, "2x + 3 = 9", 5);
   ShowAt(5.5, "2x + 8 = 14", 23);
   isDrawArrowPointingRightWithColor(5.5, 20, platform::colour::Yellow, 3);
-  PageEnd();
-  SayAt(7.5, R"(\yTry it:\z  We may call it adding 5.  Which subtraction does the same?)");
+  SayAt(7.5, R"(\yTry it:\z  Which subtraction does the same?)");
   PageEnd();
   Say(R"(\ySubtracting -5\z does.  In the same way, adding -5 is subtracting 5.)");
   Say(Text(R"(\yWatch out:\z  Adding 3 to {} gives {}, not {}.)", "2x + 5", "2x + 8", "5x + 5"));

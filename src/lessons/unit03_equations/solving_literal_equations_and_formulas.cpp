@@ -39,11 +39,12 @@ class TwoBoards {
 void SameSteps() {
   constexpr double kWordsRow = 20.5;
   NewScreen();
-  SayAt(3, R"(A \cformula\z is an equation that tells how some quantities belong together:)");
-  ShowAt(5.5, "d = rt", 17);
-  Say("A distance is the rate times the time.");
+  SayAt(3, R"(A \cliteral equation\z is an equation with two or more letters.  A \cformula\z is )"
+           "one that tells how quantities are related:");
+  ShowAt(6.5, "d = rt", 17);
   PageEnd();
-  SayAt(9.5, R"(We know d and r, and look for \yt\z.  By what do we divide both sides?)");
+  SayAt(8, R"(A distance is the rate times the time.  We know d and r, and look for \yt\z.  By )"
+           "what do we divide both sides?");
   TwoBoards boards(12);
   boards.Write("12", "3t", "d", "rt");
   PageEnd();
@@ -52,12 +53,12 @@ void SameSteps() {
   PageEnd();
   boards.Write("4", "t", "d/r", "t");
   ClearBelow(kWordsRow);
-  SayAt(kWordsRow, R"(Only t.  The formula is \csolved for t\z.)");
-  SayAt(kWordsRow + 2, R"(\yTry it:\z  Solve d = rt for r.)");
+  SayAt(kWordsRow,
+        R"(Only t:  it is \cisolated\z, alone on its side.  The formula is solved for t.)");
+  AddLine(R"(\yTry it:\z  Solve d = rt for r.)");
   PageEnd();
   ClearBelow(kWordsRow);
-  SayAt(kWordsRow, R"(We divide both sides by t:  r = d/t.  An equation with several letters is a )"
-                   R"(\cliteral equation\z.)");
+  SayAt(kWordsRow, "We divide both sides by t, if t is not 0:  r = d/t.");
   PageEnd();
 }
 
@@ -87,7 +88,7 @@ void SubtractingALetter() {
   SayInBox("Could we now put z and 4y together?");
   PageEnd();
   SayInBoxAnew(R"(No:  \r-4yz\z or \r-3yz\z would be wrong.  They are not like terms.)");
-  SayInBox("So the answer has two terms, and x stands alone.");
+  SayInBox("So the answer has two terms, and x is isolated.");
   PageEnd();
 }
 
@@ -101,15 +102,15 @@ void DividingBothTerms() {
   PageEnd();
   sheet.AddUnder(addend);
   sheet.WriteSum(sum, "=");
-  SayInBoxAnew("The last one:  we subtract 4y.");
-  SayInBox("And then?");
+  SayInBoxAnew("The last one:  we subtract 4y, which is the same as adding -4y.");
   PageEnd();
   sheet.WriteQuotients({"3x", "z - 4y", "3"}, "=");
   SayInBoxAnew(R"(We divide both sides by \b3\z.)");
   SayInBox(R"(Watch out:  the whole side is divided.  \rz/3 - 4y\z is wrong.)");
   PageEnd();
   sheet.WriteSolved("x", "=", "(z - 4y)/3");
-  SayInBoxAnew("Check:  x = 2 and y = 1 make z = 10.");
+  SayInBoxAnew(
+      Text("Check:  {}, {}, {} fit, for {} is true.", "x = 2", "y = 1", "z = 10", "6 + 4 = 10"));
   SayInBox(Text("The answer gives {}.", "(10 - 4)/3 = 6/3 = 2"));
   PageEnd();
 }
@@ -123,8 +124,10 @@ void NegativeCoefficient() {
   SayInBox("How can we write it with 5 below?");
   PageEnd();
   sheet.WriteSolved("x", "=", "(2y - z)/5");
-  SayInBoxAnew("We change every sign, above and below.");
-  SayInBox("z - 2y becomes -z + 2y.  We write the positive term first.");
+  SayInBoxAnew(
+      "We multiply the numerator and the denominator by -1.  The value of the fraction stays the "
+      "same.");
+  SayInBox("z - 2y becomes -z + 2y, or 2y - z.");
   PageEnd();
 }
 
@@ -158,19 +161,25 @@ void SumInParentheses() {
   NewScreen();
   SayAt(3, "The way around a rectangle is its perimeter P:", {.lastCol = 26});
   DrawRectangle(3);
-  ShowAt(6, "P = 2(a + b)", 7);
-  SayAt(8, R"(Let's solve for \ya\z.  What was done last?)");
+  ShowAt(6, "P = a + b + a + b", 7);
+  SayAt(7.5, "How many times is a + b there?");
   PageEnd();
-  SayAt(11, "The sum was multiplied by 2.  So we divide both sides by 2:");
-  ShowAt(14.5, "P/2 = a + b", 10);
+  ClearBelow(7.5);
+  SayAt(7.5, "Two times:");
+  ShowAt(7.5, "P = 2(a + b)", 13);
+  SayAt(9, R"(Let's solve for \ya\z.  What was done last?)");
   PageEnd();
-  SayAt(17, "Then we subtract b from both sides:");
-  ShowAt(19.5, "P/2 - b = a", 6);
-  ShowAt(19.5, "a = P/2 - b", 24);
-  SayAt(22, "May a and b be the same number?");
+  SayAt(10.5, "The sum was multiplied by 2.  So we divide both sides by 2:");
+  ShowAt(13.5, "P/2 = a + b", 10);
+  PageEnd();
+  SayAt(16, "Then we subtract b from both sides:");
+  ShowAt(18.5, "P/2 - b = a", 6);
+  ShowAt(18.5, "a = P/2 - b", 24);
+  SayAt(21, "Two letters may be the same number:  in a square, a = b.");
   PageEnd();
   NewScreen();
-  SayAt(3, "They may:  then it is a square.  Two letters may be the same number.");
+  SayAt(3, Text("The factor may be negative.  A minus alone is the factor -1:  {}.",
+                "-(x + y) = -1(x + y)"));
   SayAt(7, R"(\yTry it:\z  Solve for x.)");
   ShowAt(9, "-4(x + y) = -6z", 6);
   PageEnd();
@@ -178,8 +187,6 @@ void SumInParentheses() {
   ShowAt(14, "x + y = 3z/2", 9);
   SayAt(16.5, "Then we subtract y:");
   ShowAt(19.5, "x = 3z/2 - y", 13);
-  PageEnd();
-  SayAt(22, Text("A minus alone is the factor -1:  {}.", "-(x + y)"));
   PageEnd();
 }
 
@@ -200,7 +207,7 @@ void AreaOfATriangle() {
   PageEnd();
   SayAt(11.5, "We multiply both sides by 2:");
   ShowAt(13.5, "2A = bh", 8);
-  SayAt(16, "Then we divide both sides by b:");
+  SayAt(16, "We divide by b, which is not 0:");
   ShowAt(19, "2A/b = h", 7);
   ShowAt(19, "h = 2A/b", 22);
   PageEnd();
@@ -218,18 +225,18 @@ void FractionInFront() {
   PageEnd();
   ClearBelow(14);
   SayAt(14, Text("By 5/9, the fraction upside down:  {}.", "5/9 " + tutor::Times + " 9/5 = 1"));
-  ShowAt(18, "5/9(F - 32) = C", 3);
-  ShowAt(18, "C = 5/9(F - 32)", 23);
+  ShowAt(18, "5/9 (F - 32) = C", 3);
+  ShowAt(18, "C = 5/9 (F - 32)", 23);
   PageEnd();
-  SayAt(20.5,
-        Text(R"(\yCheck:\z  Water boils at F = 212.  {}, and 5/9 of 180 is 100 degrees Celsius.)",
-             "212 - 32 = 180"));
+  SayAt(20.5, Text(R"(\yCheck:\z  F = 212 gives C = 100:  5/9 of 180 is 100.  They fit the given )"
+                   "formula:  9/5 of 100 is 180, and {}.",
+                   "180 + 32 = 212"));
   PageEnd();
 }
 
 void ProblemWithAFraction() {
   NewScreen();
-  SayAt(3, R"(So we free a letter step by step, and undo \ylast things first\z.)");
+  SayAt(3, R"(So we isolate a letter step by step, and undo \ylast things first\z.)");
   SayAt(6, R"(\yTry it:\z  Solve for x.)");
   ShowAt(9, "y = -3/4 x + 5z", 11);
   PageEnd();

@@ -197,11 +197,14 @@ Reading ReadDoneStep(const Equation& given, const Equation& second) {
     addBoth("reads the number beside x in the second equation", forward, back, second.b);
     addBoth("does the opposite and reads the number beside x", forward, back, second.b);
     addBoth("does the opposite and reads the number without x", forward, back, second.c);
-    add("thinks that the number beside x was removed", Verb::Subtract, given.b);
+    add("takes the step that leaves the term with x alone", Verb::Subtract, given.b);
     add("takes a sum for a product", Verb::Multiply, done.number);
     add("takes a sum for a product", Verb::Divide, -done.number);
     return reading;
   }
+  add(done.number < 0 ? "overlooks the minus sign" : "puts in a minus sign", forward, -done.number);
+  add(done.number < 0 ? "overlooks the minus sign" : "puts in a minus sign", back,
+      -1 / done.number);
   const Rational size = abs(done.number) < 1 ? Rational(1 / done.number) : done.number;
   addBoth("reads the number in front of x in the second equation", forward, back, second.a);
   addBoth("takes a product for a sum", Verb::Add, Verb::Subtract, size);

@@ -11,6 +11,8 @@ namespace {
 
 using Kind = Expression::Kind;
 
+constexpr const char* kKeepsSign = " and keeps the sign of the other term";
+
 // coefficient x + added = alone
 struct LiteralEquation {
   char asked = 0;
@@ -95,20 +97,20 @@ void AddDivisionMistakes(const LiteralEquation& e, Reading& reading) {
   const auto add = [&](const std::string& name, const Polynomial& value) {
     reading.mistakes[name] = {value.Text()};
   };
-  const std::string kept = " and keeps the sign of the other term";
-  const LiteralEquation signKept = WithSignKept(e);
+  add("removes a term from one side only", e.alone / e.coefficient);
   if (e.inParentheses) {
-    const std::string name = "multiplies only the first letter in the parentheses";
-    add(name, (e.alone - e.added) / e.coefficient);
-    add(name + kept, (signKept.alone - signKept.added) / e.coefficient);
+    add("multiplies only the first letter in the parentheses", (e.alone - e.added) / e.coefficient);
     return;
   }
+  add(e.fraction ? "multiplies only the first term" : "divides only the first term",
+      e.alone / e.coefficient - e.added);
   const std::string name =
-      e.fraction ? "multiplies only the first term" : "divides only the first term";
-  add(name, e.alone / e.coefficient - e.added);
-  add(name + kept, e.alone / e.coefficient - signKept.added);
-  add(e.fraction ? "multiplies by the fraction itself" : "multiplies by what should divide",
-      (e.alone - e.added) * e.coefficient);
+      e.fraction ? "multiplies by the fraction itself" : "multiplies by what should divide";
+  add(name, (e.alone - e.added) * e.coefficient);
+  add(name + kKeepsSign, (e.alone + e.added) * e.coefficient);
+  const bool negative = e.coefficient.IsNumber() && e.coefficient.Number() < 0;
+  if (negative && !e.fraction)
+    add("overlooks the minus sign of the coefficient", (e.added - e.alone) / e.coefficient);
 }
 
 void AddMistakesWithoutDivision(const LiteralEquation& e, Reading& reading) {
@@ -131,7 +133,7 @@ void AddMistakes(const LiteralEquation& e, Reading& reading) {
   add("carries a term across without changing its sign", SolutionOf(WithSignKept(e)));
   const LiteralEquation exchanged = WithLettersExchanged(e);
   add("exchanges the other two letters", SolutionOf(exchanged));
-  add("exchanges the other two letters and keeps the sign of the other term",
+  add(std::string("exchanges the other two letters") + kKeepsSign,
       SolutionOf(WithSignKept(exchanged)));
   // x + y = 4z is the sum -(x + y) = 4z without its factor.
   const Rational number = e.alone.Coefficient(LetterIn(e.alone), 1).Number();
@@ -139,8 +141,11 @@ void AddMistakes(const LiteralEquation& e, Reading& reading) {
   if (wholeSum) {
     const Polynomial letter = Polynomial::Letter(LetterIn(e.alone));
     const Polynomial quotient = e.coefficient / Polynomial(number);
-    for (const char* name : {"turns the fraction upside down", "divides by what should multiply"})
+    for (const std::string name :
+         {"turns the fraction upside down", "divides by what should multiply"}) {
       add(name, quotient * letter - e.added);
+      add(name + kKeepsSign, quotient * letter + e.added);
+    }
     for (const char* name :
          {"subtracts in the wrong order", "forgets the minus sign before the letter"})
       add(name, e.added - e.alone / e.coefficient);

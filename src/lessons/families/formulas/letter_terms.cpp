@@ -65,7 +65,9 @@ std::string QuotientText(const LetterSum& sum, const std::string& letter) {
 }
 
 std::string ProductText(const Fraction& factor, const LetterSum& sum) {
-  return Times(factor.num < 0, ValueText({std::abs(factor.num), factor.den}), sum);
+  // Without a gap 5/9(F - 32) could be read as 5 over 9(F - 32).
+  const std::string gap = factor.den == 1 ? "" : tutor::Gap;
+  return Times(factor.num < 0, ValueText({std::abs(factor.num), factor.den}) + gap, sum);
 }
 
 std::string ProductText(const std::string& letter, const LetterSum& sum) {

@@ -1,5 +1,5 @@
 // Terms with a coefficient and one letter, and their sums, products and quotients as text:
-// "z - 4y", "(z - 4y)/3", "-3z/2 - y", "4/3(y - 5z)".
+// "z - 4y", "(z - 4y)/3", "-3z/2 - y", "4/3 (y - 5z)".
 //
 // A sum begins with a positive term where it has one.  Fractions are written with "/", as
 // display/stacked_text.h takes them.

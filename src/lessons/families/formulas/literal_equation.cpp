@@ -95,9 +95,9 @@ bool LettersAreAlike(const LiteralEquation& equation) {
 }
 
 // It multiplies by what should divide.
-std::string UpsideDown(const LiteralEquation& equation) {
+std::string UpsideDown(const LiteralEquation& equation, const LetterTerm& added) {
   const LetterTerm alone = equation.Alone();
-  const LetterSum rest = {alone, -equation.Added()};
+  const LetterSum rest = {alone, -added};
   const Fraction coef = equation.Coefficient();
   if (equation.form == LetterCoefficient) return ProductText(equation.w, rest);
   if (equation.form == SumOfLetters)
@@ -105,14 +105,33 @@ std::string UpsideDown(const LiteralEquation& equation) {
   return ProductText(coef, rest);
 }
 
+// z - y exchanged is y - z; but z + y would be right.
+bool KeepsSignInExchange(const LiteralEquation& equation, bool wanted) {
+  return LettersAreAlike(equation) ? equation.Added().coef.num < 0 : wanted;
+}
+
+// -3x, of one letter and not of a sum.
+bool HasNegativeCoefficient(const LiteralEquation& equation) {
+  return (equation.form == LeftSide || equation.form == RightSide) && equation.p < 0;
+}
+
 // The division, or what else is done to the whole side, reaches its first term alone.
-std::string FirstTermOnly(const LiteralEquation& equation, const LetterTerm& added) {
+std::string FirstTermOnly(const LiteralEquation& equation) {
   const LetterTerm alone = equation.Alone();
+  const LetterTerm added = equation.Added();
   const Fraction coef = equation.Coefficient();
   if (equation.form == LetterCoefficient)
     return SumText({{alone.coef, alone.letter + "/" + equation.w}, -added});
   if (equation.form == SumOfLetters) return QuotientText({alone, -added}, coef.num);
   return SumText({{alone.coef / coef, alone.letter}, -added});
+}
+
+// The term beside x is taken from its own side, and not from the other one.
+std::string OneSideOnly(const LiteralEquation& equation) {
+  const LetterTerm alone = equation.Alone();
+  if (equation.form == LetterCoefficient)
+    return TermText({alone.coef, alone.letter + "/" + equation.w});
+  return TermText({alone.coef / equation.Coefficient(), alone.letter});
 }
 
 const char* NameOfUpsideDown(const LiteralEquation& equation) {
@@ -226,15 +245,15 @@ LiteralEquation DrawLiteralEquation(RandomStream& random) {
   return equation;
 }
 
-// In most problems two mistakes are built upon the wrong sign: else the right choice would always
-// be the one most like the others.
+// Every mistake by itself is nearest to the right choice, which would so be the box most like the
+// others.  In most problems the laid down ones also keep a sign; the last one never does.
 void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, RandomStream& random) {
   problem.question = {"Solve for " + equation.x + ".",
                       LeftText(equation) + " = " + RightText(equation)};
-  const bool keepsSign = random.Rnd() < 0.85;
-  // z - y exchanged is y - z; but z + y would be right.
-  const bool exchangeKeepsSign =
-      LettersAreAlike(equation) ? equation.Added().coef.num < 0 : keepsSign;
+  const double variant = random.Rnd();
+  const bool firstTermOnly = variant < 0.5;
+  const bool exchangeKeepsSign = KeepsSignInExchange(equation, variant >= 0.2);
+  const bool upsideDownKeepsSign = variant >= 0.2 && firstTermOnly;
   const LiteralEquation exchanged = WithLettersExchanged(equation);
   const auto also = [](bool keeps) { return keeps ? kKeepsSign : ""; };
   const auto added = [](const LiteralEquation& e, bool keeps) {
@@ -250,11 +269,19 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
   choices.Wrong(std::string("exchanges the other two letters") + also(exchangeKeepsSign),
                 SolvedWith(exchanged, added(exchanged, exchangeKeepsSign)));
   if (NeedsNoDivision(equation)) return AddMistakesWithoutDivision(choices, equation);
-  choices.Wrong(NameOfUpsideDown(equation), UpsideDown(equation));
+  choices.Wrong(std::string(NameOfUpsideDown(equation)) + also(upsideDownKeepsSign),
+                UpsideDown(equation, added(equation, upsideDownKeepsSign)));
   if (equation.form == SumOfLetters && IsOne(equation.p))  // no parentheses to multiply out
-    return choices.Wrong("forgets the minus sign before the letter", SolvedInWrongOrder(equation));
-  choices.Wrong(std::string(NameOfFirstTermOnly(equation.form)) + also(keepsSign),
-                FirstTermOnly(equation, added(equation, keepsSign)));
+    choices.Wrong(equation.p > 0 ? "subtracts in the wrong order"
+                                 : "forgets the minus sign before the letter",
+                  SolvedInWrongOrder(equation));
+  else if (firstTermOnly)
+    choices.Wrong(NameOfFirstTermOnly(equation.form), FirstTermOnly(equation));
+  else if (HasNegativeCoefficient(equation) && !LettersAreAlike(equation))
+    choices.Wrong("overlooks the minus sign of the coefficient",
+                  QuotientText({equation.Alone(), -equation.Added()}, -equation.p));
+  else
+    choices.Wrong("removes a term from one side only", OneSideOnly(equation));
 }
 
 }  // namespace course::formulas

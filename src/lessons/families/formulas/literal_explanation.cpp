@@ -31,10 +31,15 @@ constexpr double kExchangedRow = 7;
 constexpr double kLinesRow = 5.5;
 constexpr double kFractionRow = 5;  // the middle one of a built-up first line
 constexpr double kBoxRow = 18;
+constexpr double kAnswerRow = 20;
 
 // "+4y", "-4y": a term as it is spoken of.
 std::string WithSign(const LetterTerm& term) {
   return (term.coef.num < 0 ? "" : "+") + TermText(term);
+}
+
+bool IsDigit(char c) {
+  return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
 // Values that make the equation true, one for each of its letters.
@@ -66,7 +71,8 @@ LetterValues ValuesFor(const LiteralEquation& e) {
   return values;
 }
 
-// The text with a value in place of each letter: "(z - 4y)/3" becomes "(10 - 4 . 1)/3".
+// The text with a value in place of each letter: "(z - 4y)/3" becomes "(10 - 4 . 1)/3", and
+// "3/8 k" becomes "3/8 . 8".
 std::string Substituted(const std::string& text, const LiteralEquation& e,
                         const LetterValues& values) {
   const auto valueOf = [&](char c) {
@@ -81,9 +87,11 @@ std::string Substituted(const std::string& text, const LiteralEquation& e,
       continue;
     }
     const bool first = filled.empty();
+    if (filled.size() > 1 && filled.back() == tutor::Gap[0] && IsDigit(filled[filled.size() - 2]))
+      filled.pop_back();
     const char before = first ? ' ' : filled.back();
     const int value = valueOf(c);
-    const bool factor = std::isdigit(static_cast<unsigned char>(before)) != 0;
+    const bool factor = IsDigit(before);
     if (factor && value >= 0) filled += tutor::Gap + tutor::Dot + tutor::Gap;
     filled += first || before == '(' ? NumStr(value) : InParentheses(value);
   }
@@ -105,7 +113,9 @@ class Explanation {
     else
       SolveTwoTerms();
     Check();
-    SayInBox(ConclusionText(problem_, 'b'));
+    // Built up: on one line a fraction before parentheses is hard to read.
+    page::ClearBelow(kBoxRow);
+    page::ShowAt(kAnswerRow, ConclusionText(problem_, 'y'), 1);
   }
 
  private:
@@ -124,10 +134,14 @@ class Explanation {
     return Text(R"(To remove \b{}\z from the {}-hand side, we add \b{}\z to both sides.)",
                 WithSign(e_.Added()), Words{side}, WithSign(-e_.Added()));
   }
-  void TellThatItIsIsolated() const {
+  void TellThatItIsIsolated(const char* remark = "") const {
     SayInBoxAnew("We are done now since we have isolated the variable " + e_.x + ".");
-    if (e_.form == LetterCoefficient) SayInBox(Text("({} must not be 0.)", e_.w));
+    if (*remark != '\0') SayInBox(remark);
     PageEnd();
+  }
+  void TellSubtraction() const {
+    if (e_.Added().coef.num > 0)
+      SayInBox(Text("Adding {} is subtracting {}.", Opposite(), Added()));
   }
   static void OpenBox() { page::WhiteBox({.row = kBoxRow}); }
 
@@ -161,6 +175,7 @@ class Explanation {
     PageEnd();
     sheet.AddUnder(addend);
     SayInBoxAnew(Removing("left"));
+    TellSubtraction();
     PageEnd();
     sheet.WriteSum(sum, "=");
     SayInBoxAnew(Text("{} and {} add up to 0.", WithSign(e_.Added()), WithSign(-e_.Added())));
@@ -188,8 +203,13 @@ class Explanation {
     sheet.WriteQuotients({Unknown(), Rest(), Divisor()}, "=");
     SayInBox(Text("Watch out:  {} is divided too, not only {}.", Opposite(), TermText(e_.Alone())));
     PageEnd();
-    SayInBoxAnew(Text("{} over {} is just {}.", Unknown(), Divisor(), e_.x));
-    if (const std::string signs = HowSignsChange(); !signs.empty()) SayInBox(signs);
+    const bool byLetter = e_.form == LetterCoefficient;
+    SayInBoxAnew(Text("{} over {} is just {}{}.", Unknown(), Divisor(), e_.x,
+                      Words{byLetter ? ", if " + e_.w + " is not 0" : ""}));
+    if (const std::string signs = HowSignsChange(); !signs.empty()) {
+      PageEnd();
+      SayInBoxAnew(signs);
+    }
     sheet.WriteSolved(e_.x, "=", SolvedText(e_));
     PageEnd();
   }
@@ -198,13 +218,15 @@ class Explanation {
   std::string HowSignsChange() const {
     const bool minusInFront = SolvedText(e_).front() == '-';
     if (e_.form == LetterCoefficient) {
-      if (minusInFront) return "One minus sign in front stands for both.";
+      if (minusInFront)
+        return "Both terms above are negative.  One minus sign in front of the fraction stands for "
+               "both.";
       return Rest() != RestText() ? "We write the positive term first." : "";
     }
     if (e_.p > 0) return "";
     if (minusInFront) return "The minus sign goes in front of the fraction.";
-    return Text("{} below is negative.  So we change every sign above, and write {} below.", e_.p,
-                -e_.p);
+    return "We multiply the numerator and the denominator by -1.  The value of the fraction stays "
+           "the same.";
   }
 
   void ReverseSigns(equations::EquationSheet& sheet) {
@@ -247,17 +269,17 @@ class Explanation {
       PageEnd();
     }
     SayInBoxAnew(Removing("left"));
-    SayInBox("Unlike terms stay side by side.");
+    TellSubtraction();
     lines.Write(e_.x, SolvedText(e_));
     PageEnd();
-    TellThatItIsIsolated();
+    TellThatItIsIsolated("Unlike terms stay side by side.");
   }
 
   // --- y = p/q x + rz ----------------------------------------------------------------------------
 
   void SolveFraction() {
     const Fraction coef = e_.Coefficient();
-    const std::string reciprocal = ValueText(Fraction{1, 1} / coef);
+    const std::string reciprocal = Reciprocal();
     const std::string unknown = ValueText(coef) + tutor::Gap + e_.x;
     SolutionLines lines(kFractionRow);
     lines.Write(LeftText(e_), RightText(e_));
@@ -265,7 +287,8 @@ class Explanation {
     SayInBox(Text("{} is multiplied by {}, then {}.  Which do we undo first?", e_.x,
                   ValueText(coef), Words{HowAdded()}));
     PageEnd();
-    SayInBoxAnew("The last one.  " + Removing("right"));
+    SayInBoxAnew(Removing("right"));
+    TellSubtraction();
     lines.Write(RestText(), unknown);
     PageEnd();
     SayInBoxAnew(Text(R"({} times \b{}\z is 1.  So we multiply both sides by \b{}\z.)",
@@ -283,17 +306,33 @@ class Explanation {
 
   void Check() {
     const LetterValues values = ValuesFor(e_);
-    SayInBoxAnew("Check:  these numbers make it true.");
+    const std::string others =
+        Text("{} = {}, {} = {}, {} = {}", e_.x, values.x, e_.y, values.y, e_.z, values.z);
     const std::string letters =
-        e_.form == LetterCoefficient
-            ? Text("{} = {}, {} = {}, {} = {}, {} = {}", e_.w, values.w, e_.x, values.x, e_.y,
-                   values.y, e_.z, values.z)
-            : Text("{} = {}, {} = {}, {} = {}", e_.x, values.x, e_.y, values.y, e_.z, values.z);
-    SayInBox(letters);
-    SayInBox(Text("The answer gives {}.", e_.x + " = " + Substituted(SolvedText(e_), e_, values) +
-                                              " = " + NumStr(values.x)));
+        e_.form == LetterCoefficient ? Text("{} = {}, {}", e_.w, values.w, Words{others}) : others;
+    SayInBoxAnew(Text("Check:  these numbers fit the given equation:  {}.", Words{letters}));
+    SayInBox(Substituted(LeftText(e_), e_, values) + " = " +
+             Substituted(RightText(e_), e_, values));
+    const LetterTerm alone = e_.Alone();
+    const int side = alone.coef.num * (alone.letter == e_.z ? values.z : values.y);
+    SayInBox(Text(R"({}   \btrue\z)", NumStr(side) + " = " + NumStr(side)));
+    PageEnd();
+    SayInBoxAnew("Now we put them into the answer:");
+    SayInBox(WithoutBreaks(e_.x + " = " + SubstitutedAnswer(values)));
+    if (e_.form == FractionFormula) SayInBox(WithoutBreaks(e_.x + " = " + FactorTimes(e_.p)));
+    SayInBox(Text("{} = {}, as in the given equation.", e_.x, values.x));
     PageEnd();
   }
+
+  std::string SubstitutedAnswer(const LetterValues& values) const {
+    if (e_.form != FractionFormula) return Substituted(SolvedText(e_), e_, values);
+    return "(" + Reciprocal() + ")(" + Substituted(RestText(), e_, values) + ")";
+  }
+  // "(8/3)(3)"
+  std::string FactorTimes(int value) const {
+    return "(" + Reciprocal() + ")(" + NumStr(value) + ")";
+  }
+  std::string Reciprocal() const { return ValueText(Fraction{1, 1} / e_.Coefficient()); }
 
   const LiteralEquation& e_;
   const Problem& problem_;

@@ -127,6 +127,11 @@ void SetEquationChoices(Problem& problem, const StepProblem& p, RandomStream& ra
 
 // --- The step is asked for -----------------------------------------------------------------------
 
+// The step as a student says it: 6 is added, not -6 subtracted.
+Step Removing(int number) {
+  return number < 0 ? Step{Add, -number} : Step{Subtract, number};
+}
+
 TwoLists<Step> MistakenSumSteps(const StepProblem& p) {
   const auto [operation, n] = p.step;
   const Operation opposite = Opposite(operation);
@@ -154,7 +159,7 @@ TwoLists<Step> MistakenSumSteps(const StepProblem& p) {
            {reversed,
             called(kBeside, kBack, {opposite, beside}),
             called(kAlone, kBackAlone, {opposite, alone}),
-            {"thinks that the number beside x was removed", {Subtract, p.given.number}}}}};
+            {"takes the step that leaves the term with x alone", Removing(p.given.number)}}}};
 }
 
 TwoLists<Step> MistakenProductSteps(const StepProblem& p) {
@@ -167,9 +172,13 @@ TwoLists<Step> MistakenProductSteps(const StepProblem& p) {
   };
   const Mistaken<Step> reversed = {"does the opposite", {Opposite(operation), n}};
   const Mistaken<Step> sum = {"takes a product for a sum", {multiplies ? Add : Subtract, n}};
-  return {{{{"reads the number in front of x in the second equation", {operation, coef}},
-            {"reads the number on the side without x of the second equation", {operation, alone}},
-            reversed,
+  // Read with a lost minus sign, or with one too many, the number tells of the sign alone.
+  const auto reads = [&](const char* name, int number) -> Mistaken<Step> {
+    const char* const sign = n < 0 ? "overlooks the minus sign" : "puts in a minus sign";
+    return {number == -n ? sign : name, {operation, number}};
+  };
+  return {{{reads("reads the number in front of x in the second equation", coef),
+            reads("reads the number on the side without x of the second equation", alone), reversed,
             sum},
            {sum,
             {"compares the numbers in front of x by subtracting", difference(p.given.coef, coef)},
