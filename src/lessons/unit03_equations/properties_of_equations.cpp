@@ -49,6 +49,7 @@ void EqualSides() {
   PaperBox({R"(\r3 + 4 = 7 + 1 = 8\z)"});
   PageEnd();
   balance.Show("3 + 4", "8", Heavier::Right);
+  GoBelow();  // the line that is spoken of stays in view
   Say(Text("It says that 3 + 4 is 8.  We need two equations:  {} and {}.", "3 + 4 = 7",
            "7 + 1 = 8"));
   PageEnd();
@@ -99,7 +100,7 @@ void Solutions() {
   PageEnd();
   NewScreen();
   SayAt(3, "No, here x is 7.  It is a new equation.");
-  Say(R"(\yTry it:\z  Is 2 + 4 = 6 a way to solve x + x = 6?)");
+  Say(Text(R"(\yTry it:\z  Is {} a way to solve {}?)", "2 + 4 = 6", "x + x = 6"));
   PageEnd();
   Say(R"(No:  within one equation x \ykeeps its value\z.  Both x are 3.)");
   Say(R"(\yTry it:\z  Is -2 a solution?)");
@@ -193,7 +194,7 @@ void MultiplyingBothSides() {
   PaperBox({R"(\r6x + 5 = 33\z  is wrong.)"});
   PageEnd();
   ClearBelow(12);
-  SayAt(13, "Not by 0:  0 = 0 is true for every x, and does not tell what x is.");
+  SayAt(13, "With 0 we get 0 = 0.  It is true for every x and no longer tells what x is.");
   SayAt(15.5, R"(\yTry it:\z  Multiply both sides by -1.)");
   SolutionLines tried(17);
   tried.Write("2", "x - 3");
@@ -219,7 +220,7 @@ void DividingBothSides() {
   Say("Why may we not divide by 0?");
   PageEnd();
   SayAt(19, "20 over 0 has no value, for no number times 0 is 20.");
-  Say("-2 is the solution of both equations.");
+  Say(Text("-2 solves both equations:  {}, and {}.", "8 + 12 = 20", "-2 - 3 = -5"));
   PageEnd();
 }
 
@@ -234,11 +235,11 @@ void WhichStepWasIt() {
         "2x stayed 2x.  So nothing was multiplied or divided.  From 11 to 14 it is 3 more, and "
         "from 5 "
         "to 8, too:  3 was added.");
-  ShowAt(14, "2x + 6 = 10", 5);
-  ShowAt(14, "x + 3 = 5", 23);
-  isDrawArrowPointingRightWithColor(14, 20, platform::colour::Yellow, 3);
+  ShowAt(13, "2x + 6 = 10", 5);
+  ShowAt(13, "x + 3 = 5", 23);
+  isDrawArrowPointingRightWithColor(13, 20, platform::colour::Yellow, 3);
   PageEnd();
-  SayAt(16, "2x became x.  So both sides were divided by 2:  2, 6 and 10 all were.");
+  SayAt(15, "2x became x.  So both sides were divided by 2:  2, 6 and 10 all were.");
   PageEnd();
 
   NewScreen();

@@ -58,7 +58,7 @@ void SameSteps() {
   AddLine(R"(\yTry it:\z  Solve d = rt for r.)");
   PageEnd();
   ClearBelow(kWordsRow);
-  SayAt(kWordsRow, "We divide both sides by t, if t is not 0:  r = d/t.");
+  SayAt(kWordsRow, "If t is not 0, we divide both sides by t:  r = d/t.");
   PageEnd();
 }
 
@@ -117,16 +117,14 @@ void DividingBothTerms() {
 
 void NegativeCoefficient() {
   NewScreen();
-  SayAt(3, "This coefficient is negative:");
+  SayAt(3, "The coefficient is -5.  We divide by it:");
   const SheetRow given = {"-5x", "", "z", Behind("-", "2y")};
   EquationSheet sheet = SheetOf(given, given, given);
   sheet.WriteQuotients({"-5x", "z - 2y", "-5"}, "=");
   SayInBox("How can we write it with 5 below?");
   PageEnd();
   sheet.WriteSolved("x", "=", "(2y - z)/5");
-  SayInBoxAnew(
-      "We multiply the numerator and the denominator by -1.  The value of the fraction stays the "
-      "same.");
+  SayInBoxAnew("We multiply numerator and denominator by -1.  The value stays the same:");
   SayInBox("z - 2y becomes -z + 2y, or 2y - z.");
   PageEnd();
 }
@@ -170,16 +168,15 @@ void SumInParentheses() {
   SayAt(9, R"(Let's solve for \ya\z.  What was done last?)");
   PageEnd();
   SayAt(10.5, "The sum was multiplied by 2.  So we divide both sides by 2:");
-  ShowAt(13.5, "P/2 = a + b", 10);
+  ShowAt(14, "P/2 = a + b", 10);
   PageEnd();
-  SayAt(16, "Then we subtract b from both sides:");
-  ShowAt(18.5, "P/2 - b = a", 6);
-  ShowAt(18.5, "a = P/2 - b", 24);
-  SayAt(21, "Two letters may be the same number:  in a square, a = b.");
+  SayAt(16.5, "Then we subtract b from both sides:");
+  ShowAt(19, "P/2 - b = a", 6);
+  ShowAt(19, "a = P/2 - b", 24);
+  SayAt(21.5, "Two letters may be the same number:  in a square, a = b.");
   PageEnd();
   NewScreen();
-  SayAt(3, Text("The factor may be negative.  A minus alone is the factor -1:  {}.",
-                "-(x + y) = -1(x + y)"));
+  SayAt(3, Text("A minus alone is the factor -1:  {}.", "-(x + y) = -1(x + y)"));
   SayAt(7, R"(\yTry it:\z  Solve for x.)");
   ShowAt(9, "-4(x + y) = -6z", 6);
   PageEnd();

@@ -14,6 +14,7 @@ namespace {
 
 using enum LiteralForm;
 
+constexpr double kAllSingle = 0.15;  // share of problems without a kept sign
 constexpr const char* kKeepsSign = " and keeps the sign of the other term";
 
 // --- Drawing -------------------------------------------------------------------------------------
@@ -252,8 +253,8 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
                       LeftText(equation) + " = " + RightText(equation)};
   const double variant = random.Rnd();
   const bool firstTermOnly = variant < 0.5;
-  const bool exchangeKeepsSign = KeepsSignInExchange(equation, variant >= 0.2);
-  const bool upsideDownKeepsSign = variant >= 0.2 && firstTermOnly;
+  const bool exchangeKeepsSign = KeepsSignInExchange(equation, variant >= kAllSingle);
+  const bool upsideDownKeepsSign = variant >= kAllSingle && firstTermOnly;
   const LiteralEquation exchanged = WithLettersExchanged(equation);
   const auto also = [](bool keeps) { return keeps ? kKeepsSign : ""; };
   const auto added = [](const LiteralEquation& e, bool keeps) {

@@ -3,6 +3,8 @@
 #include <cctype>
 #include <cstdlib>
 
+#include "display/grid.h"
+#include "display/lesson_window.h"
 #include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/page.h"
@@ -113,9 +115,7 @@ class Explanation {
     else
       SolveTwoTerms();
     Check();
-    // Built up: on one line a fraction before parentheses is hard to read.
-    page::ClearBelow(kBoxRow);
-    page::ShowAt(kAnswerRow, ConclusionText(problem_, 'y'), 1);
+    ShowAnswer();
   }
 
  private:
@@ -144,6 +144,16 @@ class Explanation {
       SayInBox(Text("Adding {} is subtracting {}.", Opposite(), Added()));
   }
   static void OpenBox() { page::WhiteBox({.row = kBoxRow}); }
+
+  // Built up: on one line a fraction before parentheses is hard to read.
+  void ShowAnswer() const {
+    const std::string words = "The answer is ";
+    page::ClearBelow(kBoxRow);
+    page::ShowAt(kAnswerRow, words, 1);
+    SetColor(platform::colour::Yellow);
+    page::ShowAt(kAnswerRow, RightText(problem_) + ".", 1.0 + static_cast<double>(words.size()));
+    SetColor(frmPR->lessonText.textColour);
+  }
 
   // --- Two terms, x in one of them ---------------------------------------------------------------
 
@@ -310,7 +320,7 @@ class Explanation {
         Text("{} = {}, {} = {}, {} = {}", e_.x, values.x, e_.y, values.y, e_.z, values.z);
     const std::string letters =
         e_.form == LetterCoefficient ? Text("{} = {}, {}", e_.w, values.w, Words{others}) : others;
-    SayInBoxAnew(Text("Check:  these numbers fit the given equation:  {}.", Words{letters}));
+    SayInBoxAnew(Text("Check:  {} fit the given equation:", Words{letters}));
     SayInBox(Substituted(LeftText(e_), e_, values) + " = " +
              Substituted(RightText(e_), e_, values));
     const LetterTerm alone = e_.Alone();
