@@ -194,7 +194,7 @@ void MultiplyingBothSides() {
   PaperBox({R"(\r6x + 5 = 33\z  is wrong.)"});
   PageEnd();
   ClearBelow(12);
-  SayAt(13, "With 0 we get 0 = 0.  It is true for every x and no longer tells what x is.");
+  SayAt(13, "Why not 0?  We get 0 = 0, true for every x.  It no longer tells what x is.");
   SayAt(15.5, R"(\yTry it:\z  Multiply both sides by -1.)");
   SolutionLines tried(17);
   tried.Write("2", "x - 3");

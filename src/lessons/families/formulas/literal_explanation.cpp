@@ -33,7 +33,6 @@ constexpr double kExchangedRow = 7;
 constexpr double kLinesRow = 5.5;
 constexpr double kFractionRow = 5;  // the middle one of a built-up first line
 constexpr double kBoxRow = 18;
-constexpr double kAnswerRow = 20;
 
 // "+4y", "-4y": a term as it is spoken of.
 std::string WithSign(const LetterTerm& term) {
@@ -62,8 +61,8 @@ LetterValues ValuesFor(const LiteralEquation& e) {
       values.w = e.q * values.z - e.p * values.y;
       break;
     case SumOfLetters:
-      values.z = e.p;
-      values.x = e.q - values.y;
+      values.z = std::abs(e.p);
+      values.x = (e.p > 0 ? e.q : -e.q) - values.y;
       break;
     case FractionFormula:
       values.x = e.q;
@@ -149,9 +148,11 @@ class Explanation {
   void ShowAnswer() const {
     const std::string words = "The answer is ";
     page::ClearBelow(kBoxRow);
-    page::ShowAt(kAnswerRow, words, 1);
+    const std::string answer = RightText(problem_);
+    const double row = page::RowBelow() + (answer.find('/') == std::string::npos ? 0.5 : 1.5);
+    page::ShowAt(row, words, 1);
     SetColor(platform::colour::Yellow);
-    page::ShowAt(kAnswerRow, RightText(problem_) + ".", 1.0 + static_cast<double>(words.size()));
+    page::ShowAt(row, answer + ".", 1.0 + static_cast<double>(words.size()));
     SetColor(frmPR->lessonText.textColour);
   }
 
@@ -268,7 +269,7 @@ class Explanation {
       lines.Write(sum, alone);
       PageEnd();
     } else if (e_.p != 1) {
-      SayInBoxAnew(Text(R"(The factor.  We divide both sides by \b{}\z.)", e_.p));
+      SayInBoxAnew(Text(R"(The factor.  So we divide both sides by \b{}\z.)", e_.p));
       lines.Write("(" + LeftText(e_) + ")/(" + NumStr(e_.p) + ")",
                   "(" + RightText(e_) + ")/(" + NumStr(e_.p) + ")");
       PageEnd();

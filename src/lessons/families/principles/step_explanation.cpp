@@ -124,8 +124,9 @@ class Explanation {
   void TellNegativeNumber() const {
     if (Number() > 0) return;
     const bool adds = p_.step.operation == Add;
-    SayInBox(Text("{} {} is the same as {} {}.", Words{adds ? "Adding" : "Subtracting"}, Number(),
-                  Words{adds ? "subtracting" : "adding"}, -Number()));
+    SayInBox(Text("{} is the same as {}.",
+                  Words{Text("{} {}", Words{adds ? "Adding" : "Subtracting"}, Number())},
+                  Text("{} {}", Words{adds ? "subtracting" : "adding"}, -Number())));
   }
 
   std::string SumBesideX() const {
