@@ -163,11 +163,11 @@ void SubtractingOnBothSides() {
           {.row = 3, .width = 36});
   EquationSheet sheet(7.5, 13, {RowOf(given), AddendRow({0, -12}, "x"), RowOf(solved)});
   equations::WriteStatement(sheet, given);
-  SayAt(12, "Take 12 from 5:  is it 5 - 12 or 12 - 5?");
+  SayAt(12, "Subtract 12:  is it 5 - 12 or 12 - 5?");
   PageEnd();
   AddOnSheet(sheet, -12, solved);
   ClearBelow(11);
-  SayAt(13, Text(R"(It is {}.  \yTry it:\z  Subtract -6 from both sides of {}.)", "5 - 12",
+  SayAt(13, Text(R"(12 is taken from 5.  \yTry it:\z  Subtract -6 from both sides of {}.)",
                  "x - 10 = -4"));
   PageEnd();
   const LinearStatement tried = {"x", {1, -10}, "=", {0, -4}};

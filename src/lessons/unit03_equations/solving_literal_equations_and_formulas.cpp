@@ -139,7 +139,9 @@ void LetterAsCoefficient() {
   PageEnd();
   boards.Write("15", "3x", "c - b", "ax");
   ClearBelow(kWordsRow);
-  SayAt(kWordsRow, "We subtract 4, or b.  By what do we divide both sides?");
+  SayAt(
+      kWordsRow,
+      "We subtract 4, or b, from both sides, not only from the right side.  By what do we divide?");
   PageEnd();
   boards.Write("5", "x", "(c - b)/a", "x");
   ClearBelow(kWordsRow);

@@ -174,6 +174,21 @@ void AddMistakesWithoutDivision(Choices<std::string>& choices, const LiteralEqua
                     TermText(added.coef.num < 0 ? -added : added) + ")");
 }
 
+void AddSingleMistake(Choices<std::string>& choices, const LiteralEquation& equation,
+                      bool firstTermOnly) {
+  if (equation.form == SumOfLetters && IsOne(equation.p))  // no parentheses to multiply out
+    choices.Wrong(equation.p > 0 ? "subtracts in the wrong order"
+                                 : "forgets the minus sign before the letter",
+                  SolvedInWrongOrder(equation));
+  else if (firstTermOnly)
+    choices.Wrong(NameOfFirstTermOnly(equation.form), FirstTermOnly(equation));
+  else if (HasNegativeCoefficient(equation) && !LettersAreAlike(equation))
+    choices.Wrong("overlooks the minus sign of the coefficient",
+                  QuotientText({equation.Alone(), -equation.Added()}, -equation.p));
+  else
+    choices.Wrong("removes a term from one side only", OneSideOnly(equation));
+}
+
 }  // namespace
 
 Fraction LiteralEquation::Coefficient() const {
@@ -247,7 +262,8 @@ LiteralEquation DrawLiteralEquation(RandomStream& random) {
 }
 
 // Every mistake by itself is nearest to the right choice, which would so be the box most like the
-// others.  In most problems the laid down ones also keep a sign; the last one never does.
+// others.  In most problems the exchanged letters keep a sign, too, and in some what is upside
+// down; the last mistake is always a single one.
 void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, RandomStream& random) {
   problem.question = {"Solve for " + equation.x + ".",
                       LeftText(equation) + " = " + RightText(equation)};
@@ -272,17 +288,7 @@ void SetLiteralProblem(Problem& problem, const LiteralEquation& equation, Random
   if (NeedsNoDivision(equation)) return AddMistakesWithoutDivision(choices, equation);
   choices.Wrong(std::string(NameOfUpsideDown(equation)) + also(upsideDownKeepsSign),
                 UpsideDown(equation, added(equation, upsideDownKeepsSign)));
-  if (equation.form == SumOfLetters && IsOne(equation.p))  // no parentheses to multiply out
-    choices.Wrong(equation.p > 0 ? "subtracts in the wrong order"
-                                 : "forgets the minus sign before the letter",
-                  SolvedInWrongOrder(equation));
-  else if (firstTermOnly)
-    choices.Wrong(NameOfFirstTermOnly(equation.form), FirstTermOnly(equation));
-  else if (HasNegativeCoefficient(equation) && !LettersAreAlike(equation))
-    choices.Wrong("overlooks the minus sign of the coefficient",
-                  QuotientText({equation.Alone(), -equation.Added()}, -equation.p));
-  else
-    choices.Wrong("removes a term from one side only", OneSideOnly(equation));
+  AddSingleMistake(choices, equation, firstTermOnly);
 }
 
 }  // namespace course::formulas
