@@ -20,44 +20,38 @@ std::string Difference(int m, int n) {
   return NumStr(m) + " - " + NumStr(n) + " = " + NumStr(m - n);
 }
 
-void ShowRule(double row = kUnder) {
-  RuleBox("Rule For Dividing Powers", {"b^m^ " + tutor::Divided + " b^n^ = b^m-n^"},
-          {.row = row, .width = 24});
-}
-
 // --- Teaching screens --------------------------------------------------------
 
 void FactorsCancel() {
   NewScreen();
   SayAt(3, "A fraction bar means division:");
-  ShowAt(6.3, "b^5^/b^2^ =", 5);
-  const FactorFraction fraction(5.5, 11, {"b", 5}, {"b", 2});
+  ShowAt(6, "b^5^/b^2^ =", kExpressionCol);
+  const FactorFraction fraction(5.2, 10, {"b", 5}, {"b", 2});
   GoBelow();
   PageEnd();
-  Say(R"(b/b is 1, so we strike out a factor above together with one below.  They )"
-      R"(\ccancel\z.)");
   fraction.Cancel();
-  PageEnd();
   fraction.ShowBehind(R"(= \yb^3^\z)");
-  SayAt(12.5, "5 - 2 = 3 factors are left above.");
-  Say(R"(The base \ystays\z, and the exponents are \ysubtracted\z.)");
+  SayAt(8.5, R"(b/b is 1, so a factor above and a factor below \ccancel\z:  we strike them out.)");
+  Say("5 - 2 = 3 factors are left above.");
   PageEnd();
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "c^7^ " + tutor::Divided + " c^3^"));
   PageEnd();
-  Say(Text(R"(3 of the 7 factors c cancel, and 4 are left:  \y{}\z)", "c^4^"));
+  Say(Text(R"(3 of the 7 factors c cancel, and 7 - 3 = 4 are left:  \y{}\z)", "c^4^"));
+  Say(R"(The base \ystays\z, and the exponents are \ysubtracted\z.)");
   PageEnd();
 }
 
-void WrongWays() {
+void SubtractTheExponents() {
   NewScreen();
-  ShowRule(3);
-  Say("We keep the base and subtract the exponents.  (b is not 0.)");
+  RuleBox("Rule For Dividing Powers",
+          {"b^m^ " + tutor::Divided + " b^n^ = b^m-n^   (b is not 0)",
+           "The exponents are subtracted,", R"(\rnot divided and not added\z)"},
+          {.row = 3, .width = 32});
   PageEnd();
   SlideExponentsToDifference({"x", 8}, {"x", 2}, NextRow() + 0.5);
-  PageEnd();
-  Say(R"(\yWatch out:\z  The exponents are not divided.  With 2 in place of x:)");
-  PaperBox({"2^8^ " + tutor::Divided + " 2^2^ = 256 " + tutor::Divided + " 4 = 64",
-            R"(2^6^ = 64,  but \r2^4^ = 16\z)"});
+  Say(R"(\yWatch out:\z  With 2 in place of x:)");
+  PaperBox({"2^8^ " + tutor::Divided + " 2^2^ = 256 " + tutor::Divided +
+            R"( 4 = 64,  \rnot 2^4^ or 2^10^\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "x^6^", "6x"));
   PageEnd();
@@ -71,33 +65,33 @@ void WrongWays() {
 void MoreFactorsBelow() {
   NewScreen();
   SayAt(3, "What if more factors are below the bar?");
-  ShowAt(6.3, "n^2^/n^5^ =", 5);
-  const FactorFraction fraction(5.5, 11, {"n", 2}, {"n", 5});
+  ShowAt(6, "n^2^/n^5^ =", kExpressionCol);
+  const FactorFraction fraction(5.2, 10, {"n", 2}, {"n", 5});
   GoBelow();
   PageEnd();
   fraction.Cancel();
-  Say("All factors above cancel, and 1 stays there.  5 - 2 = 3 factors are left below:");
   fraction.ShowBehind(R"(= \y1\z/\yn^3^\z)");
+  SayAt(8.5,
+        "Each n/n that cancels is 1, so 1 is left above.  5 - 2 = 3 factors n are left "
+        R"(\ybelow\z the bar.)");
   PageEnd();
-  SayAt(12.5,
-        R"(\yWatch out:\z  What is left stays on its side of the bar.  With 2 in place of n:)");
-  Show(R"(2^2^/2^5^ = 4/32 = 1/8)", kExpressionCol);
+  Say(R"(\yWatch out:\z  What is left stays on its side of the bar.  With 2 in place of n:)");
+  PaperBox({R"(2^2^/2^5^ = 4/32 = 1/8,  \rnot 8\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Simplify this fraction:)");
   Show("a^4^/a^6^", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= \y1\z/\ya^2^\z,  as 6 - 4 = 2 are left below)", kExpressionCol + 3);
+  ShowAt(NextRow() - 2.5, R"(= \y1\z/\ya^2^\z)", kExpressionCol + 3);
+  GoBelow();
+  Say("6 - 4 = 2 factors a are left below.");
   PageEnd();
 }
 
 void NumbersInFront() {
   NewScreen();
   SayAt(3, "Numbers in front are divided as numbers are:");
-  ShowAt(6.5, "12x^7^/(4x^2^)", kExpressionCol);
-  ShowAt(6.5, "= 12/4 " + tutor::Dot + " x^7^/x^2^", kExpressionCol + 6);
-  PageEnd();
-  ShowAt(6.5, R"(= \y3x^5^\z)", kExpressionCol + 16);
-  SayAt(9, "12 " + tutor::Divided + " 4 = 3,  and 7 - 2 = 5.", {.col = kExpressionCol});
+  ShowAt(6.3, "12x^7^/(4x^2^) = 12/4 " + tutor::Dot + R"( x^7^/x^2^ = \y3x^5^\z)", kExpressionCol);
+  SayAt(8.5, "12 " + tutor::Divided + " 4 = 3,  and 7 - 2 = 5.", {.col = kExpressionCol});
   PageEnd();
   Say(R"(\yWatch out:\z  The numbers are \ydivided\z.  Only the exponents are subtracted:)");
   PaperBox({"12x^7^ " + tutor::Divided + R"( (4x^2^) = 3x^5^,  \rnot 8x^5^\z)"});
@@ -107,45 +101,45 @@ void NumbersInFront() {
   PageEnd();
   ShowAt(NextRow() - 2.5, R"(= \y5c\z)", kExpressionCol + 6);
   GoBelow();
-  Say("10 " + tutor::Divided + " 2 = 5, and 6 - 5 = 1 factor c is left.");
+  Say(Text("{} = 5, and {}.", "10 " + tutor::Divided + " 2", "c^6-5^ = c^1^ = c"));
   PageEnd();
 }
 
 void TwoLettersApart() {
   NewScreen();
   SayAt(3, "With two letters, we make a fraction of each letter:");
-  ShowAt(6.5, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
+  ShowAt(6.2, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
   PageEnd();
-  const FactorFraction first(9, kExpressionCol + 2, {"x", 4}, {"x", 3});
-  ShowAt(9.8, "=", kExpressionCol);
-  ShowAt(9.8, tutor::Dot, first.ColumnBehind() + 1);
-  const FactorFraction second(9, first.ColumnBehind() + 3, {"y", 2}, {"y", 5});
+  constexpr double kFactorsRow = 8.3;
+  const FactorFraction first(kFactorsRow, kExpressionCol + 2, {"x", 4}, {"x", 3});
+  ShowAt(kFactorsRow + 0.8, "=", kExpressionCol);
+  ShowAt(kFactorsRow + 0.8, tutor::Dot, first.ColumnBehind() + 1);
+  const FactorFraction second(kFactorsRow, first.ColumnBehind() + 3, {"y", 2}, {"y", 5});
   first.Cancel();
   second.Cancel();
   PageEnd();
-  SayAt(12.5, "1 factor x is left above, 3 factors y are left below:");
+  SayAt(11, "1 factor x is left above, 3 factors y are left below:");
   Show(R"(= x \)"
        "z" +
            tutor::Dot + R"( 1/y^3^ = \yx\z/\yy^3^\z)",
        kExpressionCol);
   PageEnd();
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Simplify this fraction:)");
+  Say(R"(\yTry it:\z  Simplify this fraction:)");
   Show("p^2^q^7^/(p^6^q^4^)", kExpressionCol);
   PageEnd();
   ShowAt(NextRow() - 2.5, R"(= \yq^3^\z/\yp^4^\z)", kExpressionCol + 6);
   GoBelow();
-  Say("p has 6 - 2 = 4 factors left below, q has 7 - 4 = 3 left above.");
+  Say("6 - 2 = 4 factors p are left below, and 7 - 4 = 3 factors q above.");
   PageEnd();
 }
 
 void ExponentZero() {
   NewScreen();
   SayAt(3, "From column to column the exponent is 1 less, and the value is divided by 2:");
-  CellTable(TwoRows("Power", "Value", 6), 6);
+  CellTable(TwoRows("Power", "Value", 6), 5.4);
   FillCells(1, {"2^3^", "2^2^", "2^1^", "2^0^"});
   FillCells(7, {"8", "4", "2"});
-  SayAt(11, R"(\yTry it:\z  What stands under  )" + Text("{}?", "2^0^"));
+  SayAt(10, R"(\yTry it:\z  What stands under  )" + Text("{}?", "2^0^"));
   PageEnd();
   FillCells(10, {"1"}, platform::colour::Blue);
   Say("2 " + tutor::Divided + " 2 = 1.  The rule says the same:");
@@ -158,33 +152,42 @@ void ExponentZero() {
 }
 
 void NegativeExponents() {
+  constexpr double kFactorsRow = 11.5;
+  constexpr double kRuleRow = 15.8;
   NewScreen();
   SayAt(3, "We go on dividing by 2.  What is next?");
-  CellTable(TwoRows("Power", "Value", 6), 5.4);
+  CellTable(TwoRows("Power", "Value", 6), 4.4);
   FillCells(1, {"2^3^", "2^2^", "2^1^", "2^0^", "2^-1^", "2^-2^"});
   FillCells(7, {"8", "4", "2", "1"});
   PageEnd();
   FillCells(11, {"1/2", "1/4"}, platform::colour::Blue);
-  SayAt(10, "Half of 1 is 1/2, and half of 1/2 is 1/4.  The factors show the same:");
-  const FactorFraction fraction(13.5, 10, {"k", 2}, {"k", 5});
-  ShowAt(14.3, "k^2^/k^5^ =", kExpressionCol);
+  SayAt(8.5, "Half of 1 is 1/2, and half of 1/2 is 1/4.  To see why, we write out factors:");
+  ShowAt(kFactorsRow + 0.8, "k^2^/k^5^ =", kExpressionCol);
+  const FactorFraction fraction(kFactorsRow, 10, {"k", 2}, {"k", 5});
   fraction.Cancel();
-  fraction.ShowBehind("= 1/k^3^");
+  fraction.ShowBehind(R"(= \y1\z/\yk^3^\z)");
   PageEnd();
-  SayAt(17, Text("The rule gives {}.", "k^2-5^ = k^-3^"));
-  Say(R"(So a negative exponent tells how many factors are left \ybelow\z the bar.)");
+  ShowAt(kRuleRow, R"(k^2^/k^5^ = k^2-5^ = \yk^-3^\z)", kExpressionCol);
+  SayAt(kRuleRow, "by the rule", {.col = 22});
+  PageEnd();
+  SayAt(18.3, "It is the same fraction both times, so");
+  ShowAt(20.8, R"(\yk^-3^\z = \y1\z/\yk^3^\z)", kExpressionCol);
   PageEnd();
 
   NewScreen();
-  SayAt(3, "A negative exponent does not make a negative number:");
-  PaperBox({R"(2^-3^ means 1 over 2^3^)", R"(which is 1/8,  \rnot -8 and not -6\z)"});
+  SayAt(3, R"(A negative exponent tells how many factors are left \ybelow\z the bar.  It does not )"
+           "make a negative number:");
+  PaperBox({R"(2^-3^ = 1/2^3^ = 1/8,  \rnot -8 and not -6\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Write this fraction first with, then without a fraction bar:)");
   Show("x^3^y^0^/x^7^", kExpressionCol);
   PageEnd();
   ShowAt(NextRow() - 2.5, R"(= x^3^/x^7^ = \y1\z/\yx^4^\z = \yx^-4^\z)", kExpressionCol + 6);
   GoBelow();
-  Say(Text("{} is a factor 1.  7 - 3 = 4 factors are left below, and 3 - 7 = -4.", "y^0^"));
+  Say(
+      Text("{} is a factor 1.  7 - 3 = 4 factors are left below.  In the exponent 3 comes first: "
+           "3 - 7 = -4.",
+           "y^0^"));
   PageEnd();
 }
 
@@ -196,7 +199,7 @@ class DividingWithExponents final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{FactorsCancel, WrongWays},
+    return {{FactorsCancel, SubtractTheExponents},
             {MoreFactorsBelow},
             {NumbersInFront, TwoLettersApart},
             {ExponentZero, NegativeExponents}};
@@ -211,6 +214,7 @@ class DividingWithExponents final : public LessonScript {
   void CancelFactors() const;
   void SayWhatIsLeft() const;
   void SubtractExponents() const;
+  std::string MeaningOfNegative() const;
   void CheckWithTwo() const;
 
   QuotientProblem quotient_;
@@ -254,8 +258,10 @@ void DividingWithExponents::ExplainProblem() {
     Say("What is left above and below the bar is the answer:");
   else
     SubtractExponents();
-  Show(quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
-  PageEnd();
+  if (quotient_.form != QuotientForm::MoreAbove) {  // there the rule's line ends with the answer
+    Show(quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
+    PageEnd();
+  }
   if (quotient_.other.empty() && quotient_.form != QuotientForm::Numbers) CheckWithTwo();
   Conclude(problem);
 }
@@ -323,6 +329,15 @@ void DividingWithExponents::SayWhatIsLeft() const {
   PageEnd();
 }
 
+// "t^-3^ means 1/t^3^, as the factors are left below the bar".
+std::string DividingWithExponents::MeaningOfNegative() const {
+  const int exponent = quotient_.Difference();
+  return Text("{} means {}, as the factor{} {} left below the bar",
+              quotient_.letter + "^" + NumStr(exponent) + "^",
+              FractionOfTexts("1", PowerText({quotient_.letter, -exponent})),
+              Words{PluralSuffix(-exponent)}, Words{exponent == -1 ? "is" : "are"});
+}
+
 void DividingWithExponents::SubtractExponents() const {
   Say("The rule gives the same.  We keep the base and subtract the exponents:");
   SlideExponentsToDifference({quotient_.letter, quotient_.above},
@@ -330,7 +345,7 @@ void DividingWithExponents::SubtractExponents() const {
   PageEnd();
   switch (quotient_.form) {
     case QuotientForm::MoreBelow:
-      Say("A negative exponent tells that the factors are left below the bar:");
+      Say(MeaningOfNegative() + ":");
       break;
     case QuotientForm::AsMany:
       Say("The exponent 0 gives 1, since the fraction is a number divided by itself:");
@@ -339,11 +354,22 @@ void DividingWithExponents::SubtractExponents() const {
       Say(Text("With the number {} in front:", quotient_.Number()));
       break;
     case QuotientForm::NegativeAnswer:
-      Say("The negative exponent tells that the factors are left below, with no fraction bar:");
+      Say(MeaningOfNegative() + ".  We write it without a fraction bar:");
+      break;
+    case QuotientForm::ZeroExponent:
+      Say("So this is what we get:");
       break;
     default:
-      Say("So this is what we get:");
+      break;
   }
+}
+
+// "2^3^ = 8", or "1/2^3^ = 1/8" for those that are left below the bar.
+std::string PowerOfTwo(int exponent) {
+  const int factors = std::abs(exponent);
+  const std::string over = exponent < 0 ? "1/" : "";
+  const std::string value = over + NumStr(static_cast<double>(ValueOfPower(2, factors)));
+  return factors < 2 ? value : over + PowerOf(2, factors) + " = " + value;
 }
 
 // Both sides of the result with 2 in place of the letter.
@@ -352,18 +378,23 @@ void DividingWithExponents::CheckWithTwo() const {
     return NumStr(static_cast<double>(ValueOfPower(2, exponent)));
   };
   const int difference = quotient_.Difference();
-  const std::string power = difference == 1 ? "2" : "2^" + NumStr(difference) + "^";
-  const std::string fraction = difference < 0 ? "1/" + value(-difference) : value(difference);
   NewScreen();
-  ShowTask();
-  Say("This is our result:");
-  Show(quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
-  PageEnd();
+  ProblemBanner();
+  ShowAt(6, quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
   Say(Text(R"(\yCheck:\z  With 2 in place of {}:)", quotient_.letter));
   Show(FractionOfTexts(PowerOf(2, quotient_.above), PowerOf(2, quotient_.below)) + " = " +
-           FractionOfTexts(value(quotient_.above), value(quotient_.below)) + " = " + fraction +
-           " = " + power,
+           FractionOfTexts(value(quotient_.above), value(quotient_.below)) + " = " +
+           (difference < 0 ? "1/" : "") + value(std::abs(difference)),
        kExpressionCol);
+  const bool written = quotient_.form == QuotientForm::NegativeAnswer;
+  const std::string right =
+      (written ? "2^" + NumStr(difference) + "^ = " : "") + PowerOfTwo(difference);
+  if (right.find('=') == std::string::npos) {
+    Say(Text("The right side is {}, too.", right));
+  } else {
+    Say("The right side is the same:");
+    Show(right, kExpressionCol);
+  }
   PageEnd();
 }
 

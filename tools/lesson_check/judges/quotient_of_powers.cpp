@@ -75,20 +75,23 @@ void AddMistakesOfOneLetter(const Quotient& quotient, char x, int m, int n, Mist
   const int sign = m < n ? -1 : 1;
   mistakes.Add("adds the exponents", PowerOf(x, m + n));
   if (m < n)
-    mistakes.Add("adds the exponents and keeps them in the denominator", PowerOf(x, -m - n));
+    mistakes.Add("adds the exponents and keeps the power below the bar", PowerOf(x, -m - n));
   mistakes.Add("adds the exponents and makes the sum negative", PowerOf(x, -m - n));
   mistakes.Add("multiplies the exponents", PowerOf(x, sign * m * n));
   if (m % n == 0) mistakes.Add("divides the exponents", PowerOf(x, m / n));
-  mistakes.Add("leaves the factors in the wrong part of the fraction", PowerOf(x, n - m));
-  mistakes.Add("keeps the exponent of the numerator", PowerOf(x, m));
-  mistakes.Add("keeps the exponent of the denominator", PowerOf(x, -n));
+  mistakes.Add("puts the power on the wrong side of the fraction bar", PowerOf(x, n - m));
+  mistakes.Add("keeps the exponent above the bar", PowerOf(x, m));
+  mistakes.Add("keeps the exponent below the bar", PowerOf(x, -n));
   mistakes.Add("subtracts the wrong way round", PowerOf(x, n - m));
   mistakes.Add("takes the minus sign of the exponent for one in front", Times(-1, x, d));
   if (m != n) {
-    mistakes.Add("multiplies base and exponent", Times(m - n, x, 1));
-    mistakes.Add("multiplies base and exponent", PowerOf(x, sign) * Polynomial(Rational(d)));
+    mistakes.Add("subtracts the exponents, but then multiplies the result by the base",
+                 Times(m - n, x, 1));
+    mistakes.Add("subtracts the exponents, but then multiplies the result by the base",
+                 PowerOf(x, sign) * Polynomial(Rational(d)));
     if (m < n)
-      mistakes.Add("multiplies base and exponent", Polynomial(Rational(1)) / Times(d, x, 1));
+      mistakes.Add("subtracts the exponents, but then multiplies the result by the base",
+                   Polynomial(Rational(1)) / Times(d, x, 1));
   } else {
     mistakes.AddWhole("takes the exponent 0 for the value 0", Polynomial());
     mistakes.Add("takes the exponent 0 for an exponent of 1", PowerOf(x, 1));
@@ -117,9 +120,11 @@ void AddMistakesOfTwoLetters(const Quotient& quotient, Mistakes& mistakes) {
                    quotient.above.exponents.at(letter) + quotient.below.exponents.at(letter));
   };
   mistakes.Add("adds the exponents", sum(x) * sum(y));
-  mistakes.Add("leaves the first letter in the wrong part", PowerOf(x, -m) * PowerOf(y, k));
-  mistakes.Add("leaves the second letter in the wrong part", PowerOf(x, m) * PowerOf(y, -k));
-  mistakes.Add("leaves both letters in the wrong part", PowerOf(x, -m) * PowerOf(y, -k));
+  mistakes.Add("puts the first letter on the wrong side of the bar",
+               PowerOf(x, -m) * PowerOf(y, k));
+  mistakes.Add("puts the second letter on the wrong side of the bar",
+               PowerOf(x, m) * PowerOf(y, -k));
+  mistakes.Add("puts both letters on the wrong side of the bar", PowerOf(x, -m) * PowerOf(y, -k));
 }
 
 // x^m y^0 over x^n.

@@ -82,8 +82,8 @@ void SlideExponentsToDifference(const Power& above, const Power& below, double r
   ShowAt(middle, "= " + above.base, kBase - 2);
   ShowAt(middle, "^-^", kBase + 2);
   const int difference = above.exponent - below.exponent;
-  ShowAt(middle, "= " + above.base + (difference == 1 ? "" : "^" + NumStr(difference) + "^"),
-         kBase + 5);
+  const std::string power = above.base + "^" + NumStr(difference) + "^";
+  ShowAt(middle, "= " + power + (difference == 1 ? " = " + above.base : ""), kBase + 5);
   GoBelow();
 }
 

@@ -15,8 +15,9 @@ constexpr std::array<std::string_view, 8> kLetters = {"", "b", "n", "k", "xy", "
 
 constexpr const char* kAdds = "adds the exponents";
 constexpr const char* kDivides = "divides the exponents";
-constexpr const char* kWrongPart = "leaves the factors in the wrong part of the fraction";
-constexpr const char* kTakesAsFactor = "multiplies base and exponent";
+constexpr const char* kWrongPart = "puts the power on the wrong side of the fraction bar";
+constexpr const char* kTakesAsFactor =
+    "subtracts the exponents, but then multiplies the result by the base";
 
 std::string OneSide(int number, const std::vector<Power>& powers) {
   std::string text = CoefText(number);
@@ -105,7 +106,7 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfMoreAbove() const {
           {kWrongPart, Quotient(-Difference())},
           {kAdds, Quotient(above + below)},
           {"multiplies the exponents", Quotient(above * below)},
-          {"keeps the exponent of the numerator", Quotient(above)}};
+          {"keeps the exponent above the bar", Quotient(above)}};
 }
 
 // The right one and the first three are two mistakes, made or not made.
@@ -113,12 +114,12 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfMoreBelow() const {
   std::vector<QuotientMistake> mistakes = {
       {kWrongPart, Quotient(-Difference())},
       {kAdds, Quotient(above + below)},
-      {"adds the exponents and keeps them in the denominator", Quotient(-above - below)}};
+      {"adds the exponents and keeps the power below the bar", Quotient(-above - below)}};
   // With 1 factor left there is nothing to multiply by.
   if (Difference() != -1)
     mistakes.push_back(
         {kTakesAsFactor, FractionOfTexts("1", "(" + NumStr(-Difference()) + letter + ")")});
-  mistakes.push_back({"keeps the exponent of the denominator", Quotient(-below)});
+  mistakes.push_back({"keeps the exponent below the bar", Quotient(-below)});
   return mistakes;
 }
 
@@ -126,7 +127,7 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfAsMany() const {
   return {{"takes the exponent 0 for the value 0", "0"},
           {"takes the exponent 0 for an exponent of 1", letter},
           {kAdds, Quotient(above + below)},
-          {"keeps the exponent of the numerator", Quotient(above)}};
+          {"keeps the exponent above the bar", Quotient(above)}};
 }
 
 // The right one and the first three are two mistakes, made or not made.
@@ -136,9 +137,9 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfTwoLetters() const {
   const auto quotient = [&](int exponent, int otherExponent) {
     return QuotientText(1, {{letter, exponent}, {other, otherExponent}});
   };
-  return {{"leaves the first letter in the wrong part", quotient(-first, second)},
-          {"leaves the second letter in the wrong part", quotient(first, -second)},
-          {"leaves both letters in the wrong part", quotient(-first, -second)},
+  return {{"puts the first letter on the wrong side of the bar", quotient(-first, second)},
+          {"puts the second letter on the wrong side of the bar", quotient(first, -second)},
+          {"puts both letters on the wrong side of the bar", quotient(-first, -second)},
           {kAdds, quotient(above + below, otherAbove + otherBelow)}};
 }
 
@@ -158,7 +159,7 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfNumbers(RandomStream& ra
                                 Quotient(difference, above)},
           {kTakesAsFactor, Quotient(Number() * Difference(), 1)},
           {kAdds, Quotient(above + below)},
-          {"keeps the exponent of the numerator", Quotient(above)}};
+          {"keeps the exponent above the bar", Quotient(above)}};
 }
 
 std::vector<QuotientMistake> QuotientProblem::MistakesOfZeroExponent(RandomStream& random) const {
