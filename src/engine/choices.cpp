@@ -1,6 +1,7 @@
 #include "engine/choices.h"
 
 #include "mathkit/tutor_codes.h"
+#include "session/session.h"
 
 namespace course {
 namespace {
@@ -30,14 +31,25 @@ bool RightIsHidden(const Problem& problem) {
   return problem.correct == 5 && HasNoneOfTheAbove(problem.kind);
 }
 
+bool BoxesStood() {
+  return session.gMode == mode::Explanation || session.gMode == mode::LessonTestExplanation ||
+         session.gMode == mode::UnitTestExplanation;
+}
+
+bool EndsAtNone(const Problem& problem) {
+  return RightIsHidden(problem) && BoxesStood();
+}
+
 std::string RightText(const Problem& problem) {
   return problem.choices.at(static_cast<std::size_t>(problem.correct)).text;
 }
 
 std::string ConclusionText(const Problem& problem, char colour) {
   const std::string start = std::string("\\") + colour;
-  const std::string answer = "The answer is " + start + OnOneLine(RightText(problem)) + R"(\z.)";
-  if (!RightIsHidden(problem)) return answer;
+  const std::string right = RightText(problem);
+  const std::string answer =
+      "The answer is " + start + OnOneLine(right) + (right.ends_with('.') ? R"(\z)" : R"(\z.)");
+  if (!EndsAtNone(problem)) return answer;
   return answer + "  It is not among the choices, so the right one is " + start + kNoneOfTheAbove +
          R"(\z.)";
 }

@@ -97,10 +97,15 @@ void HideRightAtTimes(Problem& problem, RandomStream& random, double share = kNo
 
 // Whether "None of the above" is right.
 bool RightIsHidden(const Problem& problem);
+// Whether the problem that is explained has stood on the screen with its boxes: an example's has
+// not.
+bool BoxesStood();
+// Whether an explanation has to end at "None of the above".
+bool EndsAtNone(const Problem& problem);
 // The true answer, also when it hides behind "None of the above".
 std::string RightText(const Problem& problem);
-// The sentence that ends an explanation, the answer in a colour by its code: y on the blue screen,
-// b in a white box.
+// The sentence that ends an explanation or an example, the answer in a colour by its code: y on the
+// blue screen, b in a white box.
 std::string ConclusionText(const Problem& problem, char colour = 'y');
 
 // For recipes that fill fixed slots first: the later of two slots 1 to count that are the same is

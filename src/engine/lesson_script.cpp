@@ -5,6 +5,7 @@
 #include "display/grid.h"
 #include "display/lesson_window.h"
 #include "engine/answers.h"
+#include "engine/choices.h"
 #include "engine/header.h"
 #include "engine/hooks.h"
 #include "engine/mistakes_page.h"
@@ -133,12 +134,8 @@ void LessonScript::ExampleEntry() {
   ExampleEnd();
 }
 
-// An example had no boxes.
 void LessonScript::ExplainMistakes(const DrawnProblem& drawn) {
-  const bool boxesStood = session.gMode == mode::Explanation ||
-                          session.gMode == mode::LessonTestExplanation ||
-                          session.gMode == mode::UnitTestExplanation;
-  if (boxesStood && TellsMistakes())
+  if (BoxesStood() && TellsMistakes())
     TellMistakes(drawn.problem, drawn.order, StudentsBox(), FigureOfMistakes(), ChoicesAreWords());
 }
 

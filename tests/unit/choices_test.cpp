@@ -105,6 +105,11 @@ TEST_F(ChoicesTest, TheConclusionEndsWithTheRightBox) {
             "5\\z.");
   HideRight(problem);
   EXPECT_EQ(RightText(problem), "x < 5");
+  session.gMode = mode::Example;  // it has no boxes to speak of
+  EXPECT_EQ(ConclusionText(problem),
+            "The answer is \\yx\xFF<\xFF"
+            "5\\z.");
+  session.gMode = mode::Explanation;
   EXPECT_EQ(ConclusionText(problem, 'b'),
             "The answer is \\bx\xFF<\xFF"
             "5\\z.  It is not among the choices, so the right one is "
@@ -112,7 +117,7 @@ TEST_F(ChoicesTest, TheConclusionEndsWithTheRightBox) {
   problem = {};
   problem.kind = choice_kind::FiveShuffled;
   problem.Right(5, "There are no numbers of this kind.");  // longer than a line: it may break
-  EXPECT_EQ(ConclusionText(problem), R"(The answer is \yThere are no numbers of this kind.\z.)");
+  EXPECT_EQ(ConclusionText(problem), R"(The answer is \yThere are no numbers of this kind.\z)");
 }
 
 }  // namespace

@@ -18,8 +18,8 @@ void Show(const std::string& math, double col = kMathCol);
 // rows 2 to 23, is an author's error and stops the program.
 void ShowAt(double row, const std::string& math, double col = kMathCol);
 
-// The last sentence of an explanation: the true answer, and behind "None of the above" also that it
-// is not among the choices.
+// The last sentence of an explanation: the true answer, and where "None of the above" was a box and
+// right, also that it is not among the choices.
 void Conclude(const Problem& problem);
 void ConcludeAt(double row, const Problem& problem);
 

@@ -145,12 +145,15 @@ std::string LastWords(const std::vector<PageText>& pages) {
 
 }  // namespace
 
-std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& problem) {
+std::string MissingAtEnd(const std::vector<PageText>& pages, const Problem& problem, int entry) {
   if (pages.empty()) return "it has no page";
-  const bool none = problem.correct == 5 && course::HasNoneOfTheAbove(problem.kind);
+  const bool hidden = problem.correct == 5 && course::HasNoneOfTheAbove(problem.kind);
+  const bool none = hidden && entry != mode::Example;
   const std::string truth =
       Comparable(problem.choices.at(static_cast<std::size_t>(problem.correct)).text);
   const std::string last = LastWords(pages);
+  if (hidden && !none && last.find(course::kNoneOfTheAbove) != std::string::npos)
+    return "it speaks of " + Quoted(course::kNoneOfTheAbove) + ", and an example has no boxes";
   const std::string whole = pages.back().Whole();
   // With "None of the above" the true answer stands before the last words.
   if (!ContainsAsWords(none ? whole : last, truth))
@@ -249,7 +252,7 @@ void PageChecker::CheckEnd(int entry, int seed, std::vector<PageText> pages,
   } else if (!mistakes.lines.empty()) {
     complain("page of mistakes: there is to be none");
   }
-  const std::string missing = MissingAtEnd(pages, drawn_.problem);
+  const std::string missing = MissingAtEnd(pages, drawn_.problem, entry);
   if (!missing.empty()) complain("explanation: " + missing);
   for (const std::string& fault :
        FigureFaultsOfExplanation(pages, drawn_.problem, FigureAtEnd(seed, pages)))

@@ -15,6 +15,7 @@
 #include "lesson_check/pages/page_reader.h"
 #include "lesson_check/pages/page_style.h"
 #include "lesson_check/pages/page_text.h"
+#include "session/session.h"
 
 namespace lesson_check {
 
@@ -63,8 +64,9 @@ class PageChecker {
   long pagesRead_ = 0;
 };
 
-// Whether the last pages before the page of mistakes end at the right choice's text.  "" when they
-// do, what is missing when not.
-std::string MissingAtEnd(const std::vector<PageText>& pages, const course::Problem& problem);
+// Whether the last pages before the page of mistakes end at the right choice's text, in an example
+// without a word of boxes.  "" when they do, what is missing when not.
+std::string MissingAtEnd(const std::vector<PageText>& pages, const course::Problem& problem,
+                         int entry = course::mode::Explanation);
 
 }  // namespace lesson_check

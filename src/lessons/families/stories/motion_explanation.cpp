@@ -247,7 +247,7 @@ std::string MotionExplanation::DistanceCheck() const {
 void MotionExplanation::TellAnswer() {
   const std::string text = motion_.ValueText(motion_.Answer());
   SayInBoxAnew(R"(The answer is:  \r)" + text + R"(\z)");
-  if (RightIsHidden(problem_))
+  if (EndsAtNone(problem_))
     SayInBox(std::string(R"(It is not among the choices, so the right one is \r)") +
              kNoneOfTheAbove + R"(\z.)");
   else

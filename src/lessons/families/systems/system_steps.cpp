@@ -85,6 +85,7 @@ void TryPairInBox(const LinearEquation& equation, int x, int y) {
 void ConcludeSystem(const Problem& problem, const LinearSystem& system, double row) {
   if (system.Class() == SystemClass::OneSolution) return ConcludeAt(row, problem);
   SayAt(row, SolutionSentence(system.Class()));
+  if (!EndsAtNone(problem)) return;
   Say("This is not among the choices:");
   AddLine(kNoneOfTheAbove);
 }
