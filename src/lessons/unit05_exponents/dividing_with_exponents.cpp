@@ -36,7 +36,7 @@ void FactorsCancel() {
   PageEnd();
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "c^7^ " + tutor::Divided + " c^3^"));
   PageEnd();
-  Say(Text(R"(3 of the 7 factors c cancel, and 7 - 3 = 4 are left:  \y{}\z)", "c^4^"));
+  Say(Text(R"(3 of the 7 factors c cancel, and {} are left:  \y{}\z)", "7 - 3 = 4", "c^4^"));
   Say(R"(The base \ystays\z, and the exponents are \ysubtracted\z.)");
   PageEnd();
 }
@@ -89,9 +89,9 @@ void MoreFactorsBelow() {
 
 void NumbersInFront() {
   NewScreen();
-  SayAt(3, "Numbers in front are divided as numbers are:");
-  ShowAt(6.3, "12x^7^/(4x^2^) = 12/4 " + tutor::Dot + R"( x^7^/x^2^ = \y3x^5^\z)", kExpressionCol);
-  SayAt(8.5, "12 " + tutor::Divided + " 4 = 3,  and 7 - 2 = 5.", {.col = kExpressionCol});
+  SayAt(3, "Numbers in front are simply divided:");
+  ShowAt(5.5, "12x^7^/(4x^2^) = 12/4 " + tutor::Dot + R"( x^7^/x^2^ = \y3x^5^\z)", kExpressionCol);
+  SayAt(8, "12 " + tutor::Divided + " 4 = 3,  and 7 - 2 = 5.", {.col = kExpressionCol});
   PageEnd();
   Say(R"(\yWatch out:\z  The numbers are \ydivided\z.  Only the exponents are subtracted:)");
   PaperBox({"12x^7^ " + tutor::Divided + R"( (4x^2^) = 3x^5^,  \rnot 8x^5^\z)"});
@@ -99,7 +99,7 @@ void NumbersInFront() {
   Say(R"(\yTry it:\z  Simplify this fraction:)");
   Show("10c^6^/(2c^5^)", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= \y5c\z)", kExpressionCol + 6);
+  ShowAt(NextRow() - 2.5, R"(= \y5c\z)", kExpressionCol + 5);
   GoBelow();
   Say(Text("{} = 5, and {}.", "10 " + tutor::Divided + " 2", "c^6-5^ = c^1^ = c"));
   PageEnd();
@@ -107,10 +107,10 @@ void NumbersInFront() {
 
 void TwoLettersApart() {
   NewScreen();
-  SayAt(3, "With two letters, we make a fraction of each letter:");
-  ShowAt(6.2, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
+  SayAt(3, "Each letter has a fraction of its own:");
+  ShowAt(5.5, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
   PageEnd();
-  constexpr double kFactorsRow = 8.3;
+  constexpr double kFactorsRow = 7.9;
   const FactorFraction first(kFactorsRow, kExpressionCol + 2, {"x", 4}, {"x", 3});
   ShowAt(kFactorsRow + 0.8, "=", kExpressionCol);
   ShowAt(kFactorsRow + 0.8, tutor::Dot, first.ColumnBehind() + 1);
@@ -127,7 +127,7 @@ void TwoLettersApart() {
   Say(R"(\yTry it:\z  Simplify this fraction:)");
   Show("p^2^q^7^/(p^6^q^4^)", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= \yq^3^\z/\yp^4^\z)", kExpressionCol + 6);
+  ShowAt(NextRow() - 2.5, R"(= \yq^3^\z/\yp^4^\z)", kExpressionCol + 5);
   GoBelow();
   Say("6 - 2 = 4 factors p are left below, and 7 - 4 = 3 factors q above.");
   PageEnd();
@@ -182,12 +182,10 @@ void NegativeExponents() {
   Say(R"(\yTry it:\z  Write this fraction first with, then without a fraction bar:)");
   Show("x^3^y^0^/x^7^", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= x^3^/x^7^ = \y1\z/\yx^4^\z = \yx^-4^\z)", kExpressionCol + 6);
+  ShowAt(NextRow() - 2.5, R"(= x^3^/x^7^ = \y1\z/\yx^4^\z = \yx^-4^\z)", kExpressionCol + 5);
   GoBelow();
-  Say(
-      Text("{} is a factor 1.  7 - 3 = 4 factors are left below.  In the exponent 3 comes first: "
-           "3 - 7 = -4.",
-           "y^0^"));
+  Say(Text("{} is a factor 1.  7 - 3 = 4 factors are left below.  By the rule the exponent is {}.",
+           "y^0^", "3 - 7 = -4"));
   PageEnd();
 }
 

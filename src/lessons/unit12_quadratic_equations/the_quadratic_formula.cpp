@@ -20,6 +20,9 @@ using Roots = std::optional<RootPair>;
 
 const Quadratic kRationalExample = {1, -5, -6};
 const Quadratic kRadicalExample = {2, -4, -3};
+const Quadratic kDoubleRootExample = {4, 4, 1};
+
+const std::string kTimes = tutor::Gap + tutor::Dot + tutor::Gap;
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -116,15 +119,11 @@ void NameTheFormula() {
 
 void RationalRoots() {
   SolveWithFormula(kRationalExample, Asked::Discriminant);
-  const std::string times = tutor::Gap + tutor::Dot + tutor::Gap;
   NewScreen();
   ShowAt(5, "Solve:  " + EquationText(kRationalExample));
-  SayAt(7.5, R"(The solutions are called \croots\z.  We check 6 and put it in for x:)");
-  ShowAt(10, "6^2^ - 5" + times + "6 - 6 = 36 - 30 - 6 = 0");
-  SayAt(12, R"(\yTry it:\z  Check -1.)");
-  PageEnd();
-  ShowAt(14, "(-1)^2^ - 5(-1) - 6 = 1 + 5 - 6 = 0");
-  SayAt(16, R"(Both sides are 0, so the roots are \y-1\z and \y6\z.)");
+  SayAt(7.5, R"(The solutions are called \croots\z.  Each of them makes the left side 0:)");
+  ShowAt(10.5, "6^2^ - 5" + kTimes + "6 - 6 = 36 - 30 - 6 = 0");
+  ShowAt(12.5, "(-1)^2^ - 5(-1) - 6 = 1 + 5 - 6 = 0");
   PageEnd();
 }
 
@@ -146,6 +145,32 @@ void NegativeLeadingTerm() {
                    R"(\y{}\z stays:)",
                    both));
   ShowRoots("  x = ", *RootsOf(-4, 20, -2));
+  PageEnd();
+}
+
+// No term with x, and a discriminant of 0.
+void OneValueIsZero() {
+  const std::string both = tutor::PlusOrMinus;
+  const std::string root = tutor::SquareRoot;
+  NewScreen();
+  ShowAt(5, "Solve:  " + EquationText({2, 0, -6}));
+  SayAt(7, "There is no term with x, so b is 0:");
+  ShowAt(10, "x = (0 " + both + " `0^2^ - 4" + kTimes + "2" + kTimes + "(-6)`)/(2" + kTimes + "2)");
+  SayAt(12.5, R"(\yTry it:\z  Find the discriminant.)");
+  PageEnd();
+  SayAt(14.5, Text("0 - (-48) = 48 is {}, and 4/4 is 1:", "4^2^" + kTimes + "3"));
+  ShowAt(17.5, "x = (" + both + root + "48)/4 = (" + both + "4" + root + R"(3)/4 = \y)" + both +
+                   root + R"(3\z)");
+  SayAt(20,
+        Text(R"(\yTry it:\z  What is the discriminant of {}?)", EquationText(kDoubleRootExample)));
+  PageEnd();
+
+  NewScreen();
+  ShowAt(5, "Solve:  " + EquationText(kDoubleRootExample));
+  ShowAt(8.5, "x = (-4 " + both + " `4^2^ - 4" + kTimes + "4" + kTimes + "1`)/(2" + kTimes +
+                  "4) = (-4 " + both + " " + root + "0)/8");
+  SayAt(11.5, R"(16 - 16 = 0.  \y+ 0\z and \y- 0\z are the same:)");
+  ShowAt(14.5, R"(x = (-4)/8 = \y-1\z/\y2\z,  the only root)");
   PageEnd();
 }
 
@@ -172,32 +197,28 @@ void PrintInTable(int cell, const std::string& text, platform::Colour colour) {
   picPrintCellPrint(cell, text, colour, kSize);
 }
 
-// The equation and its discriminant come into the table, and the formula asks below it.
-void AskRoots(int row, const std::string& equation, const std::string& discriminant,
-              const std::string& words, const std::string& formula) {
+void FillRow(int row, const std::string& equation, const std::string& discriminant) {
   const int cell = 3 * row - 2;
   PrintInTable(cell, equation, platform::colour::Black);
   PrintInTable(cell + 1, discriminant, platform::colour::Black);
-  ClearBelow(12);
-  SayAt(12, words);
-  ShowAt(16, "x = " + formula);
-  PageEnd();
-  PrintInTable(cell + 2, row == 1 ? "two" : row == 2 ? "one" : "none", platform::colour::Blue);
+}
+void CountRoots(int row, const std::string& roots) {
+  PrintInTable(3 * row, roots, platform::colour::Blue);
 }
 
 void TheDiscriminant() {
-  const std::string both = " " + tutor::PlusOrMinus + " ";
   NewScreen();
   SayAt(3, R"(The \cdiscriminant\z tells how many real roots there are:)");
   CellTable(DiscriminantTable(), 5.5);
-  AskRoots(1, "x^2^ - 5x + 6 = 0", "25 - 24 = 1", "How many roots does the formula give?",
-           "(5" + both + "1)/2");
-  AskRoots(2, "x^2^ - 6x + 9 = 0", "36 - 36 = 0",
-           "5 + 1 and 5 - 1 differ, so there are two roots.  How many are there now?",
-           "(6" + both + "0)/2");
-  AskRoots(3, "x^2^ + 2x + 5 = 0", "4 - 20 = -16",
-           "6 + 0 and 6 - 0 are the same, so there is one root.  How many are there now?",
-           "(-2" + both + "`-16`)/2");
+  FillRow(1, "x^2^ - 5x - 6 = 0", "25 + 24 = 49");
+  CountRoots(1, "two");
+  FillRow(2, "4x^2^ + 4x + 1 = 0", "16 - 16 = 0");
+  CountRoots(2, "one");
+  FillRow(3, "x^2^ + 2x + 5 = 0", "4 - 20 = -16");
+  SayAt(12, R"(\yTry it:\z  What about the last equation?)");
+  ShowAt(15, "x = (-2 " + tutor::PlusOrMinus + " `-16`)/2");
+  PageEnd();
+  CountRoots(3, "none");
   ClearBelow(12);
   SayAt(12, R"(4(4) and (-4)(-4) are 16.  No \creal number\z, that is, no number on the number )"
             "line, times itself is -16.");
@@ -217,7 +238,7 @@ class TheQuadraticFormula final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{StandardForm, CompleteTheSquare, TakeTheRoot, NameTheFormula},
-            {RationalRoots, RadicalRoots, NegativeLeadingTerm},
+            {RationalRoots, RadicalRoots, NegativeLeadingTerm, OneValueIsZero},
             {TheDiscriminant}};
   }
   void DrawProblem(RandomStream& random) override;

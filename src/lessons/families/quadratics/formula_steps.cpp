@@ -275,11 +275,12 @@ void FormulaSteps::SimplifyRadical() const {
   }
   const std::string outside = NumStr(root.outside);
   const std::string radicand = outside + "^2^" + kTimes + NumStr(root.radicand);
-  SayAt(14, Text(R"({} is {}, so \y{}\z can leave the radical.)", discriminant, radicand, outside));
-  constexpr double kRow = 16.5;
+  SayAt(14.5,
+        Text(R"({} is {}, so \y{}\z can leave the radical.)", discriminant, radicand, outside));
+  constexpr double kRow = 17;
   const std::string line = sign + " = `" + radicand + "`";
   ShowAt(kRow, line);
-  PageEnd();
+  if (asked_ == Asked::Nothing) PageEnd();
   // A copy of the number under the radical goes to the end of the line.
   const auto width = static_cast<double>(outside.size());
   const double start = 3 + StackedTextWidth(sign + " = ") + 1;
@@ -288,7 +289,7 @@ void FormulaSteps::SimplifyRadical() const {
   SlideRight({kRow + 1.5, start, width}, end - start);
   SlideUp({kRow + 1.5, end, width}, 1.5);
   ShowAt(kRow, line + " = " + RadicalText(root));
-  ShowAt(19.5, Unreduced(RadicalText(root)));
+  ShowAt(20, Unreduced(RadicalText(root)));
   PageEnd();
 }
 
