@@ -147,11 +147,12 @@ void SumAboveOne() {
   Say("We add the numerators:");
   Show("25/30 + 21/30 = (25 + 21)/30 = 46/30");
   PageEnd();
-  Say(R"(We \creduce\z to lowest terms: divide by 2.)");
-  ShowAt(20.5, "46/30 = 23/15");
+  Say(R"(We \creduce\z to lowest terms: strike out 2.)");
+  ShowReduced(46, 30, 2);
   PageEnd();
-  ShowAt(20.5, "46/30 = 23/15 = 1 8/15");
-  Say(R"(The sum is a \cmixed number\z: 23 = 15 + 8.)");
+  ShowAt(NextRow() - 2.5, "= 1 8/15", 22);
+  GoBelow();
+  AddLine(R"(The sum is a \cmixed number\z: 23 = 15 + 8.)");
   PageEnd();
 }
 
@@ -363,8 +364,8 @@ void AddingFractions::ExplainLowestTerms() {
     Say(Text("None of the primes of {} goes into {}.  So the sum is in lowest terms.",
              Denominator(), numerator));
   } else {
-    Say(Text("{} goes into both, so we reduce:", common));
-    Show(UnreducedSum() + " = " + ValueText(sum));
+    Say(Text("{} goes into both, so we strike it out:", common));
+    ShowReduced(numerator, Denominator(), common);
   }
   PageEnd();
   if (sum.num < sum.den) return;

@@ -3,7 +3,10 @@
 #include <algorithm>
 
 #include "display/drawing.h"
+#include "display/stacked_text.h"
 #include "engine/choices.h"
+#include "lessons/page/say.h"
+#include "lessons/page/show.h"
 #include "mathkit/expressions.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
@@ -13,6 +16,13 @@ namespace {
 
 // Rows by which letters stand below the top of their cells: a strip stands among text as a line.
 constexpr double kTextDrop = 0.2;
+
+void Strike(double row, double col, int cells) {
+  constexpr double kRows = 0.34;
+  constexpr double kCols = 0.45;
+  isDrawDiagonalLineWithColor(row + kRows, col - kCols, row - kRows, col + cells - 1 + kCols, 2,
+                              platform::colour::Yellow);
+}
 
 }  // namespace
 
@@ -68,6 +78,24 @@ std::string RenamedLine(const Fraction& f, int den) {
   return OverText(f) + " = " +
          FractionOfTexts("(" + NumStr(f.num) + factor + ")", "(" + NumStr(f.den) + factor + ")") +
          " = " + OverText(RenamedNumerator(f, den), den);
+}
+
+void ShowReduced(int num, int den, int common) {
+  const std::string whole = OverText(num, den) + " = ";
+  const std::string above = ProductText({num / common, common});
+  const std::string below = ProductText({den / common, common});
+  page::Show(whole + FractionOfTexts("(" + above + ")", "(" + below + ")") + " = " +
+             OverText(num / common, den / common));
+  const double row = page::NextRow() - 2.5;  // of the bar
+  const int digits = static_cast<int>(NumStr(common).size());
+  const double start = page::kMathCol + StackedTextWidth(whole);
+  const std::size_t width = std::max(above.size(), below.size());
+  const auto strike = [&](double part, const std::string& text) {
+    const double indent = static_cast<double>(width - text.size()) / 2;
+    Strike(part, start + indent + static_cast<double>(text.size()) - digits, digits);
+  };
+  strike(row - 1, above);
+  strike(row + 1, below);
 }
 
 void FillFractionChoices(Problem& problem, const Fraction& right,
