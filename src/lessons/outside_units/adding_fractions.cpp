@@ -150,7 +150,7 @@ void SumAboveOne() {
   Say(R"(We \creduce\z to lowest terms: strike out 2.)");
   ShowReduced(46, 30, 2);
   PageEnd();
-  ShowAt(NextRow() - 2.5, "= 1 8/15", 22);
+  ShowAt(NextRow() - 2.5, "= 1 8/15", 20);
   GoBelow();
   AddLine(R"(The sum is a \cmixed number\z: 23 = 15 + 8.)");
   PageEnd();
