@@ -142,7 +142,7 @@ void ExponentZero() {
   SayAt(10, R"(\yTry it:\z  What stands under  )" + Text("{}?", "2^0^"));
   PageEnd();
   FillCells(10, {"1"}, platform::colour::Blue);
-  Say("2 " + tutor::Divided + " 2 = 1.  The rule says the same:");
+  Say("2 " + tutor::Divided + " 2 = 1.  The rule gives an exponent 0, too:");
   Show(R"(x^4^/x^4^ = x^4-4^ = \yx^0^\z)", kExpressionCol);
   PageEnd();
   Say(R"(A number divided by itself is 1.  So  \y)" +
@@ -161,7 +161,8 @@ void NegativeExponents() {
   FillCells(7, {"8", "4", "2", "1"});
   PageEnd();
   FillCells(11, {"1/2", "1/4"}, platform::colour::Blue);
-  SayAt(8.5, "Half of 1 is 1/2, and half of 1/2 is 1/4.  To see why, we write out factors:");
+  SayAt(8.5,
+        Text("Half of 1 is 1/2, and half of 1/2 is 1/4.  Why is {} a fraction?  Look:", "2^-2^"));
   ShowAt(kFactorsRow + 0.8, "k^2^/k^5^ =", kExpressionCol);
   const FactorFraction fraction(kFactorsRow, 10, {"k", 2}, {"k", 5});
   fraction.Cancel();
