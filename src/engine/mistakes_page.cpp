@@ -21,6 +21,7 @@ namespace {
 
 constexpr double kFirstRow = 5;  // below the banner
 constexpr double kLastRow = 23;
+constexpr double kRoom = kLastRow - kFirstRow + 1;
 constexpr int kScreenColumns = 40;
 constexpr int kMathCol = 3;
 constexpr int kWidestBeside = 18;  // cells of a value that leaves room for a sentence beside it
@@ -100,10 +101,12 @@ class MistakesPage {
     if (!problem.figure.empty()) question_.clear();
   }
 
+  // Without question and figure.
+  bool Fits() const { return Rows(0) - figure_.rows - RowsOfQuestions() <= kRoom; }
+
   // The question stands above the sentences, and a row between them, if there is room for it;
   // otherwise its mathematics alone, or nothing of it; and the figure goes at last.
   void Draw() {
-    constexpr double kRoom = kLastRow - kFirstRow + 1;
     const auto words = [](const std::string& line) { return !IsMath(line); };
     for (const Shown shown : {Shown::Question, Shown::Mathematics, Shown::Nothing}) {
       if (shown == Shown::Mathematics) std::erase_if(question_, words);
@@ -169,10 +172,13 @@ class MistakesPage {
   }
   int LastColBeside() const { return ValueColumn() - kColumnGap; }
 
-  double Rows(double air) const {
-    double rows = air * static_cast<double>(told_.size() - 1) + figure_.rows;
+  double RowsOfQuestions() const {
+    double rows = question_.empty() ? 0 : 1;
     for (const std::string& line : question_) rows += RowsOfQuestion(line);
-    if (!question_.empty()) rows += 1;
+    return rows;
+  }
+  double Rows(double air) const {
+    double rows = air * static_cast<double>(told_.size() - 1) + figure_.rows + RowsOfQuestions();
     for (const Told& told : told_) rows += RowsOfTold(told);
     return rows;
   }
@@ -267,14 +273,22 @@ class MistakesPage {
   int valueWidth_ = 0;      // cells of the widest value beside a sentence
 };
 
+void TellOn(MistakesPage page) {
+  page.Draw();
+  PageEnd();
+}
+
 }  // namespace
 
 void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox,
                   const MistakesFigure& figure, bool choicesAreWords) {
   const std::vector<NamedMistake> mistakes = NamedMistakes(problem, order, studentsBox);
   if (mistakes.empty()) return;
-  MistakesPage(problem, mistakes, figure, choicesAreWords).Draw();
-  PageEnd();
+  const MistakesPage whole(problem, mistakes, figure, choicesAreWords);
+  if (whole.Fits()) return TellOn(whole);
+  const auto middle = mistakes.begin() + static_cast<std::ptrdiff_t>((mistakes.size() + 1) / 2);
+  TellOn({problem, {mistakes.begin(), middle}, figure, choicesAreWords});
+  TellOn({problem, {middle, mistakes.end()}, figure, choicesAreWords});
 }
 
 }  // namespace course

@@ -16,8 +16,8 @@ struct MistakesFigure {
 
 // A screen with a sentence for each named mistake, the student's own first, and the wait at its
 // end; nothing when the boxes of the order show none.  studentsBox is 1 to 5, or 0 for none.
-// Choices that are words stand in quotation marks, and someone "chooses" them.  Sentences that
-// leave the screen stop the program.
+// Choices that are words stand in quotation marks, and someone "chooses" them.  More
+// sentences than one screen holds are shared out to two; what leaves these stops the program.
 void TellMistakes(const Problem& problem, const std::vector<int>& order, int studentsBox,
                   const MistakesFigure& figure = {}, bool choicesAreWords = false);
 

@@ -54,12 +54,18 @@ bool IsMistakesPage(const PageText& page) {
 }
 
 PageText TakeMistakesPage(std::vector<PageText>& explanation) {
-  PageText page;
+  PageText all;
+  std::vector<std::string> after;  // the end of an explanation may show its last page twice
   while (!explanation.empty() && IsMistakesPage(explanation.back())) {
-    page = explanation.back();
+    const PageText& page = explanation.back();
+    if (page.lines != after) {
+      all.lines.insert(all.lines.begin(), page.lines.begin(), page.lines.end());
+      all.panels.insert(all.panels.begin(), page.panels.begin(), page.panels.end());
+    }
+    after = page.lines;
     explanation.pop_back();
   }
-  return page;
+  return all;
 }
 
 std::string FaultOfMistakesPage(const PageText& page,

@@ -12,7 +12,7 @@ namespace lesson_check {
 // Whether a page tells of mistakes in the words of the frame.
 bool IsMistakesPage(const PageText& page);
 
-// Takes the pages that tell of mistakes from the end of an explanation; the last one of them, or an
+// Takes the pages that tell of mistakes from the end of an explanation: all that they show, or an
 // empty page when there is none.
 PageText TakeMistakesPage(std::vector<PageText>& explanation);
 
