@@ -1,4 +1,5 @@
 // Two ages compared in times or years: the other one, as a number or as an expression.
+#include <map>
 #include <regex>
 
 #include "lesson_check/exact/notation.h"
@@ -69,17 +70,25 @@ std::string AgeText(const Story& story, bool larger, bool inTimes) {
   return CutToThousandths(age).Text();
 }
 
+// Fewer years than are to be taken away leave no age: then the difference is another mistake.
+std::map<std::string, std::vector<std::string>> MistakesIn(const Story& story, bool larger) {
+  const std::string mixed = "mixes up who is older";
+  const std::string word = story.inTimes ? "reads times as years" : "reads years as times";
+  const std::string turned = "subtracts the smaller number from the larger one";
+  const bool noAge = larger && story.asksForFirst && ValueOf(story.known).Number() < story.number;
+  return {{noAge && !story.inTimes ? turned : mixed, {AgeText(story, !larger, story.inTimes)}},
+          {word, {AgeText(story, larger, !story.inTimes)}},
+          {noAge && story.inTimes ? turned : word + " and " + mixed,
+           {AgeText(story, !larger, !story.inTimes)}}};
+}
+
 Reading ReadAges(const course::Problem& problem) {
   const Story story = ReadStory(problem);
   const bool larger = story.asksForFirst == story.firstIsOlder;
   Reading reading;
   reading.answer = AgeText(story, larger, story.inTimes);
   reading.value = [](const std::string& choice) { return ReadAge(choice).Text(); };
-  const std::string mixed = "mixes up who is older";
-  const std::string word = story.inTimes ? "reads times as years" : "reads years as times";
-  reading.mistakes = {{mixed, {AgeText(story, !larger, story.inTimes)}},
-                      {word, {AgeText(story, larger, !story.inTimes)}},
-                      {word + " and " + mixed, {AgeText(story, !larger, !story.inTimes)}}};
+  reading.mistakes = MistakesIn(story, larger);
   reading.kind = std::string(story.asksForFirst ? "a number" : "an expression") +
                  (story.inTimes ? ", times " : ", years ") +
                  (story.firstIsOlder ? "older" : "younger");
