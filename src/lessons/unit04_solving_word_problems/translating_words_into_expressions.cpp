@@ -7,6 +7,7 @@
 #include "lessons/families/stories/nest_draws.h"
 #include "lessons/families/stories/nest_steps.h"
 #include "lessons/families/stories/paired_rows.h"
+#include "lessons/families/stories/story_words.h"
 #include "lessons/families/stories/worded_nest.h"
 #include "lessons/lesson.h"
 
@@ -33,16 +34,11 @@ void ShowWays(double row, std::initializer_list<Way> ways) {
 
 void SumInWords() {
   NewScreen();
-  SayAt(3, "Algebra is a language of its own.  How do we write these words in it?");
-  ShowAt(6, "the sum of A and 5", 10);
-  SayAt(8, "Which word tells us what to do?");
-  PageEnd();
-  ClearBelow(8);
+  SayAt(3, "Algebra is a language of its own:");
   ShowAt(6, R"(the \ysum\z of A and 5)", 10);
   ShowWays(6, {{21, 21}, {27, 27}});
   ShowAt(9, R"(A  \y+\z  5)", 21);
-  SayAt(11, R"(The word ~sum~ tells us to add.  Letters, numbers and signs like these make an )"
-            R"(\calgebraic expression\z.)");
+  SayAt(11, R"(The word \ysum\z tells us to add.)");
   PageEnd();
 }
 
@@ -53,11 +49,12 @@ void WordsForAddition() {
            4.5);
   PageEnd();
   Say(R"(\cThe quantity\z means:  here begins a number that is still to be worked out.)");
-  Say(R"(\yTry it:\z  What is the expression?)");
+  Say(R"(\yTry it:\z  What do we write for this?)");
   Show("the quantity B more than 7", 5);
   PageEnd();
-  Show(R"(\yB + 7\z)", 5);
-  Say("7 + B is the same number.  In a sum the order does not matter.  Where does it matter?");
+  Say(Text(R"(We write B + 7, an \calgebraic expression\z.  In a sum the order does not matter:  )"
+           "{} is the same number.  Where does it matter?",
+           "7 + B"));
   PageEnd();
 }
 
@@ -128,9 +125,8 @@ void FactorAtTheRightSide() {
   SayAt(3,
         "A school has 6 times as many students as teachers.  S is the number of students, and T "
         "that of teachers.  Which is true?");
-  ShowAt(8, "S = 6" + kDot + "T     or     6" + kDot + "S = T", 6);
+  ShowAt(7.5, "S = 6" + kDot + "T     or     6" + kDot + "S = T", 6);
   PageEnd();
-  SayAt(9.5, "Let us try some numbers:");
   ShowPairedRows("teachers T", "students S");
   FillPair(1, "1", "6");
   FillPair(2, "2", "12");
@@ -138,6 +134,9 @@ void FactorAtTheRightSide() {
   FillPair(4, "T", "6" + kDot + "T");
   Say("The 6 stands beside the smaller number.");
   PaperBox({"S = 6" + kDot + "T,  \\rnot 6" + kDot + "S = T\\z"});
+  Say(R"(\yTry it:\z  Bill has B books.  Jill has 5 times as many.  How many is that?)");
+  PageEnd();
+  Say(Text(R"(Jill has more.  The 5 stands beside B:  \y{}\z.)", "5" + kDot + "B"));
   PageEnd();
 }
 
@@ -157,61 +156,55 @@ void QuotientInWords() {
 
 void WordsForDivision() {
   NewScreen();
-  SayAt(3, Text("Other words for {} are:", "A" + kDivide + "8"));
-  PaperBox({"the quotient of A and 8", "the ratio of A to 8", "the quantity A divided by 8"}, 4.5);
+  SayAt(3, "The quotient of A and 8 is also:");
+  PaperBox({"the ratio of A to 8", "the quantity A divided by 8"}, 4.5);
+  ShowAt(9, R"(\yTry it:\z  the ratio of B to 4)", 1);
   PageEnd();
-  SayAt(10, R"(\yTry it:\z  What is the expression?)");
-  ShowAt(12, "the ratio of B to 4", 8);
-  PageEnd();
-  ShowWays(12, {{21, 21}, {26, 26}});
-  ShowAt(15, Text(R"(B \y{}\z 4)", tutor::Gap + tutor::Divided), 21);
-  SayAt(17, "B comes first in the words, and so it is divided.");
+  ShowWays(9, {{23, 23}, {28, 28}});
+  ShowAt(12, Text(R"(B \y{}\z 4)", tutor::Gap + tutor::Divided), 23);
+  SayAt(14, "B comes first in the words, and so it is divided.");
   PageEnd();
 }
 
 // --- Screen 5: one part inside another
 
-// The part in the words is replaced by its expression, in its place.
 void PartOfTheWords() {
+  const std::string times = " " + tutor::Times + " ";
   NewScreen();
-  SayAt(3, "A part of the words can be an expression by itself:");
+  SayAt(3, "A part can be an expression by itself:");
   ShowAt(5.5, "the product of the sum of A and B and C", 1);
   SayAt(7.5, "What is multiplied by C?");
   PageEnd();
   Bracket(6.25, 16, 18, 2, 1);
-  SayAt(7.5,
-        R"(The \ysum of A and B\z.  The sum takes two numbers, and the first ~and~ is its own:)");
-  ShowAt(11, R"(the product of      \y(A + B)\z      and C)", 1);
-  ShowAt(13, "(A + B)" + kDot + "C", 14);
+  SayAt(7.5, R"(The \ysum of A and B\z.  There the sum has its two numbers, and it ends:)");
+  ShowAt(10.5, "(A + B)" + kDot + "C", 14);
+  SayAt(12.5, R"(\yTry it:\z  Put in A = 2, B = 3, C = 4.)");
   PageEnd();
-  SayAt(15, Text(R"(\yTry it:\z  A is 2, B is 3 and C is 4.  What is {} worth?  And {}?)",
-                 "(A + B)" + kDot + "C", "A + (B" + kDot + "C)"));
-  PageEnd();
-  const std::string times = " " + tutor::Times + " ";
-  ShowAt(19, "(2 + 3)" + times + "4 = 5" + times + "4 = 20", 6);
-  ShowAt(20, "2 + (3" + times + "4) = 2 + 12 = 14", 6);
-  SayAt(21.5, "So the words tell where the parentheses stand.");
+  ShowAt(14.5, "(2 + 3)" + times + "4 = 5" + times + "4 = 20", 6);
+  SayAt(16.5, Text("With {} it is another number:", "A + (B" + kDot + "C)"));
+  ShowAt(18.5, "2 + (3" + times + "4) = 2 + 12 = 14", 6);
+  SayAt(20.5, "The words tell where to put parentheses.");
   PageEnd();
 }
 
-void QuantityOpensAPart() {
+void PartInAPart() {
   NewScreen();
-  SayAt(3, "Each ~the~ opens a new part.");
-  SayAt(5.5, R"(\yTry it:\z  Which is the innermost part?)");
-  ShowAt(7.5, "the quantity D minus", 4);
-  ShowAt(8.5, "the quantity A times B", 8);
+  SayAt(3, R"(Each ~the~ opens a new part.  A part ends when it has its \ytwo numbers\z.)");
+  SayAt(6, R"(\yTry it:\z  Which is the innermost part?)");
+  ShowAt(8, "the quantity D minus the sum of A and B", 1);
   PageEnd();
-  ShowAt(8.5, R"(\ythe quantity A times B\z)", 8);
-  SayAt(10, "It has no other part in it.  Its expression takes its place:");
-  ShowAt(12, Text(R"(the quantity D minus \y{}\z)", "(A" + kDot + "B)"), 4);
+  ShowAt(8, R"(the quantity D minus \ythe sum of A and B\z)", 1);
+  SayAt(9.5, "It has no other part in it.  Its expression takes its place:");
+  ShowAt(12, R"(the quantity D minus \y(A + B)\z)", 1);
   SayAt(13.5, "What is the whole expression?");
   PageEnd();
-  ShowAt(15, "D - (A" + kDot + "B)", 12);
-  SayAt(17, "Around parentheses we write brackets:");
-  ShowAt(19, "the ratio of [D - (A" + kDot + "B)] to 4", 4);
-  SayAt(21, "What is the whole expression?");
+  ShowAt(13.5, R"(It is \yD - (A + B)\z.                    )", 1);
+  SayAt(15, "Now the ratio of the quantity D minus the sum of A and B to 4:");
+  SayAt(17.5, "What is divided by 4?");
   PageEnd();
-  ShowAt(23, R"(\y[D - (A)" + kDot + "B)]" + kDivide + R"(4\z)", 12);
+  SayAt(17.5, R"(All of \yD - (A + B)\z.  We put brackets there:)");
+  ShowAt(20, "the ratio of [D - (A + B)] to 4", 1);
+  ShowAt(22, R"(\y[D - (A + B)])" + kDivide + R"(4\z)", 12);
   PageEnd();
 }
 
@@ -228,21 +221,20 @@ void FromSymbolsToWords() {
   ShowAt(10, R"(\ythe difference of C and\z)", 4);
   ShowAt(11, "the product of A and B", 8);
   PageEnd();
-}
-
-void ManyWordsForOne() {
-  NewScreen();
-  SayAt(3, R"(\yWatch out:\z  ~Less than~ turns the order.)");
-  PaperBox({Text("C - (A{}B)  is", kDot), R"(\rnot the quantity C less than ...\z)"});
+  SayAt(13, R"(\yWatch out:\z  With ~less than~, what is taken away is named first.)");
+  PaperBox({Text(R"(\rnot  the quantity C less than {}\z)", "(A" + kDot + "B)")});
   Say(R"(\yTry it:\z  Say (A - 5))" + kDivide + "B in English.");
   PageEnd();
   Say("the quotient of the difference of A and 5 and B", {.col = 3});
-  Say("To check, we translate back:  it is something divided by B.");
+  Say("Check:  it is something divided by B.");
   PageEnd();
+}
+
+void QuantityStandsTwice() {
   NewScreen();
   SayAt(3, "~The quantity~ may stand twice:");
   SayAt(5, "the ratio of the quantity the quantity A plus B times C to 4", {.col = 3});
-  SayAt(8, "What is the innermost part?");
+  SayAt(8, R"(\yTry it:\z  What is the innermost part?)");
   PageEnd();
   SayAt(10.5, "The second one opens the innermost part:");
   SayAt(12, Text(R"(the ratio of the quantity \y{}\z times C to 4)", "(A + B)"), {.col = 3});
@@ -260,9 +252,8 @@ class TranslatingWordsIntoExpressions final : public LessonScript {
   std::vector<Screen> Screens() override {
     return {{SumInWords, WordsForAddition},         {LessThan, WordsForSubtraction},
             {ProductInWords, FactorAtTheRightSide}, {QuotientInWords, WordsForDivision},
-            {PartOfTheWords, QuantityOpensAPart},   {FromSymbolsToWords, ManyWordsForOne}};
+            {PartOfTheWords, PartInAPart},          {FromSymbolsToWords, QuantityStandsTwice}};
   }
-  bool TellsMistakes() const override;
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
@@ -289,21 +280,16 @@ void TranslatingWordsIntoExpressions::DrawProblem(RandomStream& random) {
   const std::string wanted = toAlgebra_ ? "algebraic" : "English";
   problem.question = {
       "What " + wanted + " expression is equivalent to the " + given + " expression below?",
-      toAlgebra_ ? Capitalized(nest_.Words()) : nest_.Symbols()};
+      toAlgebra_ ? AtStart(nest_.Words()) : nest_.Symbols()};
 }
 
 std::string TranslatingWordsIntoExpressions::ChoiceTextOf(const Nest& nest) const {
-  return toAlgebra_ ? nest.Symbols() : Capitalized(nest.Words());
+  return toAlgebra_ ? nest.Symbols() : AtStart(nest.Words());
 }
 
 // An exchange that comes from words such as "less than" has its own name.
 std::string TranslatingWordsIntoExpressions::NameInWords(const NestSlip& slip) const {
-  if (!toAlgebra_ || !slip.name.starts_with("exchanges")) return slip.name;
-  for (std::size_t i = 0; i < nest_.levels.size(); ++i)
-    if (nest_.levels[i].insideFirst != slip.nest.levels[i].insideFirst &&
-        nest_.levels[i].phrase.TurnsOrder())
-      return "keeps the order of the words";
-  return slip.name;
+  return toAlgebra_ && slip.keepsOrderOfWords ? "keeps the order of the words" : slip.name;
 }
 
 // False when two choices are the same or have the same mistake, or the words of one begin twice.
@@ -325,18 +311,6 @@ bool TranslatingWordsIntoExpressions::FillChoices(RandomStream& random) {
     problem.Wrong(i++, name, ChoiceTextOf(slip.nest));
   }
   return true;
-}
-
-// Five long phrases with their mistakes are more than a page holds.
-bool TranslatingWordsIntoExpressions::TellsMistakes() const {
-  constexpr std::size_t kCharactersOfARow = 34;
-  constexpr std::size_t kMostRows = 17;
-  const auto rowsOf = [](std::size_t characters) { return characters / kCharactersOfARow + 1; };
-  std::size_t rows = 2;  // more for the student's own mistake
-  for (const Choice& choice : problem.choices)
-    if (!choice.mistake.empty())
-      rows += rowsOf(choice.mistake.size() + 18) + rowsOf(choice.text.size());
-  return toAlgebra_ || rows <= kMostRows;
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -364,7 +338,9 @@ void TranslatingWordsIntoExpressions::ExplainProblem() {
     ExplainWords(nest_);
   else
     ExplainSymbols(nest_);
-  SayInBoxAnew(ConclusionText(problem, 'b'));
+  if (toAlgebra_) return SayInBoxAnew(ConclusionText(problem, 'b'));
+  SayInBoxAnew("The answer is:");
+  SayInBox(R"(\b)" + RightText(problem) + R"(\z)");
 }
 
 const LessonRegistration<TranslatingWordsIntoExpressions> kRegistration(

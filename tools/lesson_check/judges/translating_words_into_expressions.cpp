@@ -1,5 +1,6 @@
 // Words for an expression, such as "the quantity 3 less than A", and its symbols: both are read
 // into one tree, and are equal when their values are, for any numbers in place of the letters.
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <sstream>
@@ -292,6 +293,12 @@ std::size_t OperationsIn(const Tree& tree) {
   return count;
 }
 
+bool HasOperand(const Tree& tree, std::string_view operand) {
+  return tree.operand == operand || std::ranges::any_of(tree.parts, [&](const Tree& part) {
+           return HasOperand(part, operand);
+         });
+}
+
 Reading ReadWords(const course::Problem& problem) {
   const std::string& asked = problem.question.front();
   const bool toAlgebra =
@@ -309,7 +316,8 @@ Reading ReadWords(const course::Problem& problem) {
   };
   reading.kind =
       std::to_string(OperationsIn(tree)) + " operations " + (toAlgebra ? "in words" : "in symbols");
-  if (given.find(" O ") != std::string::npos) reading.faults.emplace_back("O is read as zero");
+  if (HasOperand(tree, "O")) reading.faults.emplace_back("O is read as zero");
+  if (HasOperand(tree, "I")) reading.faults.emplace_back("I is read as one");
   AddMistakes(tree, reading);
   return reading;
 }

@@ -29,6 +29,7 @@ std::string DrawOperand(const Nest& nest, RandomStream& random) {
     } else {
       operand = random.Letter();
       if (operand == "O") operand = "Z";  // it would be read as zero
+      if (operand == "I") operand = "J";  // and as one, or as a word
     }
   } while (IsTaken(nest, operand));
   return operand;
@@ -69,8 +70,11 @@ std::vector<NestSlip> DrawSlips(const Nest& nest, RandomStream& random) {
   const std::vector<NestSlip> operations = OtherOperations(nest, random);
   slips.push_back(oneOf(operations));
   addBoth(slips.front());
-  if (const std::vector<NestSlip> orders = OtherOrders(nest); !orders.empty())
+  if (std::vector<NestSlip> orders = OtherOrders(nest); !orders.empty()) {
+    if (std::ranges::any_of(orders, &NestSlip::keepsOrderOfWords))
+      std::erase_if(orders, [](const NestSlip& order) { return !order.keepsOrderOfWords; });
     slips.push_back(oneOf(orders));
+  }
   if (nest.levels.size() > 1 && random.Rnd() < kSecondPairShare) addBoth(slips.front());
   while (slips.size() < 4) slips.push_back(oneOf(operations));
   return slips;

@@ -12,7 +12,8 @@ namespace course::stories {
 Nest DrawNest(RandomStream& random);
 // Four slips: another operation, another order, both, and mostly another order beside the same
 // operation.  So the right choice is not the one in the middle that all others differ from at one
-// place.  Some may come to the same.
+// place.  Where there are words such as "less than", the other order is theirs.  Some may come to
+// the same.
 std::vector<NestSlip> DrawSlips(const Nest& nest, RandomStream& random);
 
 }  // namespace course::stories

@@ -1,11 +1,14 @@
 #include "lessons/families/stories/nest_steps.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "engine/page.h"
+#include "lessons/families/stories/story_words.h"
+#include "lessons/families/stories/valued_nest.h"
 #include "lessons/page/boxes.h"
 #include "lessons/page/page_lines.h"
 #include "lessons/page/say.h"
@@ -20,7 +23,8 @@ using namespace page;
 constexpr double kQuestionRow = 4;
 constexpr double kWorkRow = 8.5;
 constexpr double kWorkRows = 4;
-constexpr double kBoxRow = 13.5;
+constexpr double kBoxRow = 12.5;
+constexpr double kBoxRows = 9;
 
 class NestSteps {
  public:
@@ -51,8 +55,8 @@ std::string InYellow(const std::string& text) {
 // A capital behind the colour code that a text may begin with.
 std::string WithCapital(const std::string& text) {
   constexpr std::string_view kCode = R"(\y)";
-  if (!text.starts_with(kCode)) return Capitalized(text);
-  return std::string(kCode) + Capitalized(text.substr(kCode.size()));
+  if (!text.starts_with(kCode)) return AtStart(text);
+  return std::string(kCode) + AtStart(text.substr(kCode.size()));
 }
 
 constexpr std::array<std::string_view, kOperations> kNames = {"addition", "subtraction",
@@ -74,10 +78,10 @@ std::pair<std::string, std::string> OperandsOf(const Nest& nest, std::size_t lev
 }
 
 void NestSteps::ExplainWords() {
-  SayAt(kQuestionRow, Capitalized(nest_.Words()));
+  SayAt(kQuestionRow, AtStart(nest_.Words()));
   PageEnd();
   SayAt(kQuestionRow, WithCapital(nest_.WordsAround(1, InYellow(nest_.Words(1)))));
-  WhiteBox({.row = kBoxRow, .rows = 7});
+  WhiteBox({.row = kBoxRow, .rows = kBoxRows});
   if (nest_.levels.size() > 1)
     SayInBox("We look for the innermost part.  It has no other part in it.");
   SayInBox("Which words tell the operation?");
@@ -116,7 +120,7 @@ void NestSteps::ExplainSymbols() {
   if (nest_.levels.size() > 1)
     highlighted.replace(highlighted.find(innermost), innermost.size(), InYellow(innermost));
   ShowAt(kQuestionRow, highlighted, kMathCol);
-  WhiteBox({.row = kBoxRow, .rows = 7});
+  WhiteBox({.row = kBoxRow, .rows = kBoxRows});
   SayInBox(nest_.levels.size() > 1 ? "We begin inside the parentheses.  Which operation is it?"
                                    : "Which operation is it?");
   PageEnd();
@@ -130,7 +134,7 @@ void NestSteps::ExplainLevelOfSymbols(std::size_t level) {
   SayInBoxAnew(
       Text("It is {}.  We say ~{}~.", Words{NameOf(phrase.operation)}, Words{phrase.KeyWords()}));
   if (phrase.TurnsOrder())
-    SayInBox(Text("Watch out:  they name {} first.", second));
+    SayInBox(Text("Watch out:  {} is taken away.  So it is named first.", second));
   else if (OrderMatters(phrase.operation))
     SayInBox(Text("{} comes first, so it is named first.", first));
   PageEnd();
@@ -146,37 +150,40 @@ void NestSteps::ExplainLevelOfSymbols(std::size_t level) {
   PageEnd();
 }
 
-// Numbers for both operands of the last operation; one that is a number stays.
+// "The sum of 2 and 3 is 5.  The quantity 5 times 4 is 20."
+std::string WordsWorkedOut(const ValuedNest& valued) {
+  std::string text;
+  for (std::size_t level = 0; level < valued.values.size(); ++level)
+    text += (level > 0 ? "  " : "") + AtStart(valued.From(level).Words(1)) + " is" + tutor::Gap +
+            ValueText(valued.values[level]) + ".";
+  return text;
+}
+
+// "(2 + 3) x 4 = 5 x 4 = 20", with multiplication signs between numbers.
+std::string SymbolsWorkedOut(const ValuedNest& valued) {
+  std::string text;
+  for (std::size_t level = 0; level < valued.values.size(); ++level)
+    text += WithoutBreaks(valued.From(level).Symbols()) + " = ";
+  text += ValueText(valued.values.back());
+  std::ranges::replace(text, tutor::Dot[0], tutor::Times[0]);
+  return text;
+}
+
+// Numbers in place of the letters: the words and the symbols must give the same value.
 void NestSteps::CheckWithNumbers() {
-  const std::size_t level = nest_.levels.size() - 1;
-  const Phrase& phrase = nest_.levels[level].phrase;
-  const auto [first, second] = OperandsOf(nest_, level);
-  const auto isNumber = [](const std::string& text) {
-    return text.find_first_not_of("0123456789") == std::string::npos;
-  };
-  int a = 12;
-  int b = 4;
-  std::string say = Text("{} is 12 and {} is 4", first, second);
-  if (isNumber(first)) {
-    a = std::stoi(first);
-    b = 1;
-    say = Text("{} is 1", second);
-  } else if (isNumber(second)) {
-    b = std::stoi(second);
-    a = 3 * b;
-    say = Text("{} is {}", first, a);
+  const ValuedNest valued = WithNumbers(nest_);
+  SayInBoxAnew("Check:  Let us say that " + valued.LettersText() + ".");
+  if (nest_.levels.size() == 1) {
+    const std::string value = ValueText(valued.values[0]);
+    SayInBox(Text("{} is {},  and {}.", Words{AtStart(valued.nest.Words())}, value,
+                  SymbolsWorkedOut(valued)));
+    return PageEnd();
   }
-  constexpr auto kValue = [](Operation operation, int x, int y) {
-    if (operation == Operation::Add) return x + y;
-    if (operation == Operation::Subtract) return x - y;
-    return operation == Operation::Multiply ? x * y : x / y;
-  };
-  const std::string sign =
-      phrase.operation == Operation::Multiply ? tutor::Times : SignOf(phrase.operation);
-  SayInBoxAnew(Text("Check:  Let us say that {}.", Words{say}));
-  SayInBox(Text("{} is {},  and {} = {}.", Words{Capitalized(phrase.Text(NumStr(a), NumStr(b)))},
-                kValue(phrase.operation, a, b), NumStr(a) + " " + sign + " " + NumStr(b),
-                kValue(phrase.operation, a, b)));
+  SayInBox("What do the words give?  And what do the symbols give?");
+  PageEnd();
+  SayInBoxAnew("In words:  " + WordsWorkedOut(valued));
+  PageEnd();
+  SayInBox("In symbols:  " + SymbolsWorkedOut(valued) + ".");
   PageEnd();
 }
 

@@ -243,19 +243,13 @@ std::vector<NestSlip> OtherOrders(const Nest& nest) {
     slip.levels[i].insideFirst = !slip.levels[i].insideFirst;
     slips.push_back({operation == Operation::Subtract ? "exchanges the parts of the difference"
                                                       : "exchanges the parts of the quotient",
-                     slip});
+                     slip, nest.levels[i].phrase.TurnsOrder()});
   }
   for (std::size_t i = 0; i + 1 < nest.levels.size(); ++i) {
     Nest slip = nest;
     if (MoveBrackets(slip, i)) slips.push_back({"puts the brackets in the wrong place", slip});
   }
   return slips;
-}
-
-std::string Capitalized(std::string text) {
-  if (!text.empty())
-    text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
-  return text;
 }
 
 }  // namespace course::stories

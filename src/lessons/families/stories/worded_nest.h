@@ -5,7 +5,6 @@
 // tell the same, whatever is put into each other.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -62,13 +61,11 @@ struct Nest {
 struct NestSlip {
   std::string name;  // of the mistake
   Nest nest;
+  bool keepsOrderOfWords = false;  // an exchange where the words name the second operand first
 };
 // One operation taken for another one, in all ways; the new phrases are drawn.
 std::vector<NestSlip> OtherOperations(const Nest& nest, RandomStream& random);
 // A difference or a quotient the wrong way around, or brackets in another place.
 std::vector<NestSlip> OtherOrders(const Nest& nest);
-
-// "The sum of A and B": a sentence begins with a capital.
-std::string Capitalized(std::string text);
 
 }  // namespace course::stories
