@@ -105,8 +105,9 @@ void NestSteps::ExplainLevelOfWords(std::size_t level) {
   SayInBox("We put it in " + BracketsAround(level) + ".");
   PageEnd();
   const auto [outer, last] = OperandsOf(nest_, level + 1);
-  ShowWork(
-      nest_.WordsAround(level + 2, InYellow(nest_.levels[level + 1].phrase.Text(outer, last))));
+  const std::string around =
+      nest_.levels[level + 1].phrase.Text(WithoutBreaks(outer), WithoutBreaks(last));
+  ShowWork(nest_.WordsAround(level + 2, InYellow(around)));
   SayInBoxAnew(
       Text("Now {} counts as one number.  What is done with it?", nest_.InsideOf(level + 1)));
   PageEnd();
