@@ -52,9 +52,8 @@ void WordsForAddition() {
   Say(R"(\yTry it:\z  What do we write for this?)");
   Show("the quantity B more than 7", 5);
   PageEnd();
-  Say(Text(R"(We write B + 7, an \calgebraic expression\z.  In a sum the order does not matter:  )"
-           "{} is the same number.  Where does it matter?",
-           "7 + B"));
+  Say(R"(B + 7 is an \calgebraic expression\z, with symbols in place of words.)");
+  Say("In a sum, 7 + B is the same number.  Where does the order matter?");
   PageEnd();
 }
 
