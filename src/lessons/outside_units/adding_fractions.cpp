@@ -117,8 +117,8 @@ void LeastCommonDenominators() {
 
   NewScreen();
   SayAt(3, R"(With the LCD we \crename\z both fractions: the same value, the new denominator.)");
-  ShowAt(6, RenamedLine({5, 12}, 36));
-  ShowAt(9.5, RenamedLine({7, 18}, 36));
+  ShowAt(6.5, RenamedLine({5, 12}, 36));
+  ShowAt(10, RenamedLine({7, 18}, 36));
   PageEnd();
   Say("Now we can add the numerators:");
   Show("15/36 + 14/36 = 29/36");

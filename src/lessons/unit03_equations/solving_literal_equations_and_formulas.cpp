@@ -237,11 +237,11 @@ void ProblemWithAFraction() {
   NewScreen();
   SayAt(3, R"(So we isolate a letter step by step, and undo \ylast things first\z.)");
   SayAt(6, R"(\yTry it:\z  Solve for x.)");
-  ShowAt(9, "y = -3/4 x + 5z", 11);
+  ShowAt(8.5, "y = -3/4 x + 5z", 11);
   PageEnd();
-  SayAt(11.5, "We subtract 5z, then we multiply by -4/3, for -4/3 times -3/4 is 1:");
-  ShowAt(15, "y - 5z = -3/4 x", 6);
-  ShowAt(18.5, "x = -4/3 (y - 5z)", 11);
+  SayAt(11, "We subtract 5z, then we multiply by -4/3, for -4/3 times -3/4 is 1:");
+  ShowAt(14.5, "y - 5z = -3/4 x", 6);
+  ShowAt(18, "x = -4/3 (y - 5z)", 11);
   PageEnd();
   SayAt(20.5, R"(\yWatch out:\z  -4/3 keeps its minus sign.)");
   PaperBox({R"(\rx = -4y/3 - 5z\z  leaves 5z as it was.)"}, 22);

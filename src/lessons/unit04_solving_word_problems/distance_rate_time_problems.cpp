@@ -184,7 +184,7 @@ void RateInStillAir() {
   Say("It really goes 110 mph.  Is it slower or faster in still air?");
   PageEnd();
   Say(Text("The wind helped, so in still air it is slower:  {} mph.", "110 - 10 = 100"));
-  Say(R"(\yTry it:\z  What if it went so far against the wind?)");
+  Say(R"(\yTry it:\z  What if it flew that far against the wind?)");
   PageEnd();
   Say(Text("Then it is faster in still air:  {} mph.", "110 + 10 = 120"));
   Say("Check:  120 - 10 = 110, and 110 mph for 2 1/2 hours gives 275 miles.");

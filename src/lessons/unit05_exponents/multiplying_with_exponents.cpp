@@ -96,7 +96,7 @@ void TheRule() {
   SayInBox(" 2^3^ " + tutor::Times + " 2^4^ = 8 " + tutor::Times + " 16 = 128");
   PageEnd();
   SayInBox("The sum 3 + 4 fits, the product does not:");
-  SayInBox(R"( \b2^7^ = 128\z,  but 2^12^ = 4096)");
+  SayInBox(R"( \b2^7^ = 128\z,  but 2^12^ = 4,096)");
   PageEnd();
   SayInBoxAnew(R"(\bTry it:\z  What is k^5^)" + tutor::Dot + "k^3^?");
   PageEnd();
