@@ -5,6 +5,7 @@
 
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
+#include "platform/stop.h"
 
 namespace course::polynomials {
 namespace {
@@ -58,6 +59,16 @@ Sum Product(const Term& factor, const Sum& sum) {
   Sum product;
   for (const Term& term : sum) product.push_back(Product(factor, term));
   return product;
+}
+
+Term Quotient(const Term& term, const Term& divisor) {
+  Term quotient = {divisor.coef == 0 ? 0 : term.coef / divisor.coef, term.letters};
+  for (const char letter : divisor.letters)
+    if (const std::size_t at = quotient.letters.find(letter); at != std::string::npos)
+      quotient.letters.erase(at, 1);
+  if (Product(quotient, divisor) != Product(term, {1, ""}))
+    platform::Stop("Quotient: " + TermText(divisor) + " does not divide " + TermText(term));
+  return quotient;
 }
 
 Sum Combined(const Sum& sum) {

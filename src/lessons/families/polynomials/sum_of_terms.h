@@ -39,6 +39,9 @@ std::string SumText(const Sum& sum);
 Term Product(const Term& a, const Term& b);
 // The factor carried to each term.
 Sum Product(const Term& factor, const Sum& sum);
+// What is left of the coefficient and of the letters; a divisor that is no factor stops the
+// program.
+Term Quotient(const Term& term, const Term& divisor);
 // Like terms added up, what comes to 0 left out, falling powers: two sums are the same value just
 // when these are equal.
 Sum Combined(const Sum& sum);
