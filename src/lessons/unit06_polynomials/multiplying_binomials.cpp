@@ -1,0 +1,406 @@
+// The student can multiply two binomials: multiplies each term of one by each term of the other,
+// First, Outer, Inner, Last, with their signs, and adds the four products.
+//
+// A problem has binomials in two different letters, (pt + q)(ru + s), so that its four products are
+// unlike terms.  The wrong choices have another Outer or Inner product.
+#include "lessons/families/polynomials/foil_table.h"
+#include "lessons/families/polynomials/sum_of_terms.h"
+#include "lessons/lesson.h"
+
+namespace course {
+namespace {
+
+using namespace polynomials;
+
+constexpr std::string_view kFirstLetters = "tuvwxy";  // the second letter is the next one
+constexpr int kLargest = 9;                           // size of a coefficient, and of its change
+constexpr double kExpressionCol = 6;
+constexpr double kPairRow = 5;  // of two binomials above their table
+
+// --- Teaching screens ----------------------------------------------------------------------------
+
+// A rectangle t + 3 wide and u + 2 high, and its four parts as they are moved apart.
+constexpr double kTop = 7;
+constexpr double kLeft = 9;
+constexpr double kLongWidth = 12;  // columns
+constexpr double kShortWidth = 6;
+constexpr double kLongHeight = 2.4;  // rows
+constexpr double kShortHeight = 1.4;
+
+void DrawParts(double apartRows, double apartCols) {
+  const double left[] = {kLeft, kLeft + kLongWidth + apartCols};
+  const double top[] = {kTop, kTop + kLongHeight + apartRows};
+  const double width[] = {kLongWidth, kShortWidth};
+  const double height[] = {kLongHeight, kShortHeight};
+  for (int row = 0; row < 2; ++row)
+    for (int col = 0; col < 2; ++col)
+      isDrawBox(top[row], left[col], top[row] + height[row] - 1, left[col] + width[col] - 1,
+                row == col ? platform::colour::Yellow : platform::colour::Cyan, 2);
+}
+
+void RectangleOfFourParts() {
+  constexpr double kApartRows = 0.6;
+  constexpr double kApartCols = 2;
+  constexpr double kRight = kLeft + kLongWidth;
+  constexpr double kLower = kTop + kLongHeight;
+  NewScreen();
+  SayAt(3, R"(A \cbinomial\z has two terms, such as  )" + WithoutBreaks("t + 3.") +
+               "  Which area has a rectangle that is " +
+               WithoutBreaks("t + 3 wide and u + 2 high?"));
+  PageEnd();
+  DrawParts(0, 0);
+  ShowAt(kTop - 1, "t", kLeft + 5.5);
+  ShowAt(kTop - 1, "3", kRight + 2.5);
+  ShowAt(kTop + 0.7, "u", kLeft - 2);
+  ShowAt(kLower + 0.2, "2", kLeft - 2);
+  SayAt(13, "It is width times height:");
+  Show("(t + 3)(u + 2)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  What are the areas of the four parts?)");
+  PageEnd();
+  SlideRight({kTop - 0.1, kRight - 0.1, kShortWidth + 0.4, kLongHeight + kShortHeight + 0.2},
+             kApartCols);
+  SlideDown({kLower, kLeft - 0.2, kLongWidth + kShortWidth + kApartCols + 0.6, kShortHeight + 0.2},
+            kApartRows);
+  ClearCells(kTop - 0.2, kLeft - 0.2, kLongWidth + kShortWidth + kApartCols + 1,
+             kLongHeight + kShortHeight + kApartRows + 0.4);
+  DrawParts(kApartRows, kApartCols);
+  ShowAt(kTop + 0.7, R"(\ytu)", kLeft + 5);
+  ShowAt(kTop + 0.7, R"(\y3u)", kRight + kApartCols + 2);
+  ShowAt(kLower + kApartRows + 0.2, R"(\y2t)", kLeft + 5);
+  ShowAt(kLower + kApartRows + 0.2, R"(\y6)", kRight + kApartCols + 2.5);
+  ClearBelow(13);
+  SayAt(13, "Together they are the whole area:");
+  Show("(t + 3)(u + 2) = tu + 2t + 3u + 6", 3);
+  PageEnd();
+  Say(R"(So \yeach\z term of one binomial is multiplied by \yeach\z term of the other.)");
+  PageEnd();
+}
+
+void FourNames() {
+  const BinomialPair pair = {{{3, "t"}, {2, ""}}, {{4, "u"}, {5, ""}}};
+  NewScreen();
+  SayAt(3, "Four names help us to forget none of the products:");
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  table.Bring(Foil::First);
+  table.Multiply(Foil::First);
+  SayAt(table.RowBelow(), R"(\cFirst\z:  the first terms of both binomials.)");
+  PageEnd();
+  table.Bring(Foil::Outer);
+  table.Multiply(Foil::Outer);
+  AddLine(R"(\cOuter\z:  the two terms at the outside.)");
+  Say(R"(\yTry it:\z  The \cinner\z terms stand in the middle, the \clast\z terms at the ends of )"
+      "their binomials.  What are these two products?");
+  PageEnd();
+  ClearBelow(table.RowBelow());
+  for (const Foil foil : {Foil::Inner, Foil::Last}) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  SayAt(table.RowBelow(), Text("Inner:  {}.  Last:  {}.", pair.ProductText(Foil::Inner),
+                               pair.ProductText(Foil::Last)));
+  AddLine("The sum of the four products is the answer:");
+  Show("(3t + 2)(4u + 5)", kExpressionCol);
+  Show(R"(  = \y12tu + 15t + 8u + 10)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  Can we combine 15t and 8u?)");
+  PageEnd();
+  Say("No.  They have different letters, so they are unlike terms.  All four terms stay.");
+  PageEnd();
+}
+
+void TwoProductsForgotten() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Tom multiplies only first by first and last by last.  Is he right?)");
+  PaperBox({R"((3t + 2)(4u + 5) = \r12tu + 10)"});
+  PageEnd();
+  Say("No.  Outer and Inner are missing.  We see it with 1 in place of t and of u:");
+  Show("(3 + 2)(4 + 5) = 5 " + tutor::Times + " 9 = 45", kExpressionCol);
+  Show("12 + 10 = 22", kExpressionCol);
+  PageEnd();
+  Say("With all four products it comes out:");
+  Show("12 + 15 + 8 + 10 = 45", kExpressionCol);
+  PageEnd();
+  RuleBox("First, Outer, Inner, Last",
+          {"Multiply the four pairs of terms.", "Add the four products."}, {.width = 34});
+  PageEnd();
+}
+
+void TermsWithSigns() {
+  const BinomialPair pair = {{{2, "v"}, {-3, ""}}, {{1, "w"}, {-5, ""}}};
+  NewScreen();
+  SayAt(3, "Each term takes its sign along:  -3 and -5.");
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  for (const Foil foil : {Foil::First, Foil::Outer}) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  SayAt(table.RowBelow(),
+        "w means 1w, so the First product is 2vw.  2 times -5 is -10, so Outer "
+        "is negative.");
+  Say(R"(\yTry it:\z  Which signs have Inner and Last?)");
+  PageEnd();
+  for (const Foil foil : {Foil::Inner, Foil::Last}) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  ClearBelow(table.RowBelow());
+  SayAt(table.RowBelow(),
+        "Inner is negative.  Last is positive:  two negatives make a positive product.");
+  Show(R"((2v - 3)(w - 5) = \y2vw - 10v - 3w + 15)", 1);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The sign belongs to the term.)");
+  PaperBox({R"(Outer is -10v,  \rnot 10v\z)", R"(Last is 15,  \rnot -15\z)"});
+  PageEnd();
+}
+
+void MinusInFront() {
+  const BinomialPair pair = {{{-1, "x"}, {4, ""}}, {{3, "y"}, {-2, ""}}};
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Here -x means -1x.  Find the four products.)");
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  for (const Foil foil : kFoil) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  SayAt(table.RowBelow(),
+        "First:  different signs make a negative product.  Outer:  two negatives "
+        "make a positive one.");
+  Show("(-x + 4)(3y - 2)", kExpressionCol);
+  Show(R"(  = \y-3xy + 2x + 12y - 8)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yCheck:\z  We put 1 in place of x and of y:)");
+  Show("(-1 + 4)(3 - 2) = 3 " + tutor::Times + " 1 = 3", kExpressionCol);
+  Show("-3 + 2 + 12 - 8 = 3", kExpressionCol);
+  PageEnd();
+}
+
+void SquareOfADifference() {
+  const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {-4, ""}}};
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  Ann squares each term:  {}.  Is she right?)",
+                "(z - 4)^2^ = z^2^ - 16"));
+  PageEnd();
+  SayAt(3,
+        Text("No.  {} is a product of two binomials.  It has four products, too:", "(z - 4)^2^"));
+  FoilTable table(pair, kPairRow);
+  for (const Foil foil : kFoil) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  PageEnd();
+  SayAt(table.RowBelow(),
+        "Both letters are z, so Outer and Inner are like terms:  -4z and -4z make -8z.");
+  Show(R"((z - 4)^2^ = \yz^2^ - 8z + 16)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yCheck:\z  With 10 in place of z:)");
+  PaperBox({"(10 - 4)^2^ = 36", "100 - 80 + 16 = 36", R"(100 - 16 = \r84\z)"});
+  PageEnd();
+}
+
+void DifferenceOfSquares() {
+  const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {4, ""}}};
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Which product is  )" + Text("{}?", "z^2^ - 16"));
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  for (const Foil foil : kFoil) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  SayAt(table.RowBelow(),
+        "It is this one.  The signs in the binomials differ, so 4z and -4z make "
+        "0:");
+  Show("(z - 4)(z + 4) = z^2^ - 16", kExpressionCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The square has two equal factors.)");
+  PaperBox({R"((z - 4)^2^ = (z - 4)(z - 4))", R"(\rnot (z - 4)(z + 4)\z)"});
+  PageEnd();
+}
+
+void SquareOfASum() {
+  const BinomialPair pair = {{{1, "z"}, {5, ""}}, {{1, "z"}, {5, ""}}};
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is  )" + Text("{}?", "(z + 5)^2^"));
+  PageEnd();
+  FoilTable table(pair, kPairRow);
+  for (const Foil foil : kFoil) {
+    table.Bring(foil);
+    table.Multiply(foil);
+  }
+  SayAt(table.RowBelow(), Text(R"(5z + 5z is 10z, so it is  \y{}\z.)", "z^2^ + 10z + 25"));
+  PageEnd();
+}
+
+// --- The lesson ----------------------------------------------------------------------------------
+
+class MultiplyingBinomials final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{RectangleOfFourParts, FourNames, TwoProductsForgotten, TermsWithSigns, MinusInFront,
+             SquareOfADifference, DifferenceOfSquares, SquareOfASum}};
+  }
+  void DrawProblem(RandomStream& random) override;
+  void ShowProblem() override;
+  void ExplainProblem() override;
+
+  void DrawWrongChoice(int slot, RandomStream& random);
+  void TellLoneLetters(const FoilTable& table) const;
+  void MultiplyPair(FoilTable& table, Foil foil) const;
+  void AddProducts(double row) const;
+  void Check() const;
+
+  BinomialPair pair_;
+};
+
+// --- Generator -----------------------------------------------------------------------------------
+
+// Not 0.
+int DrawSigned(RandomStream& random) {
+  const int sign = random.Sign();
+  return sign * random.Rand(1, kLargest);
+}
+
+std::string MistakeOfCoefficient(int wrong, const BinomialPair& pair, Foil foil) {
+  const int first = pair.FirstTerm(foil).coef;
+  const int second = pair.SecondTerm(foil).coef;
+  if (wrong == -first * second)
+    return "takes the wrong sign for the " + FoilName(foil) + " product";
+  if (wrong == first + second)
+    return "adds the numbers of the " + FoilName(foil) + " terms in place of multiplying";
+  const int change = wrong - first * second;
+  return Text("makes the {} product {} too {}", FoilName(foil), std::abs(change),
+              Words{change > 0 ? "large" : "small"});
+}
+
+// Slots 2 and 3 have another Outer product, 4 and 5 another Inner one.
+void MultiplyingBinomials::DrawWrongChoice(int slot, RandomStream& random) {
+  const Foil foil = slot <= 3 ? Foil::Outer : Foil::Inner;
+  Sum products = pair_.Products();
+  int& coef = products.at(static_cast<std::size_t>(foil)).coef;
+  const int right = coef;
+  do {
+    coef = right + DrawSigned(random);
+  } while (coef == 0);  // a term that vanishes
+  problem.Wrong(slot, MistakeOfCoefficient(coef, pair_, foil), SumText(products));
+}
+
+void MultiplyingBinomials::DrawProblem(RandomStream& random) {
+  const std::string letter = random.OneOf(kFirstLetters);
+  const std::string next(1, static_cast<char>(letter[0] + 1));
+  const int firstLead = DrawSigned(random);
+  const int firstNumber = DrawSigned(random);
+  const int secondLead = DrawSigned(random);
+  const int secondNumber = DrawSigned(random);
+  pair_ = {{{firstLead, letter}, {firstNumber, ""}}, {{secondLead, next}, {secondNumber, ""}}};
+
+  problem.question = {"Find the product.", pair_.Text()};
+  problem.kind = choice_kind::FiveShuffled;
+  problem.Right(1, SumText(pair_.Products()));
+  const auto draw = [&](int slot) { DrawWrongChoice(slot, random); };
+  for (int slot = 2; slot <= 5; ++slot) draw(slot);
+  ReplaceRepeatedTexts(problem, draw);
+}
+
+// --- Problem page --------------------------------------------------------------------------------
+
+void MultiplyingBinomials::ShowProblem() {
+  SayAt(5, problem.question[0]);
+  ShowAt(7, pair_.Text(), kExpressionCol);
+  ShowAnswersInOneColumn(problem, {.row = 9.5, .width = 28});
+}
+
+// --- Worked explanation --------------------------------------------------------------------------
+
+void MultiplyingBinomials::ExplainProblem() {
+  ProblemBanner();
+  SayAt(4.5, "Find this product.");
+  FoilTable table(pair_, 6);
+  SayAt(table.RowBelow(), "Each term of one binomial is multiplied by each term of the other.");
+  PageEnd();
+  TellLoneLetters(table);
+  for (const Foil foil : kFoil) MultiplyPair(table, foil);
+  ClearBelow(table.RowBelow());
+  AddProducts(table.RowBelow());
+  Check();
+  Conclude(problem);
+}
+
+// "-t means -1t", of each letter without a number.
+void MultiplyingBinomials::TellLoneLetters(const FoilTable& table) const {
+  std::string text;
+  for (const Term& term : {pair_.first[0], pair_.second[0]})
+    if (std::abs(term.coef) == 1)
+      text += Text("{}{} means {}", Words{text.empty() ? "" : ", and "}, TermText(term),
+                   NumStr(term.coef) + term.letters);
+  if (text.empty()) return;
+  ClearBelow(table.RowBelow());
+  SayAt(table.RowBelow(), text + ".");
+  PageEnd();
+}
+
+// Why the product has its sign; "" where nobody doubts it.
+std::string SignSentence(const Term& first, const Term& second) {
+  if (first.coef < 0 && second.coef < 0) return "Two negatives make a positive product.";
+  if (first.coef > 0 && second.coef > 0) return "";
+  return "The signs differ, so it is negative.";
+}
+
+void MultiplyingBinomials::MultiplyPair(FoilTable& table, Foil foil) const {
+  ClearBelow(table.RowBelow());
+  table.Bring(foil);
+  table.Multiply(foil);
+  SayAt(table.RowBelow(), Text(R"(\y{}\z:  {})", FoilName(foil), pair_.ProductText(foil)));
+  const std::string why = SignSentence(pair_.FirstTerm(foil), pair_.SecondTerm(foil));
+  if (!why.empty()) Say(why);
+  PageEnd();
+}
+
+void MultiplyingBinomials::AddProducts(double row) const {
+  SayAt(row, "We add the four products, each with its sign:");
+  Show(SumText(pair_.Products()), kExpressionCol);
+  PageEnd();
+  Say("They have different letters, so they are unlike terms.  None of them can be combined.");
+  PageEnd();
+}
+
+// Both sides with a number in place of each letter.
+void MultiplyingBinomials::Check() const {
+  const auto withNumber = [](Term term, int number) {
+    return Term{term.letters.empty() ? term.coef : number * term.coef, ""};
+  };
+  constexpr int kFirst = 2;
+  constexpr int kSecond = 1;
+  BinomialPair tried = pair_;
+  for (Term& term : tried.first) term = withNumber(term, kFirst);
+  for (Term& term : tried.second) term = withNumber(term, kSecond);
+  const int first = ValueAt(tried.first, 0);
+  const int second = ValueAt(tried.second, 0);
+  const std::string value = NumStr(first * second);
+  NewScreen();
+  ProblemBanner();
+  ShowAt(4.5, pair_.Text(), kExpressionCol);
+  ShowAt(6, "= " + SumText(pair_.Products()), kExpressionCol);
+  SayAt(8, Text(R"(\yCheck:\z  We put {} in place of {} and {} in place of {}.)", kFirst,
+                pair_.first[0].letters, kSecond, pair_.second[0].letters));
+  Show(tried.Text(), kExpressionCol);
+  Show("  = " + NumStr(first) + " " + tutor::Times + " " + InParentheses(second) + " = " + value,
+       kExpressionCol);
+  PageEnd();
+  Say("Now the four products:");
+  Show(SumText(tried.Products()) + " = " + value, kExpressionCol);
+  Say("Both have the same value.");
+  PageEnd();
+}
+
+const LessonRegistration<MultiplyingBinomials> kRegistration("Multiplying Binomials");
+
+}  // namespace
+}  // namespace course
