@@ -19,91 +19,107 @@ constexpr double kPairRow = 5;  // of two binomials above their table
 
 // --- Teaching screens ----------------------------------------------------------------------------
 
-// A rectangle t + 3 wide and u + 2 high, and its four parts as they are moved apart.
-constexpr double kTop = 7;
-constexpr double kLeft = 9;
-constexpr double kLongWidth = 12;  // columns
-constexpr double kShortWidth = 6;
-constexpr double kLongHeight = 2.4;  // rows
-constexpr double kShortHeight = 1.4;
+// A rectangle t + 3 wide and u + 2 high, cut into four parts that can stand apart.
+struct CutRectangle {
+  double apart = 0;  // rows; columns twice as many
+  static constexpr double kTop = 6.2;
+  static constexpr double kLeft = 9;
+  static constexpr double kWidths[] = {14, 7};    // columns
+  static constexpr double kHeights[] = {3.2, 2};  // rows
 
-void DrawParts(double apartRows, double apartCols) {
-  const double left[] = {kLeft, kLeft + kLongWidth + apartCols};
-  const double top[] = {kTop, kTop + kLongHeight + apartRows};
-  const double width[] = {kLongWidth, kShortWidth};
-  const double height[] = {kLongHeight, kShortHeight};
-  for (int row = 0; row < 2; ++row)
-    for (int col = 0; col < 2; ++col)
-      isDrawBox(top[row], left[col], top[row] + height[row] - 1, left[col] + width[col] - 1,
-                row == col ? platform::colour::Yellow : platform::colour::Cyan, 2);
-}
+  double Left(int col) const { return col == 0 ? kLeft : kLeft + kWidths[0] + 2 * apart; }
+  double Top(int row) const { return row == 0 ? kTop : kTop + kHeights[0] + apart; }
+
+  void Draw() const {
+    for (int row = 0; row < 2; ++row)
+      for (int col = 0; col < 2; ++col)
+        isDrawBox(Top(row), Left(col), Top(row) + kHeights[row] - 1, Left(col) + kWidths[col] - 1,
+                  row == col ? platform::colour::Yellow : platform::colour::Cyan, 2);
+  }
+  void ShowSides() const {
+    const char* const across[] = {"t", "3"};
+    const char* const down[] = {"u", "2"};
+    for (int i = 0; i < 2; ++i) {
+      ShowAt(kTop - 1.2, across[i], Left(i) + (kWidths[i] - 1) / 2);
+      ShowAt(Top(i) + (kHeights[i] - 1) / 2, down[i], kLeft - 2);
+    }
+  }
+  void ShowArea(int row, int col, const std::string& area) const {
+    ShowAt(Top(row) + (kHeights[row] - 1) / 2, area,
+           Left(col) + (kWidths[col] - static_cast<double>(area.size())) / 2);
+  }
+  // From rows and columns that touch.
+  void MoveApart() const {
+    const double right = kLeft + kWidths[0];
+    const double lower = kTop + kHeights[0];
+    SlideRight({kTop - 1.2, right, kWidths[1] + 0.3, kHeights[0] + kHeights[1] + 1.4}, 2 * apart);
+    SlideDown({lower, kLeft - 2, kWidths[0] + kWidths[1] + 2 * apart + 2.3, kHeights[1] + 0.2},
+              apart);
+    ClearCells(kTop - 1.2, kLeft - 2, kWidths[0] + kWidths[1] + 2 * apart + 2.3,
+               kHeights[0] + kHeights[1] + apart + 1.4);
+    Draw();
+    ShowSides();
+  }
+};
 
 void RectangleOfFourParts() {
-  constexpr double kApartRows = 0.6;
-  constexpr double kApartCols = 2;
-  constexpr double kRight = kLeft + kLongWidth;
-  constexpr double kLower = kTop + kLongHeight;
+  constexpr double kBelow = 13.5;
   NewScreen();
-  SayAt(3, R"(A \cbinomial\z has two terms, such as  )" + WithoutBreaks("t + 3.") +
-               "  Which area has a rectangle that is " +
-               WithoutBreaks("t + 3 wide and u + 2 high?"));
+  SayAt(3, R"(A \cbinomial\z has two terms, as )" + WithoutBreaks("t + 3 has."));
+  const CutRectangle whole;
+  whole.Draw();
+  whole.ShowSides();
   PageEnd();
-  DrawParts(0, 0);
-  ShowAt(kTop - 1, "t", kLeft + 5.5);
-  ShowAt(kTop - 1, "3", kRight + 2.5);
-  ShowAt(kTop + 0.7, "u", kLeft - 2);
-  ShowAt(kLower + 0.2, "2", kLeft - 2);
-  SayAt(13, "It is width times height:");
-  Show("(t + 3)(u + 2)", kExpressionCol);
+  SayAt(kBelow, "The rectangle is " + WithoutBreaks("t + 3 wide and u + 2 high,") +
+                    " so its area is " + WithoutBreaks("(t + 3)(u + 2)."));
+  Say(R"(\yTry it:\z  What is the area of each part?)");
   PageEnd();
-  Say(R"(\yTry it:\z  What are the areas of the four parts?)");
-  PageEnd();
-  SlideRight({kTop - 0.1, kRight - 0.1, kShortWidth + 0.4, kLongHeight + kShortHeight + 0.2},
-             kApartCols);
-  SlideDown({kLower, kLeft - 0.2, kLongWidth + kShortWidth + kApartCols + 0.6, kShortHeight + 0.2},
-            kApartRows);
-  ClearCells(kTop - 0.2, kLeft - 0.2, kLongWidth + kShortWidth + kApartCols + 1,
-             kLongHeight + kShortHeight + kApartRows + 0.4);
-  DrawParts(kApartRows, kApartCols);
-  ShowAt(kTop + 0.7, R"(\ytu)", kLeft + 5);
-  ShowAt(kTop + 0.7, R"(\y3u)", kRight + kApartCols + 2);
-  ShowAt(kLower + kApartRows + 0.2, R"(\y2t)", kLeft + 5);
-  ShowAt(kLower + kApartRows + 0.2, R"(\y6)", kRight + kApartCols + 2.5);
-  ClearBelow(13);
-  SayAt(13, "Together they are the whole area:");
-  Show("(t + 3)(u + 2) = tu + 2t + 3u + 6", 3);
+  const CutRectangle cut{0.7};
+  cut.MoveApart();
+  cut.ShowArea(0, 0, "tu");
+  cut.ShowArea(0, 1, "3u");
+  cut.ShowArea(1, 0, "2t");
+  cut.ShowArea(1, 1, "6");
+  ClearBelow(kBelow);
+  SayAt(kBelow, "Together they are the whole area:");
+  Show(R"((t + 3)(u + 2) = \ytu + 2t + 3u + 6)", 3);
   PageEnd();
   Say(R"(So \yeach\z term of one binomial is multiplied by \yeach\z term of the other.)");
   PageEnd();
 }
 
-void FourNames() {
-  const BinomialPair pair = {{{3, "t"}, {2, ""}}, {{4, "u"}, {5, ""}}};
-  NewScreen();
-  SayAt(3, "Four names help us to forget none of the products:");
-  FoilTable table(pair, kPairRow);
-  PageEnd();
-  table.Bring(Foil::First);
-  table.Multiply(Foil::First);
-  SayAt(table.RowBelow(), R"(\cFirst\z:  the first terms of both binomials.)");
-  PageEnd();
-  table.Bring(Foil::Outer);
-  table.Multiply(Foil::Outer);
-  AddLine(R"(\cOuter\z:  the two terms at the outside.)");
-  Say(R"(\yTry it:\z  The \cinner\z terms stand in the middle, the \clast\z terms at the ends of )"
-      "their binomials.  What are these two products?");
-  PageEnd();
-  ClearBelow(table.RowBelow());
-  for (const Foil foil : {Foil::Inner, Foil::Last}) {
+void Work(FoilTable& table, std::initializer_list<Foil> products) {
+  for (const Foil foil : products) {
     table.Bring(foil);
     table.Multiply(foil);
   }
-  SayAt(table.RowBelow(), Text("Inner:  {}.  Last:  {}.", pair.ProductText(Foil::Inner),
-                               pair.ProductText(Foil::Last)));
-  AddLine("The sum of the four products is the answer:");
+  ClearBelow(table.RowBelow());
+}
+void WorkAll(FoilTable& table) {
+  Work(table, {Foil::First, Foil::Outer, Foil::Inner, Foil::Last});
+}
+
+void FourNames() {
+  const BinomialPair pair = {{{3, "t"}, {2, ""}}, {{4, "u"}, {5, ""}}};
+  NewScreen();
+  SayAt(3, "With four names we forget no product:");
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  Work(table, {Foil::First, Foil::Outer});
+  SayAt(table.RowBelow(), R"(\cFirst\z:  the first term of each binomial)");
+  AddLine(R"(\cOuter\z:  the two terms at the outside)");
+  PageEnd();
+  Say(R"(\yTry it:\z  The Inner terms stand in the middle, the Last terms at the ends of the )"
+      "binomials.  What are their products?");
+  PageEnd();
+  Work(table, {Foil::Inner, Foil::Last});
+  SayAt(table.RowBelow(), R"(\cInner\z:  )" + pair.ProductText(Foil::Inner));
+  AddLine(R"(\cLast\z:   )" + pair.ProductText(Foil::Last));
+  PageEnd();
+  ClearBelow(table.RowBelow());
+  SayAt(table.RowBelow(), "Their sum is the product of the binomials:");
   Show("(3t + 2)(4u + 5)", kExpressionCol);
   Show(R"(  = \y12tu + 15t + 8u + 10)", kExpressionCol);
-  PageEnd();
   Say(R"(\yTry it:\z  Can we combine 15t and 8u?)");
   PageEnd();
   Say("No.  They have different letters, so they are unlike terms.  All four terms stay.");
@@ -130,23 +146,16 @@ void TwoProductsForgotten() {
 void TermsWithSigns() {
   const BinomialPair pair = {{{2, "v"}, {-3, ""}}, {{1, "w"}, {-5, ""}}};
   NewScreen();
-  SayAt(3, "Each term takes its sign along:  -3 and -5.");
+  SayAt(3, "Each term takes its sign:  -3 and -5.");
   FoilTable table(pair, kPairRow);
   PageEnd();
-  for (const Foil foil : {Foil::First, Foil::Outer}) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
+  Work(table, {Foil::First, Foil::Outer});
   SayAt(table.RowBelow(),
         "w means 1w, so the First product is 2vw.  2 times -5 is -10, so Outer "
         "is negative.");
   Say(R"(\yTry it:\z  Which signs have Inner and Last?)");
   PageEnd();
-  for (const Foil foil : {Foil::Inner, Foil::Last}) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
-  ClearBelow(table.RowBelow());
+  Work(table, {Foil::Inner, Foil::Last});
   SayAt(table.RowBelow(),
         "Inner is negative.  Last is positive:  two negatives make a positive product.");
   Show(R"((2v - 3)(w - 5) = \y2vw - 10v - 3w + 15)", 1);
@@ -162,10 +171,7 @@ void MinusInFront() {
   SayAt(3, R"(\yTry it:\z  Here -x means -1x.  Find the four products.)");
   FoilTable table(pair, kPairRow);
   PageEnd();
-  for (const Foil foil : kFoil) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
+  WorkAll(table);
   SayAt(table.RowBelow(),
         "First:  different signs make a negative product.  Outer:  two negatives "
         "make a positive one.");
@@ -187,10 +193,7 @@ void SquareOfADifference() {
   SayAt(3,
         Text("No.  {} is a product of two binomials.  It has four products, too:", "(z - 4)^2^"));
   FoilTable table(pair, kPairRow);
-  for (const Foil foil : kFoil) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
+  WorkAll(table);
   PageEnd();
   SayAt(table.RowBelow(),
         "Both letters are z, so Outer and Inner are like terms:  -4z and -4z make -8z.");
@@ -207,31 +210,16 @@ void DifferenceOfSquares() {
   SayAt(3, R"(\yTry it:\z  Which product is  )" + Text("{}?", "z^2^ - 16"));
   FoilTable table(pair, kPairRow);
   PageEnd();
-  for (const Foil foil : kFoil) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
+  WorkAll(table);
   SayAt(table.RowBelow(),
         "It is this one.  The signs in the binomials differ, so 4z and -4z make "
         "0:");
   Show("(z - 4)(z + 4) = z^2^ - 16", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The square has two equal factors.)");
-  PaperBox({R"((z - 4)^2^ = (z - 4)(z - 4))", R"(\rnot (z - 4)(z + 4)\z)"});
+  Say(Text(R"(\yTry it:\z  Ben says that {} is this product, too.  What is wrong?)", "(z - 4)^2^"));
   PageEnd();
-}
-
-void SquareOfASum() {
-  const BinomialPair pair = {{{1, "z"}, {5, ""}}, {{1, "z"}, {5, ""}}};
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  What is  )" + Text("{}?", "(z + 5)^2^"));
-  PageEnd();
-  FoilTable table(pair, kPairRow);
-  for (const Foil foil : kFoil) {
-    table.Bring(foil);
-    table.Multiply(foil);
-  }
-  SayAt(table.RowBelow(), Text(R"(5z + 5z is 10z, so it is  \y{}\z.)", "z^2^ + 10z + 25"));
+  Say("The square has two equal factors, with the same sign:");
+  PaperBox({R"((z - 4)^2^ = (z - 4)(z - 4),  \rnot (z - 4)(z + 4)\z)"});
   PageEnd();
 }
 
@@ -245,7 +233,7 @@ class MultiplyingBinomials final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{RectangleOfFourParts, FourNames, TwoProductsForgotten, TermsWithSigns, MinusInFront,
-             SquareOfADifference, DifferenceOfSquares, SquareOfASum}};
+             SquareOfADifference, DifferenceOfSquares}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -388,14 +376,14 @@ void MultiplyingBinomials::Check() const {
   ProblemBanner();
   ShowAt(4.5, pair_.Text(), kExpressionCol);
   ShowAt(6, "= " + SumText(pair_.Products()), kExpressionCol);
-  SayAt(8, Text(R"(\yCheck:\z  We put {} in place of {} and {} in place of {}.)", kFirst,
-                pair_.first[0].letters, kSecond, pair_.second[0].letters));
-  Show(tried.Text(), kExpressionCol);
-  Show("  = " + NumStr(first) + " " + tutor::Times + " " + InParentheses(second) + " = " + value,
-       kExpressionCol);
+  SayAt(8, Text(R"(\yCheck:\z  We put {} for {} and {} for {}.)", kFirst, pair_.first[0].letters,
+                kSecond, pair_.second[0].letters));
+  Show(tried.Text() + " = " + NumStr(first) + " " + tutor::Times + " " + InParentheses(second) +
+           " = " + value,
+       2);
   PageEnd();
   Say("Now the four products:");
-  Show(SumText(tried.Products()) + " = " + value, kExpressionCol);
+  Show(SumText(tried.Products()) + " = " + value, 2);
   Say("Both have the same value.");
   PageEnd();
 }

@@ -18,7 +18,7 @@ namespace {
 constexpr double kPairCol = 6;
 constexpr double kLane = 1.4;   // rows below the binomials, where terms slide sideways
 constexpr double kBelow = 2.5;  // rows from the binomials to the table
-constexpr double kFontSize = 14;
+constexpr double kFontSize = 16;
 
 // In pixels; the table gives them in hundredths of its panel.
 constexpr double kPanelWidth = 608;
