@@ -70,8 +70,8 @@ void RectangleOfFourParts() {
   whole.Draw();
   whole.ShowSides();
   PageEnd();
-  SayAt(kBelow, "The rectangle is " + WithoutBreaks("t + 3 wide and u + 2 high,") +
-                    " so its area is " + WithoutBreaks("(t + 3)(u + 2)."));
+  SayAt(kBelow, Text("The rectangle is {} wide and {} high, so its area is {}.", "t + 3", "u + 2",
+                     "(t + 3)(u + 2)"));
   Say(R"(\yTry it:\z  What is the area of each part?)");
   PageEnd();
   const CutRectangle cut{0.7};
@@ -122,7 +122,8 @@ void FourNames() {
   Show(R"(  = \y12tu + 15t + 8u + 10)", kExpressionCol);
   Say(R"(\yTry it:\z  Can we combine 15t and 8u?)");
   PageEnd();
-  Say("No.  They have different letters, so they are unlike terms.  All four terms stay.");
+  Say("No.  They have different letters, so they are unlike terms:");
+  PaperBox({R"(15t + 8u,  \rnot 23tu\z)"});
   PageEnd();
 }
 
@@ -187,9 +188,10 @@ void MinusInFront() {
 void SquareOfADifference() {
   const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {-4, ""}}};
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  Ann squares each term:  {}.  Is she right?)",
-                "(z - 4)^2^ = z^2^ - 16"));
+  SayAt(3, R"(\yTry it:\z  Ann squares each term.  Is she right?)");
+  PaperBox({R"((z - 4)^2^ = \rz^2^ - 16)"});
   PageEnd();
+  NewScreen();
   SayAt(3,
         Text("No.  {} is a product of two binomials.  It has four products, too:", "(z - 4)^2^"));
   FoilTable table(pair, kPairRow);
