@@ -1,62 +1,373 @@
-// The student can ...
+// The student can divide a polynomial by a monomial: divides each term by it, the numbers as
+// numbers are divided, and subtracts the exponents of each letter.
 //
-// What the student can do afterwards, in two or three lines.
+// A problem is a built-up fraction of two terms in x and y over a number with powers of x and y, of
+// which either may be missing.
+#include "lessons/families/polynomials/monomial_quotient.h"
+#include "lessons/families/polynomials/sum_of_terms.h"
+#include "lessons/families/powers/quotient.h"
+#include "lessons/families/properties/property_pages.h"
 #include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
-// --- Teaching screens --------------------------------------------------------
+using namespace polynomials;
 
-void Screen1() {
+constexpr double kExpressionCol = 4;
+
+std::string NumbersDivided(int above, int below) {
+  return NumStr(above) + " " + tutor::Divided + " " + NumStr(below) + " = " + NumStr(above / below);
+}
+
+// Both terms over the divisor: "24x^5^/(6x^2^) - 18x^3^/(6x^2^)".
+std::string SplitText(const MonomialQuotient& quotient) {
+  const Term& second = quotient.terms[1];
+  const Term size = {std::abs(second.coef), second.letters};
+  return FractionText({quotient.terms[0]}, quotient.divisor) + (second.coef < 0 ? " - " : " + ") +
+         FractionText({size}, quotient.divisor);
+}
+
+// --- Teaching screens ----------------------------------------------------------------------------
+
+void SharedDots() {
+  constexpr double kRow = 5;
+  constexpr double kCol = 10;
+  constexpr int kRows = 4;
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "4 friends share 12 yellow and 8 blue stones:");
+  for (int i = 0; i < kRows; ++i) {
+    properties::DrawDots(kRow + i, kCol, 3, platform::colour::Yellow);
+    properties::DrawDots(kRow + i, kCol + 6, 2, platform::colour::Cyan);
+  }
+  SayAt(10, R"(\yTry it:\z  How many of each color does a friend get?)");
+  PageEnd();
+  SlideRight({kRow - 0.2, kCol + 6, 3, kRows + 0.2}, 6);
+  SayAt(12.5, "3 yellow stones and 2 blue ones.  Both colors are divided by 4:");
+  ShowAt(16, R"((12 + 8)/4 = 12/4 + 8/4 = 3 + 2 = \y5)", kExpressionCol);
+  PageEnd();
+  SayAt(18.5, R"(\yTry it:\z  Tom divides only the 12.  He gets 3 + 8 = 11.  Can that be?)");
+  PageEnd();
+  Say("No.  There are 20 stones, and 20 " + tutor::Divided + R"( 4 is 5.  \yEach\z term must )" +
+      "be divided.");
   PageEnd();
 }
 
-// --- The lesson --------------------------------------------------------------
+void TermsOverANumber() {
+  NewScreen();
+  SayAt(3, "The terms of a polynomial are divided in the same way:");
+  ShowAt(6, "(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  What is each fraction?)");
+  PageEnd();
+  Say("The divisor has no x, so only the numbers are divided.  x^2^ and x stay:");
+  Show(R"((12x^2^ + 8x)/4 = \y3x^2^ + 2x\z)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  Is that 5x^3^?)");
+  PageEnd();
+  Say("No.  3x^2^ and 2x are unlike terms, so they stay apart.");
+  PageEnd();
+}
+
+void OneTermOverAMonomial() {
+  NewScreen();
+  SayAt(3, R"(A \cmonomial\z is a single term, such as  )" + WithoutBreaks("3x^2^.") +
+               "  How do we divide by it?");
+  ShowAt(6.5, "15x^5^/(3x^2^)", kExpressionCol);
+  PageEnd();
+  SayAt(9, "The numbers:  " + NumbersDivided(15, 3));
+  SayAt(10.5, "The letters:  2 of the 5 factors x cancel.");
+  const powers::FactorFraction fraction(12.5, kExpressionCol, {"x", 5}, {"x", 2});
+  fraction.Cancel();
+  PageEnd();
+  fraction.ShowBehind("= x^3^");
+  GoBelow();
+  Say(R"(5 - 2 = 3 of them are left.  The exponents are \ysubtracted\z:)");
+  Show(R"(15x^5^/(3x^2^) = \y5x^3^\z)", kExpressionCol);
+  PageEnd();
+}
+
+void TwoTermsOverAMonomial() {
+  const MonomialQuotient quotient = {{{15, "xxxxx"}, {6, "xxx"}}, {3, "xx"}};
+  NewScreen();
+  SayAt(3, "Now with two terms above the bar:");
+  ShowAt(6, quotient.Text() + " = " + SplitText(quotient), kExpressionCol);
+  PageEnd();
+  Say(R"(The first fraction is 5x^3^.)");
+  Say(R"(\yTry it:\z  What is the second one?)");
+  PageEnd();
+  Say(NumbersDivided(6, 3) + ", and 3 - 2 = 1 factor x is left:  2x");
+  Show(quotient.Text() + R"( = \y5x^3^ + 2x\z)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yCheck:\z  We multiply the answer by the divisor:)");
+  Show("3x^2^(5x^3^ + 2x) = 15x^5^ + 6x^3^", kExpressionCol);
+  PageEnd();
+
+  NewScreen();
+  RuleBox("Dividing By A Monomial",
+          {"Divide each term.", "Divide the numbers in front.", "Subtract the exponents."},
+          {.row = 3, .width = 32});
+  PageEnd();
+}
+
+void WrongWays() {
+  Say(R"(\yTry it:\z  Three students divide.  What did each of them do wrong?)");
+  Show("(20x^6^ - 8x^4^)/(4x^2^)", kExpressionCol);
+  PageEnd();
+  PaperBox(
+      {R"(Ann:  \r5x^3^ - 2x^2^\z)", R"(Ben:  \r5x^4^ - 8x^4^\z)", R"(Carl: \r16x^4^ - 4x^2^\z)"});
+  PageEnd();
+  Say("Ann divides the exponents.  Ben leaves a term undivided.  Carl subtracts the numbers.");
+  PageEnd();
+  NewScreen();
+  ShowAt(4, "(20x^6^ - 8x^4^)/(4x^2^)", kExpressionCol);
+  SayAt(6.5, R"(\yTry it:\z  What is the right answer?)");
+  PageEnd();
+  SayAt(8.5, NumbersDivided(20, 4) + "  and  " + NumbersDivided(8, 4));
+  AddLine("6 - 2 = 4  and  4 - 2 = 2");
+  Show(R"((20x^6^ - 8x^4^)/(4x^2^) = \y5x^4^ - 2x^2^\z)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The minus sign stays between the terms.)");
+  PaperBox({R"(5x^4^ - 2x^2^,  \rnot 5x^4^ + 2x^2^\z)"});
+  PageEnd();
+}
+
+void LetterThatCancels() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What is left of the second term?)");
+  ShowAt(6, "(18x^3^ - 12x^2^)/(6x^2^)", kExpressionCol);
+  PageEnd();
+  SayAt(8.5, "12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
+  Show(R"((18x^3^ - 12x^2^)/(6x^2^) = \y3x - 2\z)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The 2 must not be lost.  3x and 2 are unlike terms.)");
+  PaperBox({R"(3x - 2,  \rnot 3x\z, \rnot x\z)"});
+  PageEnd();
+}
+
+void TwoLetters() {
+  const MonomialQuotient quotient = {{{24, "xxxxxyyyy"}, {-18, "xxxyy"}}, {6, "xxy"}};
+  NewScreen();
+  SayAt(3, "With two letters each letter is divided by itself:");
+  ShowAt(6, quotient.Text(), kExpressionCol);
+  ShowAt(9.5, "= " + SplitText(quotient), kExpressionCol);
+  PageEnd();
+  WhiteBox({.row = 12, .rows = 5.5});
+  SayInBox("Numbers:  " + NumbersDivided(24, 6));
+  SayInBox("x:  5 - 2 = 3      y:  4 - 1 = 3");
+  SayInBox(R"(The first term is \b4x^3^y^3^\z.)");
+  PageEnd();
+  SayAt(18, R"(\yTry it:\z  What is the second fraction?)");
+  PageEnd();
+  ClearBelow(18);
+  SayInBoxAnew("Numbers:  " + NumbersDivided(18, 6));
+  SayInBox("x:  3 - 2 = 1      y:  2 - 1 = 1");
+  SayInBox(R"(The second term is \b3xy\z.)");
+  Show(quotient.Text() + R"( = \y4x^3^y^3^ - 3xy\z)", kExpressionCol);
+  PageEnd();
+}
+
+void LetterNotInDivisor() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What happens to x here?)");
+  ShowAt(6, "(10x^4^y^3^ + 15x^2^y^5^)/(5y^2^)", kExpressionCol);
+  PageEnd();
+  SayAt(8.5,
+        "The divisor has no x.  Nothing is subtracted from its exponents, so x^4^ and x^2^ "
+        "stay.");
+  Say(R"(\yTry it:\z  And what is the quotient?)");
+  PageEnd();
+  Say(NumbersDivided(10, 5) + "  and  " + NumbersDivided(15, 5));
+  AddLine("y:  3 - 2 = 1  and  5 - 2 = 3");
+  Show(R"(= \y2x^4^y + 3x^2^y^3^\z)", kExpressionCol);
+  PageEnd();
+}
+
+// --- The lesson ----------------------------------------------------------------------------------
 
 class DividingPolynomials final : public LessonScript {
  public:
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{Screen1}}; }
+  std::vector<Screen> Screens() override {
+    return {{SharedDots, TermsOverANumber, OneTermOverAMonomial, TwoTermsOverAMonomial, WrongWays,
+             LetterThatCancels, TwoLetters, LetterNotInDivisor}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  // The numbers of one problem.
-  int first_ = 0;  // 2 to 9
+  void DrawQuotient(RandomStream& random);
+  void FillChoices(RandomStream& random);
+
+  void ShowTask() const;
+  void DivideTerm(std::size_t index) const;
+  void Check() const;
+
+  MonomialQuotient quotient_;
 };
 
-// --- Generator ---------------------------------------------------------------
+// --- Generator -----------------------------------------------------------------------------------
 
-void DividingPolynomials::DrawProblem(RandomStream& random) {
-  first_ = random.Rand(2, 9);
-
-  problem.question = {"Not written yet: what is " + NumStr(first_) + " + 1?"};
-  Choices choices(problem, choice_kind::FourShuffled, NumStr);
-  choices.Right(first_ + 1);
-  choices.Wrong("forgets to add", first_);
-  choices.Wrong("subtracts", first_ - 1);
-  choices.Wrong("adds twice", first_ + 2);
+std::string PowersOf(int x, int y) {
+  return std::string(static_cast<std::size_t>(x), 'x') +
+         std::string(static_cast<std::size_t>(y), 'y');
 }
 
-// --- Problem page ------------------------------------------------------------
+int ExponentOf(const Term& term, char letter) {
+  return static_cast<int>(std::ranges::count(term.letters, letter));
+}
+
+void DividingPolynomials::DrawQuotient(RandomStream& random) {
+  struct Drawn {
+    int coef, x, y;
+  };
+  const auto drawTerm = [&](int divisor) {
+    Drawn term{};
+    term.coef = divisor * random.Rand(2, 6);
+    term.x = random.Rand(2, 7);
+    term.y = random.Rand(2, 7);
+    return term;
+  };
+  bool fits = false;
+  while (!fits) {
+    const int divisor = random.Rand(2, 10);
+    const int x = random.Rand(0, 4);
+    const int y = random.Rand(0, 4);
+    Drawn first = drawTerm(divisor);
+    Drawn second = drawTerm(divisor);
+    const int sign = random.Sign();
+    if (first.x < second.x) std::swap(first, second);
+    quotient_ = {{{first.coef, PowersOf(first.x, first.y)},
+                  {sign * second.coef, PowersOf(second.x, second.y)}},
+                 {divisor, PowersOf(x, y)}};
+    fits = first.x != second.x &&                           // falling powers
+           second.x >= x && first.y >= y && second.y >= y;  // no letter is left below the bar
+  }
+}
+
+template <class T>
+void StartAnywhere(std::vector<T>& list, RandomStream& random) {
+  const int start = random.Index(std::max(1, static_cast<int>(list.size())));
+  std::ranges::rotate(list, list.begin() + std::min<std::ptrdiff_t>(start - 1, std::ssize(list)));
+}
+
+// Slips with the exponents that make the answer longer and shorter, another slip, and two of them
+// together: the right choice is neither the one most like the others nor the shortest.
+void DividingPolynomials::FillChoices(RandomStream& random) {
+  std::vector<DivisionSlip> more = TooManyLetters(quotient_);
+  std::vector<DivisionSlip> fewer = TooFewLetters(quotient_);
+  std::vector<DivisionSlip> others = OtherSlips(quotient_);
+  StartAnywhere(more, random);
+  StartAnywhere(fewer, random);
+  StartAnywhere(others, random);
+  const int form = random.Index(3);
+
+  Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText);
+  choices.Right(quotient_.Value());
+  const auto add = [&](const DivisionSlip& slip) {
+    const Sum sum = slip.division.Of(quotient_);
+    if (!sum.empty()) choices.Wrong(slip.mistake, sum);
+  };
+  if (more.empty()) {  // the divisor is a number
+    for (const DivisionSlip& slip : others) add(slip);
+  } else {
+    if (fewer.empty()) fewer = {more.back()};
+    add(fewer[0]);
+    add(others[0]);
+    if (form == 1) {
+      add(Both(fewer[0], others[0]));
+      add(Both(more[0], others[0]));
+    } else {
+      add(more[0]);
+      add(Both(form == 2 ? more[0] : fewer[0], others[0]));
+    }
+    for (const DivisionSlip& slip : others) add(Both(more[0], slip));
+  }
+  choices.Fill([&] {
+    Sum near = quotient_.Value();
+    for (Term& term : near) term.coef = Sgn(term.coef) * random.Rand(2, 6);
+    return near;
+  });
+}
+
+void DividingPolynomials::DrawProblem(RandomStream& random) {
+  DrawQuotient(random);
+  problem.question = {"Find the quotient:", quotient_.Text()};
+  FillChoices(random);
+}
+
+// --- Problem page --------------------------------------------------------------------------------
 
 void DividingPolynomials::ShowProblem() {
   SayAt(5, problem.question[0]);
-  ShowAnswersInTwoColumns(problem);
+  ShowAt(8, quotient_.Text(), kExpressionCol);
+  ShowAnswersInOneColumn(problem, {.row = 11, .width = 27});
 }
 
-// --- Worked explanation ------------------------------------------------------
+// --- Worked explanation --------------------------------------------------------------------------
+
+void DividingPolynomials::ShowTask() const {
+  ProblemBanner();
+  ShowAt(5.5, quotient_.Text(), kExpressionCol);
+}
 
 void DividingPolynomials::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
+  ShowTask();
+  SayAt(8, Text("The fraction bar means division.  Each of the two terms is divided by {}:",
+                TermText(quotient_.divisor)));
   PageEnd();
+  ShowAt(11.5, "= " + SplitText(quotient_), kExpressionCol);
+  WhiteBox({.row = 14});
+  PageEnd();
+  DivideTerm(0);
+  DivideTerm(1);
+
+  NewScreen();
+  ShowTask();
+  const bool minus = quotient_.terms[1].coef < 0;
+  SayAt(8, Text("Together, with the {} sign between them:", Words{minus ? "minus" : "plus"}));
+  ShowAt(11, quotient_.Text() + " =", kExpressionCol);
+  ShowAt(13.5, R"(= \y)" + RightText(problem), kExpressionCol);
+  PageEnd();
+  Check();
   Conclude(problem);
+}
+
+// "5 - 2 = 3, so x^3^ is left."
+std::string WhatIsLeft(char letter, int above, int below) {
+  const std::string name(1, letter);
+  if (below == 0)
+    return Text("{}:  The divisor has none, so {} stays.", name, name + ExponentText(above));
+  const int left = above - below;
+  return Text("{}:  {}, so {} is left.", name,
+              NumStr(above) + " - " + NumStr(below) + " = " + NumStr(left),
+              left == 0 ? "no" + tutor::Gap + name : name + ExponentText(left));
+}
+
+void DividingPolynomials::DivideTerm(std::size_t index) const {
+  const Term& term = quotient_.terms[index];
+  const Term size = {std::abs(term.coef), term.letters};
+  const Term& divisor = quotient_.divisor;
+  const std::string numbers = "Numbers:  " + NumbersDivided(size.coef, divisor.coef);
+  if (index == 0)
+    SayInBox(numbers);
+  else
+    SayInBoxAnew(numbers);
+  for (const char letter : {'x', 'y'})
+    SayInBox(WhatIsLeft(letter, ExponentOf(term, letter), ExponentOf(divisor, letter)));
+  SayInBox(Text(R"(The {} fraction is \b{}\z.)", Words{index == 0 ? "first" : "second"},
+                TermText(Quotient(size, divisor))));
+  PageEnd();
+}
+
+void DividingPolynomials::Check() const {
+  SayAt(15.5, Text(R"(\yCheck:\z  The answer times {} must be the polynomial.)",
+                   TermText(quotient_.divisor)));
+  Show(TermText(quotient_.divisor) + "(" + RightText(problem) + ")", kExpressionCol);
+  Show("  = " + SumText(quotient_.terms), kExpressionCol);
+  PageEnd();
 }
 
 const LessonRegistration<DividingPolynomials> kRegistration("Dividing Polynomials");
