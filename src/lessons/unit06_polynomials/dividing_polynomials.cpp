@@ -15,6 +15,7 @@ namespace {
 using namespace polynomials;
 
 constexpr double kExpressionCol = 4;
+constexpr double kWorkRow = 14;  // below the fractions of an explanation
 
 std::string NumbersDivided(int above, int below) {
   return NumStr(above) + " " + tutor::Divided + " " + NumStr(below) + " = " + NumStr(above / below);
@@ -57,12 +58,10 @@ void TermsOverANumber() {
   NewScreen();
   SayAt(3, "The terms of a polynomial are divided in the same way:");
   ShowAt(6, "(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
-  PageEnd();
   Say(R"(\yTry it:\z  What is each fraction?)");
   PageEnd();
   Say("The divisor has no x, so only the numbers are divided.  x^2^ and x stay:");
   Show(R"((12x^2^ + 8x)/4 = \y3x^2^ + 2x\z)", kExpressionCol);
-  PageEnd();
   Say(R"(\yTry it:\z  Is that 5x^3^?)");
   PageEnd();
   Say("No.  3x^2^ and 2x are unlike terms, so they stay apart.");
@@ -76,7 +75,7 @@ void OneTermOverAMonomial() {
   ShowAt(6.5, "15x^5^/(3x^2^)", kExpressionCol);
   PageEnd();
   SayAt(9, "The numbers:  " + NumbersDivided(15, 3));
-  SayAt(10.5, "The letters:  2 of the 5 factors x cancel.");
+  SayAt(10.5, "The letters:  2 of 5 factors x cancel.");
   const powers::FactorFraction fraction(12.5, kExpressionCol, {"x", 5}, {"x", 2});
   fraction.Cancel();
   PageEnd();
@@ -92,7 +91,6 @@ void TwoTermsOverAMonomial() {
   NewScreen();
   SayAt(3, "Now with two terms above the bar:");
   ShowAt(6, quotient.Text() + " = " + SplitText(quotient), kExpressionCol);
-  PageEnd();
   Say(R"(The first fraction is 5x^3^.)");
   Say(R"(\yTry it:\z  What is the second one?)");
   PageEnd();
@@ -125,10 +123,12 @@ void WrongWays() {
   PageEnd();
   SayAt(8.5, NumbersDivided(20, 4) + "  and  " + NumbersDivided(8, 4));
   AddLine("6 - 2 = 4  and  4 - 2 = 2");
+  AddLine("The minus sign between the terms stays:");
   Show(R"((20x^6^ - 8x^4^)/(4x^2^) = \y5x^4^ - 2x^2^\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The minus sign stays between the terms.)");
-  PaperBox({R"(5x^4^ - 2x^2^,  \rnot 5x^4^ + 2x^2^\z)"});
+  Say(R"(\yWatch out:\z  These are wrong, too:)");
+  PaperBox({R"(\r5x^8^ - 2x^6^\z adds the exponents)", R"(\r5x^6^ - 2x^4^\z keeps the exponents)",
+            R"(\r20x^4^ - 8x^2^\z keeps the numbers)"});
   PageEnd();
 }
 
@@ -140,8 +140,8 @@ void LetterThatCancels() {
   SayAt(8.5, "12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
   Show(R"((18x^3^ - 12x^2^)/(6x^2^) = \y3x - 2\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The 2 must not be lost.  3x and 2 are unlike terms.)");
-  PaperBox({R"(3x - 2,  \rnot 3x\z, \rnot x\z)"});
+  Say(R"(\yWatch out:\z  The 2 must not be lost, and of x^3^ not all factors cancel.)");
+  PaperBox({R"(3x - 2,  \rnot 3x\z, \rnot 3 - 2\z)"});
   PageEnd();
 }
 
@@ -156,7 +156,6 @@ void TwoLetters() {
   SayInBox("Numbers:  " + NumbersDivided(24, 6));
   SayInBox("x:  5 - 2 = 3      y:  4 - 1 = 3");
   SayInBox(R"(The first term is \b4x^3^y^3^\z.)");
-  PageEnd();
   SayAt(18, R"(\yTry it:\z  What is the second fraction?)");
   PageEnd();
   ClearBelow(18);
@@ -262,7 +261,7 @@ void DividingPolynomials::FillChoices(RandomStream& random) {
   StartAnywhere(more, random);
   StartAnywhere(fewer, random);
   StartAnywhere(others, random);
-  const int form = random.Index(3);
+  const int form = random.Index(5);
 
   Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText);
   choices.Right(quotient_.Value());
@@ -276,12 +275,12 @@ void DividingPolynomials::FillChoices(RandomStream& random) {
     if (fewer.empty()) fewer = {more.back()};
     add(fewer[0]);
     add(others[0]);
-    if (form == 1) {
+    if (form <= 2) {
       add(Both(fewer[0], others[0]));
       add(Both(more[0], others[0]));
     } else {
       add(more[0]);
-      add(Both(form == 2 ? more[0] : fewer[0], others[0]));
+      add(Both(form == 3 ? more[0] : fewer[0], others[0]));
     }
     for (const DivisionSlip& slip : others) add(Both(more[0], slip));
   }
@@ -319,17 +318,14 @@ void DividingPolynomials::ExplainProblem() {
                 TermText(quotient_.divisor)));
   PageEnd();
   ShowAt(11.5, "= " + SplitText(quotient_), kExpressionCol);
-  WhiteBox({.row = 14});
   PageEnd();
+  WhiteBox({.row = kWorkRow, .rows = 7});
   DivideTerm(0);
   DivideTerm(1);
-
-  NewScreen();
-  ShowTask();
+  ClearBelow(kWorkRow);
   const bool minus = quotient_.terms[1].coef < 0;
-  SayAt(8, Text("Together, with the {} sign between them:", Words{minus ? "minus" : "plus"}));
-  ShowAt(11, quotient_.Text() + " =", kExpressionCol);
-  ShowAt(13.5, R"(= \y)" + RightText(problem), kExpressionCol);
+  SayAt(kWorkRow, Text("With the {} sign between them we get:", Words{minus ? "minus" : "plus"}));
+  Show(R"(= \y)" + RightText(problem), kExpressionCol);
   PageEnd();
   Check();
   Conclude(problem);
@@ -363,8 +359,7 @@ void DividingPolynomials::DivideTerm(std::size_t index) const {
 }
 
 void DividingPolynomials::Check() const {
-  SayAt(15.5, Text(R"(\yCheck:\z  The answer times {} must be the polynomial.)",
-                   TermText(quotient_.divisor)));
+  Say(Text(R"(\yCheck:\z  We multiply it by {}.)", TermText(quotient_.divisor)));
   Show(TermText(quotient_.divisor) + "(" + RightText(problem) + ")", kExpressionCol);
   Show("  = " + SumText(quotient_.terms), kExpressionCol);
   PageEnd();
