@@ -36,7 +36,7 @@ void SharedDots() {
   constexpr double kCol = 10;
   constexpr int kRows = 4;
   NewScreen();
-  SayAt(3, "4 friends share 12 yellow and 8 blue stones:");
+  SayAt(3, "Four friends share 12 yellow and 8 blue stones:");
   for (int i = 0; i < kRows; ++i) {
     properties::DrawDots(kRow + i, kCol, 3, platform::colour::Yellow);
     properties::DrawDots(kRow + i, kCol + 6, 2, platform::colour::Cyan);
@@ -57,7 +57,7 @@ void SharedDots() {
 void TermsOverANumber() {
   NewScreen();
   SayAt(3, "The terms of a polynomial are divided in the same way:");
-  ShowAt(6, "(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
+  Show("(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
   Say(R"(\yTry it:\z  What is each fraction?)");
   PageEnd();
   Say("The divisor has no x, so only the numbers are divided.  x^2^ and x stay:");
@@ -135,9 +135,9 @@ void WrongWays() {
 void LetterThatCancels() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What is left of the second term?)");
-  ShowAt(6, "(18x^3^ - 12x^2^)/(6x^2^)", kExpressionCol);
+  Show("(18x^3^ - 12x^2^)/(6x^2^)", kExpressionCol);
   PageEnd();
-  SayAt(8.5, "12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
+  Say("12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
   Show(R"((18x^3^ - 12x^2^)/(6x^2^) = \y3x - 2\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yWatch out:\z  The 2 must not be lost, and of x^3^ not all factors cancel.)");
@@ -148,8 +148,8 @@ void LetterThatCancels() {
 void TwoLetters() {
   const MonomialQuotient quotient = {{{24, "xxxxxyyyy"}, {-18, "xxxyy"}}, {6, "xxy"}};
   NewScreen();
-  SayAt(3, "With two letters each letter is divided by itself:");
-  ShowAt(6, quotient.Text(), kExpressionCol);
+  SayAt(3, "With two letters we subtract the exponents of each letter by itself:");
+  ShowAt(6.5, quotient.Text(), kExpressionCol);
   ShowAt(9.5, "= " + SplitText(quotient), kExpressionCol);
   PageEnd();
   WhiteBox({.row = 12, .rows = 5.5});
@@ -176,9 +176,9 @@ void LetterNotInDivisor() {
         "stay.");
   Say(R"(\yTry it:\z  And what is the quotient?)");
   PageEnd();
-  Say(NumbersDivided(10, 5) + "  and  " + NumbersDivided(15, 5));
+  Say("Numbers:  " + NumbersDivided(10, 5) + "  and  " + NumbersDivided(15, 5));
   AddLine("y:  3 - 2 = 1  and  5 - 2 = 3");
-  Show(R"(= \y2x^4^y + 3x^2^y^3^\z)", kExpressionCol);
+  Show(R"((10x^4^y^3^ + 15x^2^y^5^)/(5y^2^) = \y2x^4^y + 3x^2^y^3^\z)", kExpressionCol);
   PageEnd();
 }
 
