@@ -209,13 +209,12 @@ void SquareOfADifference() {
 void DifferenceOfSquares() {
   const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {4, ""}}};
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Which product is  )" + Text("{}?", "z^2^ - 16"));
+  SayAt(3, R"(\yTry it:\z  What is this product?)");
   FoilTable table(pair, kPairRow);
   PageEnd();
   WorkAll(table);
   SayAt(table.RowBelow(),
-        "It is this one.  The signs in the binomials differ, so 4z and -4z make "
-        "0:");
+        Text("4z and -4z make 0.  So this is the product to which Ann's {} belongs:", "z^2^ - 16"));
   Show("(z - 4)(z + 4) = z^2^ - 16", kExpressionCol);
   PageEnd();
   Say(Text(R"(\yTry it:\z  Ben says that {} is this product, too.  What is wrong?)", "(z - 4)^2^"));
