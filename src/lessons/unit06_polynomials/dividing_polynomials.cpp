@@ -197,7 +197,6 @@ class DividingPolynomials final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  void DrawQuotient(RandomStream& random);
   void FillChoices(RandomStream& random);
 
   void ShowTask() const;
@@ -208,43 +207,6 @@ class DividingPolynomials final : public LessonScript {
 };
 
 // --- Generator -----------------------------------------------------------------------------------
-
-std::string PowersOf(int x, int y) {
-  return std::string(static_cast<std::size_t>(x), 'x') +
-         std::string(static_cast<std::size_t>(y), 'y');
-}
-
-int ExponentOf(const Term& term, char letter) {
-  return static_cast<int>(std::ranges::count(term.letters, letter));
-}
-
-void DividingPolynomials::DrawQuotient(RandomStream& random) {
-  struct Drawn {
-    int coef, x, y;
-  };
-  const auto drawTerm = [&](int divisor) {
-    Drawn term{};
-    term.coef = divisor * random.Rand(2, 6);
-    term.x = random.Rand(2, 7);
-    term.y = random.Rand(2, 7);
-    return term;
-  };
-  bool fits = false;
-  while (!fits) {
-    const int divisor = random.Rand(2, 10);
-    const int x = random.Rand(0, 4);
-    const int y = random.Rand(0, 4);
-    Drawn first = drawTerm(divisor);
-    Drawn second = drawTerm(divisor);
-    const int sign = random.Sign();
-    if (first.x < second.x) std::swap(first, second);
-    quotient_ = {{{first.coef, PowersOf(first.x, first.y)},
-                  {sign * second.coef, PowersOf(second.x, second.y)}},
-                 {divisor, PowersOf(x, y)}};
-    fits = first.x != second.x &&                           // falling powers
-           second.x >= x && first.y >= y && second.y >= y;  // no letter is left below the bar
-  }
-}
 
 template <class T>
 void StartAnywhere(std::vector<T>& list, RandomStream& random) {
@@ -292,7 +254,7 @@ void DividingPolynomials::FillChoices(RandomStream& random) {
 }
 
 void DividingPolynomials::DrawProblem(RandomStream& random) {
-  DrawQuotient(random);
+  quotient_ = DrawMonomialQuotient(random);
   problem.question = {"Find the quotient:", quotient_.Text()};
   FillChoices(random);
 }

@@ -3,6 +3,7 @@
 //
 // A problem has binomials in two different letters, (pt + q)(ru + s), so that its four products are
 // unlike terms.  The wrong choices have another Outer or Inner product.
+#include "lessons/families/polynomials/cut_rectangle.h"
 #include "lessons/families/polynomials/foil_table.h"
 #include "lessons/families/polynomials/sum_of_terms.h"
 #include "lessons/lesson.h"
@@ -19,67 +20,18 @@ constexpr double kPairRow = 5;  // of two binomials above their table
 
 // --- Teaching screens ----------------------------------------------------------------------------
 
-// A rectangle t + 3 wide and u + 2 high, cut into four parts that can stand apart.
-struct CutRectangle {
-  double apart = 0;  // rows; columns twice as many
-  static constexpr double kTop = 6.2;
-  static constexpr double kLeft = 9;
-  static constexpr double kWidths[] = {14, 7};    // columns
-  static constexpr double kHeights[] = {3.2, 2};  // rows
-
-  double Left(int col) const { return col == 0 ? kLeft : kLeft + kWidths[0] + 2 * apart; }
-  double Top(int row) const { return row == 0 ? kTop : kTop + kHeights[0] + apart; }
-
-  void Draw() const {
-    for (int row = 0; row < 2; ++row)
-      for (int col = 0; col < 2; ++col)
-        isDrawBox(Top(row), Left(col), Top(row) + kHeights[row] - 1, Left(col) + kWidths[col] - 1,
-                  row == col ? platform::colour::Yellow : platform::colour::Cyan, 2);
-  }
-  void ShowSides() const {
-    const char* const across[] = {"t", "3"};
-    const char* const down[] = {"u", "2"};
-    for (int i = 0; i < 2; ++i) {
-      ShowAt(kTop - 1.2, across[i], Left(i) + (kWidths[i] - 1) / 2);
-      ShowAt(Top(i) + (kHeights[i] - 1) / 2, down[i], kLeft - 2);
-    }
-  }
-  void ShowArea(int row, int col, const std::string& area) const {
-    ShowAt(Top(row) + (kHeights[row] - 1) / 2, area,
-           Left(col) + (kWidths[col] - static_cast<double>(area.size())) / 2);
-  }
-  // From rows and columns that touch.
-  void MoveApart() const {
-    const double right = kLeft + kWidths[0];
-    const double lower = kTop + kHeights[0];
-    SlideRight({kTop - 1.2, right, kWidths[1] + 0.3, kHeights[0] + kHeights[1] + 1.4}, 2 * apart);
-    SlideDown({lower, kLeft - 2, kWidths[0] + kWidths[1] + 2 * apart + 2.3, kHeights[1] + 0.2},
-              apart);
-    ClearCells(kTop - 1.2, kLeft - 2, kWidths[0] + kWidths[1] + 2 * apart + 2.3,
-               kHeights[0] + kHeights[1] + apart + 1.4);
-    Draw();
-    ShowSides();
-  }
-};
-
 void RectangleOfFourParts() {
   constexpr double kBelow = 13.5;
   NewScreen();
   SayAt(3, R"(A \cbinomial\z has two terms, as )" + WithoutBreaks("t + 3 has."));
-  const CutRectangle whole;
-  whole.Draw();
-  whole.ShowSides();
+  CutRectangle rectangle({"t", "3"}, {"u", "2"}, 6.2);
   PageEnd();
   SayAt(kBelow, Text("The rectangle is {} wide and {} high, so its area is {}.", "t + 3", "u + 2",
                      "(t + 3)(u + 2)"));
   Say(R"(\yTry it:\z  What is the area of each part?)");
   PageEnd();
-  const CutRectangle cut{0.7};
-  cut.MoveApart();
-  cut.ShowArea(0, 0, "tu");
-  cut.ShowArea(0, 1, "3u");
-  cut.ShowArea(1, 0, "2t");
-  cut.ShowArea(1, 1, "6");
+  rectangle.MoveApart();
+  rectangle.ShowAreas({{{"tu", "3u"}, {"2t", "6"}}});
   ClearBelow(kBelow);
   SayAt(kBelow, "Together they are the whole area:");
   Show(R"((t + 3)(u + 2) = \ytu + 2t + 3u + 6)", 3);

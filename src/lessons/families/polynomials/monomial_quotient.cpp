@@ -3,15 +3,12 @@
 #include <algorithm>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 namespace course::polynomials {
 namespace {
 
 constexpr char kLetters[] = {'x', 'y'};
-
-int ExponentOf(const Term& term, char letter) {
-  return static_cast<int>(std::ranges::count(term.letters, letter));
-}
 
 void SortByPowersOfX(Sum& sum) {
   std::ranges::stable_sort(sum, std::ranges::greater{},
@@ -68,7 +65,45 @@ std::vector<DivisionSlip> Leading(const MonomialQuotient& quotient,
   return slips;
 }
 
+std::string PowersOf(int x, int y) {
+  return std::string(static_cast<std::size_t>(x), 'x') +
+         std::string(static_cast<std::size_t>(y), 'y');
+}
+
+struct DrawnTerm {
+  int coef, x, y;
+};
+DrawnTerm DrawTerm(RandomStream& random, int divisor) {
+  DrawnTerm term{};
+  term.coef = divisor * random.Rand(2, 6);
+  term.x = random.Rand(2, 7);
+  term.y = random.Rand(2, 7);
+  return term;
+}
+
 }  // namespace
+
+// More than half of the draws are accepted.
+MonomialQuotient DrawMonomialQuotient(RandomStream& random) {
+  for (;;) {
+    const int divisor = random.Rand(2, 10);
+    const int x = random.Rand(0, 4);
+    const int y = random.Rand(0, 4);
+    DrawnTerm first = DrawTerm(random, divisor);
+    DrawnTerm second = DrawTerm(random, divisor);
+    const int sign = random.Sign();
+    if (first.x < second.x) std::swap(first, second);
+    if (first.x == second.x) continue;                          // no falling powers of x
+    if (second.x < x || first.y < y || second.y < y) continue;  // a letter stays below the bar
+    return {{{first.coef, PowersOf(first.x, first.y)},
+             {sign * second.coef, PowersOf(second.x, second.y)}},
+            {divisor, PowersOf(x, y)}};
+  }
+}
+
+int ExponentOf(const Term& term, char letter) {
+  return static_cast<int>(std::ranges::count(term.letters, letter));
+}
 
 std::string FractionText(const Sum& above, const Term& below) {
   const std::string numerator = SumText(above);

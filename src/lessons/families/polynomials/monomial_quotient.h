@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lessons/families/polynomials/sum_of_terms.h"
+#include "mathkit/random_stream.h"
 
 namespace course::polynomials {
 
@@ -18,6 +19,10 @@ struct MonomialQuotient {
   Sum Value() const;
 };
 
+// The numbers divide exactly, with quotients 2 to 6, and the powers as well.
+MonomialQuotient DrawMonomialQuotient(RandomStream& random);
+
+int ExponentOf(const Term& term, char letter);
 // "24x^5^y^4^/(6x^2^y)"; a lone number stands below the bar without parentheses.
 std::string FractionText(const Sum& above, const Term& below);
 
