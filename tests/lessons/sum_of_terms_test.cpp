@@ -8,11 +8,15 @@
 #include "lessons/families/polynomials/combining_mistakes.h"
 #include "lessons/families/polynomials/sum_with_products.h"
 #include "mathkit/tutor_codes.h"
+#include "support/course_fixture.h"
+#include "support/expect_stop.h"
 
 namespace course::testing {
 namespace {
 
 using namespace polynomials;
+
+using QuotientOfTermsTest = CourseTest;
 
 std::string Readable(const std::string& text) {
   return ToUtf8(text);
@@ -36,6 +40,13 @@ TEST(SumOfTerms, ProductsKeepTheirLettersInOrder) {
   EXPECT_EQ(Product(Term{2, "yy"}, Term{-3, "xy"}), (Term{-6, "xyyy"}));
   EXPECT_EQ(Product({-2, "x"}, {{3, "x"}, {-4, ""}}), (Sum{{-6, "xx"}, {8, "x"}}));
   EXPECT_EQ(ValueAt({{2, "xx"}, {-3, "x"}, {1, ""}}, -2), 15);
+}
+
+TEST_F(QuotientOfTermsTest, IsExactOrStops) {
+  EXPECT_EQ(Quotient({-24, "xxxyy"}, {6, "xy"}), (Term{-4, "xxy"}));
+  EXPECT_EQ(Quotient({24, "x"}, {-6, "x"}), (Term{-4, ""}));
+  ExpectStop("Quotient: 6xy does not divide 24x", [] { Quotient({24, "x"}, {6, "xy"}); });
+  ExpectStop("Quotient: 5 does not divide 24x", [] { Quotient({24, "x"}, {5, ""}); });
 }
 
 TEST(SumWithProducts, TheFactorIsCarriedToEachTermWithItsSign) {

@@ -312,16 +312,21 @@ void MultiplyingBinomials::AddProducts(double row) const {
   PageEnd();
 }
 
+// The number or the next one: a binomial of 0 would hide what is wrong in the other.
+int NumberToTry(const Sum& binomial, int number) {
+  return ValueAt(binomial, number) == 0 ? number + 1 : number;
+}
+
 // Both sides with a number in place of each letter.
 void MultiplyingBinomials::Check() const {
   const auto withNumber = [](Term term, int number) {
     return Term{term.letters.empty() ? term.coef : number * term.coef, ""};
   };
-  constexpr int kFirst = 2;
-  constexpr int kSecond = 1;
+  const int firstNumber = NumberToTry(pair_.first, 2);
+  const int secondNumber = NumberToTry(pair_.second, 1);
   BinomialPair tried = pair_;
-  for (Term& term : tried.first) term = withNumber(term, kFirst);
-  for (Term& term : tried.second) term = withNumber(term, kSecond);
+  for (Term& term : tried.first) term = withNumber(term, firstNumber);
+  for (Term& term : tried.second) term = withNumber(term, secondNumber);
   const int first = ValueAt(tried.first, 0);
   const int second = ValueAt(tried.second, 0);
   const std::string value = NumStr(first * second);
@@ -329,8 +334,8 @@ void MultiplyingBinomials::Check() const {
   ProblemBanner();
   ShowAt(4.5, pair_.Text(), kExpressionCol);
   ShowAt(6, "= " + SumText(pair_.Products()), kExpressionCol);
-  SayAt(8, Text(R"(\yCheck:\z  We put {} for {} and {} for {}.)", kFirst, pair_.first[0].letters,
-                kSecond, pair_.second[0].letters));
+  SayAt(8, Text(R"(\yCheck:\z  We put {} for {} and {} for {}.)", firstNumber,
+                pair_.first[0].letters, secondNumber, pair_.second[0].letters));
   Show(tried.Text() + " = " + NumStr(first) + " " + tutor::Times + " " + InParentheses(second) +
            " = " + value,
        2);
