@@ -56,7 +56,8 @@ void SharedDots() {
 
 void TermsOverANumber() {
   NewScreen();
-  SayAt(3, "The terms of a polynomial are divided in the same way:");
+  SayAt(3, R"(A \cpolynomial\z is a sum of terms.  Each is divided by the \cdivisor\z below )"
+           "the bar:");
   Show("(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
   Say(R"(\yTry it:\z  What is each fraction?)");
   PageEnd();
@@ -70,8 +71,8 @@ void TermsOverANumber() {
 
 void OneTermOverAMonomial() {
   NewScreen();
-  SayAt(3, R"(A \cmonomial\z is a single term, such as  )" + WithoutBreaks("3x^2^.") +
-               "  How do we divide by it?");
+  SayAt(3, R"(A \cmonomial\z is one term, such as )" + WithoutBreaks("3x^2^.") +
+               "  How do we divide by it?  (x is not 0.)");
   ShowAt(6.5, "15x^5^/(3x^2^)", kExpressionCol);
   PageEnd();
   SayAt(9, "The numbers:  " + NumbersDivided(15, 3));
@@ -297,7 +298,7 @@ void DividingPolynomials::ExplainProblem() {
 std::string WhatIsLeft(char letter, int above, int below) {
   const std::string name(1, letter);
   if (below == 0)
-    return Text("{}:  The divisor has none, so {} stays.", name, name + ExponentText(above));
+    return Text("{}:  The divisor has no {}, so {} stays.", name, name, name + ExponentText(above));
   const int left = above - below;
   return Text("{}:  {}, so {} is left.", name,
               NumStr(above) + " - " + NumStr(below) + " = " + NumStr(left),
