@@ -204,7 +204,6 @@ class SimplifyingExpressions final : public LessonScript {
   bool Fits() const;
 
   void MultiplyOut(const Part& part);
-  void Check();
 
   std::string letter_;
   SumWithProducts expression_;
@@ -285,7 +284,7 @@ void SimplifyingExpressions::ExplainProblem() {
   ShowAt(4.5, problem.question[1], kExpressionCol);
   CombineAloud(terms, 6);
   PageEnd();
-  Check();
+  CheckInNumbers(expression_);
   Conclude(problem);
 }
 
@@ -317,33 +316,6 @@ void SimplifyingExpressions::MultiplyOut(const Part& part) {
     AddLine(table.ProductText(i), {.col = kExpressionCol});
   }
   if (part.factor < 0) Say(SignsOfProducts(part));
-  PageEnd();
-}
-
-// Both expressions with a number in place of the letter.
-void SimplifyingExpressions::Check() {
-  constexpr int kTried = 2;
-  const auto inNumbers = [](Sum sum) {
-    for (Term& term : sum) term = {ValueAt({term}, kTried), ""};
-    return sum;
-  };
-  SumWithProducts tried = expression_;
-  Sum products;
-  for (Part& part : tried) {
-    part.inside = inNumbers(part.inside);
-    products.push_back({part.factor * ValueAt(part.inside, kTried), ""});
-  }
-  const Sum right = inNumbers(Combined(MultipliedOut(expression_)));
-  NewScreen();
-  ProblemBanner();
-  ShowAt(4.5, SumText(expression_) + " = " + RightText(problem), 2);
-  Say(Text(R"(\yCheck:\z  We put {} in place of {} in both expressions.)", kTried, letter_));
-  Show(SumText(tried), kExpressionCol);
-  Show("  = " + SumText(products) + " = " + NumStr(ValueAt(products, 0)), kExpressionCol);
-  PageEnd();
-  Say("Now the answer:");
-  Show(SumText(right) + " = " + NumStr(ValueAt(right, 0)), kExpressionCol);
-  Say("Both have the same value.");
   PageEnd();
 }
 

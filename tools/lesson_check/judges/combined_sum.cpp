@@ -1,4 +1,5 @@
-// A sum to be simplified: products are multiplied out, then like terms are combined.
+// A sum to be simplified: products are multiplied out, then like terms are combined.  A sum in
+// parentheses alone counts as a product with the factor 1 or -1.
 #include "lesson_check/judges/combined_sum.h"
 
 #include <algorithm>
@@ -55,7 +56,7 @@ Part ReadPart(const Expression& expression) {
   }
   const bool product = expression.kind == Kind::Product && expression.parts.size() == 2 &&
                        expression.parts[0].kind == Kind::Number && expression.parts[1].bracketed;
-  if (!product) return {1, false, TermsOf(expression)};
+  if (!product) return {1, expression.bracketed, TermsOf(expression)};
   return {expression.parts[0].number, true, TermsOf(expression.parts[1])};
 }
 
@@ -107,37 +108,48 @@ std::vector<Terms> Groups(const Terms& terms) {
   return groups;
 }
 
+std::vector<Terms> GroupsThatStay(const Terms& terms) {
+  std::vector<Terms> groups = Groups(terms);
+  std::erase_if(groups, [](const Terms& group) { return SumOf(group).IsZero(); });
+  return groups;
+}
+
 // The letters of a term if its kind had been multiplied and not added.
 Polynomial LettersMultiplied(const Terms& group) {
   return LettersOf(group[0]).Power(static_cast<int>(group.size()));
 }
 
-// All terms made one, whose letters come from each kind.
-template <class Letters>
-Polynomial MadeOne(const std::vector<Terms>& groups, Letters lettersOf) {
-  Rational total = 0;
-  Polynomial letters(Rational(1));
-  for (const Terms& group : groups) {
-    total += CoefficientOf(SumOf(group));
-    letters = letters * lettersOf(group);
-  }
-  return Polynomial(total) * letters;
+int DegreeOf(const Polynomial& term) {
+  int degree = 0;
+  for (const char letter : term.Letters()) degree += term.Degree(letter);
+  return degree;
 }
 
-void AddUnlikeCombined(const std::vector<Terms>& groups, Mistakes mistakes) {
-  if (groups.size() < 2) return;
-  mistakes.Add("combines unlike terms",
-               MadeOne(groups, [](const Terms& group) { return LettersOf(group[0]); }));
+// Two neighbours in falling powers made one term, with the letters of both.
+void AddUnlikeCombined(const std::string& name, const Terms& terms, Mistakes mistakes) {
+  Terms kinds;
+  for (const Terms& group : GroupsThatStay(terms)) kinds.push_back(SumOf(group));
+  std::ranges::stable_sort(kinds, std::ranges::greater{}, DegreeOf);
+  for (std::size_t i = 1; i < kinds.size(); ++i) {
+    const Polynomial& a = kinds[i - 1];
+    const Polynomial& b = kinds[i];
+    const Polynomial one =
+        Polynomial(CoefficientOf(a) + CoefficientOf(b)) * LettersOf(a) * LettersOf(b);
+    mistakes.Add(name, SumOf(terms) - a - b + one);
+  }
+}
+
+Terms WithExponentsAdded(const std::vector<Terms>& groups) {
+  Terms terms;
+  for (const Terms& group : groups)
+    terms.push_back(Polynomial(CoefficientOf(SumOf(group))) * LettersMultiplied(group));
+  return terms;
 }
 
 void AddExponentsAdded(const std::vector<Terms>& groups, Mistakes& mistakes) {
   const bool anyAreLike = std::ranges::any_of(
       groups, [](const Terms& group) { return group.size() > 1 && !IsNumber(group[0]); });
-  if (!anyAreLike) return;
-  Polynomial sum;
-  for (const Terms& group : groups)
-    sum = sum + Polynomial(CoefficientOf(SumOf(group))) * LettersMultiplied(group);
-  mistakes.Add("adds the exponents too", sum);
+  if (anyAreLike) mistakes.Add("adds the exponents too", SumOf(WithExponentsAdded(groups)));
 }
 
 void AddGroupMistakes(const Terms& terms, const Terms& group, Mistakes& mistakes) {
@@ -152,10 +164,8 @@ void AddGroupMistakes(const Terms& terms, const Terms& group, Mistakes& mistakes
 }
 
 void AddCombiningMistakes(const Terms& terms, Mistakes mistakes) {
-  const std::vector<Terms> groups = Groups(terms);
-  for (const Terms& group : groups)
-    if (SumOf(group).IsZero()) return;
-  AddUnlikeCombined(groups, mistakes);
+  const std::vector<Terms> groups = GroupsThatStay(terms);
+  AddUnlikeCombined("combines unlike terms", terms, mistakes);
   AddExponentsAdded(groups, mistakes);
   for (const Terms& group : groups) AddGroupMistakes(terms, group, mistakes);
 }
@@ -176,7 +186,8 @@ void AddReadingSlips(const Terms& terms, Reading& reading) {
       AddSlip("counts a letter alone as 0", without, reading);
     if (i + 1 == terms.size()) {
       Mistakes(reading).Add("leaves out the last term", SumOf(without));
-      AddUnlikeCombined(Groups(without), Mistakes(reading, "leaves out the last term"));
+      AddUnlikeCombined("combines unlike terms", without,
+                        Mistakes(reading, "leaves out the last term"));
     }
     Terms positive = terms;
     positive[i] = -positive[i];
@@ -225,6 +236,75 @@ void AddProductSlips(const WrittenSum& sum, Reading& reading) {
   AddSlip("works from left to right", leftToRight, reading);
 }
 
+// --- Two sums in parentheses ---------------------------------------------------------------------
+
+bool AreTwoBrackets(const WrittenSum& sum) {
+  return sum.parts.size() == 2 && std::ranges::all_of(sum.parts, [](const Part& part) {
+           return part.isProduct && abs(part.factor) == 1;
+         });
+}
+
+Terms Negated(Terms terms) {
+  for (Polynomial& term : terms) term = -term;
+  return terms;
+}
+
+Terms Together(Terms first, const Terms& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
+void AddBracketSlips(const WrittenSum& sum, Reading& reading) {
+  const Terms& first = sum.parts[0].inside;
+  const Terms& second = sum.parts[1].inside;
+  if (sum.parts[1].factor < 0) {
+    Terms onlyFirstSign = second;
+    onlyFirstSign[0] = -onlyFirstSign[0];
+    AddSlip("carries the minus sign to the first term only", Together(first, onlyFirstSign),
+            reading);
+    AddSlip("adds instead of subtracting", Together(first, second), reading);
+    AddSlip("subtracts the first polynomial from the second", Together(Negated(first), second),
+            reading);
+  } else {
+    AddSlip("subtracts instead of adding", Together(first, Negated(second)), reading);
+  }
+  const Terms terms = sum.Expanded();
+  for (const Terms& group : Groups(terms)) {
+    if (!SumOf(group).IsZero() || IsNumber(group[0])) continue;
+    Terms kept = {LettersOf(group[0])};
+    std::ranges::copy_if(terms, std::back_inserter(kept), [&](const Polynomial& term) {
+      return LettersOf(term) != LettersOf(group[0]);
+    });
+    AddSlip("keeps the letter of a term that is 0", kept, reading);
+  }
+}
+
+std::string KindOfBrackets(const WrittenSum& sum) {
+  const Terms terms = sum.Expanded();
+  const bool allStay = Groups(terms).size() == GroupsThatStay(terms).size();
+  return std::string(sum.parts[1].factor < 0 ? "difference" : "sum") +
+         (allStay ? "" : ", with terms that vanish");
+}
+
+// --- Question and choices ------------------------------------------------------------------------
+
+void CheckQuestion(const WrittenSum& sum, Reading& reading) {
+  const Terms terms = sum.Expanded();
+  const Polynomial total = SumOf(terms);
+  const bool brackets = AreTwoBrackets(sum);
+  if (!brackets && total.TermCount() != Groups(terms).size())
+    reading.faults.push_back("terms of one kind add up to 0");
+  if (total.IsZero()) reading.faults.push_back("nothing is left");
+  const int largest = brackets ? 9 : 81;
+  for (const Polynomial& term : terms)
+    reading.Within("a term", CoefficientOf(term), -largest, largest);
+  if (!brackets) return;
+  if (total.Letters().size() > 1) reading.faults.push_back("there is more than one letter");
+  for (const Part& part : sum.parts)
+    if (part.inside.size() != 3 || Groups(part.inside).size() != 3)
+      reading.faults.push_back("there are not three unlike terms in parentheses");
+}
+
 // Each kind of terms once, and none of them 0.
 std::string FlawOf(const std::string& choice) {
   const Expression expression = ParseExpression(choice);
@@ -232,8 +312,20 @@ std::string FlawOf(const std::string& choice) {
   return Groups(terms).size() == terms.size() ? "" : "can be simplified";
 }
 
+// "3 + 1 + 1 terms": how many of each kind, the most first.
+std::string KindOfLongSum(const Terms& terms) {
+  std::vector<std::size_t> sizes;
+  for (const Terms& group : Groups(terms)) sizes.push_back(group.size());
+  std::ranges::sort(sizes, std::ranges::greater{});
+  std::string kind;
+  for (const std::size_t size : sizes) kind += (kind.empty() ? "" : " + ") + std::to_string(size);
+  return kind + " terms";
+}
+
 // "a(x + 1) + x", with x for the first letter and y for another.
 std::string KindOf(const WrittenSum& sum) {
+  if (AreTwoBrackets(sum)) return KindOfBrackets(sum);
+  if (Groups(sum.Expanded()).size() > 2) return KindOfLongSum(sum.Expanded());
   const std::string letters = SumOf(sum.Expanded()).Letters();
   const auto letterPart = [&](const Polynomial& term) {
     std::string text = LettersOf(term).Text();
@@ -273,21 +365,23 @@ Reading ReadCombinedSum(const course::Problem& problem) {
   reading.value = [](const std::string& choice) { return ValueOf(choice).Text(); };
   reading.flaw = FlawOf;
   reading.kind = KindOf(sum);
-  if (SumOf(terms).TermCount() != Groups(terms).size())
-    reading.faults.push_back("terms of one kind add up to 0");
-  for (const Polynomial& term : terms) reading.Within("a term", CoefficientOf(term), -81, 81);
+  CheckQuestion(sum, reading);
   AddCombiningMistakes(terms, Mistakes(reading));
-  if (Groups(terms).size() > 1)
-    Mistakes(reading).Add("combines unlike terms and adds the exponents too",
-                          MadeOne(Groups(terms), LettersMultiplied));
+  AddUnlikeCombined("combines unlike terms and adds the exponents too",
+                    WithExponentsAdded(GroupsThatStay(terms)), Mistakes(reading));
   AddReadingSlips(terms, reading);
-  if (std::ranges::any_of(sum.parts, &Part::isProduct)) AddProductSlips(sum, reading);
+  if (AreTwoBrackets(sum))
+    AddBracketSlips(sum, reading);
+  else if (std::ranges::any_of(sum.parts, &Part::isProduct))
+    AddProductSlips(sum, reading);
   return reading;
 }
 
 namespace {
 
-const JudgeRegistration kRegistration(ReadCombinedSum, {"Simplifying Expressions"});
+const JudgeRegistration kRegistration(ReadCombinedSum,
+                                      {"Simplifying Expressions", "Simplifying Polynomials",
+                                       "Adding and Subtracting Polynomials"});
 
 }  // namespace
 }  // namespace lesson_check

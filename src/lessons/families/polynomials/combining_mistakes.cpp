@@ -24,10 +24,15 @@ Sum LikeOnes(const Sum& sum, const Term& term) {
   return like;
 }
 
+// Two of at least two kinds of terms made one: a number is taken for the kind above it, else the
+// two highest ones are joined.
 Sum UnlikeCombined(const Sum& sum) {
-  Term all = {0, ""};
-  for (const Term& term : Combined(sum)) all = {all.coef + term.coef, all.letters + term.letters};
-  return {Product({1, ""}, all)};  // its letters in order
+  Sum wrong = Combined(sum);
+  const auto first = wrong.back().letters.empty() ? wrong.end() - 2 : wrong.begin();
+  const Term& second = *(first + 1);
+  *first = Product({1, ""}, {first->coef + second.coef, first->letters + second.letters});
+  wrong.erase(first + 1);
+  return wrong;
 }
 
 // x + x as if it were x times x, in every kind of terms.
@@ -86,8 +91,9 @@ bool IsSmall(const Sum& sum) {
 }
 
 // Whether it can stand beside the right sum: as many terms, none of them 0 or large.
-bool IsBelievable(const Sum& wrong, const Sum& right) {
-  return IsSmall(wrong) && wrong.size() == right.size() && wrong != right;
+bool IsBelievable(const Sum& wrong, const Sum& right, bool termsMayVanish = false) {
+  const bool hasTerms = termsMayVanish ? !wrong.empty() : wrong.size() == right.size();
+  return IsSmall(wrong) && hasTerms && wrong != right;
 }
 
 template <class T>
@@ -169,14 +175,17 @@ std::vector<Slip> ReadingSlips(const Sum& sum) {
 
 std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
   const Sum right = Combined(sum);
+  const Sum exponentsAdded = ExponentsAdded(sum);  // terms may come together, and vanish
   std::vector<WrongSum> mistakes;
-  if (right.size() > 1)
-    for (const WrongSum& wrong :
-         {WrongSum{kUnlike, UnlikeCombined(right)},
-          WrongSum{kUnlikeAndExponents, UnlikeCombined(ExponentsAdded(sum))}})
-      if (IsSmall(wrong.sum)) mistakes.push_back(wrong);
+  const auto addUnlike = [&](const char* mistake, const Sum& apart) {
+    if (apart.size() < 2) return;
+    const Sum wrong = UnlikeCombined(apart);
+    if (IsSmall(wrong)) mistakes.push_back({mistake, wrong});
+  };
+  addUnlike(kUnlike, right);
+  addUnlike(kUnlikeAndExponents, exponentsAdded);
   const std::vector<WrongSum> others = {
-      {kExponents, ExponentsAdded(sum)},
+      {kExponents, exponentsAdded},
       {"makes two negatives a positive", SignTurnedOfNegatives(sum)},
       {"takes the wrong sign in a sum of unlike signs", SignTurnedOfUnlikeSigns(sum)}};
   for (const WrongSum& wrong : others)
@@ -185,16 +194,18 @@ std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
 }
 
 void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> slips,
-                         RandomStream& random) {
-  Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText);
+                         RandomStream& random, const ChoiceRules& rules) {
+  Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText, rules.slots);
   const Sum right = Combined(sum);
   const std::vector<WrongSum> mistakes = CombiningMistakes(sum);
   const Slip last = {"leaves out the last term", {sum.begin(), sum.end() - 1}};
   choices.Right(right);
   for (Slip& slip : slips)
     std::erase_if(slip.terms, [](const Term& term) { return term.coef == 0; });
-  std::erase_if(slips,
-                [&](const Slip& slip) { return !IsBelievable(Combined(slip.terms), right); });
+  const auto isBelievable = [&](const Slip& slip) {
+    return IsBelievable(Combined(slip.terms), right, rules.termsMayVanish);
+  };
+  std::erase_if(slips, [&](const Slip& slip) { return !isBelievable(slip); });
   StartAnywhere(slips, random);
   const bool aroundUnlike = random.Index(3) == 1 && right.size() > 1;
   if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, sum, slips, random);
@@ -202,8 +213,7 @@ void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> sli
   if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips);
   for (const WrongSum& wrong : mistakes) choices.Wrong(wrong.mistake, wrong.sum);
   for (const Slip& slip : slips)
-    if (IsBelievable(Combined(slip.terms), right))
-      choices.Wrong(slip.mistake, Combined(slip.terms));
+    if (isBelievable(slip)) choices.Wrong(slip.mistake, Combined(slip.terms));
   choices.Fill([&] {
     Sum near = right;
     for (Term& term : near) {

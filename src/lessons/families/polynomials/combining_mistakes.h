@@ -29,10 +29,14 @@ struct WrongSum {
 // passes two digits are left out; some may be equal.
 std::vector<WrongSum> CombiningMistakes(const Sum& sum);
 
+struct ChoiceRules {
+  int slots = 5;                // that are filled, with the right one
+  bool termsMayVanish = false;  // in the right sum and in wrong ones
+};
 // Five shuffled choices for a sum whose terms are to be combined, the right one among them.  Most
 // of the problems have two choices that go wrong twice, first by the same slip: if each wrong
 // choice were a single step from the right one, that would be the one most like the others.
 void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> slips,
-                         RandomStream& random);
+                         RandomStream& random, const ChoiceRules& rules = {});
 
 }  // namespace course::polynomials

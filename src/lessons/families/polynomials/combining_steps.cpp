@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "display/grid.h"
+#include "display/stacked_text.h"
+#include "engine/header.h"
 #include "engine/page.h"
 #include "lessons/families/polynomials/gathering_table.h"
 #include "lessons/page/boxes.h"
@@ -10,6 +13,7 @@
 #include "lessons/page/show.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
+#include "platform/stop.h"
 
 namespace course::polynomials {
 
@@ -40,9 +44,9 @@ std::string LoneLetterSentence(const Sum& like) {
   return Text("{} means {}.  ", TermText(*lone), NumStr(lone->coef) + LettersText(lone->letters));
 }
 
-// "1x = x" where the coefficient is 1.
+// "1x = x" where the coefficient is 1, "0x = 0".
 std::string OneText(const Term& total) {
-  if (total.letters.empty() || std::abs(total.coef) != 1) return "";
+  if (total.letters.empty() || std::abs(total.coef) > 1) return "";
   return NumStr(total.coef) + LettersText(total.letters) + " = " + TermText(total);
 }
 
@@ -55,6 +59,7 @@ std::string SignSentence(const Sum& like) {
   if (like.size() > 2) return "We add from left to right.";
   const int a = like[0].coef;
   const int b = like[1].coef;
+  if (a == -b) return Text("{} and {} are opposites.  The term vanishes.", a, b);
   const int farther = std::abs(a) > std::abs(b) ? a : b;
   return Text("The signs differ.  {} is farther from 0 than {}, so the sum is {}.", farther,
               farther == a ? b : a, Words{farther < 0 ? "negative" : "positive"});
@@ -78,13 +83,42 @@ void AddColumn(GatheringTable& table, int kind) {
   PageEnd();
 }
 
+std::string ResultSentence(const GatheringTable& table, KindNames names) {
+  if (table.Kinds() == 1) return "The letters and exponents are kept:";
+  if (names == KindNames::Letters) return "The sums are unlike terms.  They stay apart:";
+  return "The sums are unlike terms.  They stay apart, in falling powers:";
+}
+
+// The letters of the first term that has some.
+std::string LettersOf(const SumWithProducts& expression) {
+  const Sum terms = MultipliedOut(expression);
+  const auto found =
+      std::ranges::find_if(terms, [](const Term& term) { return !term.letters.empty(); });
+  if (found == terms.end()) platform::Stop("CheckInNumbers: no letter in " + SumText(expression));
+  return found->letters;
+}
+
+bool FitsOnLine(const std::string& math, double col) {
+  constexpr int kLastColumn = 40;
+  return col + StackedTextWidth(math) - 1 <= kLastColumn;
+}
+
+// The result stands on a line of its own where one line does not hold both.
+void ShowEquation(const std::string& left, const std::string& right) {
+  const std::string line = left + " = " + right;
+  if (FitsOnLine(line, kMathCol)) return Show(line, kMathCol);
+  Show(left, kMathCol);
+  Show("  = " + right, kMathCol);
+}
+
 }  // namespace
 
-void CombineAloud(const Sum& sum, double row) {
-  GatheringTable table(sum, row);
+void CombineAloud(const Sum& sum, double row, KindNames names) {
+  GatheringTable table(sum, row, names);
   const bool oneKind = table.Kinds() == 1;
-  std::string kinds = table.Name(0);
-  for (int kind = 1; kind < table.Kinds(); ++kind) kinds += " and " + table.Name(kind);
+  std::string kinds = names == KindNames::Degrees ? "terms of " + table.Name(0) : table.Name(0);
+  for (int kind = 1; kind < table.Kinds(); ++kind)
+    kinds += (kind + 1 < table.Kinds() ? ", " : " and ") + table.Name(kind);
   SayAt(table.RowBelow(), oneKind ? Text("All of them are {}, so all are like.", kinds)
                                   : Text("There are {}.  Which belong together?", Words{kinds}));
   PageEnd();
@@ -94,9 +128,45 @@ void CombineAloud(const Sum& sum, double row) {
   PageEnd();
   for (int kind = 0; kind < table.Kinds(); ++kind) AddColumn(table, kind);
   ClearBelow(table.RowBelow());
-  SayAt(table.RowBelow(), oneKind ? "The letters and exponents are kept:"
-                                  : "The sums are unlike terms.  They stay apart:");
-  Show(SumText(sum) + " = " + SumText(Combined(sum)), kMathCol);
+  SayAt(table.RowBelow(), ResultSentence(table, names));
+  ShowEquation(SumText(sum), SumText(Combined(sum)));
+}
+
+void CheckInNumbers(const SumWithProducts& expression) {
+  constexpr int kTried = 2;
+  constexpr double kEquationCol = 2;
+  const auto inNumbers = [](Sum sum) {
+    for (Term& term : sum) term = {ValueAt({term}, kTried), ""};
+    return sum;
+  };
+  SumWithProducts tried = expression;
+  Sum products;
+  for (Part& part : tried) {
+    part.inside = inNumbers(part.inside);
+    products.push_back({part.factor * ValueAt(part.inside, kTried), ""});
+  }
+  const Sum result = Combined(MultipliedOut(expression));
+  const std::string value = NumStr(ValueAt(products, 0));
+  const bool hasProducts = std::ranges::any_of(tried, &Part::IsProduct);
+  NewScreen();
+  ProblemBanner();
+  Locate(4.5, 1);
+  const std::string equation = SumText(expression) + " = " + SumText(result);
+  const bool resultInView = FitsOnLine(equation, kEquationCol);
+  Show(resultInView ? equation : SumText(expression), kEquationCol);
+  Say(Text(R"(\yCheck:\z  We put {} in place of {} in both expressions.)", kTried,
+           LettersOf(expression).substr(0, 1)));
+  if (hasProducts) {
+    Show(SumText(tried), kMathCol);
+    Show("  = " + SumText(products) + " = " + value, kMathCol);
+  } else {
+    ShowEquation(SumText(products), value);
+  }
+  PageEnd();
+  Say(resultInView ? "Now the answer:" : Text("Now the answer, {}:", SumText(result)));
+  ShowEquation(SumText(result.size() == 1 ? result : inNumbers(result)), value);
+  Say("Both have the same value.");
+  PageEnd();
 }
 
 }  // namespace course::polynomials

@@ -8,33 +8,41 @@
 namespace course::polynomials {
 namespace {
 
-constexpr int kTerms = 2;
 constexpr double kFontSize = 15;
+
+struct Column {
+  double left;
+  double width;
+};
+std::vector<Column> ColumnsFor(std::size_t terms) {
+  if (terms == 2) return {{28, 28}, {65, 28}};
+  return {{28, 21}, {52, 21}, {76, 21}};
+}
 
 }  // namespace
 
 DistributingTable::DistributingTable(int factor, const Sum& inside, double row)
     : factor_{factor, ""}, inside_(inside) {
-  constexpr double kLefts[kTerms] = {28, 65};
   constexpr double kTops[] = {10, 57};
-  constexpr double kWidth = 28;
   constexpr double kHeight = 34;
   PrintCellTable table;
   table.heightPixels = 100;
   for (const double top : kTops)
-    for (const double left : kLefts) table.cells.push_back({left, top, kWidth, kHeight});
+    for (const auto& [left, width] : ColumnsFor(inside_.size()))
+      table.cells.push_back({left, top, width, kHeight});
   table.labels.push_back({3, kTops[0] + 8, 24, 22, "In parentheses", 12});
   table.labels.push_back({3, kTops[1] + 8, 24, 22, "Times " + NumStr(factor), 12});
   page::CellTable(table, row);
-  for (int i = 0; i < kTerms; ++i)
-    picPrintCellPrint(i + 1, TermText(inside_.at(static_cast<std::size_t>(i))),
-                      platform::colour::Black, kFontSize);
+  int cell = 0;
+  for (const Term& term : inside_)
+    picPrintCellPrint(++cell, TermText(term), platform::colour::Black, kFontSize);
   rowBelow_ = page::RowBelow();
 }
 
 void DistributingTable::Multiply(int index) {
   const Term product = Product(factor_, inside_.at(static_cast<std::size_t>(index)));
-  picPrintCellPrint(kTerms + index + 1, TermText(product), platform::colour::Blue, kFontSize);
+  const int terms = static_cast<int>(inside_.size());
+  picPrintCellPrint(terms + index + 1, TermText(product), platform::colour::Blue, kFontSize);
 }
 
 std::string DistributingTable::ProductText(int index) const {

@@ -9,10 +9,10 @@ namespace course::polynomials {
 class DistributingTable {
  public:
   // Shows the table under all that stands on the page, or on a row; the products are still missing.
-  // Two terms fit.
+  // Two or three terms fit.
   DistributingTable(int factor, const Sum& inside, double row = 0);
 
-  // The product with term 0 or 1 appears.
+  // The product with a term appears; terms count from 0.
   void Multiply(int index);
   // "-3 x (-5) = 15", with the multiplication sign.
   std::string ProductText(int index) const;

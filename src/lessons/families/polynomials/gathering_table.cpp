@@ -46,7 +46,8 @@ double KindLeft(int kind, int kinds) {
 
 }  // namespace
 
-GatheringTable::GatheringTable(const Sum& sum, double row) : sum_(sum), row_(row) {
+GatheringTable::GatheringTable(const Sum& sum, double row, KindNames names)
+    : sum_(sum), row_(row), names_(names) {
   Sum heads = sum;  // one term a kind, in the order of the columns
   for (Term& head : heads) head.coef = 1;
   for (const Term& head : Combined(heads)) {
@@ -62,11 +63,14 @@ GatheringTable::GatheringTable(const Sum& sum, double row) : sum_(sum), row_(row
 
 std::string GatheringTable::Name(int kind) const {
   const std::string& letters = Terms(kind).front().letters;
+  if (names_ == KindNames::Degrees) return "degree" + tutor::Gap + std::to_string(letters.size());
   return letters.empty() ? "numbers" : "terms with" + tutor::Gap + LettersText(letters);
 }
 
 Term GatheringTable::Total(int kind) const {
-  return Combined(Terms(kind)).at(0);
+  Term total = {0, Terms(kind).front().letters};
+  for (const Term& term : Terms(kind)) total.coef += term.coef;
+  return total;
 }
 
 // The terms of one kind in yellow.

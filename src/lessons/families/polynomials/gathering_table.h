@@ -13,18 +13,21 @@
 
 namespace course::polynomials {
 
+// What the columns are called: "terms with x", "numbers", or "degree 1", "degree 0".
+enum class KindNames { Letters, Degrees };
+
 class GatheringTable {
  public:
   // Prints the sum on the row, and the empty table two and a half rows below it.  Up to three kinds
-  // of terms with three terms each fit; their headings show no exponent but 2.
-  GatheringTable(const Sum& sum, double row);
+  // of terms with three terms each fit; headings with letters show no exponent but 2.
+  GatheringTable(const Sum& sum, double row, KindNames names = KindNames::Letters);
 
   int Kinds() const { return static_cast<int>(kinds_.size()); }
   // Kinds count from 0, in falling powers.
   const Sum& Terms(int kind) const { return kinds_.at(static_cast<std::size_t>(kind)); }
-  // "terms with x", "numbers".
+  // "terms with x", "numbers", "degree 1".
   std::string Name(int kind) const;
-  // The sum of a kind: one term.
+  // The sum of a kind: one term, with the coefficient 0 when it vanishes.
   Term Total(int kind) const;
   // Half a row below the table.
   double RowBelow() const { return rowBelow_; }
@@ -45,6 +48,7 @@ class GatheringTable {
 
   Sum sum_;
   double row_;
+  KindNames names_;
   double rowBelow_ = 0;
   std::vector<Sum> kinds_;
   int lines_ = 0;  // of terms, above that of the sums

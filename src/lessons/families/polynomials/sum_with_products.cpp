@@ -1,5 +1,6 @@
 #include "lessons/families/polynomials/sum_with_products.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "mathkit/expressions.h"
@@ -29,14 +30,29 @@ Sum FirstTermAlone(const Part& part) {
 }
 
 Sum MinusForFirstTerm(const Part& part) {
-  return {Product({part.factor, ""}, part.inside[0]),
-          Product({std::abs(part.factor), ""}, part.inside[1])};
+  Sum sum = Product({std::abs(part.factor), ""}, part.inside);
+  sum[0] = Product({part.factor, ""}, part.inside[0]);
+  return sum;
 }
 
 Sum FactorAdded(const Part& part) {
   Sum sum = part.inside;
   for (Term& term : sum) term.coef += part.factor;
   return sum;
+}
+
+// 3x - 3x comes out as x.
+Sum VanishedKept(const Sum& terms) {
+  const Sum rest = Combined(terms);
+  Sum wrong = terms;
+  for (const Term& term : terms) {
+    const auto isLike = [&](const Term& other) { return other.IsLike(term); };
+    if (term.letters.empty() || std::ranges::any_of(rest, isLike)) continue;
+    std::erase_if(wrong, isLike);
+    wrong.push_back({1, term.letters});
+    break;
+  }
+  return wrong;
 }
 
 // 7 - 3(2x - 5) begins with a number.
@@ -70,6 +86,24 @@ std::vector<Slip> ProductSlips(const SumWithProducts& sum) {
   slips.push_back({"adds the factor instead of multiplying", WorkedOut(sum, FactorAdded)});
   if (CanBeReadFromLeftToRight(sum))
     slips.push_back({"works from left to right", LeftToRight(sum)});
+  return slips;
+}
+
+std::vector<Slip> BracketSlips(const SumWithProducts& sum) {
+  const auto withFactors = [&](int first, int second) {
+    return MultipliedOut({{sum[0].inside, first}, {sum[1].inside, second}});
+  };
+  const Sum terms = MultipliedOut(sum);
+  std::vector<Slip> slips = ReadingSlips(terms);
+  if (sum[1].factor < 0) {
+    slips = {{"carries the minus sign to the first term only", WorkedOut(sum, MinusForFirstTerm)},
+             {"adds instead of subtracting", withFactors(1, 1)},
+             {"subtracts the first polynomial from the second", withFactors(-1, 1)},
+             slips[0]};
+  } else {
+    slips.push_back({"subtracts instead of adding", withFactors(1, -1)});
+  }
+  slips.push_back({"keeps the letter of a term that is 0", VanishedKept(terms)});
   return slips;
 }
 

@@ -10,7 +10,7 @@
 
 namespace course::polynomials {
 
-// A term, or a factor in front of a sum of two terms in parentheses.
+// A term, or a factor in front of a sum of terms in parentheses.
 struct Part {
   Sum inside;
   int factor = 1;
@@ -24,5 +24,7 @@ std::string SumText(const SumWithProducts& sum);
 Sum MultipliedOut(const SumWithProducts& sum);
 // What goes wrong before the terms are combined, that of reading them included.
 std::vector<Slip> ProductSlips(const SumWithProducts& sum);
+// The same of two sums in parentheses that are added or subtracted.
+std::vector<Slip> BracketSlips(const SumWithProducts& sum);
 
 }  // namespace course::polynomials
