@@ -232,7 +232,8 @@ void AddingAndSubtractingPolynomials::DrawProblem(RandomStream& random) {
   } while (Combined(terms).empty());  // nothing is left
 
   problem.question = {Subtracts() ? "Find the difference:" : "Find the sum:", SumText(expression_)};
-  FillCombinedChoices(problem, terms, BracketSlips(expression_), random, {.termsMayVanish = true});
+  FillCombinedChoices(problem, terms, BracketSlips(expression_), random,
+                      {.termsMayVanish = true, .aboutUnlike = 8});
 }
 
 // --- Problem page ------------------------------------------------------------

@@ -155,7 +155,7 @@ void GatherAndAdd() {
         R"(To \csimplify\z a polynomial we combine like terms.  They have the same degree here.)");
   GatheringTable table({{-5, "x"}, {3, "xx"}, {2, ""}, {8, "x"}, {-1, "xx"}}, 6,
                        KindNames::Degrees);
-  SayAt(table.RowBelow(), R"(\yTry it:\z  Which terms go into each column?)");
+  SayAt(table.RowBelow(), R"(\yTry it:\z  Which terms go together?)");
   PageEnd();
   ClearBelow(table.RowBelow());
   table.GatherAll();
@@ -190,8 +190,8 @@ void UnlikeTermsStayApart() {
            "3. Write the sums in falling powers."},
           {.row = 3, .width = 36});
   PageEnd();
-  Say(Text(R"(\yCheck:\z  We put 2 in place of x in {} and in {}:)", "-5x + 3x^2^ + 2 + 8x - x^2^",
-           "2x^2^ + 3x + 2"));
+  Say(R"(\yCheck:\z  We put 2 in place of x.)");
+  Show("-5x + 3x^2^ + 2 + 8x - x^2^ = 2x^2^ + 3x + 2", 2);
   Show("-10 + 12 + 2 + 16 - 4 = 16", kExpressionCol);
   Show("8 + 6 + 2 = 16", kExpressionCol);
   PageEnd();
@@ -296,7 +296,8 @@ void SimplifyingPolynomials::DrawProblem(RandomStream& random) {
   } while (Combined(sum_).size() < kKinds);  // terms that add up to 0
 
   problem.question = {"Simplify the following expression:", SumText(sum_)};
-  FillCombinedChoices(problem, sum_, ReadingSlips(sum_), random, {.slots = kAlteredSlot - 1});
+  FillCombinedChoices(problem, sum_, ReadingSlips(sum_), random,
+                      {.slots = kAlteredSlot - 1, .aboutUnlike = 6});
   // Built upon the right sum alone, it would make that the box most like the others.
   const std::vector<Slip> slips = ReadingSlips(sum_);
   const Sum right = Combined(slips[random.Index(2) - 1].terms);

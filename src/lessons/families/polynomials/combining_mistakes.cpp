@@ -207,7 +207,7 @@ void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> sli
   };
   std::erase_if(slips, [&](const Slip& slip) { return !isBelievable(slip); });
   StartAnywhere(slips, random);
-  const bool aroundUnlike = random.Index(3) == 1 && right.size() > 1;
+  const bool aroundUnlike = random.Index(rules.aboutUnlike) == 1 && right.size() > 1;
   if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, sum, slips, random);
   slips.push_back(last);
   if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips);

@@ -32,6 +32,7 @@ std::vector<WrongSum> CombiningMistakes(const Sum& sum);
 struct ChoiceRules {
   int slots = 5;                // that are filled, with the right one
   bool termsMayVanish = false;  // in the right sum and in wrong ones
+  int aboutUnlike = 3;          // one problem in so many has terms combined that are unlike
 };
 // Five shuffled choices for a sum whose terms are to be combined, the right one among them.  Most
 // of the problems have two choices that go wrong twice, first by the same slip: if each wrong
