@@ -58,8 +58,10 @@ void PlusInFront() {
   NewScreen();
   SayAt(3, R"(Behind a \yplus\z sign every term in the parentheses is added just as it is:)");
   Show(asked, kExpressionCol);
+  Note(NextRow() + 0.2, 20, "no sign changes");
   PageEnd();
-  Say("Without parentheses no sign changes:");
+  GoBelow();
+  AddLine("We remove the parentheses:");
   Show("4x^2^ - 3x + 7 - 2x^2^ - 5x - 1", kExpressionCol);
   Say(R"(\yTry it:\z  Which terms are like, and what are the sums?)");
   PageEnd();
@@ -96,22 +98,20 @@ void TakingAwayASum() {
   PageEnd();
   Say(Text(R"(\yTry it:\z  What is {} without parentheses?)", "8 - (x - 6)"));
   PageEnd();
-  Say(Text(R"(x is taken away, and -6 becomes +6:  \y{}\z)", "8 - x + 6"));
+  Say(Text(R"(Both signs change:  \y{}\z)", "8 - x + 6"));
   PageEnd();
 }
 
 void MinusInFront() {
   const std::string difference = "(5x^2^ + 2x - 3) - (3x^2^ - 4x + 1)";
-  NewScreen();
-  SayAt(3,
-        R"(A \yminus\z sign in front of the parentheses is the factor -1 for each term in them.)");
+  Say(R"(A \yminus\z sign in front of the parentheses is the factor -1 for each term in them.)");
   Show(difference, kExpressionCol);
   DistributingTable factors(-1, {{3, "xx"}, {-4, "x"}, {1, ""}});
   SayAt(factors.RowBelow(), R"(\yTry it:\z  What are the three products?)");
   PageEnd();
   for (int term = 0; term < 3; ++term) factors.Multiply(term);
   ClearBelow(factors.RowBelow());
-  SayAt(factors.RowBelow(), "Every sign has changed.  We remove the parentheses:");
+  SayAt(factors.RowBelow(), "Every sign has changed:");
   Show("5x^2^ + 2x - 3 - 3x^2^ + 4x - 1", kExpressionCol);
   PageEnd();
   GatheringTable table =
@@ -263,16 +263,21 @@ void AddingAndSubtractingPolynomials::RemoveParentheses() const {
   ProblemBanner();
   SayAt(5, problem.question[0]);
   ShowAt(6, problem.question[1], kExpressionCol);
+  const int toSign = StackedTextWidth("(" + SumText(expression_[0].inside) + ")") + 1;
+  Note(7.2, kExpressionCol + toSign, Subtracts() ? "every sign changes" : "no sign changes");
+  GoBelow();
   if (Subtracts()) {
-    Say("The minus sign in front of the second parentheses is the factor -1 for each of its "
+    AddLine(
+        "The minus sign in front of the second parentheses is the factor -1 for each of its "
         "terms.");
     DistributingTable table(-1, second);
     PageEnd();
     for (int term = 0; term < std::ssize(second); ++term) table.Multiply(term);
     SayAt(table.RowBelow(), "Every sign in the second parentheses changes.");
   } else {
-    Say("A plus sign stands in front of the second parentheses.  Each term in them is added as it "
-        "is, so no sign changes.");
+    AddLine(
+        "A plus sign stands in front of the second parentheses.  Each term in them is added as it "
+        "is.");
   }
   PageEnd();
   Say("We remove the parentheses:");

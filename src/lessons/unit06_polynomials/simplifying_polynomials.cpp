@@ -93,11 +93,11 @@ void DegreeOfAPolynomial() {
   NewScreen();
   SayAt(3, R"(The \cdegree of a polynomial\z is the highest degree of its terms.)");
   Show(R"(8 + 3x - \yx^2^\z  has degree 2)", kExpressionCol);
-  Say(Text(R"(\yTry it:\z  Which degree has {}?)", "6x - 2x^4^ + 9"));
+  Say(Text(R"(\yTry it:\z  Find the degree of {}.)", "5 - 2x^4^ + x"));
   PageEnd();
   Say(Text("It is 4:  {} has the highest degree.", "-2x^4^"));
   Say(R"(\yWatch out:\z  Neither the largest number nor the number of terms counts.)");
-  PaperBox({R"(6x - 2x^4^ + 9 has degree 4,  \rnot 9\z, \rnot 3\z)"});
+  PaperBox({R"(5 - 2x^4^ + x has degree 4,  \rnot 5\z, \rnot 3\z)"});
   PageEnd();
 }
 
@@ -144,8 +144,10 @@ void OrderWithGaps() {
   Show("x^3^ + 6x - 1", kExpressionCol);
   Say(Text(R"(\yTry it:\z  Write {} in falling powers.)", "9 - x^2^ + 4x"));
   PageEnd();
-  Say(Text("{} has degree 2, {} has degree 1, and {} has degree 0:", "-x^2^", "4x", 9));
+  Say("The degrees are 2, 1 and 0:");
   Show(R"(9 - x^2^ + 4x = \y-x^2^ + 4x + 9)", kExpressionCol);
+  Say(R"(\yCheck:\z  We put 2 in place of x.)");
+  Show("9 - 4 + 8 = 13     -4 + 8 + 9 = 13", kExpressionCol);
   PageEnd();
 }
 
