@@ -1,7 +1,8 @@
 // The student can name the terms and the degree of a polynomial, and simplifies one: gathers like
 // terms, adds their coefficients and writes the sums in falling powers.
 //
-// A problem is a sum of five terms of three kinds, not in order.
+// A problem is a sum of five terms of three kinds, not in order.  Four choices are the right sum
+// and what mistakes lead to; in the fifth one a coefficient is altered at random.
 #include "lessons/families/polynomials/combining_mistakes.h"
 #include "lessons/families/polynomials/combining_steps.h"
 #include "lessons/families/polynomials/gathering_table.h"
@@ -132,8 +133,8 @@ void CarryTermsIntoOrder() {
   carry(kCol, 2, kCol + 12);      // 7x
   ShowAt(kLane + kDrop, "+", kCol + 10);
   carry(kCol + 3, 3, kCol + 15);  // - 5
-  SayAt(10.5, R"(Each term takes its \ysign\z along.)");
-  Say(R"(\yWatch out:\z  Signs do not stay behind.)");
+  SayAt(10.5, "The degrees are falling:  3, 2, 1, 0.");
+  Say(R"(\yWatch out:\z  Each term keeps its sign.)");
   PaperBox({R"(5 - 2x = -2x + 5,  \rnot 2x - 5\z)"});
   PageEnd();
 }
@@ -279,7 +280,7 @@ Sum SimplifyingPolynomials::DrawSum(RandomStream& random, const std::string& let
   return sum;
 }
 
-// One coefficient is another.
+// The sum with another coefficient in one of its terms.
 Sum Altered(RandomStream& random, Sum sum, int least, int most) {
   Term& term = sum[random.Index(static_cast<int>(sum.size())) - 1];
   int change = 0;
@@ -300,12 +301,12 @@ void SimplifyingPolynomials::DrawProblem(RandomStream& random) {
   problem.question = {"Simplify the following expression:", SumText(sum_)};
   FillCombinedChoices(problem, sum_, ReadingSlips(sum_), random,
                       {.slots = kAlteredSlot - 1, .aboutUnlike = 6});
-  // Built upon the right sum alone, it would make that the box most like the others.
+  // Altered from the right sum, the fifth choice would make that the box most like the others.
   const std::vector<Slip> slips = ReadingSlips(sum_);
-  const Sum right = Combined(slips[random.Index(2) - 1].terms);
-  problem.Wrong(kAlteredSlot, kFiller, SumText(Altered(random, right, 1, 9)));
+  const Sum slipped = Combined(slips[random.Index(2) - 1].terms);
+  problem.Wrong(kAlteredSlot, kFiller, SumText(Altered(random, slipped, 1, 9)));
   ReplaceRepeatedTexts(problem, [&](int slot) {
-    problem.Wrong(slot, kFiller, SumText(Altered(random, right, 2, 10)));
+    problem.Wrong(slot, kFiller, SumText(Altered(random, slipped, 2, 10)));
   });
 }
 
