@@ -1,0 +1,147 @@
+#include "lessons/families/stories/two_vehicles.h"
+
+#include <iterator>
+
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/word_table.h"
+
+namespace course::stories {
+namespace {
+
+// Name, noun, and how many multiples of five the slower rate is drawn from.
+constexpr std::string_view kVehicles[] = {
+    "Plane", "plane", "100",  //
+    "Train", "train", "15",   //
+    "Car",   "car",   "25",   //
+};
+constexpr int kEntriesOfRow = 3;
+constexpr int kRows = static_cast<int>(std::size(kVehicles)) / kEntriesOfRow;
+constexpr std::string_view kTowns[] = {"Northton", "Southton", "Eastville", "Westville"};
+
+// What each of them can do, in miles per hour.
+struct RateRange {
+  int least;
+  int most;
+};
+constexpr RateRange kBelievable[] = {{150, 550}, {20, 125}, {20, 75}};
+
+constexpr int kRateStep = 5;
+constexpr int kFasterSteps = 10;
+constexpr int kQuarterHour = 15;  // minutes
+constexpr int kMinutesOfHour = 60;
+
+// Accepted: 71 in 100 draws for planes, 80 for trains; for cars 26, or 48 at the same rate.
+void DrawRates(int row, int steps, RandomStream& random, TwoVehicles& vehicles) {
+  const RateRange range = kBelievable[row - 1];
+  do {
+    vehicles.firstRate = kRateStep * random.Rand(1, steps);
+    vehicles.secondRate = vehicles.firstRate;
+    if (vehicles.kind != TwoVehiclesKind::SameRate)
+      vehicles.secondRate += kRateStep * random.Rand(1, kFasterSteps);
+  } while (vehicles.firstRate < range.least || vehicles.secondRate > range.most);
+}
+
+// Quarter hours below ten hours, but not none: 39 of 40 draws are accepted.
+int DrawMinutes(RandomStream& random) {
+  int minutes = 0;
+  do {
+    const int hours = random.Rand(0, 9);
+    const int quarters = random.Rand(0, 3);
+    minutes = hours * kMinutesOfHour + quarters * kQuarterHour;
+  } while (minutes == 0);
+  return minutes;
+}
+
+int RateOfChange(const TwoVehicles& vehicles) {
+  switch (vehicles.kind) {
+    case TwoVehiclesKind::CatchUp:
+      return vehicles.secondRate - vehicles.firstRate;
+    case TwoVehiclesKind::SameRate:
+      return vehicles.firstRate;
+    default:
+      return vehicles.firstRate + vehicles.secondRate;
+  }
+}
+
+bool CatchesUpInWholeMinutes(const TwoVehicles& vehicles) {
+  return vehicles.firstRate * vehicles.minutes % RateOfChange(vehicles) == 0;
+}
+
+}  // namespace
+
+TwoVehicles TwoVehicles::Draw(RandomStream& random) {
+  TwoVehicles vehicles;
+  vehicles.kind = static_cast<TwoVehiclesKind>(random.Rand(1, 4));
+  const int row = random.Index(kRows);
+  WordTable table(kVehicles);
+  table.GoToRow(row, kEntriesOfRow);
+  vehicles.name = table.Next();
+  vehicles.noun = table.Next();
+  const int steps = static_cast<int>(table.NextNumber());
+  WordTable towns(kTowns);
+  towns.GoTo(random.Index(static_cast<int>(std::size(kTowns))));
+  vehicles.town = towns.Next();
+  // Two thirds of the draws are accepted when one catches up, else all: other answers are whole
+  // minutes by themselves.
+  do {
+    DrawRates(row, steps, random, vehicles);
+    vehicles.minutes = DrawMinutes(random);
+  } while (vehicles.kind == TwoVehiclesKind::CatchUp && !CatchesUpInWholeMinutes(vehicles));
+  if (vehicles.kind == TwoVehiclesKind::SameRate) {
+    do {
+      vehicles.laterMinutes = DrawMinutes(random);
+    } while (vehicles.laterMinutes == vehicles.minutes);  // the wrong time would do as well
+  }
+  return vehicles;
+}
+
+bool TwoVehicles::Follows() const {
+  return kind == TwoVehiclesKind::CatchUp || kind == TwoVehiclesKind::SameRate;
+}
+
+Fraction TwoVehicles::Hours() const {
+  return HoursOf(minutes);
+}
+
+Fraction TwoVehicles::HeadStart() const {
+  return Fraction{firstRate, 1} * Hours();
+}
+
+Motion TwoVehicles::Relative() const {
+  Motion motion;
+  motion.vehicle = noun;
+  motion.rate = RateOfChange(*this);
+  motion.minutes = minutes;
+  if (kind == TwoVehiclesKind::CatchUp) motion.minutes = firstRate * minutes / motion.rate;
+  const bool asksTime = kind == TwoVehiclesKind::CatchUp || kind == TwoVehiclesKind::TimeApart;
+  motion.asked = asksTime ? MotionPart::Time : MotionPart::Distance;
+  return motion;
+}
+
+std::vector<std::string> TwoVehicles::Question() const {
+  const auto rate = [](int mph) { return RateText({mph, 1}); };
+  const std::string left = "A " + noun + " left " + town + " " + DurationText(minutes) + " ago.";
+  const std::string itsRate = "Its rate is " + rate(firstRate) + ".";
+  const std::string follows = "Now a second " + noun + " leaves and follows it at ";
+  const std::string apart =
+      "Two " + noun + "s leave " + town + " at the same time in opposite directions.";
+  const std::string bothRates =
+      "One goes at " + rate(firstRate) + " and the other at " + rate(secondRate) + ".";
+  switch (kind) {
+    case TwoVehiclesKind::CatchUp:
+      return {left, itsRate, follows + rate(secondRate) + ".",
+              "In how many hours will the second " + noun + " catch up with the first?"};
+    case TwoVehiclesKind::TimeApart:
+      return {apart, bothRates,
+              "After how much time will they be " + QuantityText(Relative().Distance(), "mile") +
+                  " apart?"};
+    case TwoVehiclesKind::DistanceApart:
+      return {apart, bothRates, "How far apart will they be after " + DurationText(minutes) + "?"};
+    case TwoVehiclesKind::SameRate:
+      return {left, itsRate, follows + "the same rate.",
+              "How far apart will they be after " + DurationText(laterMinutes) + "?"};
+  }
+  return {};
+}
+
+}  // namespace course::stories

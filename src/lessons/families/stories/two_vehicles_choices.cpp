@@ -1,0 +1,195 @@
+// The choices of "Advanced Distance-Rate-Time Problems": the mistake that the kind of problem is
+// known for, then others in random order.
+#include <algorithm>
+
+#include "engine/choices.h"
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/motion_choices.h"
+#include "lessons/families/stories/two_vehicles.h"
+
+namespace course::stories {
+namespace {
+
+using Mistakes = std::vector<MotionMistake>;
+
+constexpr int kMinutesOfHour = 60;
+constexpr int kQuarters = 4;
+constexpr int kFarthest = 12;  // times the answer: more than that is not believed
+
+Fraction Whole(int n) {
+  return {n, 1};
+}
+
+// A time of full hours and minutes, read wrongly; in hours.
+Fraction FullHours(int minutes) {
+  return Whole(minutes / kMinutesOfHour);
+}
+Fraction AsHundredths(int minutes) {
+  return FullHours(minutes) + Reduced(minutes % kMinutesOfHour, 100);
+}
+bool HasMinutes(int minutes) {
+  return minutes % kMinutesOfHour != 0;
+}
+
+// What a time that is read wrongly gives at a rate: miles, or hours for a number of hours.
+void AddReadings(int minutes, const Fraction& rate, Mistakes& mistakes) {
+  const Fraction full = FullHours(minutes);
+  if (HasMinutes(minutes)) {
+    mistakes.push_back(
+        {"reads the minutes as hundredths of an hour", rate * AsHundredths(minutes)});
+    mistakes.push_back({"leaves the minutes out", rate * full});
+    mistakes.push_back({"counts the minutes as a full hour", rate * (full + Whole(1))});
+  } else {
+    mistakes.push_back({"counts one hour too many", rate * (full + Whole(1))});
+    mistakes.push_back({"counts one hour too few", rate * (full - Whole(1))});
+  }
+}
+
+// 2.4 hours read as 2 hours and 40 minutes.
+void AddDecimalsAsMinutes(int minutes, Mistakes& mistakes) {
+  const Fraction rest = HoursOf(minutes % kMinutesOfHour) * Whole(100);
+  if (rest.den != 1 || rest.num == 0 || rest.num >= kMinutesOfHour) return;
+  mistakes.push_back(
+      {"reads the decimal part of the hours as minutes", FullHours(minutes) + HoursOf(rest.num)});
+}
+
+Mistakes MistakesAtCatchUp(const TwoVehicles& v) {
+  const Fraction gap = v.HeadStart();
+  const Fraction closing = Whole(v.secondRate - v.firstRate);
+  const int minutes = v.Relative().minutes;
+  Mistakes mistakes = {
+      {"adds the rates in place of subtracting them", gap / Whole(v.firstRate + v.secondRate)},
+      {"uses the faster rate alone", gap / Whole(v.secondRate)},
+      {"forgets to multiply by the head start", Whole(v.firstRate) / closing},
+      {"adds the head start to the time", HoursOf(minutes) + v.Hours()},
+      {"takes the head start for the answer", v.Hours()}};
+  AddReadings(v.minutes, Whole(v.firstRate) / closing, mistakes);
+  AddDecimalsAsMinutes(minutes, mistakes);
+  return mistakes;
+}
+
+Mistakes MistakesAtTimeApart(const TwoVehicles& v) {
+  const Fraction distance = v.Relative().Distance();
+  Mistakes mistakes = {
+      {"subtracts the rates in place of adding them", distance / Whole(v.secondRate - v.firstRate)},
+      {"uses the slower rate alone", distance / Whole(v.firstRate)},
+      {"uses the faster rate alone", distance / Whole(v.secondRate)},
+      {"takes the mean of the rates", v.Hours() * Whole(2)},
+      {"halves the distance", v.Hours() / Whole(2)}};
+  if (HasMinutes(v.minutes)) {
+    mistakes.push_back({"leaves the part of an hour out", FullHours(v.minutes)});
+    mistakes.push_back({"rounds up to a full hour", FullHours(v.minutes) + Whole(1)});
+  }
+  AddDecimalsAsMinutes(v.minutes, mistakes);
+  return mistakes;
+}
+
+Mistakes MistakesAtDistanceApart(const TwoVehicles& v) {
+  const int sum = v.firstRate + v.secondRate;
+  Mistakes mistakes = {{"subtracts the rates in place of adding them",
+                        Whole(v.secondRate - v.firstRate) * v.Hours()},
+                       {"uses the slower rate alone", Whole(v.firstRate) * v.Hours()},
+                       {"uses the faster rate alone", Whole(v.secondRate) * v.Hours()},
+                       {"takes the mean of the rates", Reduced(sum, 2) * v.Hours()},
+                       {"forgets to multiply by the time", Whole(sum)}};
+  AddReadings(v.minutes, Whole(sum), mistakes);
+  return mistakes;
+}
+
+Mistakes MistakesAtSameRate(const TwoVehicles& v) {
+  const Fraction rate = Whole(v.firstRate);
+  const Fraction later = HoursOf(v.laterMinutes);
+  Mistakes mistakes = {
+      {"thinks that the distance between them keeps growing", rate * (v.Hours() + later)},
+      {"forgets the head start", rate * later},
+      {"subtracts the two times", rate * HoursOf(std::abs(v.minutes - v.laterMinutes))},
+      {"lets them go in opposite directions", rate * (v.Hours() + later + later)}};
+  AddReadings(v.minutes, rate, mistakes);
+  return mistakes;
+}
+
+Mistakes MistakesAt(const TwoVehicles& v) {
+  switch (v.kind) {
+    case TwoVehiclesKind::CatchUp:
+      return MistakesAtCatchUp(v);
+    case TwoVehiclesKind::TimeApart:
+      return MistakesAtTimeApart(v);
+    case TwoVehiclesKind::DistanceApart:
+      return MistakesAtDistanceApart(v);
+    case TwoVehiclesKind::SameRate:
+      return MistakesAtSameRate(v);
+  }
+  return {};
+}
+
+// How round the right time is, in minutes: wrong ones are as round, or it would stand out.
+int Roundness(int minutes) {
+  for (const int step : {15, 5})
+    if (minutes % step == 0) return step;
+  return 1;
+}
+
+// Hours to the nearest multiple of so many minutes, halves up.
+Fraction Rounded(const Fraction& hours, int step) {
+  const Fraction steps = hours * Reduced(kMinutesOfHour, step);
+  return HoursOf((2 * steps.num + steps.den) / (2 * steps.den) * step);
+}
+
+class TwoVehiclesChoices {
+ public:
+  TwoVehiclesChoices(const TwoVehicles& vehicles, Problem& problem)
+      : vehicles_(vehicles),
+        motion_(vehicles.Relative()),
+        choices_(problem, choice_kind::FiveShuffled,
+                 [this](const Fraction& value) { return motion_.ValueText(value); }) {}
+  void Fill(RandomStream& random);
+
+ private:
+  void Offer(const MotionMistake& mistake);
+  Fraction Filler(RandomStream& random) const;
+  bool AsksTime() const { return motion_.asked == MotionPart::Time; }
+
+  const TwoVehicles& vehicles_;
+  const Motion motion_;
+  Choices<Fraction> choices_;
+};
+
+// Distances are quarter miles, and times are as round as the right one; one that is rounded for
+// this tells it in its name.
+void TwoVehiclesChoices::Offer(const MotionMistake& mistake) {
+  MotionMistake offered = mistake;
+  const bool isReadOff = mistake.name.starts_with("reads the decimal");  // no arithmetic to round
+  if (AsksTime() && !isReadOff) {
+    offered.value = Rounded(mistake.value, Roundness(motion_.minutes));
+    if (offered.value != mistake.value) offered.name += " and rounds";
+  }
+  if (!AsksTime() && kQuarters % offered.value.den != 0) return;
+  const bool isNear = offered.value < motion_.Answer() * Whole(kFarthest);
+  if (Whole(0) < offered.value && isNear) choices_.Wrong(offered.name, offered.value);
+}
+
+// A distance that another time gives, or a time of half to twice the right one.
+Fraction TwoVehiclesChoices::Filler(RandomStream& random) const {
+  if (!AsksTime()) return Whole(motion_.rate) * Reduced(random.Rand(1, 39), kQuarters);
+  const int step = Roundness(motion_.minutes);
+  const int steps = motion_.minutes / step;
+  return HoursOf(step * random.Rand(steps / 2 + 1, 2 * steps + 8));
+}
+
+void TwoVehiclesChoices::Fill(RandomStream& random) {
+  choices_.Right(motion_.Answer());
+  const Mistakes mistakes = MistakesAt(vehicles_);
+  Offer(mistakes.front());
+  const int others = static_cast<int>(mistakes.size()) - 1;
+  for (const int place : random.RandSeq(others, others))
+    Offer(mistakes[static_cast<std::size_t>(place)]);
+  choices_.Fill([&] { return Filler(random); });
+}
+
+}  // namespace
+
+void FillChoices(const TwoVehicles& vehicles, Problem& problem, RandomStream& random) {
+  TwoVehiclesChoices(vehicles, problem).Fill(random);
+}
+
+}  // namespace course::stories
