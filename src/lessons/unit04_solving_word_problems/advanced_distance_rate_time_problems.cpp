@@ -1,7 +1,12 @@
 // The student can find when one vehicle catches up with another, and when two that go in opposite
-// directions are so far apart, or how far: how fast does the distance between them change?
+// directions are so far apart, or how far.  Each time the question is: how fast does the gap
+// between them change?
+#include "lessons/families/stories/durations.h"
+#include "lessons/families/stories/journey_table.h"
 #include "lessons/families/stories/story_words.h"
+#include "lessons/families/stories/two_roads.h"
 #include "lessons/families/stories/two_vehicles.h"
+#include "lessons/families/stories/two_vehicles_explanation.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -9,11 +14,208 @@ namespace {
 
 using namespace stories;
 
+using platform::colour::Blue;
+
+const std::string kTimes = " " + tutor::Times + " ";
+const std::string kDivided = " " + tutor::Divided + " ";
+constexpr double kLook = 1;  // seconds
+
 // --- Teaching screens --------------------------------------------------------
 
 void OppositeDirections() {
   NewScreen();
-  SayAt(3, "Two trains leave Northton at the same time in opposite directions.");
+  SayAt(2,
+        "Two trains leave Northton at the same time in opposite directions.  A goes at 40 mph and "
+        "B at 60 mph.");
+  PageEnd();
+  TwoRoads roads(7, RoadsGo::OppositeWays, 120, 180);
+  roads.Draw("Northton");
+  SayAt(11, "How far apart are they after 1 hour?");
+  PageEnd();
+  roads.GoTo(40, 60);
+  roads.ShowGap("100 miles");
+  Say(R"(The distance between them is the \cgap\z.  A has gone 40 miles, and B 60:  it is 100 )"
+      "miles.");
+  PageEnd();
+  Say(Text(R"(In each hour it grows by 100 miles.  We \yadd the rates\z:  {})",
+           "40 + 60 = 100 mph."));
+  Say(R"(\yTry it:\z  How far apart are they after 3 hours?)");
+  PageEnd();
+  roads.GoTo(80, 120);
+  roads.ShowGap("200 miles");
+  Delay(kLook);
+  roads.GoTo(120, 180);
+  roads.ShowGap("300 miles");
+  Say(Text("The gap is {} miles.", "100" + kTimes + "3 = 300"));
+  PageEnd();
+}
+
+void DistanceApart() {
+  NewScreen();
+  SayAt(2,
+        "Car A goes at 35 mph, car B at 45 mph, in opposite directions.  How far apart are they "
+        "after 2 hours & 15 minutes?");
+  ShowJourneyTable(5.5, "Car");
+  FillJourney(Journey::A, "35", "", "");
+  FillJourney(Journey::B, "45", "", "");
+  SayAt(13.5, "What is the time in hours?");
+  PageEnd();
+  FillJourney(Journey::A, "", "2 1/4", "", Blue);
+  FillJourney(Journey::B, "", "2 1/4", "", Blue);
+  Say("15 minutes are 15/60 = 1/4 of an hour.");
+  Say(R"(\yWatch out:\z  They are not .15 hours.)");
+  Say("How fast does the gap grow?");
+  PageEnd();
+  ClearBelow(13.5);
+  SayAt(13.5, Text("It grows by {} miles in each hour.  So its rate is 80 mph:", "35 + 45 = 80"));
+  Show(WithoutBreaks("d = r " + tutor::Dot + " t = 80" + kTimes + "2 1/4 = 80" + kTimes +
+                     "9/4 = 180"));
+  Say(R"(\yTry it:\z  How far does each car go?)");
+  PageEnd();
+  FillJourney(Journey::A, "", "", "78 3/4", Blue);
+  FillJourney(Journey::B, "", "", "101 1/4", Blue);
+  ClearBelow(18.5);
+  SayAt(19,
+        Text("{} and {}.", "35" + kTimes + "2 1/4 = 78 3/4", "45" + kTimes + "2 1/4 = 101 1/4"));
+  Say(Text("Both ways together make the gap:  {}", "78 3/4 + 101 1/4 = 180."));
+  PageEnd();
+}
+
+void TimeApart() {
+  NewScreen();
+  SayAt(2,
+        "Two planes leave Eastville at the same time in opposite directions.  One goes at 200 mph "
+        "and the other at 300 mph.  When will they be 1250 miles apart?");
+  PageEnd();
+  PaperBox(
+      {"Kim:  1250" + kDivided + "100 = 12 1/2 hours",
+       "Lee:  1250" + kDivided + "200 = 6 1/4 hours", "Max:  1250" + kDivided + "250 = 5 hours"},
+      6.5);
+  Say("Who is right?");
+  PageEnd();
+  ClearBelow(11);
+  SayAt(11,
+        "Nobody.  Kim subtracts the rates.  Lee counts one plane only, and Max takes the mean of "
+        "the rates.");
+  Say(R"(\yTry it:\z  What should we divide by?)");
+  PageEnd();
+  Say(Text("By {}.  The gap grows by 500 miles in each hour:", "200 + 300 = 500"));
+  Show("t = d/r = 1250/500 = 5/2 = 2 1/2");
+  Say("It takes 2 hours & 30 minutes.");
+  PageEnd();
+}
+
+void SameRate() {
+  NewScreen();
+  SayAt(2,
+        "Car A left Westville 2 hours ago.  Its rate is 40 mph.  Now car B leaves and follows it "
+        R"(at the same rate.  How large is A's \chead start\z?)");
+  PageEnd();
+  TwoRoads roads(6.5, RoadsGo::SameWay, 200, 200);
+  roads.Draw("");
+  roads.Place(80, 0);
+  roads.ShowGap("80 miles");
+  SayAt(11, "It is 80 miles.  And in 3 hours?");
+  PageEnd();
+  roads.GoTo(200, 120);
+  roads.ShowGap("80 miles");
+  Say(R"(Both go 120 miles more.  So the gap \ystays\z.)");
+  Say(Text(R"(\yWatch out:\z  It is not {} miles.)", "40" + kTimes + "5 = 200"));
+  PageEnd();
+  ClearBelow(11);
+  SayAt(11,
+        R"(\yTry it:\z  A train left 1 hour & 30 minutes ago.  Its rate is 60 mph.  A second one )"
+        "follows it at the same rate.  How far apart will they be after 4 hours?");
+  PageEnd();
+  Show("60" + kTimes + "1 1/2 = 60" + kTimes + "3/2 = 90");
+  Say("They are 90 miles apart, now and after 4 hours.  Only the head start counts.");
+  PageEnd();
+}
+
+void CatchingUp() {
+  NewScreen();
+  SayAt(2,
+        "Train A left Northton 2 hours ago.  Its rate is 40 mph.  Now train B leaves and follows "
+        "it at 60 mph.");
+  PageEnd();
+  TwoRoads roads(6.5, RoadsGo::SameWay, 240, 240);
+  roads.Draw("");
+  roads.Place(80, 0);
+  roads.ShowGap("80 miles");
+  SayAt(11, "How large is the gap in 1 hour?");
+  PageEnd();
+  roads.GoTo(120, 60);
+  roads.ShowGap("60 miles");
+  Say(Text(R"(A goes on by 40 miles, and B by 60.  The gap shrinks by 20 miles.  We \ysubtract )"
+           R"(the rates\z:  {})",
+           "60 - 40 = 20 mph."));
+  PageEnd();
+  Say(R"(\yTry it:\z  When is there no gap?  Then B catches up with A.)");
+  PageEnd();
+  roads.GoTo(160, 120);
+  roads.ShowGap("40 miles");
+  Delay(kLook);
+  roads.GoTo(240, 240);
+  roads.ShowGap("no gap");
+  Say(Text("80 miles, and 20 less in each hour:  it takes {} hours.", "80" + kDivided + "20 = 4"));
+  PageEnd();
+}
+
+void CheckCatchingUp() {
+  NewScreen();
+  SayAt(2, "Is it true?  How long is each train on its way, and how far does it go?");
+  ShowJourneyTable(4.5, "Train");
+  FillJourney(Journey::A, "40", "", "");
+  FillJourney(Journey::B, "60", "4", "");
+  PageEnd();
+  FillJourney(Journey::A, "", "6", "240", Blue);
+  FillJourney(Journey::B, "", "", "240", Blue);
+  SayAt(12.5,
+        "A left 2 hours earlier, so its time is 6 hours.  Both are 240 miles from Northton: "
+        "there B catches up.");
+  PageEnd();
+  ClearBelow(12.5);
+  SayAt(12.5, R"(\yTry it:\z  Kim divides 80 miles by 100, and Lee by 60.  What is wrong?)");
+  PageEnd();
+  Say("Kim adds the rates.  Lee forgets that A goes on, too.");
+  Say(R"(\yWatch out:\z  The answer is 4 hours, not 6.  It counts from now, when B leaves.)");
+  PageEnd();
+}
+
+void CatchingUpInMinutes() {
+  NewScreen();
+  SayAt(2,
+        "A car left Southton 1 hour & 30 minutes ago.  Its rate is 40 mph.  Now a second car "
+        "follows it at 65 mph.  In how many hours will it catch up?");
+  Say("First:  how large is the gap now?");
+  PageEnd();
+  Show("d = 40" + kTimes + "1 1/2 = 40" + kTimes + "3/2 = 60");
+  Say("The gap is 60 miles.  How fast does it shrink?");
+  PageEnd();
+  Say(Text("It shrinks by {} miles in each hour:", "65 - 40 = 25"));
+  Show("t = d/r = 60/25 = 12/5 = 2 2/5");
+  Say(R"(\yTry it:\z  Write 2 2/5 hours in hours and minutes.)");
+  PageEnd();
+  ClearBelow(8);
+  SayAt(9, "The time is 2 2/5 hours.  2/5 of an hour are 2/5 of 60 minutes:");
+  Show("2/5" + kTimes + "60 = 24");
+  Say("It takes 2 hours & 24 minutes.");
+  Say(R"(\yWatch out:\z  2 2/5 hours are 2.4 hours.  But 2.4 hours are not 2 hours & 40 minutes.)");
+  PageEnd();
+}
+
+void AddOrSubtract() {
+  NewScreen();
+  RuleBox("How Does the Gap Change?",
+          {"Opposite directions:  it grows.", "We add the rates.", "",
+           "The second is faster:  it shrinks.", "We subtract the rates.", "",
+           "The same rate:  it stays."},
+          {.row = 2.5});
+  SayAt(13, R"(\yTry it:\z  Two trains go at 70 mph and 80 mph.  How fast does the gap change )"
+            "when they go in opposite directions?  And when the fast one follows the other?");
+  PageEnd();
+  Say(Text("In opposite directions it grows by {} mph.", "70 + 80 = 150"));
+  Say(Text("When the fast one follows, the gap shrinks by {} mph.", "80 - 70 = 10"));
   PageEnd();
 }
 
@@ -24,7 +226,10 @@ class AdvancedDistanceRateTimeProblems final : public LessonScript {
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{OppositeDirections}}; }
+  std::vector<Screen> Screens() override {
+    return {{OppositeDirections, DistanceApart, TimeApart, SameRate, CatchingUp, CheckCatchingUp,
+             CatchingUpInMinutes, AddOrSubtract}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
@@ -50,11 +255,7 @@ void AdvancedDistanceRateTimeProblems::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void AdvancedDistanceRateTimeProblems::ExplainProblem() {
-  ProblemBanner();
-  SayAt(4, OneParagraph(problem.question));
-  PageEnd();
-  GoBelow();
-  Conclude(problem);
+  ExplainTwoVehicles(vehicles_, problem);
 }
 
 const LessonRegistration<AdvancedDistanceRateTimeProblems> kRegistration(
