@@ -93,8 +93,8 @@ void TimeApart() {
       6.5);
   Say("Who is right?");
   PageEnd();
-  ClearBelow(11);
-  SayAt(11,
+  ClearBelow(10);
+  SayAt(10.5,
         "Nobody.  Kim subtracts the rates.  Lee counts one plane only, and Max takes the mean of "
         "the rates.");
   Say(R"(\yTry it:\z  What should we divide by?)");
@@ -197,22 +197,21 @@ void CatchingUpInMinutes() {
   Say(R"(\yTry it:\z  Write 2 2/5 hours in hours and minutes.)");
   PageEnd();
   ClearBelow(8);
-  SayAt(9, "The time is 2 2/5 hours.  2/5 of an hour are 2/5 of 60 minutes:");
   Show("2/5" + kTimes + "60 = 24");
   Say("It takes 2 hours & 24 minutes.");
-  Say(R"(\yWatch out:\z  2 2/5 hours are 2.4 hours.  But 2.4 hours are not 2 hours & 40 minutes.)");
+  Say(R"(\yWatch out:\z  2 2/5 hours are 2.4 hours, not 2 hours & 40 minutes.)");
   PageEnd();
 }
 
 void AddOrSubtract() {
   NewScreen();
   RuleBox("How Does the Gap Change?",
-          {"Opposite directions:  it grows.", "We add the rates.", "",
-           "The second is faster:  it shrinks.", "We subtract the rates.", "",
-           "The same rate:  it stays."},
-          {.row = 2.5});
-  SayAt(13, R"(\yTry it:\z  Two trains go at 70 mph and 80 mph.  How fast does the gap change )"
-            "when they go in opposite directions?  And when the fast one follows the other?");
+          {"Opposite directions:  add the rates.", "The second is faster:  subtract them.",
+           "The same rate:  the gap stays."},
+          {.row = 3});
+  PageEnd();
+  Say(R"(\yTry it:\z  Two trains go at 70 mph and 80 mph.  How fast does the gap change when they )"
+      "go in opposite directions?  And when the fast one follows the other?");
   PageEnd();
   Say(Text("In opposite directions it grows by {} mph.", "70 + 80 = 150"));
   Say(Text("When the fast one follows, the gap shrinks by {} mph.", "80 - 70 = 10"));
