@@ -26,27 +26,24 @@ void OppositeDirections() {
   NewScreen();
   SayAt(2,
         "Two trains leave Northton at the same time in opposite directions.  A goes at 40 mph and "
-        "B at 60 mph.");
+        R"(B at 60 mph.  The distance between them is the \cgap\z.)");
   PageEnd();
-  TwoRoads roads(7, RoadsGo::OppositeWays, 120, 180);
+  TwoRoads roads(8, RoadsGo::OppositeWays, 120, 180);
   roads.Draw("Northton");
-  SayAt(11, "How far apart are they after 1 hour?");
+  SayAt(12, "How large is the gap after 1 hour?");
   PageEnd();
   roads.GoTo(40, 60);
   roads.ShowGap("100 miles");
-  Say(R"(The distance between them is the \cgap\z.  A has gone 40 miles, and B 60:  it is 100 )"
-      "miles.");
-  PageEnd();
-  Say(Text(R"(In each hour it grows by 100 miles.  We \yadd the rates\z:  {})",
-           "40 + 60 = 100 mph."));
-  Say(R"(\yTry it:\z  How far apart are they after 3 hours?)");
+  Say(Text(R"(The gap grows by {} miles in each hour.  We \yadd the rates\z.)", "40 + 60 = 100"));
+  Say(R"(\yTry it:\z  And after 3 hours?)");
   PageEnd();
   roads.GoTo(80, 120);
   roads.ShowGap("200 miles");
   Delay(kLook);
   roads.GoTo(120, 180);
   roads.ShowGap("300 miles");
-  Say(Text("The gap is {} miles.", "100" + kTimes + "3 = 300"));
+  Say(Text("The gap is {} miles:  120 miles to the left, and 180 to the right.",
+           "100" + kTimes + "3 = 300"));
   PageEnd();
 }
 
@@ -115,12 +112,12 @@ void SameRate() {
   roads.Draw("");
   roads.Place(80, 0);
   roads.ShowGap("80 miles");
-  SayAt(11, "It is 80 miles.  And in 3 hours?");
+  SayAt(11, "The gap is 80 miles.  In 3 hours, too?");
   PageEnd();
   roads.GoTo(200, 120);
   roads.ShowGap("80 miles");
-  Say(R"(Both go 120 miles more.  So the gap \ystays\z.)");
-  Say(Text(R"(\yWatch out:\z  It is not {} miles.)", "40" + kTimes + "5 = 200"));
+  Say(R"(Both go 120 miles, so the gap \ystays\z.)");
+  Say(Text(R"(\yWatch out:\z  {} is A's own way.)", "40" + kTimes + "5 = 200"));
   PageEnd();
   ClearBelow(11);
   SayAt(11,
@@ -146,18 +143,17 @@ void CatchingUp() {
   PageEnd();
   roads.GoTo(120, 60);
   roads.ShowGap("60 miles");
-  Say(Text(R"(A goes on by 40 miles, and B by 60.  The gap shrinks by 20 miles.  We \ysubtract )"
-           R"(the rates\z:  {})",
+  Say(Text(R"(B gains 20 miles in each hour.  We \ysubtract the rates\z:  {})",
            "60 - 40 = 20 mph."));
-  PageEnd();
-  Say(R"(\yTry it:\z  When is there no gap?  Then B catches up with A.)");
+  Say(R"(\yTry it:\z  When does B catch up with A?)");
   PageEnd();
   roads.GoTo(160, 120);
   roads.ShowGap("40 miles");
   Delay(kLook);
   roads.GoTo(240, 240);
   roads.ShowGap("no gap");
-  Say(Text("80 miles, and 20 less in each hour:  it takes {} hours.", "80" + kDivided + "20 = 4"));
+  Say(Text("The gap is 80 miles, and 20 less in each hour.  It is gone after {} hours.",
+           "80" + kDivided + "20 = 4"));
   PageEnd();
 }
 
@@ -170,12 +166,8 @@ void CheckCatchingUp() {
   PageEnd();
   FillJourney(Journey::A, "", "6", "240", Blue);
   FillJourney(Journey::B, "", "", "240", Blue);
-  SayAt(12.5,
-        "A left 2 hours earlier, so its time is 6 hours.  Both are 240 miles from Northton: "
-        "there B catches up.");
-  PageEnd();
-  ClearBelow(12.5);
-  SayAt(12.5, R"(\yTry it:\z  Kim divides 80 miles by 100, and Lee by 60.  What is wrong?)");
+  SayAt(12.5, "A goes for 2 hours more.  Both go 240 miles.  There B catches up.");
+  Say(R"(\yTry it:\z  Kim divides 80 miles by 100, and Lee by 60.  What is wrong?)");
   PageEnd();
   Say("Kim adds the rates.  Lee forgets that A goes on, too.");
   Say(R"(\yWatch out:\z  The answer is 4 hours, not 6.  It counts from now, when B leaves.)");
@@ -205,16 +197,13 @@ void CatchingUpInMinutes() {
 
 void AddOrSubtract() {
   NewScreen();
-  RuleBox("How Does the Gap Change?",
-          {"Opposite directions:  add the rates.", "The second is faster:  subtract them.",
-           "The same rate:  the gap stays."},
+  RuleBox("How Fast Does the Gap Change?",
+          {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
           {.row = 3});
+  Say(R"(\yTry it:\z  What do we get when one follows at the same rate?)");
   PageEnd();
-  Say(R"(\yTry it:\z  Two trains go at 70 mph and 80 mph.  How fast does the gap change when they )"
-      "go in opposite directions?  And when the fast one follows the other?");
-  PageEnd();
-  Say(Text("In opposite directions it grows by {} mph.", "70 + 80 = 150"));
-  Say(Text("When the fast one follows, the gap shrinks by {} mph.", "80 - 70 = 10"));
+  Say(Text("For example {} mph.  The gap does not change.", "70 - 70 = 0"));
+  Say("In opposite directions it would grow by 140 mph.");
   PageEnd();
 }
 

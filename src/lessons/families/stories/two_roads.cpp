@@ -23,6 +23,7 @@ constexpr double kNameCol = 1;
 constexpr double kRoadStart = 3;
 constexpr double kRoadEnd = 40.5;
 constexpr double kVehicleLength = 1.5;
+constexpr double kHalfCell = 0.5;  // lines and arrows end in the middle of a cell
 
 // Rows below the first one.
 constexpr double kRoadStep = 1;  // from a road to the next
@@ -49,13 +50,12 @@ TwoRoads::TwoRoads(double row, RoadsGo way, double firstMiles, double secondMile
 }
 
 void TwoRoads::Draw(const std::string& town) {
-  constexpr double kHalf = 0.5;
   for (const Vehicle* vehicle : {&first_, &second_}) {
     SayAt(vehicle->row, vehicle == &first_ ? R"(\yA\z)" : R"(\cB\z)", {.col = kNameCol});
     isDrawHorizLineWithColor(vehicle->row + kRoadDrop, kRoadStart, kRoadEnd - 1, 2, White);
   }
   if (!town.empty()) {
-    const double col = townCol_ - static_cast<double>(town.size()) * kHalf;
+    const double col = townCol_ - static_cast<double>(town.size()) / 2;
     SayAt(row_ - 1, town, {.col = std::max(kRoadStart, std::round(col))});
   }
   Place(0, 0);
@@ -66,6 +66,7 @@ void TwoRoads::Place(double firstMiles, double secondMiles) {
     const double top = vehicle->row + kVehicleDrop;
     isDrawBoxFilled(top, kRoadStart, top + kVehicleHeight - 1, kRoadEnd - 1,
                     screenState.gBackColor);
+    isDrawVertLineWithColor(townCol_ - kHalfCell, top, top - kVehicleDrop, 2, White);
     vehicle->miles = vehicle == &first_ ? firstMiles : secondMiles;
     DrawVehicle(*vehicle);
   }
@@ -81,17 +82,17 @@ void TwoRoads::GoTo(double firstMiles, double secondMiles) {
 
 void TwoRoads::ShowGap(const std::string& text) const {
   const double nextRow = NextRow();
+  ClearGap();
   const double row = row_ + kGapDrop;
   const double from = std::min(FrontOf(first_), FrontOf(second_));
   const double to = std::max(FrontOf(first_), FrontOf(second_));
   const double length = static_cast<double>(text.size());
-  constexpr double kHalfCell = 0.5;  // an arrow ends in the middle of a cell
   constexpr double kBothArrows = 4;  // columns
   constexpr double kShortest = 1;
   if (to - from >= length + kBothArrows) {
     const double col = std::round((from + to - length) / 2);
-    isDrawArrow1Segment(row, from - kHalfCell, row, col - 1, Yellow, "A", "NA");
-    isDrawArrow1Segment(row, col + length, row, to - kHalfCell, Yellow, "NA", "A");
+    isDrawArrow1Segment(row, from - kHalfCell, row, col - 1 - kHalfCell, Yellow, "A", "NA");
+    isDrawArrow1Segment(row, col + length + kHalfCell, row, to - kHalfCell, Yellow, "NA", "A");
     SayAt(row, text, {.col = col});
   } else {
     if (to - from >= kShortest)

@@ -35,8 +35,8 @@ constexpr int kMinutesOfHour = 60;
 constexpr double kProblemRow = 4;
 constexpr double kFigureRow = 9.2;
 constexpr double kTableRow = 13;
-constexpr double kRateRow = 12.9;
-constexpr double kWorkRow = 15.3;
+constexpr double kRateRow = 12.6;
+constexpr double kWorkRow = 14.8;
 constexpr double kSecondWorkRow = 18.3;
 constexpr double kBoxRow = 20.7;
 constexpr double kWorkCol = 2;
@@ -220,8 +220,10 @@ void TwoVehiclesExplanation::ExplainGapThatChanges() {
   if (grows) HideTable();
   const int larger = grows ? vehicles_.firstRate : vehicles_.secondRate;
   const int other = grows ? vehicles_.secondRate : vehicles_.firstRate;
-  SayInBoxAnew(grows ? "They go in opposite directions, so it grows.  We add the rates."
-                     : "B is faster, so it shrinks.  We subtract the rates.");
+  SayInBoxAnew(
+      grows ? "They go in opposite directions, so it grows.  We add the rates.  This is r, and the "
+              "gap is d."
+            : "B is faster, so it shrinks.  We subtract the rates.  This is r, and the gap is d.");
   ShowAt(kRateRow, Text("r = {} {} {} = {}", larger, grows ? "+" : "-", other, gap_.rate),
          kWorkCol);
   PageEnd();
@@ -274,8 +276,9 @@ std::string TwoVehiclesExplanation::CheckWords() const {
   const std::string gap = MixedText(gap_.Distance());
   switch (vehicles_.kind) {
     case TwoVehiclesKind::CatchUp:
-      return Text("Check:  A goes {} longer than B.  Both are {} from {}, so the gap is gone.",
-                  DurationText(vehicles_.minutes), Miles(firstMiles_), vehicles_.town);
+      return Text(
+          "Check:  A goes longer, by its head start.  Both are {} from {}.  The gap is gone.",
+          Miles(firstMiles_), vehicles_.town);
     case TwoVehiclesKind::SameRate:
       return Text("Check:  A goes {} longer than B.  The gap is {}.",
                   DurationText(vehicles_.minutes), first + " - " + second + " = " + gap);
