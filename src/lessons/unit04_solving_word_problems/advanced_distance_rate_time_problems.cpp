@@ -120,12 +120,13 @@ void SameRate() {
   Say(Text(R"(\yWatch out:\z  {} is A's own way.)", "40" + kTimes + "5 = 200"));
   PageEnd();
   ClearBelow(11);
-  SayAt(11,
-        R"(\yTry it:\z  A train left 1 hour & 30 minutes ago.  Its rate is 60 mph.  A second one )"
-        "follows it at the same rate.  How far apart will they be after 4 hours?");
+  SayAt(
+      11,
+      R"(\yTry it:\z  A train at 60 mph left 1 hour & 30 minutes ago.  Another one follows at 60 )"
+      "mph.  How far apart are they in 4 hours?");
   PageEnd();
   Show("60" + kTimes + "1 1/2 = 60" + kTimes + "3/2 = 90");
-  Say("They are 90 miles apart, now and after 4 hours.  Only the head start counts.");
+  Say("They are 90 miles apart, now and in 4 hours.  Only the head start counts.");
   PageEnd();
 }
 
@@ -177,8 +178,8 @@ void CheckCatchingUp() {
 void CatchingUpInMinutes() {
   NewScreen();
   SayAt(2,
-        "A car left Southton 1 hour & 30 minutes ago.  Its rate is 40 mph.  Now a second car "
-        "follows it at 65 mph.  In how many hours will it catch up?");
+        "A car at 40 mph left 1 hour & 30 minutes ago.  Now a second one follows it at 65 mph.  "
+        "When will it catch up?");
   Say("First:  how large is the gap now?");
   PageEnd();
   Show("d = 40" + kTimes + "1 1/2 = 40" + kTimes + "3/2 = 60");
@@ -186,7 +187,7 @@ void CatchingUpInMinutes() {
   PageEnd();
   Say(Text("It shrinks by {} miles in each hour:", "65 - 40 = 25"));
   Show("t = d/r = 60/25 = 12/5 = 2 2/5");
-  Say(R"(\yTry it:\z  Write 2 2/5 hours in hours and minutes.)");
+  Say(R"(\yTry it:\z  How many minutes are 2/5 hour?)");
   PageEnd();
   ClearBelow(8);
   Show("2/5" + kTimes + "60 = 24");
@@ -200,9 +201,9 @@ void AddOrSubtract() {
   RuleBox("How Fast Does the Gap Change?",
           {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
           {.row = 3});
-  Say(R"(\yTry it:\z  What do we get when one follows at the same rate?)");
+  Say(R"(\yTry it:\z  One follows at the same rate?)");
   PageEnd();
-  Say(Text("For example {} mph.  The gap does not change.", "70 - 70 = 0"));
+  Say(Text("For example, {} mph.  The gap stays.", "70 - 70 = 0"));
   Say("In opposite directions it would grow by 140 mph.");
   PageEnd();
 }
