@@ -117,7 +117,8 @@ void SameRate() {
   roads.GoTo(200, 120);
   roads.ShowGap("80 miles");
   Say(R"(Both go 120 miles, so the gap \ystays\z.)");
-  Say(Text(R"(\yWatch out:\z  {} is A's own way.)", "40" + kTimes + "5 = 200"));
+  Say(Text(R"(\yWatch out:\z  The gap is not {}.)", "40" + kTimes + "5 = 200"));
+  AddLine("A is 200 miles from Westville, B is 120.");
   PageEnd();
   ClearBelow(11);
   SayAt(
@@ -160,14 +161,17 @@ void CatchingUp() {
 
 void CheckCatchingUp() {
   NewScreen();
-  SayAt(2, "Is it true?  How long is each train on its way, and how far does it go?");
-  ShowJourneyTable(4.5, "Train");
+  SayAt(
+      2,
+      "Check:  B goes at 60 mph for 4 hours.  How long is A on its way, and how far does each one "
+      "go?");
+  ShowJourneyTable(5.3, "Train");
   FillJourney(Journey::A, "40", "", "");
   FillJourney(Journey::B, "60", "4", "");
   PageEnd();
   FillJourney(Journey::A, "", "6", "240", Blue);
   FillJourney(Journey::B, "", "", "240", Blue);
-  SayAt(12.5, "A goes for 2 hours more.  Both go 240 miles.  There B catches up.");
+  SayAt(12.8, "A goes for 2 hours more.  Both go 240 miles.  There B catches up.");
   Say(R"(\yTry it:\z  Kim divides 80 miles by 100, and Lee by 60.  What is wrong?)");
   PageEnd();
   Say("Kim adds the rates.  Lee forgets that A goes on, too.");
@@ -201,10 +205,10 @@ void AddOrSubtract() {
   RuleBox("How Fast Does the Gap Change?",
           {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
           {.row = 3});
-  Say(R"(\yTry it:\z  One follows at the same rate?)");
+  Say(R"(\yTry it:\z  What if the rates are equal?)");
   PageEnd();
-  Say(Text("For example, {} mph.  The gap stays.", "70 - 70 = 0"));
-  Say("In opposite directions it would grow by 140 mph.");
+  Say(Text("One follows:  {} mph.  The gap stays.", "70 - 70 = 0"));
+  Say(Text("Opposite directions:  {} mph.", "70 + 70 = 140"));
   PageEnd();
 }
 

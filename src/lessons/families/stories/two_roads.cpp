@@ -52,7 +52,6 @@ TwoRoads::TwoRoads(double row, RoadsGo way, double firstMiles, double secondMile
 void TwoRoads::Draw(const std::string& town) {
   for (const Vehicle* vehicle : {&first_, &second_}) {
     SayAt(vehicle->row, vehicle == &first_ ? R"(\yA\z)" : R"(\cB\z)", {.col = kNameCol});
-    isDrawHorizLineWithColor(vehicle->row + kRoadDrop, kRoadStart, kRoadEnd - 1, 2, White);
   }
   if (!town.empty()) {
     const double col = townCol_ - static_cast<double>(town.size()) / 2;
@@ -66,6 +65,7 @@ void TwoRoads::Place(double firstMiles, double secondMiles) {
     const double top = vehicle->row + kVehicleDrop;
     isDrawBoxFilled(top, kRoadStart, top + kVehicleHeight - 1, kRoadEnd - 1,
                     screenState.gBackColor);
+    isDrawHorizLineWithColor(vehicle->row + kRoadDrop, kRoadStart, kRoadEnd - 1, 2, White);
     isDrawVertLineWithColor(townCol_ - kHalfCell, top, top - kVehicleDrop, 2, White);
     vehicle->miles = vehicle == &first_ ? firstMiles : secondMiles;
     DrawVehicle(*vehicle);
@@ -77,7 +77,7 @@ void TwoRoads::GoTo(double firstMiles, double secondMiles) {
   ClearGap();
   Slide(first_, firstMiles);
   Slide(second_, secondMiles);
-  Place(firstMiles, secondMiles);  // to the pixel
+  Place(firstMiles, secondMiles);  // to the pixel, and mends the roads
 }
 
 void TwoRoads::ShowGap(const std::string& text) const {
