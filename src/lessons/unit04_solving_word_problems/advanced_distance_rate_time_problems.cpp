@@ -71,10 +71,10 @@ void DistanceApart() {
   PageEnd();
   FillJourney(Journey::A, "", "", "78 3/4", Blue);
   FillJourney(Journey::B, "", "", "101 1/4", Blue);
-  ClearBelow(18.5);
-  SayAt(19,
+  ClearBelow(19.1);
+  SayAt(19.3,
         Text("{} and {}.", "35" + kTimes + "2 1/4 = 78 3/4", "45" + kTimes + "2 1/4 = 101 1/4"));
-  Say(Text("Both ways together make the gap:  {}", "78 3/4 + 101 1/4 = 180."));
+  AddLine(Text("Both ways together make the gap:  {}", "78 3/4 + 101 1/4 = 180."));
   PageEnd();
 }
 
@@ -193,10 +193,11 @@ void CatchingUpInMinutes() {
   Show("t = d/r = 60/25 = 12/5 = 2 2/5");
   Say(R"(\yTry it:\z  How many minutes are 2/5 hour?)");
   PageEnd();
-  ClearBelow(8);
+  ClearBelow(5.5);
+  ShowAt(7, "t = 60/25 = 2 2/5 = 2.4");
   Show("2/5" + kTimes + "60 = 24");
   Say("It takes 2 hours & 24 minutes.");
-  Say(R"(\yWatch out:\z  2 2/5 hours are 2.4 hours, not 2 hours & 40 minutes.)");
+  Say(R"(\yWatch out:\z  .4 hours are not 40 minutes.)");
   PageEnd();
 }
 
