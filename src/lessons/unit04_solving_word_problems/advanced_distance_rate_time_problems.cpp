@@ -201,15 +201,14 @@ void CatchingUpInMinutes() {
   PageEnd();
 }
 
+// Below the last problem.
 void AddOrSubtract() {
-  NewScreen();
   RuleBox("How Fast Does the Gap Change?",
-          {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
-          {.row = 3});
-  Say(R"(\yTry it:\z  What if the rates are equal?)");
+          {"Opposite directions:  add the rates.", "One follows:  subtract the rates."});
+  GoBelow();
+  AddLine(R"(\yTry it:\z  What if the rates are equal?)");
   PageEnd();
-  Say(Text("One follows:  {} mph.  The gap stays.", "70 - 70 = 0"));
-  Say(Text("Opposite directions:  {} mph.", "70 + 70 = 140"));
+  AddLine(Text("One follows:  {}.  The gap stays.", "70 - 70 = 0"));
   PageEnd();
 }
 
