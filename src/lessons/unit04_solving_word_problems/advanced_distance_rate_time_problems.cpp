@@ -208,7 +208,7 @@ void AddOrSubtract() {
   GoBelow();
   AddLine(R"(\yTry it:\z  What if the rates are equal?)");
   PageEnd();
-  AddLine(Text("One follows:  {}.  The gap stays.", "70 - 70 = 0"));
+  AddLine(Text("One follows:  {}, so it stays.", "70 - 70 = 0"));
   PageEnd();
 }
 

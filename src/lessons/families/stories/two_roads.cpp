@@ -29,7 +29,8 @@ constexpr double kHalfCell = 0.5;  // lines and arrows end in the middle of a ce
 constexpr double kRoadStep = 1;  // from a road to the next
 constexpr double kVehicleHeight = 0.6;
 constexpr double kVehicleDrop = 0.1;
-constexpr double kRoadDrop = 0.3;  // a bar goes through the middle of its row
+constexpr double kClearedHeight = 0.8;  // down to below the road, which a slide touches
+constexpr double kRoadDrop = 0.3;       // a bar goes through the middle of its row
 constexpr double kGapDrop = 2.1;
 
 // So much of the roads is left free for the vehicles themselves.
@@ -63,7 +64,7 @@ void TwoRoads::Draw(const std::string& town) {
 void TwoRoads::Place(double firstMiles, double secondMiles) {
   for (Vehicle* vehicle : {&first_, &second_}) {
     const double top = vehicle->row + kVehicleDrop;
-    isDrawBoxFilled(top, kRoadStart, top + kVehicleHeight - 1, kRoadEnd - 1,
+    isDrawBoxFilled(top, kRoadStart, top + kClearedHeight - 1, kRoadEnd - 1,
                     screenState.gBackColor);
     isDrawHorizLineWithColor(vehicle->row + kRoadDrop, kRoadStart, kRoadEnd - 1, 2, White);
     isDrawVertLineWithColor(townCol_ - kHalfCell, top, top - kVehicleDrop, 2, White);

@@ -26,7 +26,6 @@ namespace {
 
 using namespace page;
 
-using platform::colour::Black;
 using platform::colour::Blue;
 
 constexpr int kMinutesOfHour = 60;
@@ -46,6 +45,13 @@ const std::string kFormula = WithoutBreaks("d = r " + tutor::Dot + " t");
 
 double MilesOf(const Fraction& distance) {
   return static_cast<double>(distance.num) / distance.den;
+}
+
+// "= 375/2 = 187 1/2", the lines of working from one of them on.
+std::string EqualTo(const std::vector<std::string>& lines, std::size_t first) {
+  std::string chain;
+  for (std::size_t i = first; i < lines.size(); ++i) chain += (i > first ? " = " : "= ") + lines[i];
+  return chain;
 }
 
 class TwoVehiclesExplanation {
@@ -180,8 +186,8 @@ void TwoVehiclesExplanation::ShowWorking(const Motion& motion) {
   ShowAt(kWorkRow, LetterOf(motion.asked) + " = " + lines.front(), kWorkCol);
   PageEnd();
   SayInBoxAnew("Simplify the expression to find the " + NameOf(motion.asked) + ".");
-  std::string rest;
-  for (std::size_t i = 1; i < lines.size(); ++i) rest += (i > 1 ? " = " : "= ") + lines[i];
+  std::string rest = EqualTo(lines, 1);
+  if (StackedTextWidth(rest) > kLastCol - kWorkCol) rest = EqualTo(lines, 2);
   const double underSign = kWorkCol + 2;
   ShowAt(kSecondWorkRow, rest, std::min(underSign, kLastCol - StackedTextWidth(rest)));
 }
