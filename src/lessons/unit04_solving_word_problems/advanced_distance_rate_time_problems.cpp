@@ -64,7 +64,7 @@ void DistanceApart() {
   Say("How fast does the gap grow?");
   PageEnd();
   ClearBelow(13.5);
-  SayAt(13.5, Text("It grows by {} miles in each hour.  So its rate is 80 mph:", "35 + 45 = 80"));
+  SayAt(13.5, Text("It grows by {} miles in each hour.  So r is 80 mph:", "35 + 45 = 80"));
   Show(WithoutBreaks("d = r " + tutor::Dot + " t = 80" + kTimes + "2 1/4 = 80" + kTimes +
                      "9/4 = 180"));
   Say(R"(\yTry it:\z  How far does each car go?)");
@@ -112,7 +112,7 @@ void SameRate() {
   roads.Draw("");
   roads.Place(80, 0);
   roads.ShowGap("80 miles");
-  SayAt(11, "The gap is 80 miles.  In 3 hours, too?");
+  SayAt(11, Text("The gap is {}.  And in 3 hours?", "40" + kTimes + "2 = 80"));
   PageEnd();
   roads.GoTo(200, 120);
   roads.ShowGap("80 miles");

@@ -10,13 +10,11 @@ enum class RoadsGo { SameWay, OppositeWays };  // the upper one to the left then
 
 class TwoRoads {
  public:
-  // Rows: those of the figure under the one with the town's name.
-  static constexpr double kRows = 3;
-
-  // From a row of the lesson screen on, for ways of so many miles at most.
+  // Three rows from a row of the lesson screen on, for ways of so many miles at most.
   TwoRoads(double row, RoadsGo way, double firstMiles, double secondMiles);
 
-  // The roads A and B, both vehicles at the town; its name stands above, "" leaves it out.
+  // The roads A and B, both vehicles at the town; its name stands in the row above, "" leaves it
+  // out.
   void Draw(const std::string& town);
   // Puts the vehicles so many miles from the town.
   void Place(double firstMiles, double secondMiles);

@@ -20,6 +20,8 @@ Fraction Whole(int n) {
   return {n, 1};
 }
 
+constexpr const char* kDecimalsAsMinutes = "reads the decimal part of the hours as minutes";
+
 // A time of full hours and minutes, read wrongly; in hours.
 Fraction FullHours(int minutes) {
   return Whole(minutes / kMinutesOfHour);
@@ -158,7 +160,7 @@ class TwoVehiclesChoices {
 // this tells it in its name.
 void TwoVehiclesChoices::Offer(const MotionMistake& mistake) {
   MotionMistake offered = mistake;
-  const bool isReadOff = mistake.name.starts_with("reads the decimal");  // no arithmetic to round
+  const bool isReadOff = mistake.name == kDecimalsAsMinutes;  // no arithmetic to round
   if (AsksTime() && !isReadOff) {
     offered.value = Rounded(mistake.value, Roundness(motion_.minutes));
     if (offered.value != mistake.value) offered.name += " and rounds";
