@@ -25,7 +25,7 @@ struct Motion {
   int rate = 0;       // miles an hour; in still water or still air
   int direction = 0;  // 1 with a wind or current, -1 against it, 0 without
   int drift = 0;      // miles an hour of the wind or current, below rate when against it
-  int minutes = 0;    // of the whole way, a multiple of 15
+  int minutes = 0;    // of the whole way; a multiple of 15 when it is drawn
   // What the vehicle can do, for the choices.
   int leastRate = 0;
   int mostRate = 0;
