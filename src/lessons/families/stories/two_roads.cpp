@@ -120,7 +120,7 @@ void TwoRoads::DrawVehicle(const Vehicle& vehicle) const {
                   vehicle.row == row_ ? Yellow : Cyan);
 }
 
-void TwoRoads::Slide(Vehicle& vehicle, double miles) const {
+void TwoRoads::Slide(const Vehicle& vehicle, double miles) const {
   const Cells body = {vehicle.row + kVehicleDrop, LeftOf(vehicle), kVehicleLength, kVehicleHeight};
   const double columns = (miles - vehicle.miles) / milesOfColumn_;
   if (columns <= 0) return;

@@ -32,7 +32,7 @@ class TwoRoads {
   double FrontOf(const Vehicle& vehicle) const;
   double LeftOf(const Vehicle& vehicle) const;
   void DrawVehicle(const Vehicle& vehicle) const;
-  void Slide(Vehicle& vehicle, double miles) const;
+  void Slide(const Vehicle& vehicle, double miles) const;
   void ClearGap() const;
 
   double row_;

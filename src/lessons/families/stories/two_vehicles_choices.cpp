@@ -1,6 +1,6 @@
 // The choices of "Advanced Distance-Rate-Time Problems": the mistake that the kind of problem is
 // known for, then others in random order.
-#include <algorithm>
+#include <cstdlib>
 
 #include "engine/choices.h"
 #include "lessons/families/stories/durations.h"
@@ -51,8 +51,7 @@ void AddReadings(int minutes, const Fraction& rate, Mistakes& mistakes) {
 void AddDecimalsAsMinutes(int minutes, Mistakes& mistakes) {
   const Fraction rest = HoursOf(minutes % kMinutesOfHour) * Whole(100);
   if (rest.den != 1 || rest.num == 0 || rest.num >= kMinutesOfHour) return;
-  mistakes.push_back(
-      {"reads the decimal part of the hours as minutes", FullHours(minutes) + HoursOf(rest.num)});
+  mistakes.push_back({kDecimalsAsMinutes, FullHours(minutes) + HoursOf(rest.num)});
 }
 
 Mistakes MistakesAtCatchUp(const TwoVehicles& v) {

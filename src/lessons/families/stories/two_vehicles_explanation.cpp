@@ -37,6 +37,7 @@ constexpr double kTableRow = 13;
 constexpr double kRateRow = 12.6;
 constexpr double kWorkRow = 14.8;
 constexpr double kSecondWorkRow = 18.3;
+constexpr double kPlainWorkRow = 16.3;  // under a line without fractions
 constexpr double kBoxRow = 20.7;
 constexpr double kWorkCol = 2;
 constexpr double kLastCol = 41;
@@ -189,7 +190,9 @@ void TwoVehiclesExplanation::ShowWorking(const Motion& motion) {
   std::string rest = EqualTo(lines, 1);
   if (StackedTextWidth(rest) > kLastCol - kWorkCol) rest = EqualTo(lines, 2);
   const double underSign = kWorkCol + 2;
-  ShowAt(kSecondWorkRow, rest, std::min(underSign, kLastCol - StackedTextWidth(rest)));
+  const bool isBuiltUp = (lines.front() + rest).find('/') != std::string::npos;
+  ShowAt(isBuiltUp ? kSecondWorkRow : kPlainWorkRow, rest,
+         std::min(underSign, kLastCol - StackedTextWidth(rest)));
 }
 
 void TwoVehiclesExplanation::ExplainHeadStart() {
