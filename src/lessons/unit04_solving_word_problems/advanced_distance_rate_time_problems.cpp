@@ -50,8 +50,8 @@ void OppositeDirections() {
 void DistanceApart() {
   NewScreen();
   SayAt(2,
-        "Car A goes at 35 mph, car B at 45 mph, in opposite directions.  How far apart are they "
-        "after 2 hours & 15 minutes?");
+        "Two cars leave in opposite directions, at 35 mph and 45 mph.  How far apart "
+        "are they after 2 hours & 15 minutes?");
   ShowJourneyTable(5.5, "Car");
   FillJourney(Journey::A, "35", "", "");
   FillJourney(Journey::B, "45", "", "");

@@ -81,7 +81,7 @@ TwoVehicles TwoVehicles::Draw(RandomStream& random) {
   WordTable towns(kTowns);
   towns.GoTo(random.Index(static_cast<int>(std::size(kTowns))));
   vehicles.town = towns.Next();
-  // Two thirds of the draws are accepted when one catches up, else all: other answers are whole
+  // Seven in ten draws are accepted when one catches up, else all: other answers are whole
   // minutes by themselves.
   do {
     DrawRates(row, steps, random, vehicles);
