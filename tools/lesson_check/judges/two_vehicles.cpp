@@ -122,6 +122,7 @@ Rational CatchUp(const Story& s, Reading& reading) {
   mistakes.Add("uses the faster rate alone", gap / s.faster);
   mistakes.Add("forgets to multiply by the head start", 60 * s.slower / closing);
   mistakes.Add("adds the head start to the time", answer + s.time);
+  mistakes.Add("counts the head start twice", 2 * gap / closing);
   mistakes.Add("takes the head start for the answer", s.time);
   for (const auto& [name, hours] : Misread(s.time).Readings())
     mistakes.Add(name, 60 * hours * s.slower / closing);
@@ -137,11 +138,16 @@ Rational TimeApart(const Story& s, Reading& reading) {
   mistakes.Add("uses the slower rate alone", 60 * s.miles / s.slower);
   mistakes.Add("uses the faster rate alone", 60 * s.miles / s.faster);
   mistakes.Add("takes the mean of the rates", 120 * s.miles / (s.slower + s.faster));
+  mistakes.Add("lets both go at the faster rate", 30 * s.miles / s.faster);
+  mistakes.Add("lets both go at the slower rate", 30 * s.miles / s.slower);
   mistakes.Add("halves the distance", 30 * s.miles / (s.slower + s.faster));
   const Misread misread(answer);
   if (misread.rest != 0) {
     mistakes.Add("leaves the part of an hour out", 60 * misread.full);
     mistakes.Add("rounds up to a full hour", 60 * (misread.full + 1));
+  } else {
+    mistakes.Add("counts one hour too many", answer + 60);
+    mistakes.Add("counts one hour too few", answer - 60);
   }
   mistakes.AddAsItIs("reads the decimal part of the hours as minutes", misread.DecimalsAsMinutes());
   return answer;
@@ -154,6 +160,9 @@ Rational DistanceApart(const Story& s, Reading& reading) {
   AddMiles(reading, "uses the slower rate alone", s.slower * hours);
   AddMiles(reading, "uses the faster rate alone", s.faster * hours);
   AddMiles(reading, "takes the mean of the rates", sum / 2 * hours);
+  AddMiles(reading, "lets both go at the faster rate", 2 * s.faster * hours);
+  AddMiles(reading, "lets both go at the slower rate", 2 * s.slower * hours);
+  AddMiles(reading, "counts both ways twice", 2 * sum * hours);
   AddMiles(reading, "forgets to multiply by the time", sum);
   for (const auto& [name, misread] : Misread(s.time).Readings())
     AddMiles(reading, name, sum * misread);

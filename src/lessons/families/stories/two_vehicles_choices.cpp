@@ -1,5 +1,7 @@
 // The choices of "Advanced Distance-Rate-Time Problems": the mistake that the kind of problem is
-// known for, then others in random order.
+// known for, then others in random order, of which a random number lies below the answer: its place
+// among the choices does not give it away.
+#include <algorithm>
 #include <cstdlib>
 
 #include "engine/choices.h"
@@ -14,6 +16,7 @@ using Mistakes = std::vector<MotionMistake>;
 
 constexpr int kMinutesOfHour = 60;
 constexpr int kQuarters = 4;
+constexpr int kWrongChoices = 4;
 constexpr int kFarthest = 12;  // times the answer: more than that is not believed
 
 Fraction Whole(int n) {
@@ -63,6 +66,7 @@ Mistakes MistakesAtCatchUp(const TwoVehicles& v) {
       {"uses the faster rate alone", gap / Whole(v.secondRate)},
       {"forgets to multiply by the head start", Whole(v.firstRate) / closing},
       {"adds the head start to the time", HoursOf(minutes) + v.Hours()},
+      {"counts the head start twice", HoursOf(2 * minutes)},
       {"takes the head start for the answer", v.Hours()}};
   AddReadings(v.minutes, Whole(v.firstRate) / closing, mistakes);
   AddDecimalsAsMinutes(minutes, mistakes);
@@ -76,10 +80,15 @@ Mistakes MistakesAtTimeApart(const TwoVehicles& v) {
       {"uses the slower rate alone", distance / Whole(v.firstRate)},
       {"uses the faster rate alone", distance / Whole(v.secondRate)},
       {"takes the mean of the rates", v.Hours() * Whole(2)},
+      {"lets both go at the faster rate", distance / Whole(2 * v.secondRate)},
+      {"lets both go at the slower rate", distance / Whole(2 * v.firstRate)},
       {"halves the distance", v.Hours() / Whole(2)}};
   if (HasMinutes(v.minutes)) {
     mistakes.push_back({"leaves the part of an hour out", FullHours(v.minutes)});
     mistakes.push_back({"rounds up to a full hour", FullHours(v.minutes) + Whole(1)});
+  } else {
+    mistakes.push_back({"counts one hour too many", v.Hours() + Whole(1)});
+    mistakes.push_back({"counts one hour too few", v.Hours() - Whole(1)});
   }
   AddDecimalsAsMinutes(v.minutes, mistakes);
   return mistakes;
@@ -92,6 +101,9 @@ Mistakes MistakesAtDistanceApart(const TwoVehicles& v) {
                        {"uses the slower rate alone", Whole(v.firstRate) * v.Hours()},
                        {"uses the faster rate alone", Whole(v.secondRate) * v.Hours()},
                        {"takes the mean of the rates", Reduced(sum, 2) * v.Hours()},
+                       {"lets both go at the faster rate", Whole(2 * v.secondRate) * v.Hours()},
+                       {"lets both go at the slower rate", Whole(2 * v.firstRate) * v.Hours()},
+                       {"counts both ways twice", Whole(2 * sum) * v.Hours()},
                        {"forgets to multiply by the time", Whole(sum)}};
   AddReadings(v.minutes, Whole(sum), mistakes);
   return mistakes;
@@ -146,27 +158,39 @@ class TwoVehiclesChoices {
   void Fill(RandomStream& random);
 
  private:
-  void Offer(const MotionMistake& mistake);
+  MotionMistake AsChoice(const MotionMistake& mistake) const;
+  bool CanBeChoice(const Fraction& value) const;
+  void Offer(const MotionMistake& mistake, int& room);
   Fraction Filler(RandomStream& random) const;
   bool AsksTime() const { return motion_.asked == MotionPart::Time; }
 
   const TwoVehicles& vehicles_;
   const Motion motion_;
   Choices<Fraction> choices_;
+  std::vector<Fraction> offered_;  // values
 };
 
-// Distances are quarter miles, and times are as round as the right one; one that is rounded for
-// this tells it in its name.
-void TwoVehiclesChoices::Offer(const MotionMistake& mistake) {
-  MotionMistake offered = mistake;
+// Times are as round as the right one; one that is rounded for this tells it in its name.
+MotionMistake TwoVehiclesChoices::AsChoice(const MotionMistake& mistake) const {
   const bool isReadOff = mistake.name == kDecimalsAsMinutes;  // no arithmetic to round
-  if (AsksTime() && !isReadOff) {
-    offered.value = Rounded(mistake.value, Roundness(motion_.minutes));
-    if (offered.value != mistake.value) offered.name += " and rounds";
-  }
-  if (!AsksTime() && kQuarters % offered.value.den != 0) return;
-  const bool isNear = offered.value < motion_.Answer() * Whole(kFarthest);
-  if (Whole(0) < offered.value && isNear) choices_.Wrong(offered.name, offered.value);
+  if (!AsksTime() || isReadOff) return mistake;
+  const Fraction rounded = Rounded(mistake.value, Roundness(motion_.minutes));
+  return {rounded == mistake.value ? mistake.name : mistake.name + " and rounds", rounded};
+}
+
+// Distances are quarter miles.
+bool TwoVehiclesChoices::CanBeChoice(const Fraction& value) const {
+  if (!AsksTime() && kQuarters % value.den != 0) return false;
+  return Whole(0) < value && value < motion_.Answer() * Whole(kFarthest);
+}
+
+// When there is room for one more on its side of the answer.
+void TwoVehiclesChoices::Offer(const MotionMistake& mistake, int& room) {
+  const bool isNew = std::ranges::find(offered_, mistake.value) == offered_.end();
+  if (room == 0 || !isNew || !CanBeChoice(mistake.value)) return;
+  choices_.Wrong(mistake.name, mistake.value);
+  offered_.push_back(mistake.value);
+  --room;
 }
 
 // A distance that another time gives, or a time of half to twice the right one.
@@ -178,12 +202,23 @@ Fraction TwoVehiclesChoices::Filler(RandomStream& random) const {
 }
 
 void TwoVehiclesChoices::Fill(RandomStream& random) {
-  choices_.Right(motion_.Answer());
-  const Mistakes mistakes = MistakesAt(vehicles_);
-  Offer(mistakes.front());
+  const Fraction answer = motion_.Answer();
+  choices_.Right(answer);
+  offered_ = {answer};
+  Mistakes mistakes;
+  for (const MotionMistake& mistake : MistakesAt(vehicles_)) mistakes.push_back(AsChoice(mistake));
+  int any = kWrongChoices;
+  Offer(mistakes.front(), any);
   const int others = static_cast<int>(mistakes.size()) - 1;
-  for (const int place : random.RandSeq(others, others))
-    Offer(mistakes[static_cast<std::size_t>(place)]);
+  const std::vector<int> order = random.RandSeq(others, others);
+  int below = random.Rand(0, any);
+  int above = any - below;
+  for (const int place : order) {
+    const MotionMistake& mistake = mistakes[static_cast<std::size_t>(place)];
+    Offer(mistake, mistake.value < answer ? below : above);
+  }
+  any = below + above;  // where a side has too few
+  for (const int place : order) Offer(mistakes[static_cast<std::size_t>(place)], any);
   choices_.Fill([&] { return Filler(random); });
 }
 
