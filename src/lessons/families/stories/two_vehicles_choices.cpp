@@ -195,10 +195,16 @@ void TwoVehiclesChoices::Offer(const MotionMistake& mistake, int& room) {
 
 // A distance that another time gives, or a time of half to twice the right one.
 Fraction TwoVehiclesChoices::Filler(RandomStream& random) const {
-  if (!AsksTime()) return Whole(motion_.rate) * Reduced(random.Rand(1, 39), kQuarters);
-  const int step = Roundness(motion_.minutes);
-  const int steps = motion_.minutes / step;
-  return HoursOf(step * random.Rand(steps / 2 + 1, 2 * steps + 8));
+  if (AsksTime()) {
+    const int step = Roundness(motion_.minutes);
+    const int steps = motion_.minutes / step;
+    return HoursOf(step * random.Rand(steps / 2 + 1, 2 * steps + 8));
+  }
+  Fraction value;
+  do {  // a quarter of the draws is accepted for the shortest time, all from an hour on
+    value = Whole(motion_.rate) * Reduced(random.Rand(1, 39), kQuarters);
+  } while (!CanBeChoice(value));
+  return value;
 }
 
 void TwoVehiclesChoices::Fill(RandomStream& random) {
