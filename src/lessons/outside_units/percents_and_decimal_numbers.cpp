@@ -13,6 +13,8 @@ namespace {
 using namespace percents;
 
 constexpr int kPlaces = 2;
+const std::string kTimes = " " + tutor::Times + " ";
+const std::string kOver = " " + tutor::Divided + " ";
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -32,7 +34,7 @@ void OutOfAHundred() {
   PageEnd();
   ShowAt(12, "45% = 45/100 = 0.45");
   GoBelow();
-  Say("The hundredths end with the second place behind the point.");
+  Say("The second place after the point is the hundredths place.");
   PageEnd();
 }
 
@@ -44,10 +46,12 @@ void PointMovesRight() {
   point.Move();
   Say(Text("It moves {}:  {}", Words{R"(\ytwo places to the right\z)"}, "0.45 = 45%"));
   PageEnd();
-  Say("Why two?  A percent counts hundredths, and 1 whole is 100 hundredths.  So we multiply by "
-      "100.");
+  Say(
+      Text("Why two?  Percent means hundredths, and 1 whole is 100 hundredths.  So we multiply by "
+           "100.  That is {}, and each 10 moves the point one place.",
+           "10" + kTimes + "10"));
   PageEnd();
-  Say(R"(\yWatch out:\z  Do not just write the sign behind the number.)");
+  Say(R"(\yWatch out:\z  Do not just write the sign after the number.)");
   PaperBox({R"(0.45 = 45%,  \rnot 0.45%\z)"});
   Say("0.45% is not even half of one square.");
   PageEnd();
@@ -56,50 +60,72 @@ void PointMovesRight() {
 void ZerosFillThePlaces() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Write 0.6 as a percent.)");
-  PercentPoint one = PercentPoint::ToPercent(5, {"6", 0});
+  PercentPoint point = PercentPoint::ToPercent(5, {"6", 0});
   PageEnd();
-  one.Move();
-  Say(Text(R"(A {} fills the gap:  {})", R"(\yzero\z)", "0.6 = 60%"));
+  point.Move();
+  Say(Text(R"(A {} fills the empty place:  {})", R"(\yzero\z)", "0.6 = 0.60 = 60%"));
+  PageEnd();
   PaperBox({R"(0.6 = 60%,  \rnot 6%\z)"});
+  Say("6 tenths are 60 hundredths.  6% is only 6 of the 100 squares.");
   PageEnd();
-  Say(R"(\yTry it:\z  And what is 0.04?)");
+}
+
+void ZerosInFrontAreDropped() {
+  constexpr double kBeside = 16;  // columns
+  NewScreen();
+  DrawHundredSquares(3, 3, 4);
+  SayAt(3, "4 of the 100 squares show the number 0.04.", {.col = kBeside});
+  SayAt(6, R"(\yTry it:\z  What percent?)", {.col = kBeside});
+  PercentPoint four = PercentPoint::ToPercent(10.5, {"4", -1});
   PageEnd();
-  PercentPoint::ToPercent(14.5, {"4", -1}).Move();
-  Say(Text("The zeros in front are not needed any more:  {}", "0.04 = 4%"));
+  four.Move();
+  Say(Text("The digits are 004, and 004 is just 4.  So we drop the zeros in front:  {}",
+           "0.04 = 4%"));
   PageEnd();
-  Say(R"(\yTry it:\z  What is 0.625?)");
+  SayAt(17, R"(\yTry it:\z  What is 0.0625?)");
+  PercentPoint more = PercentPoint::ToPercent(18.5, {"625", -1});
   PageEnd();
-  AddLine(R"(The point stops behind the 2:  \y62.5%\z)");
+  more.Move();
+  Say(Text("The point stops after the 6, not at the end:  {}", "0.0625 = 6.25%"));
   PageEnd();
 }
 
 void MoreThanAWhole() {
+  constexpr double kBeside = 27;  // columns
   NewScreen();
   DrawHundredSquares(3, 3, 100);
   DrawHundredSquares(3, 15, 25);
-  SayAt(3, "Here 125 squares are yellow.", {.col = 27});
+  SayAt(3, "Here 125 squares are yellow.", {.col = kBeside});
+  SayAt(7, R"(One whole is \y100%\z.)", {.col = kBeside});
+  SayAt(11, R"(\yTry it:\z  Both figures together show the number 1.25.  What percent is this?)");
   PageEnd();
-  SayAt(6, R"(One whole is \y100%\z.)", {.col = 27});
-  SayAt(11, "Both figures together show the number 1.25.  What percent is this?");
+  PercentPoint::ToPercent(14.5, {"125", 1}).Move();
+  Say("1.25 = 125%.  A number greater than 1 is more than 100%.");
   PageEnd();
-  PercentPoint::ToPercent(14, {"125", 1}).Move();
-  Say("1.25 = 125%.  A number above 1 is more than 100%.");
+
+  NewScreen();
+  RuleBox("To a Percent", {"Move the point 2 places right, write %.", "0.375 = 37.5%"});
+  Say(R"(\yTry it:\z  Write 2.4 and 0.08 as percents.)");
   PageEnd();
-  RuleBox("To a Percent", {"2 places to the right, and the sign:", "0.375 = 37.5%"});
+  Show("2.4  = 240%");
+  Show("0.08 = 8%");
+  Say("A zero fills the empty place in 240%.  We drop the zeros in front in 8%.");
   PageEnd();
 }
 
 void PointMovesLeft() {
   NewScreen();
-  SayAt(3, "Now for the way back.  What is 32% as a decimal number?");
-  PercentPoint point = PercentPoint::ToDecimal(6, {"32", 0});
-  SayAt(9, R"(\yTry it:\z  Which way must the point move?)");
+  SayAt(3,
+        "Now for the way back.  What is 32% as a decimal number?  The point of a whole number "
+        "stands after its last digit.");
+  PercentPoint point = PercentPoint::ToDecimal(8, {"32", 0});
+  SayAt(11, R"(\yTry it:\z  Which way must the point move?)");
   PageEnd();
   point.Move();
-  SayAt(11, Text("It moves {}, and the sign goes:  {}", Words{R"(\ytwo places to the left\z)"},
-                 "32% = 0.32"));
+  SayAt(13, Text("It moves {}, and we drop the percent sign:  {}",
+                 Words{R"(\ytwo places to the left\z)"}, "32% = 0.32"));
   PageEnd();
-  Say("Why?  32% means 32 out of 100, so we divide by 100:");
+  Say("Why?  32% means 32 out of 100, so we divide by 100.  That is by 10 and by 10 again:");
   Show("32% = 32/100 = 0.32");
   PageEnd();
 }
@@ -119,24 +145,32 @@ void SmallPercents() {
   SayAt(10, "8% = 0.08", {.col = 3});
   SayAt(10, "80% = 0.80 = 0.8", {.col = 22});
   Say(R"(\yWatch out:\z  8% is not 0.8.  That would be 80 of the 100 squares.)");
-  Say("In 0.80 the last zero may be left out.");
+  Say("In 0.80 we may drop the last zero, because 80 hundredths are 8 tenths.");
   PageEnd();
 }
 
 void OtherPercents() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  What is 12.5%?)");
-  PercentPoint point = PercentPoint::ToDecimal(5, {"125", 0});
+  SayAt(3, R"(\yTry it:\z  What is 4.5%?)");
+  PercentPoint point = PercentPoint::ToDecimal(5, {"45", -1});
   PageEnd();
   point.Move();
-  Say(Text("The point stood behind the 2.  It moves in front of the 1:  {}", "12.5% = 0.125"));
+  Say(Text("The point moves past the 4 and one place more:  {}", "4.5% = 0.045"));
   PageEnd();
+  Say(Text(R"(\yCheck:\z  We go back with times 100:  {})", "0.045" + kTimes + "100 = 4.5"));
   Say(R"(\yTry it:\z  And 250%?  Is it more or less than 1?)");
   PageEnd();
-  PercentPoint::ToDecimal(14, {"25", 1}).Move();
-  Say(Text("It is more than 1, for it is more than 100%:  {}", "250% = 2.50 = 2.5"));
+  PercentPoint::ToDecimal(17, {"25", 1}).Move();
+  Say(Text("It is more than 1, because it is more than 100%:  {}", "250% = 2.50 = 2.5"));
   PageEnd();
-  RuleBox("To a Decimal Number", {"2 places to the left, no sign:", "37.5% = 0.375"});
+
+  NewScreen();
+  RuleBox("To a Decimal Number", {"Move the point 2 places left, drop the %.", "37.5% = 0.375"});
+  Say(R"(\yTry it:\z  Write 12.5% as a decimal number, and check it.)");
+  PageEnd();
+  Show("12.5% = 0.125");
+  Say(R"(\yCheck:\z)");
+  Show("0.125" + kTimes + "100 = 12.5");
   PageEnd();
 }
 
@@ -148,7 +182,8 @@ class PercentsAndDecimalNumbers final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{OutOfAHundred, PointMovesRight, ZerosFillThePlaces, MoreThanAWhole},
+    return {{OutOfAHundred, PointMovesRight, ZerosFillThePlaces, ZerosInFrontAreDropped,
+             MoreThanAWhole},
             {PointMovesLeft, SmallPercents, OtherPercents}};
   }
   void DrawProblem(RandomStream& random) override;
@@ -159,6 +194,10 @@ class PercentsAndDecimalNumbers final : public LessonScript {
   // The choice whose point stands so many places to the right of the question's.
   std::string Moved(int places) const;
   void ExplainMove() const;
+  std::string Equation() const;
+  // What happens to the zeros and to the sign.
+  std::string AboutPercent() const;
+  std::string AboutDecimal() const;
   void Check() const;
 
   bool toPercent_ = false;
@@ -232,6 +271,8 @@ void PercentsAndDecimalNumbers::ShowProblem() {
 
 // --- Worked explanation ------------------------------------------------------
 
+constexpr double kReasonRow = 9;
+
 void PercentsAndDecimalNumbers::ExplainProblem() {
   ProblemBanner();
   SayAt(4.5, problem.question[0]);
@@ -243,7 +284,7 @@ void PercentsAndDecimalNumbers::ExplainProblem() {
 
 void PercentsAndDecimalNumbers::ExplainMove() const {
   constexpr double kMovingRow = 12.5;
-  Say(toPercent_ ? R"(A percent counts hundredths.  So we multiply by 100: the point moves two )"
+  Say(toPercent_ ? R"(Percent means hundredths.  So we multiply by 100: the point moves two )"
                    R"(places to the \yright\z.)"
                  : R"(Percent means out of 100.  So we divide by 100: the point moves two places )"
                    R"(to the \yleft\z.)");
@@ -251,28 +292,47 @@ void PercentsAndDecimalNumbers::ExplainMove() const {
                                   : PercentPoint::ToDecimal(kMovingRow, number_);
   PageEnd();
   point.Move();
-  const int count = static_cast<int>(number_.digits.size());
-  const std::string equation = toPercent_ ? number_.DecimalText() + " = " + number_.PercentText()
-                                          : number_.PercentText() + " = " + number_.DecimalText();
-  if (toPercent_ && number_.before + kPlaces > count)
-    Say("A zero fills the empty place.  Behind the number we write the percent sign.");
-  else if (toPercent_)
-    Say("Behind the number we write the percent sign.");
-  else if (number_.before < 0)
-    Say("A zero fills the empty place, and the percent sign goes.");
-  else if (number_.before < count && number_.before + kPlaces > count)
-    Say("The percent sign goes.  The zero at the end may be left out.");
-  else
-    Say("The percent sign goes.");
-  Show(equation);
+  Say(toPercent_ ? AboutPercent() : AboutDecimal());
+  Show(Equation());
   PageEnd();
 }
 
+std::string PercentsAndDecimalNumbers::Equation() const {
+  return toPercent_ ? number_.DecimalText() + " = " + number_.PercentText()
+                    : number_.PercentText() + " = " + number_.DecimalText();
+}
+
+std::string PercentsAndDecimalNumbers::AboutPercent() const {
+  const int count = static_cast<int>(number_.digits.size());
+  const std::string sign = "We write the percent sign after the number.";
+  if (number_.before + kPlaces > count) return "A zero fills the empty place.  " + sign;
+  if (number_.before == 0) return "We drop the zero in front.  " + sign;
+  if (number_.before < 0) return "We drop the zeros in front.  " + sign;
+  return sign;
+}
+
+std::string PercentsAndDecimalNumbers::AboutDecimal() const {
+  const int count = static_cast<int>(number_.digits.size());
+  if (number_.before < 0) return "A zero fills the empty place, and we drop the percent sign.";
+  if (number_.before < count && number_.before + kPlaces > count)
+    return "We drop the percent sign, and the zero at the end.";
+  return "We drop the percent sign.";
+}
+
+// The way back, by a calculation: a point that has moved the wrong way, or too far, shows.
 void PercentsAndDecimalNumbers::Check() const {
   const bool aboveOne = number_.before > 0;
-  Say(Text(R"(\yCheck:\z  1 is 100%.  {} is {} than 1, and {} is {} than 100%.)",
-           number_.DecimalText(), aboveOne ? "more" : "less", number_.PercentText(),
-           aboveOne ? "more" : "less"));
+  const std::string decimal = number_.DecimalText();
+  std::string percent = number_.PercentText();
+  percent.pop_back();
+  ClearBelow(kReasonRow);
+  ShowAt(kReasonRow, Equation(), 5);
+  Say(toPercent_ ? R"(\yCheck:\z  We go back the other way and divide by 100.)"
+                 : R"(\yCheck:\z  We go back the other way and multiply by 100.)");
+  AddLine(toPercent_ ? percent + kOver + "100 = " + decimal
+                     : decimal + kTimes + "100 = " + percent);
+  AddLine(Text("{}% is {} than 100%, so it is {} than 1.", percent, aboveOne ? "more" : "less",
+               aboveOne ? "more" : "less"));
   PageEnd();
 }
 

@@ -19,36 +19,39 @@ const std::string kTimes = " " + tutor::Times + " ";
 void PartPercentWhole() {
   const PercentQuestion question = {Asked::Part, 25, 20};
   NewScreen();
-  SayAt(3, "A class has 20 students.  5 of them, that is 25%, come to school by bike.");
+  SayAt(3, "A class has 20 students.  5 of them, that is 25%, ride a bike to school.");
   PercentBar bar(6, "20 students = 100%");
-  bar.Fill(25);
+  bar.FillLeft(25);
   bar.NameLeft("5 students = 25%");
   PageEnd();
-  SayAt(10, R"(All 20 students are the \cwhole\z.)");
-  AddLine(R"(The 5 students are the \cpart\z.)");
-  AddLine("The percent compares the two.");
-  ShowPartPercentWhole(13.5, question);
+  SayAt(10, R"(The \cwhole\z is all 20 students.)");
+  AddLine(R"(The \cpart\z is the 5 who ride a bike.)");
+  AddLine(R"(The \cpercent\z, 25%, tells how much of the whole the part is.)");
+  ShowPartPercentWhole(14.5, question);
   FillAsked(question);
   PageEnd();
-  ShowPartPercentWhole(13.5, question);
-  SayAt(17,
+  ShowPartPercentWhole(14.5, question);
+  SayAt(17.5,
         R"(\yTry it:\z  Suppose that we do not know the 5.  How do we get it from 25% and 20?)");
   PageEnd();
-  SayAt(20, Text("25% of 20 is a quarter of 20:  {}", "0.25" + kTimes + "20 = 5"));
+  SayAt(20.5, Text("25% is 0.25, a quarter.  A quarter of 20 is 5, and so is {}.",
+                   "0.25" + kTimes + "20"));
   FillAsked(question);
   PageEnd();
 }
 
 void ThePercentEquation() {
   NewScreen();
-  SayAt(3, R"(The word "of" means \ytimes\z.  This gives the percent equation:)");
-  RuleBox("The Percent Equation", {"part = percent" + kTimes + "whole"});
+  SayAt(3, Text(R"(The word "of" means \ytimes\z:  25% of 20 is {}.  So we have a rule:)",
+                "0.25" + kTimes + "20"));
+  RuleBox("The Percent Equation",
+          {"part = percent" + kTimes + "whole", "The percent is written as a decimal."});
   PageEnd();
-  Say(R"(\yWatch out:\z  25% is the decimal number 0.25.  Someone takes 25:)");
+  Say(R"(\yWatch out:\z  25% is the decimal number 0.25, not 25.  Someone takes 25:)");
   PaperBox({R"(\r25)" + kTimes + R"(20 = 500 students\z)"});
   Say("How can you see that this is wrong?");
   PageEnd();
-  Say("25% is less than 100%, so the part is less than the whole class.  That has 20 students.");
+  Say("25% is less than 100%, so the part is less than the whole.  But 500 is more than 20.");
   PageEnd();
 }
 
@@ -80,13 +83,14 @@ void FindThePercent() {
   PageEnd();
   ClearBelow(8);
   sentence.Translate();
-  SayAt(8, R"(The whole stands behind "of": it is \y48\z.  p is the percent.)");
+  SayAt(8, R"(The whole stands after "of": it is \y48\z.  p is the percent.)");
   PageEnd();
   Say("p is multiplied by 48.  We divide both sides by 48:");
   Show("p = 12/48 = 1/4 = 0.25");
   Say("What percent is 0.25?");
   PageEnd();
-  Say(R"(The point moves two places to the right:  \y25%\z)");
+  Say(Text(R"(The point moves two places to the right:  \y25%\z.  Check:  {})",
+           "0.25" + kTimes + "48 = 12"));
   PageEnd();
 
   NewScreen();
@@ -95,7 +99,7 @@ void FindThePercent() {
   Say("What is wrong with 400%?");
   PageEnd();
   PercentBar bar(10, "48 = 100%");
-  bar.Fill(25);
+  bar.FillLeft(25);
   bar.NameLeft("12 = 25%");
   SayAt(14, R"(12 is less than 48, so it is \yless than 100%\z.  We divide part by whole.)");
   PageEnd();
@@ -109,18 +113,19 @@ void FindTheWhole() {
   PageEnd();
   ClearBelow(8);
   sentence.Translate();
-  SayAt(8, R"(n stands behind "of".  We are looking for the \ywhole\z.)");
+  SayAt(8, R"(n stands after "of".  We are looking for the \ywhole\z.)");
   PageEnd();
   Say("n is multiplied by 0.3.  We divide both sides by 0.3:");
   Show("n = 18/(0.3)");
   PageEnd();
-  Say("It is easier to divide by a whole number.  So we multiply both by 10:");
-  Show("n = 180/3 = 60");
+  Say("We want to divide by a whole number.  So we multiply top and bottom by 10.  10/10 is 1, so "
+      "the value stays the same:");
+  Show("n = 18/(0.3) = 180/3 = 60");
   PageEnd();
 
   NewScreen();
   PercentBar bar(3, "60 = 100%");
-  bar.Fill(30);
+  bar.FillLeft(30);
   bar.NameLeft("18 = 30%");
   Say(Text(R"(\yCheck:\z  30% of 60 is {})", "0.3" + kTimes + "60 = 18."));
   PageEnd();
@@ -135,7 +140,7 @@ void FindTheWhole() {
 void WhichIsAsked() {
   const std::string over = " " + tutor::Divided + " ";
   NewScreen();
-  SayAt(3, "Which of the three is missing?");
+  SayAt(3, "One of the three is missing.  This is how we find it:");
   PaperBox({"part    = percent" + kTimes + "whole", "percent = part" + over + "whole",
             "whole   = part" + over + "percent"});
   PageEnd();
@@ -145,7 +150,8 @@ void WhichIsAsked() {
   Show("p = 6/40 = 0.15 = 15%");
   Say(R"(\yTry it:\z  7 is 35% of what number?)");
   PageEnd();
-  Say(Text(R"(The \ywhole\z is missing:  {})", "7" + over + "0.35 = 700" + over + "35 = 20"));
+  Say(R"(The \ywhole\z is missing.  0.35 has two places after the point, so we multiply top and bottom by 100:)");
+  Show("n = 7/(0.35) = 700/35 = 20");
   PageEnd();
 }
 
@@ -176,7 +182,9 @@ class UsingThePercentEquation final : public LessonScript {
   int Answer() const;
 
   void ExplainSolution() const;
+  void ExplainQuotient(const std::string& quotient) const;
   void Check() const;
+  void CheckByTens() const;
 
   PercentQuestion question_;
 };
@@ -206,7 +214,7 @@ void UsingThePercentEquation::DrawProblem(RandomStream& random) {
   const std::vector<int> order = random.RandSeq(others, others);
   const bool isPercent = question_.asked == Asked::Percent;
   Choices<int> choices(problem, choice_kind::FiveShuffled, [=](int value) {
-    return WithZero(value / double{kUnit}) + (isPercent ? "%" : "");
+    return DecimalOf(value / double{kUnit}) + (isPercent ? "%" : "");
   });
   choices.Right(Answer());
   choices.Wrong(mistakes[0].name, mistakes[0].value);
@@ -229,8 +237,8 @@ std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesA
   return {{"divides by the percent in place of multiplying",
            RoundedQuotient(whole * kHundred, question_.percent)},
           {"gives what is left of the whole", whole - Answer()},
-          {"moves the point one place only", Answer() * 10},
-          {"moves the point three places", Answer() / 10},
+          {"moves the point of the percent one place only", Answer() * 10},
+          {"moves the point of the percent three places", Answer() / 10},
           {"multiplies by the percent without moving the point", Answer() * kHundred}};
 }
 
@@ -241,8 +249,8 @@ std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesA
       {"switches the part and the whole",
        RoundedQuotient(kHundred * kHundred * kUnit, question_.percent)},
       {"gives the percent that is left", kHundred * kUnit - Answer()},
-      {"moves the point one place only", Answer() / 10},
-      {"moves the point three places", Answer() * 10},
+      {"moves the point of the decimal number one place only", Answer() / 10},
+      {"moves the point of the decimal number three places", Answer() * 10},
       {"forgets to move the point", Answer() / kHundred},
       {"takes the part for the percent", part}};
 }
@@ -251,8 +259,8 @@ std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesA
   const int part = question_.PartInHundredths() * kHundredth;
   const int percentOfPart = RoundedQuotient(part * question_.percent, kHundred);
   return {{"multiplies in place of dividing", percentOfPart},
-          {"moves the point one place only", Answer() / 10},
-          {"moves the point three places", Answer() * 10},
+          {"moves the point of the percent one place only", Answer() / 10},
+          {"moves the point of the percent three places", Answer() * 10},
           {"divides by the percent without moving the point", Answer() / kHundred},
           {"adds the percent of the part to the part",
            RoundedQuotient(part * (kHundred + question_.percent), kHundred)}};
@@ -274,7 +282,7 @@ void UsingThePercentEquation::ExplainProblem() {
   ProblemBanner();
   const SentenceFigure sentence(4, question_);
   ShowPartPercentWhole(8, question_);
-  SayAt(kWordsRow, R"(The whole stands behind "of".  Which of the three are we looking for?)");
+  SayAt(kWordsRow, R"(The whole stands after "of".  Which of the three are we looking for?)");
   PageEnd();
   const char* names[] = {"part", "percent", "whole"};
   ClearRows(kWordsRow, 2);
@@ -290,52 +298,82 @@ void UsingThePercentEquation::ExplainProblem() {
 }
 
 void UsingThePercentEquation::ExplainSolution() const {
-  const std::string part = question_.PartText();
-  const std::string whole = question_.WholeText();
-  const std::string rate = question_.DecimalText();
-  const std::string hundredths = NumStr(question_.PartInHundredths());
-  const std::string percent = NumStr(question_.percent);
   if (question_.asked == Asked::Part) {
+    const double hundredths = question_.PartInHundredths();
     SayAt(kSolutionRow - 2, Text("We multiply:  {}.  These are hundredths.",
-                                 percent + kTimes + whole + " = " + hundredths));
-    Show(question_.Equation() + " = " + part);
+                                 NumStr(question_.percent) + kTimes + question_.WholeText() +
+                                     " = " + DecimalOf(hundredths)));
+    Show(question_.Equation() + " = " + question_.PartText());
     return;
   }
   const bool isPercent = question_.asked == Asked::Percent;
+  const std::string divisor = isPercent ? question_.WholeText() : question_.DecimalText();
   const std::string quotient =
-      question_.Letter() + " = (" + part + ")/(" + (isPercent ? whole : rate) + ")";
-  SayAt(kSolutionRow - 2.5, Text("We divide both sides by {}:", isPercent ? whole : rate));
+      question_.Letter() + " = (" + question_.PartText() + ")/(" + divisor + ")";
+  SayAt(kSolutionRow - 2.5, Text("We divide both sides by {}:", divisor));
   ShowAt(kSolutionRow, quotient);
   PageEnd();
-  ShowAt(kSolutionRow,
-         quotient + " = " + (isPercent ? rate : hundredths + "/" + percent + " = " + whole));
-  GoBelow();
-  AddLine(isPercent ? Text(R"(As a percent, {} is \y{}\z.)", rate, question_.PercentText())
-                    : std::string("We multiplied both by 100."));
+  if (isPercent) {
+    ShowAt(kSolutionRow, quotient + " = " + question_.DecimalText());
+    GoBelow();
+    AddLine(
+        Text(R"(As a percent, {} is \y{}\z.)", question_.DecimalText(), question_.PercentText()));
+  } else {
+    ExplainQuotient(quotient);
+  }
 }
 
-// A part is compared with a percent that ends with 0, the others are put into the equation.
+void UsingThePercentEquation::ExplainQuotient(const std::string& quotient) const {
+  const bool endsWithTenths = question_.percent % 10 == 0;
+  const int factor = endsWithTenths ? 10 : kHundred;
+  const double part = question_.PartInHundredths() * factor / double{kHundred};
+  GoBelow();
+  AddLine(
+      Text("{} has {} after the point.  So we multiply top and bottom by {}.  {}/{} is 1, so "
+           "the value stays the same.",
+           question_.DecimalText(), Words{endsWithTenths ? "one place" : "two places"}, factor,
+           factor, factor));
+  PageEnd();
+  ShowAt(kSolutionRow, quotient + " = (" + DecimalOf(part) + ")/" +
+                           NumStr(question_.percent * factor / kHundred) + " = " +
+                           question_.WholeText());
+}
+
 void UsingThePercentEquation::Check() const {
-  const std::string whole = question_.WholeText();
-  if (question_.asked != Asked::Part) {
-    Say(Text(R"(\yCheck:\z  {})",
-             question_.DecimalText() + kTimes + whole + " = " + question_.PartText()));
-    PageEnd();
-    return;
-  }
-  const int tens = (question_.percent + 5) / 10;
-  const std::string tenth = WithZero(question_.whole / 10.0);
-  const std::string tenths = WithZero(tens * question_.whole / 10.0);
-  Say(Text(R"(\yCheck:\z  10% of {} is {}.)", whole, tenth));
-  if (question_.percent == 10) {
-    AddLine("That is the same.");
+  ClearBelow(kWordsRow);
+  Locate(kWordsRow - 1, 1);
+  if (question_.asked == Asked::Part) {
+    CheckByTens();
   } else {
-    AddLine(Text("So {}% is {} times as much:  {}", 10 * tens, tens, tenths + "."));
-    if (question_.percent != 10 * tens)
-      AddLine(Text("{} of {} is a little {}.", question_.PercentText(), whole,
-                   question_.percent < 10 * tens ? "less" : "more"));
+    Say(Text(
+        R"(\yCheck:\z  {} is {}, and {}.)", question_.PercentText(), question_.DecimalText(),
+        question_.DecimalText() + kTimes + question_.WholeText() + " = " + question_.PartText()));
   }
   PageEnd();
+}
+
+// The part once more, without the decimal number: so many times 10% and so many times 1%.
+void UsingThePercentEquation::CheckByTens() const {
+  const int tens = question_.percent / 10;
+  const int ones = question_.percent % 10;
+  const std::string whole = question_.WholeText();
+  const std::string tenth = DecimalOf(question_.whole / 10.0);
+  const std::string hundredth = DecimalOf(question_.whole / 100.0);
+  if (question_.percent == 10) {
+    Say(Text(R"(\yCheck:\z  10 times 10% is 100%, the whole:  {})",
+             "10" + kTimes + tenth + " = " + whole));
+    return;
+  }
+  if (ones == 0) {
+    Say(Text(R"(\yCheck:\z  10% of {} is {}.  So {} is {}.)", whole, tenth, question_.PercentText(),
+             NumStr(tens) + kTimes + tenth + " = " + question_.PartText()));
+    return;
+  }
+  Say(Text(R"(\yCheck:\z  10% of {} is {}, and 1% is {}.  So {} is)", whole, tenth, hundredth,
+           question_.PercentText()));
+  AddLine("  " + NumStr(tens) + kTimes + tenth + " + " + NumStr(ones) + kTimes + hundredth);
+  AddLine("  = " + DecimalOf(tens * question_.whole / 10.0) + " + " +
+          DecimalOf(ones * question_.whole / 100.0) + " = " + question_.PartText());
 }
 
 const LessonRegistration<UsingThePercentEquation> kRegistration("Using the Percent Equation");

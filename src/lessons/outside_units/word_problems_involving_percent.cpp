@@ -3,6 +3,10 @@
 //
 // Half of the problems ask for the percent saved on something large, a quarter each for the
 // discount and the sale price of something small.
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "lessons/families/percents/percent_figures.h"
 #include "lessons/families/percents/percent_number.h"
 #include "lessons/families/percents/percent_story.h"
@@ -23,14 +27,16 @@ void PercentOfANumber() {
   SayAt(3, "A team wins 60% of its 25 games.  How many games does it win?");
   PercentBar bar(6, "25 games = 100%");
   PageEnd();
-  bar.Fill(60);
+  bar.FillLeft(60);
   bar.NameLeft("60% = ?");
-  SayAt(10, R"(\yTry it:\z  Is the whole missing, the part, or the percent?)");
+  SayAt(10, R"(\yTry it:\z  What is missing: the whole, the part or the percent?)");
   PageEnd();
   Say(R"(The 25 games are the whole.  The wins are the \ypart\z, so we multiply:)");
   Show("0.6" + kTimes + "25 = 15");
+  bar.NameLeft("60% = 15 games");
   PageEnd();
-  Say(R"(\yCheck:\z  60% is more than half.  15 is more than half of 25.)");
+  SayAt(17.5, R"(\yCheck:\z  We divide the part by the whole:)");
+  Show("15/25 = 60/100 = 60%");
   PageEnd();
 }
 
@@ -43,7 +49,8 @@ void OtherPercentStories() {
   PageEnd();
   Say(R"(\yTry it:\z  Karen has read 45 pages.  That is 30% of her book.  What is missing here?)");
   PageEnd();
-  Say(Text(R"(All the pages, the \ywhole\z:  {})", "45" + kOver + "0.3 = 150"));
+  Say(R"(All the pages, the \ywhole\z.  We divide the part by the percent:)");
+  AddLine("  45" + kOver + "0.3 = 450" + kOver + "3 = 150");
   PageEnd();
 
   NewScreen();
@@ -52,9 +59,9 @@ void OtherPercentStories() {
   Say("Could this be the whole book?");
   PageEnd();
   PercentBar bar(9, "150 pages = 100%");
-  bar.Fill(30);
+  bar.FillLeft(30);
   bar.NameLeft("45 pages = 30%");
-  SayAt(13, "No.  Karen has read more than that.  A look at the bar tells what is missing.");
+  SayAt(13, "No, she has read 45 pages already.  The whole is more than its part.");
   PageEnd();
 }
 
@@ -63,23 +70,26 @@ void TheDiscount() {
   SayAt(3, "A new backpack is usually priced at $40.00.  There is a discount of 25%.");
   PercentBar bar(6, "$40.00 = 100%");
   PageEnd();
-  bar.Fill(75);
+  bar.FillRight(25);
   bar.NameRight("discount = 25%");
   SayAt(10, R"(A \cdiscount\z is what the store takes off the price.  How much is it here?)");
   PageEnd();
   Say(R"(It is 25% \yof the usual price\z:)");
   Show("discount = 0.25" + kTimes + "$40.00 = $10.00");
   bar.NameRight("$10.00 = 25%");
-  Say(R"(\yWatch out:\z  25% is not $25.00.)");
+  PageEnd();
+  SayAt(16, R"(\yWatch out:\z  25% is $25.00 only if the price is $100.00.  Here it is $40.00.)");
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  A jacket is usually priced at $60.00.  Jose gets a discount of 5%.  )"
+  SayAt(3, R"(\yTry it:\z  A jacket is usually priced at $48.60.  Jose gets a discount of 5%.  )"
            "How much does he save?");
   PageEnd();
   Say("5% is 0.05, not 0.5:");
-  Show("0.05" + kTimes + "$60.00 = $3.00");
-  Say(R"(\yCheck:\z  10% of $60.00 is $6.00.  5% is half of that.)");
+  Show("0.05" + kTimes + "$48.60 = $2.43");
+  Say(Text("In cents, {}.  A hundredth of that is 243 cents.", "5" + kTimes + "4,860 = 24,300"));
+  PageEnd();
+  Say(R"(\yCheck:\z  10% of $48.60 is $4.86.  5% is half of that, $2.43.)");
   PageEnd();
 }
 
@@ -87,11 +97,11 @@ void TheSalePrice() {
   NewScreen();
   SayAt(3, R"(The \csale price\z is what a buyer pays.  What does the backpack cost now?)");
   PercentBar bar(6, "$40.00 = 100%");
-  bar.Fill(75);
+  bar.FillRight(25);
   bar.NameRight("$10.00 = 25%");
   PageEnd();
   bar.DropRight();
-  bar.NameLeft("sale price");
+  bar.NameLeft("sale price = ?");
   SayAt(12, "The discount is taken off:");
   Show("$40.00 - $10.00 = $30.00");
   PageEnd();
@@ -103,8 +113,9 @@ void TheSalePrice() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  What we \ysave\z is the discount.  What we \ypay\z is the sale )"
-           "price.");
+  SayAt(3, R"(\yWatch out:\z  Here are three mistakes.)");
+  PaperBox({R"(\r$10.00\z:  that is what we save)", R"(\r$40.00 + $10.00\z:  a discount added)",
+            R"(\r$40.00 - $25.00\z:  25% is not $25.00)"});
   PageEnd();
   Say(R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
       "much does he pay?");
@@ -122,33 +133,43 @@ void ThePercentSaved() {
   SayAt(3,
         "Karen buys a camera for the sale price of $120.00.  The camera normally costs "
         "$160.00.  What percent is being saved?");
-  PercentBar bar(7.5, "$160.00 = 100%");
+  PercentBar bar(7, "$160.00 = 100%");
   PageEnd();
-  bar.Fill(75);
+  bar.FillRight(25);
   bar.NameLeft("$120.00");
   bar.NameRight("?");
-  SayAt(11.5, "How many dollars does she save?");
+  SayAt(11, "How many dollars does she save?");
   PageEnd();
   bar.NameRight("$40.00 = ?");
   Show("$160.00 - $120.00 = $40.00");
-  Say("What do we divide the $40.00 by?");
+  Say("$40.00 is the part.  Which is the whole, $120.00 or $160.00?");
   PageEnd();
-  Say(R"(By the \ynormal price\z: it is the whole, and what she saves is a part of it.)");
+  Say(R"(The \ynormal price\z, $160.00.  It was 100% before the sale.  We divide by it:)");
   Show("40/160 = 1/4 = 0.25 = 25%");
   bar.NameRight("$40.00 = 25%");
   PageEnd();
 
   NewScreen();
   SayAt(3, R"(\yWatch out:\z  Here are three mistakes.)");
-  PaperBox({R"(\r40)" + kOver + R"(120\z:  not the normal price)",
-            R"(\r120)" + kOver + R"(160 = 75%\z:  what she pays)",
-            R"(\r40%\z:  $40.00 is not 40%)"});
+  PaperBox({R"(\r40)" + kOver + R"(120\z:  $120.00 is not the whole)",
+            R"(\r120)" + kOver + R"(160 = 75%\z:  that is what she pays)",
+            R"(\r40%\z:  $40.00 is not 40% of $160.00)"});
   PageEnd();
-  Say(R"(\yTry it:\z  A stereo normally costs $150.00.  Andrei pays $120.00.  What percent does )"
-      "he save?");
+}
+
+void DollarsAndCents() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  A stereo normally costs $124.00.  Andrei pays $105.40.  What percent )"
+           "does he save?");
   PageEnd();
-  Say("He saves $30.00, and the whole is $150.00:");
-  Show("30/150 = 1/5 = 0.2 = 20%");
+  Say("He saves $18.60.  The whole is $124.00.  We multiply top and bottom by 100 to get whole "
+      "numbers:");
+  Show("(18.60)/(124.00) = (1,860)/(12,400)");
+  PageEnd();
+  Say("12,400 goes into 18,600 once, and 6,200 is left.  It goes into 62,000 5 times:");
+  Show("(1,860)/(12,400) = 0.15 = 15%");
+  PageEnd();
+  Say(Text(R"(\yCheck:\z  {})", "0.15" + kTimes + "$124.00 = $18.60"));
   PageEnd();
 }
 
@@ -161,8 +182,10 @@ class WordProblemsInvolvingPercent final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {
-        {PercentOfANumber, OtherPercentStories}, {TheDiscount}, {TheSalePrice}, {ThePercentSaved}};
+    return {{PercentOfANumber, OtherPercentStories},
+            {TheDiscount},
+            {TheSalePrice},
+            {ThePercentSaved, DollarsAndCents}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -179,9 +202,10 @@ class WordProblemsInvolvingPercent final : public LessonScript {
   void ExplainDiscount() const;
   void ExplainSalePrice(PercentBar& bar) const;
   void ExplainPercentSaved() const;
+  std::string LongDivision() const;
   std::string InWords() const;
-  std::string Rate() const { return WithZero(story_.percent / double{kHundred}); }
-  std::string PaidRate() const { return WithZero((kHundred - story_.percent) / double{kHundred}); }
+  std::string Rate() const { return DecimalOf(story_.percent / double{kHundred}); }
+  std::string PaidRate() const { return DecimalOf((kHundred - story_.percent) / double{kHundred}); }
   std::string PercentName() const { return NumStr(story_.percent) + "%"; }
   std::string PaidName() const { return NumStr(kHundred - story_.percent) + "%"; }
 
@@ -220,7 +244,7 @@ std::vector<WordProblemsInvolvingPercent::Mistake> WordProblemsInvolvingPercent:
 }
 
 // The first mistake and one of the two others; the rest lies within a quarter of the right one, or
-// within 4 percent.
+// within 4 percent, and may be a mistake by chance.
 void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
   const bool isPercent = story_.asked == StoryAsked::PercentSaved;
   const int one = isPercent ? 1 : kHundred;  // a percent or a dollar
@@ -240,9 +264,13 @@ void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
     while (value < one);
     return value;
   };
-  choices.Wrong(kFiller, near(0));
-  choices.Wrong(kFiller, near(0));
-  choices.Fill([&] { return near(one); });
+  const auto offer = [&](int value) {
+    const auto named = std::ranges::find(mistakes, value, &Mistake::value);
+    choices.Wrong(named == mistakes.end() ? kFiller : named->name, value);
+  };
+  offer(near(0));
+  offer(near(0));
+  while (!choices.Full()) offer(near(one));
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -302,7 +330,7 @@ void WordProblemsInvolvingPercent::ShowFacts() const {
 
 void WordProblemsInvolvingPercent::ExplainDiscount() const {
   PercentBar bar(kBarRow, MoneyOf(story_.price) + " = 100%");
-  bar.Fill(kHundred - story_.percent);
+  bar.FillRight(story_.percent);
   bar.NameRight("discount = " + PercentName());
   SayInBoxAnew(Text("The discount is {} of the usual price.", PercentName()));
   PageEnd();
@@ -311,6 +339,12 @@ void WordProblemsInvolvingPercent::ExplainDiscount() const {
   PageEnd();
   SayInBoxAnew(Text("As a decimal number {} is {}.", PercentName(), Rate()));
   SayInBox(Text("discount = {}", Rate() + kTimes + MoneyOf(story_.price)));
+  PageEnd();
+  const int hundredths = story_.percent * story_.price;
+  SayInBoxAnew(Text(
+      "In cents, {}.  A hundredth of that is {} cents.",
+      NumStr(story_.percent) + kTimes + DecimalOf(story_.price) + " = " + DecimalOf(hundredths),
+      DecimalOf(story_.Discount())));
   PageEnd();
   SayInBox(Text("Simplify the expression to find the discount:  {}", MoneyOf(story_.Discount())));
   bar.NameRight(MoneyOf(story_.Discount()) + " = " + PercentName());
@@ -344,7 +378,7 @@ void WordProblemsInvolvingPercent::ExplainSalePrice(PercentBar& bar) const {
 void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   const std::string saved = MoneyOf(story_.Discount());
   PercentBar bar(kBarRow, MoneyOf(story_.price) + " = 100%");
-  bar.Fill(kHundred - story_.percent);
+  bar.FillRight(story_.percent);
   bar.NameLeft(MoneyOf(story_.SalePrice()));
   bar.NameRight("saved = ?");
   SayInBoxAnew("First, how many dollars are saved?");
@@ -356,12 +390,33 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   SayInBox("percent = part" + kOver + "whole");
   PageEnd();
   SayInBoxAnew(Text("percent = {}", saved + kOver + MoneyOf(story_.price)));
-  SayInBox(
+  SayInBox(Text("In cents, both times 100:  {}",
+                DecimalOf(story_.Discount()) + kOver + DecimalOf(story_.price)));
+  PageEnd();
+  SayInBox(LongDivision());
+  PageEnd();
+  SayInBoxAnew(
       Text("Simplify the expression to find the percent:  {}", Rate() + " = " + PercentName()));
   bar.NameRight(saved + " = " + PercentName());
   PageEnd();
-  SayInBoxAnew(Text("Check:  {}", Rate() + kTimes + MoneyOf(story_.price) + " = " + saved));
+  SayInBox(Text("Check:  {}", Rate() + kTimes + MoneyOf(story_.price) + " = " + saved));
   PageEnd();
+}
+
+// Discount divided by price, both in cents: the tenths, then the hundredths.
+std::string WordProblemsInvolvingPercent::LongDivision() const {
+  const auto times = [](int count) {
+    return count == 1 ? std::string("once") : Text("{} times", count);
+  };
+  const int tenths = story_.percent / 10;
+  const int hundredths = story_.percent % 10;
+  const int afterTenths = story_.Discount() * 10 - tenths * story_.price;
+  std::string text = Text("{} goes into {} {}", DecimalOf(story_.price),
+                          DecimalOf(story_.Discount() * 10), Words{times(tenths)});
+  if (hundredths > 0)
+    text += Text(", and {} is left.  It goes into {} {}", DecimalOf(afterTenths),
+                 DecimalOf(afterTenths * 10), Words{times(hundredths)});
+  return text + Text(".  So we get {}.", Rate());
 }
 
 const LessonRegistration<WordProblemsInvolvingPercent> kRegistration(

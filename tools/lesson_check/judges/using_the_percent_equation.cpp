@@ -21,6 +21,14 @@ std::pair<std::string, std::string> PartedAt(const std::string& text, const std:
   return {Trimmed(text.substr(0, at)), Trimmed(text.substr(at + word.size() + 2))};
 }
 
+// Here all numbers from 1,000 on have their commas.
+std::string FlawOf(const std::string& number) {
+  constexpr std::size_t kGroup = 3;
+  const std::string whole = number.substr(0, number.find('.'));
+  if (whole.size() > kGroup && whole.find(',') == std::string::npos) return "has no comma";
+  return FlawOfDecimal(number);
+}
+
 Rational ToHundredths(const Rational& value) {
   return RoundedTo(Rational(1, 100), value);
 }
@@ -63,7 +71,7 @@ class PercentEquation {
       return (isPercent ? PercentIn(choice) : DecimalIn(choice)).get_str();
     };
     reading.flaw = [isPercent](const std::string& choice) {
-      return FlawOfDecimal(isPercent ? choice.substr(0, choice.size() - 1) : choice);
+      return FlawOf(isPercent ? choice.substr(0, choice.size() - 1) : choice);
     };
     reading.excused = {"a number that begins with 0"};
     reading.Within("the percent", percent_, 10, 99);
@@ -83,8 +91,8 @@ class PercentEquation {
     Add(reading, "divides by the percent in place of multiplying",
         ToHundredths(100 * whole_ / percent_));
     Add(reading, "gives what is left of the whole", whole_ - part_);
-    Add(reading, "moves the point one place only", part_ * 10);
-    Add(reading, "moves the point three places", part_ / 10);
+    Add(reading, "moves the point of the percent one place only", part_ * 10);
+    Add(reading, "moves the point of the percent three places", part_ / 10);
     Add(reading, "multiplies by the percent without moving the point", percent_ * whole_);
   }
   void AddMistakesAtPercent(Reading& reading) const {
@@ -92,15 +100,15 @@ class PercentEquation {
         part_ * whole_);
     Add(reading, "switches the part and the whole", ToHundredths(100 * whole_ / part_));
     Add(reading, "gives the percent that is left", 100 - percent_);
-    Add(reading, "moves the point one place only", percent_ / 10);
-    Add(reading, "moves the point three places", percent_ * 10);
+    Add(reading, "moves the point of the decimal number one place only", percent_ / 10);
+    Add(reading, "moves the point of the decimal number three places", percent_ * 10);
     Add(reading, "forgets to move the point", percent_ / 100);
     Add(reading, "takes the part for the percent", part_);
   }
   void AddMistakesAtWhole(Reading& reading) const {
     Add(reading, "multiplies in place of dividing", ToHundredths(percent_ * part_ / 100));
-    Add(reading, "moves the point one place only", 10 * part_ / percent_);
-    Add(reading, "moves the point three places", 1000 * part_ / percent_);
+    Add(reading, "moves the point of the percent one place only", 10 * part_ / percent_);
+    Add(reading, "moves the point of the percent three places", 1000 * part_ / percent_);
     Add(reading, "divides by the percent without moving the point", part_ / percent_);
     Add(reading, "adds the percent of the part to the part",
         ToHundredths(part_ + percent_ * part_ / 100));

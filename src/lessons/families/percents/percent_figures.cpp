@@ -32,6 +32,9 @@ double ColumnAt(int percent) {
 double ColumnOfText(const std::string& text, double end) {
   return end - static_cast<double>(text.size());
 }
+std::string Coloured(const std::string& text, bool isFilled) {
+  return isFilled ? R"(\y)" + text + R"(\z)" : text;
+}
 
 }  // namespace
 
@@ -52,34 +55,51 @@ void DrawHundredSquares(double row, double col, int filled) {
 
 PercentBar::PercentBar(double row, const std::string& whole) : row_(row) {
   ShowAt(row_, whole, ColumnOfText(whole, kBarCol + kBarWidth));
-  Fill(0);
+  Paint(0, 0);
 }
 
-void PercentBar::Fill(int percent) {
-  percent_ = percent;
+void PercentBar::FillLeft(int percent) {
+  leftPercent_ = percent;
+  rightIsFilled_ = false;
+  Paint(0, percent);
+}
+
+void PercentBar::FillRight(int percent) {
+  leftPercent_ = kHundred - percent;
+  rightIsFilled_ = true;
+  Paint(leftPercent_, kHundred);
+}
+
+// The whole bar, filled between two percents.
+void PercentBar::Paint(int from, int to) const {
   const double row = row_ + kBarDrop;
-  if (percent > 0) isDrawBoxFilled(row, kBarCol, row, ColumnAt(percent) - 1, Yellow);
+  ClearCells(row, kBarCol, kBarWidth, 1);
+  if (from < to) isDrawBoxFilled(row, ColumnAt(from), row, ColumnAt(to) - 1, Yellow);
   for (int i = 0; i < kTenths; ++i)
     isDrawBox(row, ColumnAt(i * kTenths), row, ColumnAt((i + 1) * kTenths) - 1, White, 2);
 }
 
 void PercentBar::NameLeft(const std::string& text) const {
-  ShowAt(row_ + kNameDrop, R"(\y)" + text + R"(\z)", kBarCol);
+  ClearCells(row_ + kNameDrop, kBarCol, kHalf, 1);
+  ShowAt(row_ + kNameDrop, Coloured(text, !rightIsFilled_), kBarCol);
   GoBelow();
 }
 
-void PercentBar::NameRight(const std::string& text) const {
+void PercentBar::NameRight(const std::string& text) {
+  rightText_ = text;
   ClearCells(row_ + kNameDrop, kBarCol + kHalf, kHalf, 1);
-  ShowAt(row_ + kNameDrop, text, ColumnOfText(text, kBarCol + kBarWidth));
+  ShowAt(row_ + kNameDrop, Coloured(text, rightIsFilled_), ColumnOfText(text, kBarCol + kBarWidth));
   GoBelow();
 }
 
-void PercentBar::DropRight() const {
+void PercentBar::DropRight() {
   constexpr double kDrop = 1.3;
   constexpr double kEdge = 2.0 / gCellWidth;  // the outline
   const double row = row_ + kBarDrop;
-  const double col = ColumnAt(percent_);
+  const double col = ColumnAt(leftPercent_);
   const double end = kBarCol + kBarWidth;
+  FillLeft(leftPercent_);
+  NameRight(rightText_);
   isDrawBox(row, col, row, end - 1, White, 2);
   SlideDown({row_ + kNameDrop, kBarCol + kHalf, kHalf}, kDrop);
   SlideDown({row - 0.25, col - kEdge, end - col + kEdge, 1.3}, kDrop);

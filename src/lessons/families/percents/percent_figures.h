@@ -12,24 +12,30 @@ inline constexpr int kHundred = 100;
 void DrawHundredSquares(double row, double col, int filled);
 
 // The whole as a bar over ten tenths: a line of text above it, which tells the whole, and one below
-// it, which tells its two parts.  Three rows of the lesson screen from the row on.
+// it, which tells its two parts.  The part that the page speaks of is filled, and its text has the
+// same colour.  Three rows of the lesson screen from the row on.
 class PercentBar {
  public:
   // The bar is empty; the whole's text ends at its right end.
   PercentBar(double row, const std::string& whole);
 
-  // Fills its left part, 1 to 99 percent of it.
-  void Fill(int percent);
-  // The next Say goes on below.  The text of the left part, in its colour, and of the right one, in
-  // place of an earlier one; up to 18 letters.
+  // Fills its left or its right part, 1 to 99 percent of it, and no other.
+  void FillLeft(int percent);
+  void FillRight(int percent);
+  // The next Say goes on below.  The texts of the two parts, in place of earlier ones; up to 18
+  // letters.
   void NameLeft(const std::string& text) const;
-  void NameRight(const std::string& text) const;
-  // What is not filled, and its text, slide down by a little more than a row.
-  void DropRight() const;
+  void NameRight(const std::string& text);
+  // The right part and its text slide down by a little more than a row; the left one is filled.
+  void DropRight();
 
  private:
+  void Paint(int from, int to) const;
+
   double row_;
-  int percent_ = 0;  // that is filled
+  std::string rightText_;
+  int leftPercent_ = 0;
+  bool rightIsFilled_ = false;
 };
 
 }  // namespace course::percents

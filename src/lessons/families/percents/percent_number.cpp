@@ -30,9 +30,16 @@ std::string PercentNumber::PercentText() const {
   return powers::DecimalText(digits, before + kPlaces) + "%";
 }
 
-std::string WithZero(double x) {
-  const std::string text = NumStr(x);
-  return (text.starts_with('.') ? "0" : "") + text;
+std::string DecimalOf(double x) {
+  constexpr std::size_t kGroup = 3;
+  std::string text = NumStr(x);
+  const std::size_t point = std::min(text.find('.'), text.size());
+  if (point == 0) return "0" + text;
+  for (std::size_t end = point; end > kGroup;) {
+    end -= kGroup;
+    text.insert(end, ",");
+  }
+  return text;
 }
 
 PercentPoint PercentPoint::ToPercent(double row, const PercentNumber& number) {

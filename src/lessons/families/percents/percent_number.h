@@ -17,8 +17,9 @@ struct PercentNumber {
   std::string PercentText() const;
 };
 
-// "0.4": NumStr, with a 0 before a point that would begin the text.
-std::string WithZero(double x);
+// "0.4" and "13,395": NumStr, with a 0 before a point that would begin the text, and commas from
+// 1,000 on.
+std::string DecimalOf(double x);
 
 // The digits in a row of the lesson screen, and the point that moves two places: two rows from the
 // row on.  A percent sign stands behind them before the movement or after it.

@@ -25,13 +25,13 @@ double WidthOf(const std::string& text) {
 }  // namespace
 
 std::string PercentQuestion::PartText() const {
-  return WithZero(PartInHundredths() / double{kHundred});
+  return DecimalOf(PartInHundredths() / double{kHundred});
 }
 std::string PercentQuestion::PercentText() const {
   return NumStr(percent) + "%";
 }
 std::string PercentQuestion::DecimalText() const {
-  return WithZero(percent / double{kHundred});
+  return DecimalOf(percent / double{kHundred});
 }
 std::string PercentQuestion::WholeText() const {
   return NumStr(whole);
