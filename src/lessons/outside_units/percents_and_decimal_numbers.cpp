@@ -79,8 +79,7 @@ void ZerosInFrontAreDropped() {
   PercentPoint four = PercentPoint::ToPercent(10.5, {"4", -1});
   PageEnd();
   four.Move();
-  Say(Text("The digits are 004, and 004 is just 4.  So we drop the zeros in front:  {}",
-           "0.04 = 4%"));
+  Say(Text("004 is just 4, so we drop the zeros in front:  {}", "0.04 = 4%"));
   PageEnd();
   SayAt(17, R"(\yTry it:\z  What is 0.0625?)");
   PercentPoint more = PercentPoint::ToPercent(18.5, {"625", -1});
@@ -95,9 +94,10 @@ void MoreThanAWhole() {
   NewScreen();
   DrawHundredSquares(3, 3, 100);
   DrawHundredSquares(3, 15, 25);
-  SayAt(3, "Here 125 squares are yellow.", {.col = kBeside});
-  SayAt(7, R"(One whole is \y100%\z.)", {.col = kBeside});
-  SayAt(11, R"(\yTry it:\z  Both figures together show the number 1.25.  What percent is this?)");
+  SayAt(3, "125 squares are yellow.", {.col = kBeside});
+  SayAt(6, R"(One whole is \y100%\z.)", {.col = kBeside});
+  PageEnd();
+  SayAt(11, R"(\yTry it:\z  The figures show the number 1.25.  What percent is this?)");
   PageEnd();
   PercentPoint::ToPercent(14.5, {"125", 1}).Move();
   Say("1.25 = 125%.  A number greater than 1 is more than 100%.");
@@ -329,10 +329,9 @@ void PercentsAndDecimalNumbers::Check() const {
   ShowAt(kReasonRow, Equation(), 5);
   Say(toPercent_ ? R"(\yCheck:\z  We go back the other way and divide by 100.)"
                  : R"(\yCheck:\z  We go back the other way and multiply by 100.)");
-  AddLine(toPercent_ ? percent + kOver + "100 = " + decimal
-                     : decimal + kTimes + "100 = " + percent);
-  AddLine(Text("{}% is {} than 100%, so it is {} than 1.", percent, aboveOne ? "more" : "less",
-               aboveOne ? "more" : "less"));
+  Show(toPercent_ ? percent + kOver + "100 = " + decimal : decimal + kTimes + "100 = " + percent);
+  Say(Text("{}% is {} than 100%, so it is {} than 1.", percent, aboveOne ? "more" : "less",
+           aboveOne ? "more" : "less"));
   PageEnd();
 }
 

@@ -44,8 +44,7 @@ void ThePercentEquation() {
   NewScreen();
   SayAt(3, Text(R"(The word "of" means \ytimes\z:  25% of 20 is {}.  So we have a rule:)",
                 "0.25" + kTimes + "20"));
-  RuleBox("The Percent Equation",
-          {"part = percent" + kTimes + "whole", "The percent is written as a decimal."});
+  RuleBox("The Percent Equation", {"part = percent" + kTimes + "whole"});
   PageEnd();
   Say(R"(\yWatch out:\z  25% is the decimal number 0.25, not 25.  Someone takes 25:)");
   PaperBox({R"(\r25)" + kTimes + R"(20 = 500 students\z)"});
@@ -140,7 +139,7 @@ void FindTheWhole() {
 void WhichIsAsked() {
   const std::string over = " " + tutor::Divided + " ";
   NewScreen();
-  SayAt(3, "One of the three is missing.  This is how we find it:");
+  SayAt(3, "This is how we find each of the three:");
   PaperBox({"part    = percent" + kTimes + "whole", "percent = part" + over + "whole",
             "whole   = part" + over + "percent"});
   PageEnd();

@@ -76,9 +76,7 @@ void TheDiscount() {
   PageEnd();
   Say(R"(It is 25% \yof the usual price\z:)");
   Show("discount = 0.25" + kTimes + "$40.00 = $10.00");
-  bar.NameRight("$10.00 = 25%");
-  PageEnd();
-  SayAt(16, R"(\yWatch out:\z  25% is $25.00 only if the price is $100.00.  Here it is $40.00.)");
+  Say(R"(\yWatch out:\z  25% is $25.00 only if the price is $100.00.)");
   PageEnd();
 
   NewScreen();
@@ -122,7 +120,6 @@ void TheSalePrice() {
   PageEnd();
   Show("discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
   Show("sale price = $30.00 - $12.00 = $18.00", 2);
-  PageEnd();
   Say(R"(\yCheck:\z  60% is left to pay.)");
   Show("0.6" + kTimes + "$30.00 = $18.00");
   PageEnd();
@@ -162,13 +159,14 @@ void DollarsAndCents() {
   SayAt(3, R"(\yTry it:\z  A stereo normally costs $124.00.  Andrei pays $105.40.  What percent )"
            "does he save?");
   PageEnd();
-  Say("He saves $18.60.  The whole is $124.00.  We multiply top and bottom by 100 to get whole "
-      "numbers:");
+  Say("He saves $18.60, and the whole is $124.00.  In cents, both are whole numbers:");
   Show("(18.60)/(124.00) = (1,860)/(12,400)");
   PageEnd();
-  Say("12,400 goes into 18,600 once, and 6,200 is left.  It goes into 62,000 5 times:");
-  Show("(1,860)/(12,400) = 0.15 = 15%");
+  Say("12,400 does not go into 1,860, so we write 0 and the point.  We add a zero:  it goes once "
+      "into 18,600, and 6,200 is left.");
   PageEnd();
+  Say(R"(We add a zero again:  it goes 5 times into 62,000.  So we get 0.15, and that is )"
+      R"(\y15%\z.)");
   Say(Text(R"(\yCheck:\z  {})", "0.15" + kTimes + "$124.00 = $18.60"));
   PageEnd();
 }
@@ -283,8 +281,8 @@ void WordProblemsInvolvingPercent::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 constexpr double kFactsRow = 8.5;
-constexpr double kBarRow = 12.5;
-constexpr double kBoxRow = 17.5;
+constexpr double kBarRow = 13;
+constexpr double kBoxRow = 18;
 
 void WordProblemsInvolvingPercent::ExplainProblem() {
   ProblemBanner();
@@ -393,6 +391,9 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   SayInBox(Text("In cents, both times 100:  {}",
                 DecimalOf(story_.Discount()) + kOver + DecimalOf(story_.price)));
   PageEnd();
+  SayInBoxAnew(Text("{} does not go into {}.  So we write 0 and the point, and add a zero.",
+                    DecimalOf(story_.price), DecimalOf(story_.Discount())));
+  PageEnd();
   SayInBox(LongDivision());
   PageEnd();
   SayInBoxAnew(
@@ -406,16 +407,19 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
 // Discount divided by price, both in cents: the tenths, then the hundredths.
 std::string WordProblemsInvolvingPercent::LongDivision() const {
   const auto times = [](int count) {
-    return count == 1 ? std::string("once") : Text("{} times", count);
+    return Words{count == 1 ? std::string("once") : Text("{} times", count)};
   };
   const int tenths = story_.percent / 10;
   const int hundredths = story_.percent % 10;
   const int afterTenths = story_.Discount() * 10 - tenths * story_.price;
-  std::string text = Text("{} goes into {} {}", DecimalOf(story_.price),
-                          DecimalOf(story_.Discount() * 10), Words{times(tenths)});
+  const std::string tenTimesSaved = DecimalOf(story_.Discount() * 10);
+  std::string text = tenths == 0
+                         ? Text("It does not go into {}, so we write one more 0", tenTimesSaved)
+                         : Text("It goes {} into {}", times(tenths), tenTimesSaved);
+  if (tenths > 0 && hundredths > 0) text += Text(", and {} is left", DecimalOf(afterTenths));
   if (hundredths > 0)
-    text += Text(", and {} is left.  It goes into {} {}", DecimalOf(afterTenths),
-                 DecimalOf(afterTenths * 10), Words{times(hundredths)});
+    text += Text(".  We add a zero again:  it goes {} into {}", times(hundredths),
+                 DecimalOf(afterTenths * 10));
   return text + Text(".  So we get {}.", Rate());
 }
 
