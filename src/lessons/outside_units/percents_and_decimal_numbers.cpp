@@ -67,6 +67,10 @@ void ZerosFillThePlaces() {
   PageEnd();
   PaperBox({R"(0.6 = 60%,  \rnot 6%\z)"});
   Say("6 tenths are 60 hundredths.  6% is only 6 of the 100 squares.");
+  DrawHundredSquares(15, 7, 60);
+  DrawHundredSquares(15, 24, 6);
+  SayAt(22, "60%", {.col = 10});
+  SayAt(22, "6%", {.col = 28});
   PageEnd();
 }
 
@@ -107,25 +111,23 @@ void MoreThanAWhole() {
   RuleBox("To a Percent", {"Move the point 2 places right, write %.", "0.375 = 37.5%"});
   Say(R"(\yTry it:\z  Write 2.4 and 0.08 as percents.)");
   PageEnd();
-  Show("2.4  = 240%");
-  Show("0.08 = 8%");
-  Say("A zero fills the empty place in 240%.  We drop the zeros in front in 8%.");
+  Say(Text("A zero fills the empty place:  {}", "2.4 = 2.40 = 240%"));
+  Say(Text("We drop the zeros in front:  {}", "0.08 = 8%"));
   PageEnd();
 }
 
 void PointMovesLeft() {
   NewScreen();
-  SayAt(3,
-        "Now for the way back.  What is 32% as a decimal number?  The point of a whole number "
-        "stands after its last digit.");
-  PercentPoint point = PercentPoint::ToDecimal(8, {"32", 0});
-  SayAt(11, R"(\yTry it:\z  Which way must the point move?)");
+  SayAt(3, "Now we write 32% as a decimal number.");
+  AddLine("A whole number's point is at its end.");
+  PercentPoint point = PercentPoint::ToDecimal(6.5, {"32", 0});
+  SayAt(9.5, R"(\yTry it:\z  Which way must the point move?)");
   PageEnd();
   point.Move();
-  SayAt(13, Text("It moves {}, and we drop the percent sign:  {}",
-                 Words{R"(\ytwo places to the left\z)"}, "32% = 0.32"));
+  SayAt(11.5, Text("It moves {}, and we drop the percent sign:  {}",
+                   Words{R"(\ytwo places to the left\z)"}, "32% = 0.32"));
   PageEnd();
-  Say("Why?  32% means 32 out of 100, so we divide by 100.  That is by 10 and by 10 again:");
+  Say("Why?  32% means 32 out of 100.  We divide by 100, that is by 10 twice:");
   Show("32% = 32/100 = 0.32");
   PageEnd();
 }
@@ -145,7 +147,7 @@ void SmallPercents() {
   SayAt(10, "8% = 0.08", {.col = 3});
   SayAt(10, "80% = 0.80 = 0.8", {.col = 22});
   Say(R"(\yWatch out:\z  8% is not 0.8.  That would be 80 of the 100 squares.)");
-  Say("In 0.80 we may drop the last zero, because 80 hundredths are 8 tenths.");
+  Say("We may drop the last zero of 0.80.");
   PageEnd();
 }
 
@@ -157,7 +159,7 @@ void OtherPercents() {
   point.Move();
   Say(Text("The point moves past the 4 and one place more:  {}", "4.5% = 0.045"));
   PageEnd();
-  Say(Text(R"(\yCheck:\z  We go back with times 100:  {})", "0.045" + kTimes + "100 = 4.5"));
+  Say(Text(R"(\yCheck:\z  We go back and multiply by 100:  {})", "0.045" + kTimes + "100 = 4.5"));
   Say(R"(\yTry it:\z  And 250%?  Is it more or less than 1?)");
   PageEnd();
   PercentPoint::ToDecimal(17, {"25", 1}).Move();
@@ -166,11 +168,12 @@ void OtherPercents() {
 
   NewScreen();
   RuleBox("To a Decimal Number", {"Move the point 2 places left, drop the %.", "37.5% = 0.375"});
-  Say(R"(\yTry it:\z  Write 12.5% as a decimal number, and check it.)");
+  Say(R"(\yTry it:\z  Write 12.5% and 6% as decimal numbers, and check them.)");
   PageEnd();
-  Show("12.5% = 0.125");
-  Say(R"(\yCheck:\z)");
-  Show("0.125" + kTimes + "100 = 12.5");
+  Say("12.5% = 0.125");
+  AddLine(R"(\yCheck:\z  0.125)" + kTimes + "100 = 12.5");
+  Say("6% = 0.06");
+  AddLine(R"(\yCheck:\z  0.06)" + kTimes + "100 = 6");
   PageEnd();
 }
 
@@ -195,6 +198,8 @@ class PercentsAndDecimalNumbers final : public LessonScript {
   std::string Moved(int places) const;
   void ExplainMove() const;
   std::string Equation() const;
+  // A whole number does not show its point.
+  std::string WhereTheMoveBegins() const;
   // What happens to the zeros and to the sign.
   std::string AboutPercent() const;
   std::string AboutDecimal() const;
@@ -283,11 +288,12 @@ void PercentsAndDecimalNumbers::ExplainProblem() {
 }
 
 void PercentsAndDecimalNumbers::ExplainMove() const {
-  constexpr double kMovingRow = 12.5;
+  constexpr double kMovingRow = 13.5;
   Say(toPercent_ ? R"(Percent means hundredths.  So we multiply by 100: the point moves two )"
                    R"(places to the \yright\z.)"
-                 : R"(Percent means out of 100.  So we divide by 100: the point moves two places )"
-                   R"(to the \yleft\z.)");
+                 : Text(R"(Percent means out of 100.  So we divide by 100: {} two places to the )"
+                        R"(\yleft\z.)",
+                        Words{WhereTheMoveBegins()}));
   PercentPoint point = toPercent_ ? PercentPoint::ToPercent(kMovingRow, number_)
                                   : PercentPoint::ToDecimal(kMovingRow, number_);
   PageEnd();
@@ -300,6 +306,14 @@ void PercentsAndDecimalNumbers::ExplainMove() const {
 std::string PercentsAndDecimalNumbers::Equation() const {
   return toPercent_ ? number_.DecimalText() + " = " + number_.PercentText()
                     : number_.PercentText() + " = " + number_.DecimalText();
+}
+
+std::string PercentsAndDecimalNumbers::WhereTheMoveBegins() const {
+  std::string percent = number_.PercentText();
+  percent.pop_back();
+  return percent.find('.') == std::string::npos
+             ? Text("from the end of {} the point moves", percent)
+             : "the point moves";
 }
 
 std::string PercentsAndDecimalNumbers::AboutPercent() const {

@@ -27,10 +27,11 @@ void PartPercentWhole() {
   SayAt(10, R"(The \cwhole\z is all 20 students.)");
   AddLine(R"(The \cpart\z is the 5 who ride a bike.)");
   AddLine(R"(The \cpercent\z, 25%, tells how much of the whole the part is.)");
-  ShowPartPercentWhole(14.5, question);
+  ShowPartPercentWhole(14.5);
+  FillKnown(question);
   FillAsked(question);
   PageEnd();
-  ShowPartPercentWhole(14.5, question);
+  FillKnown(question);
   SayAt(17.5,
         R"(\yTry it:\z  Suppose that we do not know the 5.  How do we get it from 25% and 20?)");
   PageEnd();
@@ -64,7 +65,7 @@ void FindThePart() {
   sentence.Translate();
   SayAt(8, R"("What number" is the letter, "is" is the equal sign, and "of" is times.)");
   PageEnd();
-  Say("Now we multiply.  15" + kTimes + "60 = 900, so we have 900 hundredths:");
+  Say("0.15 is 15 hundredths.  15" + kTimes + "60 = 900, so we have 900 hundredths:");
   Show(question.Equation() + " = 900/100 = 9");
   PageEnd();
   Say(R"(\yCheck:\z  10% of 60 is 6, and half of that, 5%, is 3.  6 + 3 = 9)");
@@ -280,13 +281,14 @@ constexpr double kSolutionRow = 16.5;
 void UsingThePercentEquation::ExplainProblem() {
   ProblemBanner();
   const SentenceFigure sentence(4, question_);
-  ShowPartPercentWhole(8, question_);
+  ShowPartPercentWhole(8);
   SayAt(kWordsRow, R"(The whole stands after "of".  Which of the three are we looking for?)");
   PageEnd();
   const char* names[] = {"part", "percent", "whole"};
   ClearRows(kWordsRow, 2);
   SayAt(kWordsRow, Text(R"(We are looking for the \y{}\z.  We write the sentence as an equation.)",
                         names[static_cast<int>(question_.asked) - 1]));
+  FillKnown(question_);
   sentence.Translate();
   PageEnd();
   ExplainSolution();
@@ -299,9 +301,11 @@ void UsingThePercentEquation::ExplainProblem() {
 void UsingThePercentEquation::ExplainSolution() const {
   if (question_.asked == Asked::Part) {
     const double hundredths = question_.PartInHundredths();
-    SayAt(kSolutionRow - 2, Text("We multiply:  {}.  These are hundredths.",
+    SayAt(kSolutionRow - 2, Text("{} is {} hundredths.  {}, so we have {} hundredths:",
+                                 question_.DecimalText(), question_.percent,
                                  NumStr(question_.percent) + kTimes + question_.WholeText() +
-                                     " = " + DecimalOf(hundredths)));
+                                     " = " + DecimalOf(hundredths),
+                                 DecimalOf(hundredths)));
     Show(question_.Equation() + " = " + question_.PartText());
     return;
   }

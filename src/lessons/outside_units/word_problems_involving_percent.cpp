@@ -47,7 +47,7 @@ void OtherPercentStories() {
   Say(R"(Now the \ypercent\z is missing.  We divide the part by the whole:)");
   Show("18/24 = 3/4 = 0.75 = 75%");
   PageEnd();
-  Say(R"(\yTry it:\z  Karen has read 45 pages.  That is 30% of her book.  What is missing here?)");
+  Say(R"(\yTry it:\z  Karen has read 45 pages.  That is 30% of her book.  What is missing?)");
   PageEnd();
   Say(R"(All the pages, the \ywhole\z.  We divide the part by the percent:)");
   AddLine("  45" + kOver + "0.3 = 450" + kOver + "3 = 150");
@@ -58,10 +58,10 @@ void OtherPercentStories() {
   PaperBox({R"(\r0.3)" + kTimes + R"(45 = 13.5 pages\z)"});
   Say("Could this be the whole book?");
   PageEnd();
-  PercentBar bar(9, "150 pages = 100%");
+  PercentBar bar(9.5, "150 pages = 100%");
   bar.FillLeft(30);
   bar.NameLeft("45 pages = 30%");
-  SayAt(13, "No, she has read 45 pages already.  The whole is more than its part.");
+  SayAt(13.5, "No, she has read 45 pages already.  The whole is more than its part.");
   PageEnd();
 }
 
@@ -111,13 +111,14 @@ void TheSalePrice() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Here are three mistakes.)");
+  SayAt(3, R"(\yWatch out:\z  Mistakes with the backpack:)");
   PaperBox({R"(\r$10.00\z:  that is what we save)", R"(\r$40.00 + $10.00\z:  a discount added)",
             R"(\r$40.00 - $25.00\z:  25% is not $25.00)"});
   PageEnd();
   Say(R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
       "much does he pay?");
   PageEnd();
+  GoBelow();
   Show("discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
   Show("sale price = $30.00 - $12.00 = $18.00", 2);
   Say(R"(\yCheck:\z  60% is left to pay.)");
@@ -147,10 +148,14 @@ void ThePercentSaved() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Here are three mistakes.)");
+  SayAt(3, R"(\yWatch out:\z  Mistakes with the camera:)");
   PaperBox({R"(\r40)" + kOver + R"(120\z:  $120.00 is not the whole)",
             R"(\r120)" + kOver + R"(160 = 75%\z:  that is what she pays)",
             R"(\r40%\z:  $40.00 is not 40% of $160.00)"});
+  PercentBar whole(11, "$160.00 = 100%");
+  whole.FillRight(25);
+
+  whole.NameRight("$40.00 = 25%");
   PageEnd();
 }
 
@@ -159,7 +164,7 @@ void DollarsAndCents() {
   SayAt(3, R"(\yTry it:\z  A stereo normally costs $124.00.  Andrei pays $105.40.  What percent )"
            "does he save?");
   PageEnd();
-  Say("He saves $18.60, and the whole is $124.00.  In cents, both are whole numbers:");
+  Say("He saves $18.60 of $124.00.  In cents, both are whole numbers:");
   Show("(18.60)/(124.00) = (1,860)/(12,400)");
   PageEnd();
   Say("12,400 does not go into 1,860, so we write 0 and the point.  We add a zero:  it goes once "

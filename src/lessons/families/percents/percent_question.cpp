@@ -16,6 +16,7 @@ using namespace page;
 
 namespace {
 
+constexpr int kCells = 3;
 constexpr double kDrop = 2;  // rows from the words to the equation
 
 double WidthOf(const std::string& text) {
@@ -83,14 +84,21 @@ void SentenceFigure::Translate() const {
   }
 }
 
-void ShowPartPercentWhole(double row, const PercentQuestion& question) {
+void ShowPartPercentWhole(double row) {
+  polynomials::ShowHeadedCells(row, {"Part", "Percent", "Whole"}, 1);
+}
+
+void FillKnown(const PercentQuestion& question) {
   const auto unless = [&](Asked asked, const std::string& text) {
     return question.asked == asked ? "?" : text;
   };
-  polynomials::ShowHeadedCells(row, {"Part", "Percent", "Whole"}, 1);
-  polynomials::PrintCells(
-      1, {unless(Asked::Part, question.PartText()), unless(Asked::Percent, question.PercentText()),
-          unless(Asked::Whole, question.WholeText())});
+  const std::string texts[] = {unless(Asked::Part, question.PartText()),
+                               unless(Asked::Percent, question.PercentText()),
+                               unless(Asked::Whole, question.WholeText())};
+  for (int cell = 1; cell <= kCells; ++cell) {
+    picPrintCellCls(cell);
+    polynomials::PrintCells(cell, {texts[cell - 1]});
+  }
 }
 
 void FillAsked(const PercentQuestion& question) {

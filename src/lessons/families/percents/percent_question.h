@@ -46,8 +46,10 @@ class SentenceFigure {
   std::vector<double> cols_;  // of their words
 };
 
-// Cells for part, percent and whole with a question mark for what is asked; three rows.
-void ShowPartPercentWhole(double row, const PercentQuestion& question);
+// Cells for part, percent and whole, still empty; three rows.
+void ShowPartPercentWhole(double row);
+// What is known, and a question mark for what is asked.
+void FillKnown(const PercentQuestion& question);
 // The answer takes the place of the question mark.
 void FillAsked(const PercentQuestion& question);
 
