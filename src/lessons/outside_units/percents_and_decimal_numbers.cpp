@@ -168,7 +168,7 @@ void OtherPercents() {
 
   NewScreen();
   RuleBox("To a Decimal Number", {"Move the point 2 places left, drop the %.", "37.5% = 0.375"});
-  Say(R"(\yTry it:\z  Write 12.5% and 6% as decimal numbers, and check them.)");
+  Say(R"(\yTry it:\z  Write 12.5% and 6% as decimals.)");
   PageEnd();
   Say("12.5% = 0.125");
   AddLine(R"(\yCheck:\z  0.125)" + kTimes + "100 = 12.5");

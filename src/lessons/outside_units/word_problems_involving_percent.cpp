@@ -110,13 +110,15 @@ void TheSalePrice() {
   Show("0.75" + kTimes + "$40.00 = $30.00");
   PageEnd();
 
-  NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Mistakes with the backpack:)");
+  ClearBelow(12);
+  SayAt(12, R"(\yWatch out:\z  Mistakes with the backpack:)");
   PaperBox({R"(\r$10.00\z:  that is what we save)", R"(\r$40.00 + $10.00\z:  a discount added)",
             R"(\r$40.00 - $25.00\z:  25% is not $25.00)"});
   PageEnd();
-  Say(R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
-      "much does he pay?");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
+           "much does he pay?");
   PageEnd();
   GoBelow();
   Show("discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
@@ -147,15 +149,11 @@ void ThePercentSaved() {
   bar.NameRight("$40.00 = 25%");
   PageEnd();
 
-  NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Mistakes with the camera:)");
+  ClearBelow(11);
+  SayAt(11.5, R"(\yWatch out:\z  Mistakes with the camera:)");
   PaperBox({R"(\r40)" + kOver + R"(120\z:  $120.00 is not the whole)",
             R"(\r120)" + kOver + R"(160 = 75%\z:  that is what she pays)",
             R"(\r40%\z:  $40.00 is not 40% of $160.00)"});
-  PercentBar whole(11, "$160.00 = 100%");
-  whole.FillRight(25);
-
-  whole.NameRight("$40.00 = 25%");
   PageEnd();
 }
 
