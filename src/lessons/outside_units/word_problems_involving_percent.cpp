@@ -144,7 +144,7 @@ void ThePercentSaved() {
   Show("$160.00 - $120.00 = $40.00");
   Say("$40.00 is the part.  Which is the whole, $120.00 or $160.00?");
   PageEnd();
-  Say(R"(The \ynormal price\z, $160.00.  It was 100% before the sale.  We divide by it:)");
+  Say(R"(The \ynormal price\z, $160.00, because it is the 100%.  So we divide by it:)");
   Show("40/160 = 1/4 = 0.25 = 25%");
   bar.NameRight("$40.00 = 25%");
   PageEnd();
@@ -285,7 +285,7 @@ void WordProblemsInvolvingPercent::ShowProblem() {
 
 constexpr double kFactsRow = 8.5;
 constexpr double kBarRow = 13;
-constexpr double kBoxRow = 18;
+constexpr double kBoxRow = 18.3;
 
 void WordProblemsInvolvingPercent::ExplainProblem() {
   ProblemBanner();
@@ -390,13 +390,15 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   SayInBoxAnew(R"(The whole is the \bnormal price\z.)");
   SayInBox("percent = part" + kOver + "whole");
   PageEnd();
+  const std::string inCents = DecimalOf(story_.Discount()) + kOver + DecimalOf(story_.price);
   SayInBoxAnew(Text("percent = {}", saved + kOver + MoneyOf(story_.price)));
-  SayInBox(Text("In cents, both times 100:  {}",
-                DecimalOf(story_.Discount()) + kOver + DecimalOf(story_.price)));
+  SayInBox(Text("In cents, both times 100:  {}", inCents));
   PageEnd();
-  SayInBoxAnew(Text("{} does not go into {}.  So we write 0 and the point, and add a zero.",
-                    DecimalOf(story_.price), DecimalOf(story_.Discount())));
+  SayInBoxAnew(inCents);
+  SayInBox(Text("{} does not go into {}.  So we write 0 and the point, and add a zero.",
+                DecimalOf(story_.price), DecimalOf(story_.Discount())));
   PageEnd();
+  SayInBoxAnew(inCents);
   SayInBox(LongDivision());
   PageEnd();
   SayInBoxAnew(
@@ -415,10 +417,11 @@ std::string WordProblemsInvolvingPercent::LongDivision() const {
   const int tenths = story_.percent / 10;
   const int hundredths = story_.percent % 10;
   const int afterTenths = story_.Discount() * 10 - tenths * story_.price;
+  const std::string price = DecimalOf(story_.price);
   const std::string tenTimesSaved = DecimalOf(story_.Discount() * 10);
-  std::string text = tenths == 0
-                         ? Text("It does not go into {}, so we write one more 0", tenTimesSaved)
-                         : Text("It goes {} into {}", times(tenths), tenTimesSaved);
+  std::string text =
+      tenths == 0 ? Text("{} does not go into {}, so we write one more 0", price, tenTimesSaved)
+                  : Text("{} goes {} into {}", price, times(tenths), tenTimesSaved);
   if (tenths > 0 && hundredths > 0) text += Text(", and {} is left", DecimalOf(afterTenths));
   if (hundredths > 0)
     text += Text(".  We add a zero again:  it goes {} into {}", times(hundredths),

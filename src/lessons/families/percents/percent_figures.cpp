@@ -73,7 +73,7 @@ void PercentBar::FillRight(int percent) {
 // The whole bar, filled between two percents.
 void PercentBar::Paint(int from, int to) const {
   const double row = row_ + kBarDrop;
-  ClearCells(row, kBarCol, kBarWidth, 1);
+  isDrawBoxFilled(row, kBarCol, row, kBarCol + kBarWidth - 1, screenState.gBackColor);
   if (from < to) isDrawBoxFilled(row, ColumnAt(from), row, ColumnAt(to) - 1, Yellow);
   for (int i = 0; i < kTenths; ++i)
     isDrawBox(row, ColumnAt(i * kTenths), row, ColumnAt((i + 1) * kTenths) - 1, White, 2);
