@@ -157,7 +157,7 @@ void OtherPercents() {
   PercentPoint point = PercentPoint::ToDecimal(5, {"45", -1});
   PageEnd();
   point.Move();
-  Say(Text("The point moves past the 4 and one place more:  {}", "4.5% = 0.045"));
+  Say(Text("The point moves past the 4 and past a new zero:  {}", "4.5% = 0.045"));
   PageEnd();
   Say(Text(R"(\yCheck:\z  We go back and multiply by 100:  {})", "0.045" + kTimes + "100 = 4.5"));
   Say(R"(\yTry it:\z  And 250%?  Is it more or less than 1?)");
@@ -344,8 +344,8 @@ void PercentsAndDecimalNumbers::Check() const {
   Say(toPercent_ ? R"(\yCheck:\z  We go back the other way and divide by 100.)"
                  : R"(\yCheck:\z  We go back the other way and multiply by 100.)");
   Show(toPercent_ ? percent + kOver + "100 = " + decimal : decimal + kTimes + "100 = " + percent);
-  Say(Text("{}% is {} than 100%, so it is {} than 1.", percent, aboveOne ? "more" : "less",
-           aboveOne ? "more" : "less"));
+  Say(Text("{}% is {} than 100%, and {} is {} than 1.", percent, aboveOne ? "more" : "less",
+           decimal, aboveOne ? "more" : "less"));
   PageEnd();
 }
 

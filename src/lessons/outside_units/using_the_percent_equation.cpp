@@ -94,7 +94,7 @@ void FindThePercent() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Someone divides the other way round:)");
+  SayAt(3, R"(\yWatch out:\z  Someone divides the other way around:)");
   PaperBox({R"(\r48/12 = 4 = 400%\z)"});
   Say("What is wrong with 400%?");
   PageEnd();

@@ -112,7 +112,8 @@ void TheSalePrice() {
 
   ClearBelow(12);
   SayAt(12, R"(\yWatch out:\z  Mistakes with the backpack:)");
-  PaperBox({R"(\r$10.00\z:  that is what we save)", R"(\r$40.00 + $10.00\z:  a discount added)",
+  PaperBox({R"(\r$10.00\z:  that is what we save)",
+            R"(\r$40.00 + $10.00\z:  the discount is added)",
             R"(\r$40.00 - $25.00\z:  25% is not $25.00)"});
   PageEnd();
 
