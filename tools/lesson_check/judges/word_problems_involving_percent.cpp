@@ -1,6 +1,8 @@
 // The story of a purchase at a discount: how much is saved or paid, or what percent is saved.
+#include <algorithm>
 #include <sstream>
 
+#include "engine/choices.h"
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
@@ -66,6 +68,16 @@ void AddMistakes(const Purchase& bought, const std::string& kind, Reading& readi
   }
 }
 
+// A number drawn at random that is a mistake's by chance must bear its name.
+void FindUnnamedMistakes(const course::Problem& problem, Reading& reading) {
+  for (const auto& choice : problem.choices) {
+    if (choice.mistake != course::kFiller) continue;
+    for (const auto& [name, values] : reading.mistakes)
+      if (std::ranges::find(values, reading.value(choice.text)) != values.end())
+        reading.faults.push_back("the filler " + choice.text + " is what someone gets who " + name);
+  }
+}
+
 // A small thing with a discount in percent, or a large one with its sale price.
 Purchase ReadPurchase(const std::string& story, bool percentIsAsked) {
   Purchase bought;
@@ -104,6 +116,7 @@ Reading ReadPercentStory(const course::Problem& problem) {
   };
   reading.excused = {"a number that begins with 0"};
   AddMistakes(bought, reading.kind, reading);
+  FindUnnamedMistakes(problem, reading);
   reading.Within("the price", bought.price, isPercent ? 100 : 25, isPercent ? 200 : 75);
   reading.Within("the percent", bought.percent, 5, 50);
   if (Rational(bought.percent / 5).get_den() != 1)
