@@ -29,48 +29,70 @@ void GroupsOfFactors() {
   Say("Each group brings one a and one b:");
   ShowGroupsTable(group);
   PageEnd();
-  SayAt(13, "The order of factors does not matter.  3 factors a and 3 factors b come together:");
+  SayAt(13, Text("The order of factors does not matter.  We bring {} and {} together:",
+                 "3 factors a", "3 factors b"));
   FillInTogether(group, 0);
   FillInTogether(group, 1);
   Show(R"((ab)^3^ = \ya^3^b^3^\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "(xy)^5^"));
   PageEnd();
-  Say(Text(R"(5 groups have 5 factors x and 5 factors y:  \y{}\z)", "x^5^y^5^"));
+  Say(Text("5 groups have {} and {}:", "5 factors x", "5 factors y"));
+  Show(R"((xy)^5^ = \yx^5^y^5^\z)", kExpressionCol);
   PageEnd();
 }
 
-void RuleAndSums() {
+void RuleForProducts() {
   NewScreen();
   ShowRule(3);
   Say("Each factor in the parentheses gets the exponent behind them.");
   PageEnd();
-  Say(R"(\yCheck:\z  With 2 and 5 in place of a and b:)");
+  Say(Text(R"(\yCheck:\z  We put {} in place of {}:)", "2 and 5", "a and b"));
   Show("(2 " + tutor::Times + " 5)^3^ = 10^3^ = 1000", kExpressionCol);
   Show("2^3^ " + tutor::Times + " 5^3^ = 8 " + tutor::Times + " 125 = 1000", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The rule is for products.  A \ysum\z is not raised term by term:)");
-  PaperBox({"(3 + 4)^2^ = 7^2^ = 49", R"(\r3^2^ + 4^2^ = 9 + 16 = 25\z)"});
-  PageEnd();
   Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "(cd)^4^", "cd^4^"));
   PageEnd();
-  Say(Text(R"(No.  Both factors get the exponent:  \y{}\z)", "c^4^d^4^"));
+  Say(Text(R"(No.  Both factors get the exponent:  \y{}\z)", "(cd)^4^ = c^4^d^4^"));
+  PageEnd();
+}
+
+void NoRuleForSums() {
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  A \ysum\z has no such rule:)");
+  RuleBox("No Rule For Sums", {R"((a + b)^2^  is not  \ra^2^ + b^2^\z)"}, {.width = 30});
+  PageEnd();
+  Say("In a sum we add first, then we square:");
+  PaperBox({"(3 + 4)^2^ = 7^2^ = 49", R"(\r3^2^ + 4^2^ = 9 + 16 = 25\z)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Which of these has a rule?)");
+  Show("(km)^2^        (k + m)^2^", kExpressionCol);
+  PageEnd();
+  Say(Text("For the product of k and m:  {}", R"(\y(km)^2^ = k^2^m^2^\z)"));
   PageEnd();
 }
 
 void PowersInside() {
   NewScreen();
   const PowerOfGroup group = {1, {{"c", 3}, {"d", 1}}, 2};
-  SayAt(3, "A factor may have an exponent of its own:");
+  SayAt(3, "Factors may have exponents, too:");
+  PointAtExponents(group, 6.5);
+  Say(R"(The \cinner exponent\z 3 belongs to c alone.)");
+  AddLine(R"(The \couter exponent\z 2 belongs to )" + Text("{}.", "(c^3^d)"));
+  PageEnd();
+  Say("So the group is a factor 2 times:");
   Show("(c^3^d)^2^ = (c^3^d)(c^3^d)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  How many factors c are there?)");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, Text("We count the factors of {}:", "(c^3^d)^2^"));
   ShowGroupsTable(group);
+  RaiseInTable(group, 0);
   PageEnd();
-  SayAt(11, Text("How many factors c are there?  Each {} is 3 of them, and it is there 2 times:",
-                 "c^3^"));
-  PageEnd();
-  FillInTogether(group, 0);
-  FillInTogether(group, 1);
-  Show("3 " + tutor::Times + R"( 2 = 6,  so \y(c^3^d)^2^ = c^6^d^2^\z)", kExpressionCol);
+  RaiseInTable(group, 1);
+  Show(R"((c^3^d)^2^ = \yc^6^d^2^\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yWatch out:\z  The exponents are not added:)");
   PaperBox({R"((c^3^d)^2^ = c^6^d^2^,  \rnot c^5^d^2^\z)"});
@@ -79,17 +101,24 @@ void PowersInside() {
 
 void BothInside() {
   NewScreen();
-  SayAt(3, R"(With two powers inside, each exponent is \ymultiplied\z by the one behind:)");
-  Show("(x^2^y^4^)^3^ = x^2" + tutor::Times + "3^y^4" + tutor::Times + "3^ = x^6^y^12^",
-       kExpressionCol);
+  const PowerOfGroup group = {1, {{"x", 2}, {"y", 4}}, 3};
+  RuleBox("Inner And Outer Exponents", {"Multiply each inner exponent", "by the outer one."},
+          {.row = 3, .width = 30});
+  Say("A letter without an exponent has the inner exponent 1.");
+  PageEnd();
+  Say(Text("Here the outer exponent is 3:  {}", GroupText(group)));
+  for (const std::string& line : LinesOfRaising(group)) Show(line, kExpressionCol);
+  Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yWatch out:\z  No factor is left without the power:)");
   PaperBox({R"((x^2^y^4^)^3^ = x^6^y^12^,  \rnot x^2^y^12^\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(p^5^q)^4^"));
   PageEnd();
-  Say("5 " + tutor::Times + " 4 = 20, and the bare q is a factor 4 times:");
-  Show(R"((p^5^q)^4^ = \yp^20^q^4^\z)", kExpressionCol);
+  const PowerOfGroup task = {1, {{"p", 5}, {"q", 1}}, 4};
+  Say("Each inner exponent is multiplied by 4:");
+  for (const std::string& line : LinesOfRaising(task)) Show(line, kExpressionCol);
+  Show(GroupText(task) + R"( = \y)" + RaisedText(task) + R"(\z)", kExpressionCol);
   PageEnd();
 }
 
@@ -101,7 +130,7 @@ class PowerOfAProduct final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{GroupsOfFactors, RuleAndSums}, {PowersInside, BothInside}};
+    return {{GroupsOfFactors, RuleForProducts, NoRuleForSums}, {PowersInside, BothInside}};
   }
   bool ChoicesAreLaidDown() const override { return true; }
   void DrawProblem(RandomStream& random) override;
@@ -112,7 +141,6 @@ class PowerOfAProduct final : public LessonScript {
   const Power& Second() const { return group_.powers[1]; }
   std::string Product(int firstExponent, int secondExponent) const;
   void ShowTask() const;
-  void TellExponent(const Power& power) const;
 
   PowerOfGroup group_;
 };
@@ -135,12 +163,10 @@ void PowerOfAProduct::DrawProblem(RandomStream& random) {
 
   const int m = First().exponent;
   const int k = Second().exponent;
-  // A student who adds gives a bare letter the exponent behind the parentheses.
-  const auto added = [n](int exponent) { return exponent == 1 ? n : exponent + n; };
   problem.question = {"Simplify the following expression:", GroupText(group_)};
   problem.kind = choice_kind::FiveShuffled;
-  problem.Right(1, Product(m * n, k * n));
-  problem.Wrong(2, "adds the exponents", Product(added(m), added(k)));
+  problem.Right(1, RaisedText(group_));
+  problem.Wrong(2, "adds the exponents", Product(AddedExponent(m, n), AddedExponent(k, n)));
   problem.Wrong(3, "leaves the first factor without the power", Product(m, k * n));
   problem.Wrong(4, "leaves the second factor without the power", Product(m * n, k));
   // Another exponent behind the group, and for one factor alone.
@@ -165,7 +191,7 @@ void PowerOfAProduct::ShowProblem() {
 
 void PowerOfAProduct::ExplainProblem() {
   ShowTask();
-  Say(Text("The exponent {} tells how many times the group is a factor:", group_.exponent));
+  Say(Text("The outer exponent {} tells how many times the group is a factor:", group_.exponent));
   Show("= " + GroupWrittenOut(group_), kExpressionCol);
   PageEnd();
   Say("Let's look at each factor of the group:");
@@ -174,12 +200,10 @@ void PowerOfAProduct::ExplainProblem() {
   NewScreen();
   ShowTask();
   ShowGroupsTable(group_);
-  TellExponent(First());
-  FillInTogether(group_, 0);
-  PageEnd();
-  TellExponent(Second());
-  FillInTogether(group_, 1);
-  PageEnd();
+  for (const int factor : {0, 1}) {
+    RaiseInTable(group_, factor);
+    PageEnd();
+  }
   Say("Both factors now have the power:");
   Show(GroupText(group_) + " = " + RightText(problem), kExpressionCol);
   PageEnd();
@@ -189,17 +213,6 @@ void PowerOfAProduct::ExplainProblem() {
 void PowerOfAProduct::ShowTask() const {
   ProblemBanner();
   ShowAt(5, GroupText(group_), kExpressionCol);
-}
-
-void PowerOfAProduct::TellExponent(const Power& power) const {
-  const int n = group_.exponent;
-  if (power.exponent == 1)
-    Say(Text("{} is there once in each group, {} times in all.", power.base, n));
-  else
-    Say(Text(
-        "Each {} is {} factors {}, and it is there {} times:  {}", PowerText(power), power.exponent,
-        power.base, n,
-        JoinedByTimes({NumStr(power.exponent), NumStr(n)}) + " = " + NumStr(power.exponent * n)));
 }
 
 const LessonRegistration<PowerOfAProduct> kRegistration("Power of a Product");

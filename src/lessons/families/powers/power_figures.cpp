@@ -28,17 +28,22 @@ constexpr double kSquareHeight = 1.12;
 
 }  // namespace
 
-PrintCellTable TwoRows(const std::string& upper, const std::string& lower, int columns) {
-  constexpr double kFirst = 20;  // hundredths of the width
-  constexpr double kTops[] = {8, 54};
-  constexpr double kHeading = 14;  // points
+PrintCellTable TableOfRows(const std::vector<std::string>& headings, int columns) {
+  constexpr double kFirst = 20;                                // hundredths of the width
+  constexpr double kMargin = 7.68, kPitch = 44.16;             // pixels
+  constexpr double kCell = 36.48, kLabel = 26.88, kIn = 6.72;  // pixels, the label's from its row
+  constexpr double kHeading = 14;                              // points
   const double step = (100 - kFirst) / columns;
   PrintCellTable table;
-  table.heightPixels = 96;
-  for (const double top : kTops)
-    for (int i = 0; i < columns; ++i) table.cells.push_back({kFirst + i * step, top, step - 2, 38});
-  table.labels = {{2, kTops[0] + 7, 17, 28, upper, kHeading},
-                  {2, kTops[1] + 7, 17, 28, lower, kHeading}};
+  table.heightPixels = 52 + 44 * (static_cast<int>(headings.size()) - 1);
+  const auto share = [&](double pixels) { return pixels * 100 / table.heightPixels; };
+  double top = kMargin;
+  for (const std::string& heading : headings) {
+    for (int i = 0; i < columns; ++i)
+      table.cells.push_back({kFirst + i * step, share(top), step - 2, share(kCell)});
+    table.labels.push_back({2, share(top + kIn), 17, share(kLabel), heading, kHeading});
+    top += kPitch;
+  }
   return table;
 }
 

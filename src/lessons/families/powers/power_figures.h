@@ -9,9 +9,12 @@
 
 namespace course::powers {
 
-// A table of two rows of print cells, up to 6 in a row and numbered row by row, with a heading at
-// the left of each.
-PrintCellTable TwoRows(const std::string& upper, const std::string& lower, int columns);
+// A table of one to three rows of print cells, up to 6 in a row and 12 in all, numbered row by row,
+// with a heading at the left of each row.
+PrintCellTable TableOfRows(const std::vector<std::string>& headings, int columns);
+inline PrintCellTable TwoRows(const std::string& upper, const std::string& lower, int columns) {
+  return TableOfRows({upper, lower}, columns);
+}
 // Prints texts in the cells from the given one on.
 void FillCells(int first, const std::vector<std::string>& texts,
                platform::Colour colour = platform::colour::Black);
