@@ -104,7 +104,6 @@ void BothInside() {
   const PowerOfGroup group = {1, {{"x", 2}, {"y", 4}}, 3};
   RuleBox("Inner And Outer Exponents", {"Multiply each inner exponent", "by the outer one."},
           {.row = 3, .width = 30});
-  Say("A letter without an exponent has the inner exponent 1.");
   PageEnd();
   Say(Text("Here the outer exponent is 3:  {}", GroupText(group)));
   for (const std::string& line : LinesOfRaising(group)) Show(line, kExpressionCol);
@@ -116,8 +115,7 @@ void BothInside() {
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(p^5^q)^4^"));
   PageEnd();
   const PowerOfGroup task = {1, {{"p", 5}, {"q", 1}}, 4};
-  Say("Each inner exponent is multiplied by 4:");
-  for (const std::string& line : LinesOfRaising(task)) Show(line, kExpressionCol);
+  Say(Text("p:  {},     q:  {}", ExponentProduct(5, 4), ExponentProduct(1, 4)));
   Show(GroupText(task) + R"( = \y)" + RaisedText(task) + R"(\z)", kExpressionCol);
   PageEnd();
 }

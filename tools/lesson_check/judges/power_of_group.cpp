@@ -1,5 +1,7 @@
-// A product of powers in parentheses with an exponent behind them, such as (b^3^c)^4^, to be
-// simplified.
+// A group in parentheses with an exponent behind them, to be simplified: a power of a letter, which
+// may be raised twice, such as ((b^3^)^2^)^4^; a product of two letters, (b^3^c)^4^; and a number
+// with one or two letters, (5b^3^c)^2^.
+#include <algorithm>
 #include <vector>
 
 #include "lesson_check/exact/notation.h"
@@ -16,9 +18,20 @@ struct Factor {
   int exponent = 1;
 };
 
+// What stands in the parentheses.
+struct Inside {
+  int number = 1;
+  std::vector<Factor> letters;
+};
+
+struct Group {
+  Inside inside;
+  int exponent = 2;
+};
+
 int WholeNumber(const Expression& expression) {
   if (expression.kind != Kind::Number || expression.number.get_den() != 1)
-    throw Unreadable("an exponent is no whole number");
+    throw Unreadable("a number is no whole number");
   return static_cast<int>(expression.number.get_num().get_si());
 }
 
@@ -29,69 +42,197 @@ Factor ReadFactor(const Expression& expression) {
   return {expression.parts[0].letter, WholeNumber(expression.parts[1])};
 }
 
-std::vector<Factor> ReadFactors(const Expression& expression) {
-  if (expression.kind != Kind::Product) return {ReadFactor(expression)};
-  std::vector<Factor> factors;
-  for (const Expression& part : expression.parts) factors.push_back(ReadFactor(part));
-  return factors;
+Inside ReadInside(const Expression& expression) {
+  if (expression.kind != Kind::Product) return {1, {ReadFactor(expression)}};
+  Inside inside;
+  for (const Expression& part : expression.parts) {
+    if (part.kind == Kind::Number && &part == &expression.parts[0])
+      inside.number = WholeNumber(part);
+    else
+      inside.letters.push_back(ReadFactor(part));
+  }
+  return inside;
 }
 
-Polynomial Product(const Factor& first, int firstExponent, const Factor& second,
-                   int secondExponent) {
-  return Polynomial::Letter(first.letter).Power(firstExponent) *
-         Polynomial::Letter(second.letter).Power(secondExponent);
+// The line of the question that is a power of a group.
+std::string GroupLine(const course::Problem& problem) {
+  for (const std::string& text : problem.question)
+    if (text.find(")^") != std::string::npos) return text;
+  throw Unreadable("no line of the question is a power of a group");
 }
 
-// Letters that are powers within the parentheses change their exponent when it is added; a bare one
-// has the exponent behind them.
+Expression ReadPower(const std::string& line) {
+  Expression expression = ParseExpression(line);
+  if (expression.kind != Kind::Power) throw Unreadable("\"" + line + "\" is no power of a group");
+  return expression;
+}
+
+Group ReadGroup(const std::string& line, Reading& reading) {
+  const Expression power = ReadPower(line);
+  Group group = {ReadInside(power.parts[0]), WholeNumber(power.parts[1])};
+  for (const Factor& factor : group.inside.letters)
+    reading.Within("an exponent inside", factor.exponent, 1, 9);
+  reading.Within("the exponent behind", group.exponent, 2, 9);
+  if (group.inside.letters.size() == 2 &&
+      group.inside.letters[0].letter == group.inside.letters[1].letter)
+    throw Unreadable("the letters are equal");
+  return group;
+}
+
+Polynomial PowerOf(char letter, int exponent) {
+  return Polynomial::Letter(letter).Power(exponent);
+}
+
+Polynomial Number(int number) {
+  return Polynomial(Rational(number));
+}
+
+// A bare letter has the exponent behind the parentheses when exponents are added.
 int Added(const Factor& factor, int exponent) {
   return factor.exponent == 1 ? exponent : factor.exponent + exponent;
 }
 
-void ReadTwoFactors(const std::vector<Factor>& factors, int exponent, Reading& reading) {
-  const Factor& first = factors[0];
-  const Factor& second = factors[1];
-  if (first.letter == second.letter) throw Unreadable("the letters are equal");
-  reading.kind =
-      first.exponent > 1 && second.exponent > 1 ? "two powers inside" : "one power inside";
-  for (const Factor& factor : factors) reading.Within("an exponent inside", factor.exponent, 1, 9);
-  reading.Within("the exponent behind", exponent, 2, 9);
-  const auto add = [&](const char* name, int firstExponent, int secondExponent) {
-    reading.mistakes[name].push_back(Product(first, firstExponent, second, secondExponent).Text());
+// What becomes of the letters: right, or with the mistakes that can be made with them.
+struct Letters {
+  std::string mistake;  // "" when they are right
+  Polynomial value;
+};
+
+// Whoever keeps a factor leaves its inner exponent as it is.
+std::vector<Letters> LettersOf(const Group& group, const std::vector<std::string>& keeping) {
+  const std::vector<Factor>& letters = group.inside.letters;
+  const auto product = [&](auto exponentOf) {
+    Polynomial value = Number(1);
+    for (std::size_t i = 0; i < letters.size(); ++i)
+      value = value * PowerOf(letters[i].letter, exponentOf(i));
+    return value;
   };
-  const int m = first.exponent * exponent;
-  const int k = second.exponent * exponent;
-  add("adds the exponents", Added(first, exponent), Added(second, exponent));
-  add("leaves the first factor without the power", first.exponent, k);
-  add("leaves the second factor without the power", m, second.exponent);
+  const auto raised = [&](std::size_t i) { return letters[i].exponent * group.exponent; };
+  std::vector<Letters> ways = {{"", product(raised)},
+                               {"adds the exponents", product([&](std::size_t i) {
+                                  return Added(letters[i], group.exponent);
+                                })}};
+  for (std::size_t kept = 0; kept < letters.size(); ++kept)
+    ways.push_back({keeping.at(kept), product([&](std::size_t i) {
+                      return i == kept ? letters[i].exponent : raised(i);
+                    })});
+  return ways;
 }
 
-// A simplified product names each letter once.
+// A simplified product names each letter once, in the order of the alphabet.
 std::string FlawOf(const std::string& choice) {
   if (choice.find('(') != std::string::npos) return "has parentheses";
   if (choice.find("^1^") != std::string::npos) return "has an exponent of 1";
-  const std::vector<Factor> factors = ReadFactors(ParseExpression(choice));
-  if (factors.size() == 2 && factors[0].letter < factors[1].letter) return "";
-  return "does not name two letters in the order of the alphabet";
+  const Inside product = ReadInside(ParseExpression(choice));
+  const std::vector<Factor>& letters = product.letters;
+  if (letters.empty()) return "has no letter";
+  if (choice[0] == '1' && product.number == 1) return "has a factor of 1";
+  const bool ordered = std::ranges::adjacent_find(letters, std::ranges::greater_equal{},
+                                                  &Factor::letter) == letters.end();
+  return ordered ? "" : "does not name its letters in the order of the alphabet";
 }
 
-Reading ReadPowerOfGroup(const course::Problem& problem) {
-  std::string line;
-  for (const std::string& text : problem.question)
-    if (text.find(")^") != std::string::npos) line = text;
-  const Expression expression = ParseExpression(line);
-  if (expression.kind != Kind::Power) throw Unreadable("\"" + line + "\" is no power of a group");
-  const std::vector<Factor> factors = ReadFactors(expression.parts[0]);
-  if (factors.size() != 2) throw Unreadable("not two factors in parentheses");
+Reading BeginReading(const std::string& line) {
   Reading reading;
   reading.answer = ValueOf(line).Text();
   reading.value = [](const std::string& choice) { return ValueOf(choice).Text(); };
   reading.flaw = FlawOf;
-  ReadTwoFactors(factors, WholeNumber(expression.parts[1]), reading);
   return reading;
 }
 
-const JudgeRegistration kRegistration(ReadPowerOfGroup, {"Power of a Product"});
+Reading ReadPowerOfProduct(const course::Problem& problem) {
+  const std::string line = GroupLine(problem);
+  Reading reading = BeginReading(line);
+  const Group group = ReadGroup(line, reading);
+  const std::vector<Factor>& letters = group.inside.letters;
+  if (letters.size() != 2 || group.inside.number != 1)
+    throw Unreadable("not two letters in parentheses");
+  reading.kind =
+      letters[0].exponent > 1 && letters[1].exponent > 1 ? "two powers inside" : "one power inside";
+  for (const Letters& way : LettersOf(group, {"leaves the first factor without the power",
+                                              "leaves the second factor without the power"}))
+    if (!way.mistake.empty()) reading.mistakes[way.mistake].push_back(way.value.Text());
+  return reading;
+}
+
+Reading ReadPowerOfMonomial(const course::Problem& problem) {
+  constexpr int kLargestNumber = 1000;
+  const std::string line = GroupLine(problem);
+  Reading reading = BeginReading(line);
+  const Group group = ReadGroup(line, reading);
+  const auto [number, letters] = group.inside;
+  if (letters.empty() || letters.size() > 2) throw Unreadable("not one or two letters");
+  reading.Within("the coefficient", number, 2, 9);
+  const Polynomial raised = Number(number).Power(group.exponent);
+  reading.Within("the coefficient raised", raised.Number(), 4, kLargestNumber);
+  reading.kind = letters.size() == 1                                     ? "one letter"
+                 : std::ranges::count(letters, 1, &Factor::exponent) > 0 ? "a bare letter"
+                                                                         : "two powers inside";
+  const std::vector<std::string> keeping =
+      letters.size() == 1 ? std::vector<std::string>{"leaves the letter as it is"}
+                          : std::vector<std::string>{"leaves the first letter as it is",
+                                                     "leaves the second letter as it is"};
+  const std::pair<std::string, Polynomial> coefficients[] = {
+      {"", raised},
+      {"leaves the coefficient as it is", Number(number)},
+      {"multiplies the coefficient by the exponent", Number(number * group.exponent)}};
+  for (const auto& [slip, coefficient] : coefficients) {
+    for (const Letters& way : LettersOf(group, keeping)) {
+      const bool both = !slip.empty() && !way.mistake.empty();
+      const std::string name = slip + (both ? " and " : "") + way.mistake;
+      if (!name.empty()) reading.mistakes[name].push_back((coefficient * way.value).Text());
+    }
+  }
+  return reading;
+}
+
+// The exponents of one letter, from the innermost one to that behind all parentheses.
+std::vector<int> ReadTower(const Expression& expression, char& letter) {
+  if (expression.kind == Kind::Letter) {
+    letter = expression.letter;
+    return {};
+  }
+  if (expression.kind != Kind::Power) throw Unreadable("not powers of one letter");
+  std::vector<int> exponents = ReadTower(expression.parts[0], letter);
+  exponents.push_back(WholeNumber(expression.parts[1]));
+  return exponents;
+}
+
+Reading ReadPowerOfPower(const course::Problem& problem) {
+  constexpr int kLargestExponent = 99;
+  const std::string line = GroupLine(problem);
+  Reading reading = BeginReading(line);
+  char letter = 0;
+  const std::vector<int> exponents = ReadTower(ReadPower(line), letter);
+  if (exponents.size() < 2 || exponents.size() > 3) throw Unreadable("not two or three exponents");
+  int sum = 0;
+  int product = 1;
+  for (const int exponent : exponents) {
+    reading.Within("an exponent", exponent, 2, 9);
+    sum += exponent;
+    product *= exponent;
+  }
+  reading.Within("the product of the exponents", product, 4, kLargestExponent);
+  reading.kind = exponents.size() == 2 ? "two exponents" : "three exponents";
+  const int last = exponents.back();
+  const int before = product / last;
+  const auto add = [&](const char* name, int number, int exponent) {
+    reading.mistakes[name].push_back((Number(number) * PowerOf(letter, exponent)).Text());
+  };
+  add("adds the exponents", 1, sum);
+  add("multiplies the base by the outer exponent", last, before);
+  if (exponents.size() == 2) {
+    add("multiplies the base by the outer exponent too", last, product);
+    add("leaves out the outer exponent", 1, before);
+  } else {
+    add("multiplies the inner exponents but adds the outer one", 1, before + last);
+  }
+  return reading;
+}
+
+const JudgeRegistration kProduct(ReadPowerOfProduct, {"Power of a Product"});
+const JudgeRegistration kPower(ReadPowerOfPower, {"Power of a Power"});
+const JudgeRegistration kMonomial(ReadPowerOfMonomial, {"Power of a Monomial"});
 
 }  // namespace
 }  // namespace lesson_check

@@ -19,6 +19,7 @@ using namespace page;
 namespace {
 
 constexpr const char* kDots = "...";
+constexpr double kDotsWidth = 3;
 constexpr int kGroupsWrittenOut = 4;
 constexpr int kColumns = 40;
 
@@ -119,7 +120,10 @@ void CountGroups(const Power& group, int groups, double row) {
   const bool all = groups <= kGroupsWrittenOut;
   const int places = std::min(groups, kGroupsWrittenOut);
   const int hidden = all ? places : places - 2;  // the place of the dots
-  const auto columnOf = [&](int place) { return kFirst + place * step; };
+  const auto columnOf = [&](int place) {
+    const double widened = place > hidden ? kDotsWidth - width : 0;
+    return kFirst + place * step + widened;
+  };
   ShowAt(row, "= " + PowerText(group), kFirst - 2);
   for (int place = 1, last = 0; place < places; ++place) {
     if (place == hidden) continue;
