@@ -27,7 +27,7 @@ constexpr std::string_view kSecondVerbs =
     "makes mixes moves multiplies "
     "overlooks "
     "puts "
-    "reads reduces reverses rounds "
+    "raises reads reduces reverses rounds "
     "sees squares stops subtracts swaps switches "
     "takes treats turns "
     "uses "
