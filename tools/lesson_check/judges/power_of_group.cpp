@@ -92,30 +92,52 @@ int Added(const Factor& factor, int exponent) {
   return factor.exponent == 1 ? exponent : factor.exponent + exponent;
 }
 
-// What becomes of the letters: right, or with the mistakes that can be made with them.
+// What becomes of the letters: right, or with a mistake that can be made with them.
 struct Letters {
   std::string mistake;  // "" when they are right
   Polynomial value;
 };
 
-// Whoever keeps a factor leaves its inner exponent as it is.
+// exponentOf(i) is the exponent that letter i gets.
+template <class ExponentOf>
+Polynomial ProductOf(const std::vector<Factor>& letters, ExponentOf exponentOf) {
+  Polynomial value = Number(1);
+  for (std::size_t i = 0; i < letters.size(); ++i)
+    value = value * PowerOf(letters[i].letter, exponentOf(i));
+  return value;
+}
+
+// keeping: the names of leaving the first letter, and the second, without the power.
 std::vector<Letters> LettersOf(const Group& group, const std::vector<std::string>& keeping) {
   const std::vector<Factor>& letters = group.inside.letters;
-  const auto product = [&](auto exponentOf) {
-    Polynomial value = Number(1);
-    for (std::size_t i = 0; i < letters.size(); ++i)
-      value = value * PowerOf(letters[i].letter, exponentOf(i));
-    return value;
-  };
   const auto raised = [&](std::size_t i) { return letters[i].exponent * group.exponent; };
-  std::vector<Letters> ways = {{"", product(raised)},
-                               {"adds the exponents", product([&](std::size_t i) {
-                                  return Added(letters[i], group.exponent);
-                                })}};
+  const auto added = [&](std::size_t i) { return Added(letters[i], group.exponent); };
+  std::vector<Letters> ways = {{"", ProductOf(letters, raised)},
+                               {"adds the exponents", ProductOf(letters, added)}};
   for (std::size_t kept = 0; kept < letters.size(); ++kept)
-    ways.push_back({keeping.at(kept), product([&](std::size_t i) {
+    ways.push_back({keeping.at(kept), ProductOf(letters, [&](std::size_t i) {
                       return i == kept ? letters[i].exponent : raised(i);
                     })});
+  return ways;
+}
+
+// Mistakes that are met where a number stands in front; no exponent has more than three digits.
+std::vector<Letters> MoreLettersOf(const Group& group) {
+  constexpr int kLargestExponent = 999;
+  const std::vector<Factor>& letters = group.inside.letters;
+  const auto power = [&](std::size_t i) {
+    int value = 1;
+    for (int n = 0; n < group.exponent; ++n) value *= letters[i].exponent;
+    return value;
+  };
+  std::vector<Letters> ways;
+  const bool readable =
+      power(0) <= kLargestExponent && power(letters.size() - 1) <= kLargestExponent;
+  if (readable) ways.push_back({"raises the inner exponents", ProductOf(letters, power)});
+  if (letters.size() != 2) return ways;
+  const int all = letters[0].exponent * letters[1].exponent * group.exponent;
+  ways.push_back({"gives the product of all exponents to both letters",
+                  ProductOf(letters, [&](std::size_t) { return all; })});
   return ways;
 }
 
@@ -155,6 +177,35 @@ Reading ReadPowerOfProduct(const course::Problem& problem) {
   return reading;
 }
 
+// Whoever leaves both as they are says so in one.
+std::string BothMistakes(const std::string& ofNumber, const std::string& ofLetters) {
+  if (ofNumber.empty() || ofLetters.empty()) return ofNumber + ofLetters;
+  const std::string leaves = "leaves ";
+  const std::string asItIs = " as it is";
+  if (!ofNumber.starts_with(leaves) || !ofLetters.starts_with(leaves))
+    return ofNumber + " and " + ofLetters;
+  return ofNumber.substr(0, ofNumber.size() - asItIs.size()) + " and " +
+         ofLetters.substr(leaves.size(), ofLetters.size() - leaves.size() - asItIs.size()) +
+         " as they are";
+}
+
+void AddMonomialMistakes(const Group& group, Reading& reading) {
+  const auto [number, letters] = group.inside;
+  const std::vector<std::string> one = {"leaves the letter as it is"};
+  const std::vector<std::string> two = {"leaves the first letter as it is",
+                                        "leaves the second letter as it is"};
+  std::vector<Letters> ways = LettersOf(group, letters.size() == 1 ? one : two);
+  std::ranges::copy(MoreLettersOf(group), std::back_inserter(ways));
+  const std::pair<std::string, Polynomial> coefficients[] = {
+      {"", Number(number).Power(group.exponent)},
+      {"leaves the coefficient as it is", Number(number)},
+      {"multiplies the coefficient by the exponent", Number(number * group.exponent)}};
+  for (const auto& [slip, coefficient] : coefficients)
+    for (const Letters& way : ways)
+      if (const std::string name = BothMistakes(slip, way.mistake); !name.empty())
+        reading.mistakes[name].push_back((coefficient * way.value).Text());
+}
+
 Reading ReadPowerOfMonomial(const course::Problem& problem) {
   constexpr int kLargestNumber = 1000;
   const std::string line = GroupLine(problem);
@@ -168,21 +219,7 @@ Reading ReadPowerOfMonomial(const course::Problem& problem) {
   reading.kind = letters.size() == 1                                     ? "one letter"
                  : std::ranges::count(letters, 1, &Factor::exponent) > 0 ? "a bare letter"
                                                                          : "two powers inside";
-  const std::vector<std::string> keeping =
-      letters.size() == 1 ? std::vector<std::string>{"leaves the letter as it is"}
-                          : std::vector<std::string>{"leaves the first letter as it is",
-                                                     "leaves the second letter as it is"};
-  const std::pair<std::string, Polynomial> coefficients[] = {
-      {"", raised},
-      {"leaves the coefficient as it is", Number(number)},
-      {"multiplies the coefficient by the exponent", Number(number * group.exponent)}};
-  for (const auto& [slip, coefficient] : coefficients) {
-    for (const Letters& way : LettersOf(group, keeping)) {
-      const bool both = !slip.empty() && !way.mistake.empty();
-      const std::string name = slip + (both ? " and " : "") + way.mistake;
-      if (!name.empty()) reading.mistakes[name].push_back((coefficient * way.value).Text());
-    }
-  }
+  AddMonomialMistakes(group, reading);
   return reading;
 }
 

@@ -105,8 +105,8 @@ void PointAtExponents(const PowerOfGroup& group, double row) {
   const double inner = col + 1 + static_cast<double>(innerMark);
   const double outer = col + width + 2;
   ShowAt(row, GroupText(group), col);
-  Note(row - 1.7, inner - 10, "the inner exponent");
-  isDrawArrow1Segment(row - 1, inner, row - 0.5, inner, platform::colour::Yellow, "NA", "A");
+  Note(row - 1.7, inner - 8, "the inner exponent");
+  isDrawArrow1Segment(row - 1.3, inner, row - 0.5, inner, platform::colour::Yellow, "NA", "A");
   Note(row + 1.5, outer - 2, "the outer exponent");
   isDrawArrow1Segment(row + 1.5, outer, row + 0.5, outer, platform::colour::Yellow, "NA", "A");
   GoBelow();
