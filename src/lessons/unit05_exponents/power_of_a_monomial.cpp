@@ -27,11 +27,12 @@ enum class LetterSlip { None, Added, OneKept, Raised, SharedProduct };
 
 void WhatAMonomialIs() {
   NewScreen();
-  SayAt(3, R"(A \cmonomial\z is a number, or a product of a number and powers of letters:)");
+  SayAt(3, R"(A \cmonomial\z is a number, a power of a letter, or a product of these:)");
   Show("5x^2^      2c^3^d      ab^4^      7", kExpressionCol);
-  Say(R"(The number in front is its \ccoefficient\z.)");
+  Say("Its exponents are not negative.");
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Which of these are monomials?)"));
+  Say(R"(The number in front is its \ccoefficient\z.)");
+  Say(R"(\yTry it:\z  Which of these are monomials?)");
   Show("6k^3^      a + 2b      xy", kExpressionCol);
   PageEnd();
   Say(Text("{} and {} are.  {} is a sum.  No number stands in front of xy:  its coefficient is 1.",
@@ -67,7 +68,7 @@ void CoefficientMistakes() {
   PaperBox({R"((2x^3^)^4^ = 16x^12^,  \rnot 8x^12^\z)"});
   PageEnd();
   Say(R"(\yCheck:\z  With 1 in place of x:)");
-  Show("(2 " + tutor::Times + " 1)^4^ = 2^4^ = 16", kExpressionCol);
+  Show("(2 " + tutor::Times + " 1^3^)^4^ = 2^4^ = 16", kExpressionCol);
   PageEnd();
   Say(R"(\yTry it:\z  What is the coefficient of  )" + Text("{}?", "(5n^4^)^2^"));
   PageEnd();
@@ -92,7 +93,8 @@ void TheRule() {
   PageEnd();
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(7m^3^n^2^)^2^"));
   PageEnd();
-  Say(Text(R"({}, and 3 and 2 are doubled:  \y{}\z)", FactorsOf(7, 2) + " = 49", "49m^6^n^4^"));
+  Say(Text(R"({}, and the exponents are doubled:  \y{}\z)", FactorsOf(7, 2) + " = 49",
+           "49m^6^n^4^"));
   PageEnd();
 }
 
@@ -139,7 +141,7 @@ void SumsAreNoMonomials() {
   SayAt(3, R"(\yWatch out:\z  A sum is no monomial.  In a sum we add first:)");
   PaperBox({"(3 + 5)^2^ = 8^2^ = 64", R"(\r3^2^ + 5^2^ = 9 + 25 = 34\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Which one has the rule?)");
+  Say(R"(\yTry it:\z  For which one is our rule?)");
   Show("(x + 3)^2^      (3x)^2^", kExpressionCol);
   PageEnd();
   Say(Text(R"(The product of 3 and x:  \y{}\z)", "(3x)^2^ = 9x^2^"));
@@ -212,7 +214,7 @@ void PowerOfAMonomial::DrawProblem(RandomStream& random) {
 // A mistake that leads to larger exponents comes first more often than one that leads to smaller
 // ones, so that the right one is not always the longest.
 PowerOfAMonomial::LetterSlips PowerOfAMonomial::DrawLetterSlips(RandomStream& random) {
-  const bool largerFirst = random.Rand(1, 3) > 1;
+  const bool largerFirst = random.Rand(1, 4) > 1;
   const bool adds = random.Rand(1, 2) == 1;
   const bool shares = random.Rand(1, 2) == 1 && group_.powers.size() > 1;
   kept_ = static_cast<std::size_t>(random.Rand(1, static_cast<int>(group_.powers.size())) - 1);
