@@ -43,7 +43,7 @@ void WhatAMonomialIs() {
 void CoefficientIsRaised() {
   NewScreen();
   const PowerOfGroup group = {2, {{"x", 3}}, 4};
-  SayAt(3, "The outer exponent 4 counts the groups:");
+  SayAt(3, R"(The \couter exponent\z 4, behind the parentheses, counts the groups:)");
   Show(GroupText(group) + " = " + GroupWrittenOut(group), kExpressionCol - 2);
   ShowGroupsTable(group);
   PageEnd();
@@ -78,9 +78,10 @@ void CoefficientMistakes() {
 
 void TheRule() {
   NewScreen();
-  RuleBox("Power Of A Monomial",
+  RuleBox("Rule For The Power Of A Monomial",
           {"Raise the coefficient.", "Multiply each inner exponent", "by the outer one."},
-          {.row = 3, .width = 30});
+          {.row = 3, .width = 32});
+  Say(R"(The \cinner exponents\z are those of the letters.)");
   PageEnd();
   const PowerOfGroup group = {5, {{"a", 2}, {"b", 4}}, 3};
   Say(Text("In {} the outer exponent is 3:", GroupText(group)));
@@ -141,10 +142,10 @@ void SumsAreNoMonomials() {
   SayAt(3, R"(\yWatch out:\z  A sum is no monomial.  In a sum we add first:)");
   PaperBox({"(3 + 5)^2^ = 8^2^ = 64", R"(\r3^2^ + 5^2^ = 9 + 25 = 34\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  For which one is our rule?)");
+  Say(R"(\yTry it:\z  For which does the rule hold?)");
   Show("(x + 3)^2^      (3x)^2^", kExpressionCol);
   PageEnd();
-  Say(Text(R"(The product of 3 and x:  \y{}\z)", "(3x)^2^ = 9x^2^"));
+  Say(Text(R"(For the product of 3 and x:  \y{}\z)", "(3x)^2^ = 9x^2^"));
   PageEnd();
 }
 
@@ -354,15 +355,23 @@ void PowerOfAMonomial::ShowTask() const {
   ShowAt(5, GroupText(group_), kExpressionCol);
 }
 
-// With 1 in place of the letters only the coefficient is left.
+// With 1 in place of the letters only the coefficients are left of both sides.
 void PowerOfAMonomial::CheckCoefficient() const {
-  const bool one = group_.powers.size() == 1;
-  const std::string letters =
-      one ? group_.powers[0].base : group_.powers[0].base + " and " + group_.powers[1].base;
-  Say(Text(R"(\yCheck of the coefficient:\z  With 1 in place of {}, the two sides are equal:)",
-           letters));
-  Show(PowerOf(group_.number, group_.exponent) + " = " + NumStr(Coefficient(CoefficientSlip::None)),
+  std::vector<std::string> letters;
+  const int raised = Coefficient(CoefficientSlip::None);
+  std::vector<std::string> left = {NumStr(group_.number)};
+  std::vector<std::string> right = {NumStr(raised)};
+  for (const auto& [letter, exponent] : group_.powers) {
+    letters.push_back(letter);
+    left.push_back(PowerText({"1", exponent}));
+    right.push_back(PowerText({"1", exponent * group_.exponent}));
+  }
+  Say(Text(R"(\yCheck:\z  With 1 in place of {}:)",
+           letters.size() == 1 ? letters[0] : letters[0] + " and " + letters[1]));
+  Show("(" + JoinedByTimes(left) + ")^" + NumStr(group_.exponent) +
+           "^ = " + PowerOf(group_.number, group_.exponent) + " = " + NumStr(raised),
        kExpressionCol);
+  Show(JoinedByTimes(right) + " = " + NumStr(raised), kExpressionCol);
   PageEnd();
 }
 

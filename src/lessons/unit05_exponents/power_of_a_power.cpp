@@ -60,10 +60,10 @@ void WhyMultiply() {
   NewScreen();
   SayAt(3, "Why do we multiply?  The groups are equal, and their exponents are added:");
   Show("(b^3^)^4^ = " + JoinedByDots({"b^3^", "b^3^", "b^3^", "b^3^"}), kExpressionCol);
-  Show("3 + 3 + 3 + 3 = 12,  as 3 " + tutor::Times + " 4 = 12", kExpressionCol);
+  Show("3 + 3 + 3 + 3 = " + ExponentProduct(3, 4), kExpressionCol);
   PageEnd();
   Say(R"(\yWatch out:\z  We do not add 3 and 4.  With 2 in place of b:)");
-  PaperBox({"(2^3^)^4^ = 8^4^ = 4096", R"(2^12^ = 4096,  \rbut 2^7^ = 128\z)"});
+  PaperBox({"(2^3^)^4^ = 8^4^ = 4096", R"(2^12^ = 4096,  \rnot 2^7^ = 128\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "(k^5^)^2^", "k^7^"));
   PageEnd();
