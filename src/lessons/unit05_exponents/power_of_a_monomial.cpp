@@ -79,9 +79,9 @@ void CoefficientMistakes() {
 void TheRule() {
   NewScreen();
   RuleBox("Rule For The Power Of A Monomial",
-          {"Raise the coefficient.", "Multiply each inner exponent", "by the outer one."},
-          {.row = 3, .width = 32});
-  Say(R"(The \cinner exponents\z are those of the letters.)");
+          {"Raise the coefficient, and multiply", "each inner exponent by the outer one."},
+          {.row = 3});
+  Say(R"(\cInner exponents\z belong to the letters.)");
   PageEnd();
   const PowerOfGroup group = {5, {{"a", 2}, {"b", 4}}, 3};
   Say(Text("In {} the outer exponent is 3:", GroupText(group)));
