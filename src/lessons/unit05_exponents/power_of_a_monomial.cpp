@@ -33,10 +33,12 @@ void WhatAMonomialIs() {
   PageEnd();
   Say(R"(The number in front is its \ccoefficient\z.)");
   Say(R"(\yTry it:\z  Which of these are monomials?)");
-  Show("6k^3^      a + 2b      xy", kExpressionCol);
+  Show("6k^3^      a + 2b      x^2^y", kExpressionCol);
   PageEnd();
-  Say(Text("{} and {} are.  {} is a sum.  No number stands in front of xy:  its coefficient is 1.",
-           "6k^3^", "xy", "a + 2b"));
+  Say(
+      Text("{} and {} are.  {} is a sum.  In the last one, no number stands in front:  its "
+           "coefficient is 1.",
+           "6k^3^", "x^2^y", "a + 2b"));
   PageEnd();
 }
 

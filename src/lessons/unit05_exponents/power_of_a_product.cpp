@@ -115,7 +115,7 @@ void BothInside() {
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(p^5^q)^4^"));
   PageEnd();
   const PowerOfGroup task = {1, {{"p", 5}, {"q", 1}}, 4};
-  Say(Text("p:  {},     q:  {}", ExponentProduct(5, 4), ExponentProduct(1, 4)));
+  Say(Text("p:  {}     q:  {}", ExponentProduct(5, 4), ExponentProduct(1, 4)));
   Show(GroupText(task) + R"( = \y)" + RaisedText(task) + R"(\z)", kExpressionCol);
   PageEnd();
 }
