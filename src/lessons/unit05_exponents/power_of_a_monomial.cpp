@@ -223,6 +223,7 @@ PowerOfAMonomial::LetterSlips PowerOfAMonomial::DrawLetterSlips(RandomStream& ra
   kept_ = static_cast<std::size_t>(random.Rand(1, static_cast<int>(group_.powers.size())) - 1);
   const LetterSlip smaller = adds ? LetterSlip::Added : LetterSlip::OneKept;
   LetterSlip larger = shares ? LetterSlip::SharedProduct : LetterSlip::Raised;
+  // Longer exponents would stand out.
   if (LargestExponent(larger) > kLargestWrongExponent)
     larger = adds ? LetterSlip::OneKept : LetterSlip::Added;
   return largerFirst ? LetterSlips{larger, smaller} : LetterSlips{smaller, larger};

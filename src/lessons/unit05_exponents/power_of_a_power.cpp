@@ -175,7 +175,7 @@ std::string PowerOfAPower::PowerOfLetter(int exponent, int number) const {
   return ProductText(number, {{letter_, exponent}});
 }
 
-// Of the draws of nested powers 38 % are accepted.
+// Of the draws of nested powers 37 % are accepted.
 void PowerOfAPower::DrawProblem(RandomStream& random) {
   isNested_ = random.Rand(1, 2) == 2;
   do {
