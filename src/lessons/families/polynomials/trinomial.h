@@ -16,6 +16,7 @@ namespace course::polynomials {
 struct Binomial {
   int lead = 1;  // coefficient of the letter
   int constant = 0;
+  bool operator==(const Binomial&) const = default;
 };
 
 struct Trinomial {
