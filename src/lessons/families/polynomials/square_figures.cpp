@@ -1,0 +1,94 @@
+#include "lessons/families/polynomials/square_figures.h"
+
+#include <algorithm>
+
+#include "display/drawing.h"
+#include "display/grid.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/show.h"
+#include "lessons/page/slides.h"
+
+namespace course::polynomials {
+namespace {
+
+using namespace page;
+
+constexpr platform::Colour kFirstSquare = platform::Rgb(0, 110, 180);
+constexpr platform::Colour kStrip = platform::Rgb(0, 130, 80);
+constexpr platform::Colour kLastSquare = platform::Rgb(160, 80, 150);
+
+// A square is as many rows high as it is columns wide times this.
+constexpr double kRowsPerColumn = static_cast<double>(gCellWidth) / gCellHeight;
+
+void DrawPart(double row, double col, double width, double height, platform::Colour colour) {
+  const double rows = height * kRowsPerColumn;
+  isDrawBoxFilled(row, col, row + rows - 1, col + width - 1, colour);
+  isDrawBox(row, col, row + rows - 1, col + width - 1, platform::colour::White, 2);
+}
+
+// In the middle of an area of so many rows and columns; exponents take half a cell.
+void PrintInside(double row, double col, double rows, double cols, const std::string& text) {
+  const double marks = text.find('^') == std::string::npos ? 0 : 2.5;
+  ShowAt(row + (rows - 1) / 2, text, col + (cols - (static_cast<double>(text.size()) - marks)) / 2);
+}
+
+// --- The square of a sum -------------------------------------------------------------------------
+
+constexpr double kLong = 6.25;  // columns of the parts of the side, 4 and 2 rows
+constexpr double kShort = 3.125;
+constexpr double kLongRows = 4;
+constexpr double kShortRows = 2;
+
+// --- The square without its corner: columns ------------------------------------------------------
+
+constexpr double kSide = 7.5;
+constexpr double kCorner = 3;
+constexpr double kRest = kSide - kCorner;
+
+}  // namespace
+
+SquareOfSum::SquareOfSum(double row, double col, const std::string& a, const std::string& b)
+    : row_(row), col_(col) {
+  DrawPart(row, col, kLong, kLong, kFirstSquare);
+  DrawPart(row, col + kLong, kShort, kLong, kStrip);
+  DrawPart(row + kLongRows, col, kLong, kShort, kStrip);
+  DrawPart(row + kLongRows, col + kLong, kShort, kShort, kLastSquare);
+  const double left = static_cast<double>(std::max(a.size(), b.size())) + 0.5;
+  PrintInside(row - 1.1, col, 1, kLong, a);
+  PrintInside(row - 1.1, col + kLong, 1, kShort, b);
+  PrintInside(row, col - left, kLongRows, left, a);
+  PrintInside(row + kLongRows, col - left, kShortRows, left, b);
+}
+
+void SquareOfSum::PrintSquares(const std::string& first, const std::string& last) const {
+  PrintInside(row_, col_, kLongRows, kLong, first);
+  PrintInside(row_ + kLongRows, col_ + kLong, kShortRows, kShort, last);
+}
+
+void SquareOfSum::PrintStrips(const std::string& area) const {
+  PrintInside(row_, col_ + kLong, kLongRows, kShort, area);
+  PrintInside(row_ + kLongRows, col_, kShortRows, kLong, area);
+}
+
+SquareWithoutCorner::SquareWithoutCorner(double row, double col) : row_(row), col_(col) {
+  DrawPart(row, col, kSide, kSide, kFirstSquare);
+  DrawPart(row + kRest * kRowsPerColumn, col + kRest, kCorner, kCorner, kLastSquare);
+}
+
+void SquareWithoutCorner::TakeCornerAway() const {
+  ClearCells(row_ + kRest * kRowsPerColumn + 0.1, col_ + kRest + 0.1, kCorner, 2);
+}
+
+void SquareWithoutCorner::CutInTwo() const {
+  DrawPart(row_, col_, kSide, kRest, kFirstSquare);
+  DrawPart(row_ + kRest * kRowsPerColumn, col_, kRest, kCorner, kStrip);
+}
+
+void SquareWithoutCorner::MoveBeside() const {
+  constexpr double kDown = 2;  // rows
+  ClearCells(row_ + kRest * kRowsPerColumn + 0.1, col_ - 0.1, kSide, 2.2);
+  DrawPart(row_ + kDown, col_ + kSide, kCorner, kRest, kStrip);
+  SlideUp({row_ + kDown, col_ + kSide, kCorner + 0.2, kRest * kRowsPerColumn + 0.1}, kDown);
+}
+
+}  // namespace course::polynomials
