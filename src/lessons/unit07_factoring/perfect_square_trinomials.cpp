@@ -35,24 +35,22 @@ std::string FirstTerm(const Binomial& binomial) {
 // "2 x 2x x 5 = 20x": what the middle term has to be, but for its sign.
 std::string TwiceTheProduct(const Binomial& binomial) {
   const int size = std::abs(binomial.constant);
-  return Text("2 {} {} {} {} = {}x", tutor::Times, FirstTerm(binomial), tutor::Times, size,
-              2 * binomial.lead * size);
+  return Text("2({})({}) = {}x", FirstTerm(binomial), size, 2 * binomial.lead * size);
 }
 
 // --- Teaching screens --------------------------------------------------------
 
 void SquaresAndRoots() {
   NewScreen();
-  SayAt(3, R"(5 times 5 is 25.  We say:  25 is the \csquare\z of 5.)");
+  SayAt(3, R"(5 times 5 is 25.  So 25 is the \csquare\z of 5, and 5 is a \csquare root\z of 25.)");
   Show("5^2^ = 25", kCol);
-  Say(R"(Going back, 5 is a \csquare root\z of 25.  The square of -5 is 25, too.  So -5 is the )"
-      "other square root.");
   PageEnd();
   Say(R"(A \cbinomial\z is an expression with two terms, such as x + 3.  It has a square, too:)");
   Show("(x + 3)^2^ = (x + 3)(x + 3)", kCol);
-  Say(R"(\yTry it:\z  What is the square of 3x?)");
   PageEnd();
-  Say("3x times 3x is 9x^2^.  Both the 3 and the x are squared.");
+  Say(R"(\yTry it:\z  Terms can be squared as well.  What is the square of 3x?)");
+  PageEnd();
+  Say(R"(3x times 3x is \y9x^2^\z.  Both the 3 and the x are squared.)");
   PageEnd();
 }
 
@@ -61,14 +59,15 @@ void AreaOfTheSquare() {
   constexpr double kFigureCol = 7;
   const TextPlace beside = {.col = 19, .lastCol = 40};
   NewScreen();
-  SayAt(3, "This square has the side x + 3.  Its area is (x + 3)^2^.");
+  SayAt(3, "This square has the side x + 3:");
   const SquareOfSum figure(kRow, kFigureCol, "x", "3");
   PageEnd();
-  SayAt(5, R"(\yTry it:\z  It has four parts.  What is the area of each part?)", beside);
+  SayAt(5, R"(Its area is (x + 3)^2^.  \yTry it:\z  What is the area of each of its four parts?)",
+        beside);
   PageEnd();
   figure.PrintSquares("x^2^", "9");
   figure.PrintStrips("3x");
-  SayAt(9, R"(x by x is x^2^, and 3 by 3 is 9.  Each strip is 3 by x.)", beside);
+  SayAt(10, R"(x by x is x^2^, and 3 by 3 is 9.  Each strip is 3 by x.)", beside);
   PageEnd();
   SayAt(13, "The two strips are alike.  Together they are 6x:");
   Show("(x + 3)^2^ = x^2^ + 3x + 3x + 9", kCol);
@@ -92,24 +91,24 @@ void WithMinus() {
   PageEnd();
   RuleBox("Perfect Square Trinomials",
           {"a^2^ + 2ab + b^2^ = (a + b)^2^", "a^2^ - 2ab + b^2^ = (a - b)^2^"}, {.width = 30});
-  Say(R"(An expression with three terms is a \ctrinomial\z.  These are squares, and their )"
-      "square roots are a + b and a - b.");
+  PageEnd();
+  Say(R"(A \ctrinomial\z has three terms.  These are the squares of a + b and a - b.)");
+  Say(R"(\yTry it:\z  x^2^ and 25 are squares.  Is every trinomial that begins and ends with them a )"
+      "square?");
   PageEnd();
 }
 
 void TestOfTheMiddleTerm() {
   NewScreen();
-  SayAt(3, R"(How do we know that a trinomial is a square?  We \ytest its middle term\z.)");
-  RuleBox("The Test",
-          {"1.  The first term is a square, a^2^.", "2.  The last term is a square, b^2^.",
-           "3.  The middle term is 2ab or -2ab."},
-          {.width = 32});
+  SayAt(3, R"(No.  The middle term has to fit, too:)");
+  RuleBox("The Test", {"First and last term:  a^2^ and b^2^", "Middle term:  2ab or -2ab"},
+          {.width = 34});
   PageEnd();
   Say(Text("Let's test {}.", TrinomialText({1, 10, 25})));
-  AddLine("First term:   x^2^ is x times x.", {.col = 3});
-  AddLine("Last term:    25 is 5 times 5.", {.col = 3});
+  AddLine("First:   x^2^ is x times x.", {.col = 3});
+  AddLine("Last:    25 is 5 times 5.", {.col = 3});
   PageEnd();
-  AddLine("Middle term:  " + WithoutBreaks(TwiceTheProduct({1, 5})) + ".  It fits.", {.col = 3});
+  AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({1, 5})) + ".  It fits.", {.col = 3});
   Show(Identity({1, 5}), kCol);
   PageEnd();
   Say(Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 10, 16})));
@@ -123,35 +122,48 @@ void NumberInFront() {
   NewScreen();
   const Binomial root = {2, -5};
   SayAt(3, Text("Let's find a square root of {}.", TrinomialText(SquareOf(root))));
-  AddLine("First term:   4x^2^ is 2x times 2x.", {.col = 3});
-  AddLine("Last term:    25 is 5 times 5.", {.col = 3});
+  AddLine("First:   4x^2^ is 2x times 2x.", {.col = 3});
+  AddLine("Last:    25 is 5 times 5.", {.col = 3});
   PageEnd();
-  AddLine("Middle term:  " + WithoutBreaks(TwiceTheProduct(root)) + ".  It fits.", {.col = 3});
+  AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct(root)) + ".  It fits.", {.col = 3});
   Say(R"(It has a \yminus sign\z, so the binomial has one, too:)");
   Show(Identity(root), kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  Each of these fails the test.)");
+  Say(R"(\yWatch out:\z  These do not fit.)");
   PaperBox({R"(\r(2x + 5)^2^\z has the middle term +20x)", R"(\r(5x - 2)^2^\z begins with 25x^2^)",
             R"(\r(4x - 25)^2^\z begins with 16x^2^)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Tom takes half of 20 and writes 2x - 10.  What is wrong?)");
+
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  For {} Tom takes half of 20.  He writes 2x - 10.  What is wrong?)",
+                TrinomialText(SquareOf(root))));
   PageEnd();
-  Say("10 times 10 is 100, but the last term is 25.  Half of 20 is the product of 2 and 5.");
+  Say("10 times 10 is 100, but the last term is 25.  Half of 20 is the \\yproduct\\z of 2 and 5.");
   PageEnd();
 }
 
 void TwoRoots() {
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  A number has two square roots.  Does a trinomial have two?)");
+  Say(R"(\yTry it:\z  -5 times -5 is 25, too.  So 25 has two square roots.  Does a trinomial have )"
+      "two?");
   PageEnd();
   Say("Yes.  We reverse both signs of 2x - 5, and the square is the same:");
   Show("(-2x + 5)^2^ = 4x^2^ - 20x + 25", kCol);
   Say("We take the root that begins without a minus sign:  2x - 5.");
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What is the square root of {}?)", TrinomialText({9, 6, 1})));
+
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  What is the square root of {}?)", TrinomialText({9, 6, 1})));
   PageEnd();
-  Show(Text("9x^2^ = {}   1 = {}   {}", "(3x)^2^,", "1^2^,", TwiceTheProduct({3, 1})), kCol);
-  Say(R"(The middle term fits, and its sign is plus:  \y3x + 1\z)");
+  AddLine("First:   9x^2^ is 3x times 3x.", {.col = 3});
+  AddLine("Last:    1 is 1 times 1.", {.col = 3});
+  AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({3, 1})) + ".  It fits.", {.col = 3});
+  Say(R"(Its sign is plus, so the answer is \y3x + 1\z.)");
+  PageEnd();
+  Say(R"(\yTry it:\z  Find the middle term that makes x^2^ + ... + 36 a square.)");
+  PageEnd();
+  Say(Text("It is 12x, since {}.  With -12x it is a square, too:", TwiceTheProduct({1, 6})));
+  Show(Identity({1, 6}), kCol);
+  Show(Identity({1, -6}), kCol);
   PageEnd();
 }
 
@@ -189,8 +201,7 @@ Binomial WithOtherSign(const Binomial& binomial) {
 
 // A number is added to the last term, in the direction of its sign.
 Binomial Enlarged(const Binomial& binomial, RandomStream& random) {
-  return {binomial.lead,
-          binomial.constant + Sgn(binomial.constant) * random.Rand(1, kLargest)};
+  return {binomial.lead, binomial.constant + Sgn(binomial.constant) * random.Rand(1, kLargest)};
 }
 
 // What other terms a student takes; the sign is right.
@@ -241,8 +252,8 @@ void PerfectSquareTrinomials::ExplainProblem() {
   PageEnd();
   const Trinomial asked = Asked();
   const int size = std::abs(root_.constant);
-  Say(R"(\yFirst term.\z  )" + Text("{}x^2^ is {} times {}.", CoefText(asked.square),
-                                    FirstTerm(root_), FirstTerm(root_)));
+  Say(R"(\yFirst term.\z  )" +
+      Text("{}x^2^ is {} times {}.", CoefText(asked.square), FirstTerm(root_), FirstTerm(root_)));
   PageEnd();
   Say(R"(\yLast term.\z  )" + Text("{} is {} times {}.", asked.constant, size, size));
   PageEnd();
@@ -264,9 +275,8 @@ void PerfectSquareTrinomials::TestMiddleTerm() const {
   Show(TwiceTheProduct(root_), kCol);
   PageEnd();
   const int middle = Asked().middle;
-  Say(Text("The middle term is {}x, so the test is passed.  Its sign is {}, and so is the sign in "
-           "the binomial:",
-           middle, Words{middle > 0 ? "plus" : "minus"}));
+  Say(Text("It fits, and its sign is {}.  So the binomial has a {} sign, too:",
+           middle > 0 ? "plus" : "minus", middle > 0 ? "plus" : "minus"));
   Show(R"(\y)" + BinomialText(root_), kCol);
   PageEnd();
 }
@@ -274,8 +284,7 @@ void PerfectSquareTrinomials::TestMiddleTerm() const {
 void PerfectSquareTrinomials::Check() const {
   const int outer = root_.lead * root_.constant;
   Say(R"(\yCheck:\z  We multiply out.)");
-  const std::string start = SquareText(root_) + " = ";
-  Show(start + FactorsText({root_, root_}), kCol);
+  AddLine(FactorsText({root_, root_}), {.col = kCol + 2});
   const Trinomial asked = Asked();
   AddLine("= " + CoefText(asked.square) + "x^2^" + SignedCoefText(outer) + "x" +
               SignedCoefText(outer) + "x" + tutor::Gap + SignedNumberText(asked.constant),

@@ -1,5 +1,5 @@
-// A trinomial whose square root is asked for: every choice is squared.  A root and its negative have
-// the same square, so they are one answer.
+// A trinomial whose square root is asked for: every choice is squared.  A root and its negative
+// have the same square, so they are one answer.
 #include <cmath>
 
 #include "lesson_check/exact/notation.h"
@@ -26,8 +26,8 @@ long RootOf(long square) {
 }
 
 std::string SquareText(char letter, long lead, long constant) {
-  const Polynomial root = Polynomial::Letter(letter) * Polynomial(Rational(lead)) +
-                          Polynomial(Rational(constant));
+  const Polynomial root =
+      Polynomial::Letter(letter) * Polynomial(Rational(lead)) + Polynomial(Rational(constant));
   return root.Power(2).Text();
 }
 
@@ -63,8 +63,8 @@ Reading ReadPerfectSquare(const course::Problem& problem) {
       throw Unreadable("\"" + choice + "\" is no binomial");
     return root.Power(2).Text();
   };
-  reading.kind = std::string(p == 1 ? "x^2" : "a number before x^2") +
-                 (q < 0 ? ", minus" : ", plus");
+  reading.kind =
+      std::string(p == 1 ? "x^2" : "a number before x^2") + (q < 0 ? ", minus" : ", plus");
   reading.Within("the first number of the root", p, 1, kLargest);
   reading.Within("the second number of the root", q, -kLargest, kLargest);
   AddMistakes(letter, p, q, reading);

@@ -7,8 +7,8 @@
 namespace course::polynomials {
 
 // A square with the side a + b, cut into the square of a, two strips a by b, and the square of b.
-// It takes 6 rows and 9.4 columns from its upper left cell on; the names of the sides stand above it
-// and at its left.
+// It takes 6 rows and 9.4 columns from its upper left cell on; the names of the sides stand above
+// it and at its left.
 class SquareOfSum {
  public:
   SquareOfSum(double row, double col, const std::string& a, const std::string& b);
