@@ -1,68 +1,268 @@
-// The student can ...
-//
-// What the student can do afterwards, in two or three lines.
+// The student can factor a difference of two squares such as 4x^2 - 25, also behind a common factor
+// and with fourth powers, and knows that a sum of two squares has no such factors.
+#include "lessons/families/polynomials/square_difference.h"
+#include "lessons/families/polynomials/square_figures.h"
 #include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
-// --- Teaching screens --------------------------------------------------------
+using namespace polynomials;
 
-void Screen1() {
+constexpr double kCol = 4;  // of lines of mathematics
+
+// "(2x + 5)(2x - 5)" in a sentence or a line, for whole numbers.
+std::string Pair(int a, int b, const std::string& letter = "x") {
+  return SquareDifference{DifferenceForm::Bare, letter, a, b}.SumTimesDifference();
+}
+
+// --- Screen 1: a^2 - b^2 -------------------------------------------------------------------------
+
+void AreaWithoutCorner() {
+  constexpr double kRow = 5;
+  constexpr double kFigureCol = 4;
+  const TextPlace beside = {.col = 17, .lastCol = 40};
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "A square with the side 5 loses a corner with the side 2.");
+  const SquareWithoutCorner figure(kRow, kFigureCol);
+  PageEnd();
+  figure.TakeCornerAway();
+  SayAt(5, R"(\yTry it:\z  What area is left?)", beside);
+  PageEnd();
+  SayAt(7.5, "5^2^ is 25, and 2^2^ is 4.", beside);
+  SayAt(9, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
+  PageEnd();
+  figure.CutInTwo();
+  SayAt(11.5, "Now we cut what is left in two, and the lower part stands up beside the other one.");
+  PageEnd();
+  figure.MoveBeside();
+  Say(R"(\yTry it:\z  How long is the rectangle, and how high?)");
+  PageEnd();
+  Say("It is 5 + 2 = 7 long and 5 - 2 = 3 high.  Its area is the same:");
+  Show("(5 + 2)(5 - 2) = 7 " + tutor::Times + " 3 = 21", kCol);
+  Show(R"(5^2^ - 2^2^ = \y(5 + 2)(5 - 2))", kCol);
   PageEnd();
 }
 
-void Screen2() {
+void RuleForLetters() {
   NewScreen();
-  Say("Screen 2 is not written yet.");
+  SayAt(3, R"(A \cdifference\z is what we get when we subtract.)");
+  RuleBox("Difference of Two Squares", {"a^2^ - b^2^ = (a + b)(a - b)"}, {.width = 32});
+  PageEnd();
+  Say(R"(\yTry it:\z  Multiply out  )" + Text("{}.", Pair(1, 3)));
+  PageEnd();
+  Show(Pair(1, 3) + " = x^2^ - 3x + 3x - 9", kCol);
+  Show(R"(               = \yx^2^ - 9)", kCol);
+  Say("The middle terms cancel:  their sum is 0.");
+  PageEnd();
+  Say(R"(To \cfactor\z means to go back, from x^2^ - 9 to the factors.)");
+  Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "x^2^ - 49"));
+  PageEnd();
+  Show(R"(x^2^ - 49 = \y)" + Pair(1, 7), kCol);
   PageEnd();
 }
 
-// --- The lesson --------------------------------------------------------------
+void NotASquareOfADifference() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Ann writes  )" + Text("{}.  Is she right?", "x^2^ - 49 = (x - 7)^2^"));
+  PageEnd();
+  Say("No.  Her square has a middle term:");
+  Show("(x - 7)^2^ = x^2^ - 7x - 7x + 49", kCol);
+  Show("         = x^2^ - 14x + 49", kCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The two signs must be different.)");
+  PaperBox(
+      {R"(x^2^ - 49 = (x + 7)(x - 7),)", R"(\rnot (x - 7)(x - 7),\z  \rnot (x + 7)(x + 7)\z)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Is x^2^ + 49, a \ysum\z of two squares, the product of such factors?)");
+  PageEnd();
+  Say("No.  Equal signs give the middle term 14x or -14x.  Different signs give -49.  A sum of two "
+      "squares stays as it is.");
+  PageEnd();
+}
+
+void NumberInFront() {
+  NewScreen();
+  SayAt(3, Text("Let's factor {}.  Both terms are squares:", "4x^2^ - 25"));
+  Show("4x^2^ = (2x)^2^      25 = 5^2^", kCol);
+  PageEnd();
+  Say("We write the factors as the sum and difference of the values 2x and 5:");
+  Show(R"(4x^2^ - 25 = \y)" + Pair(2, 5), kCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  We take the square roots, of both.  Half of a number is no root.)");
+  PaperBox({R"(\r(4x + 25)(4x - 25)\z = 16x^2^ - 625)", R"(\r(5x + 2)(5x - 2)\z = 25x^2^ - 4)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "64y^2^ - 1"));
+  PageEnd();
+  Say("64y^2^ is 8y times 8y, and 1 is 1 times 1:");
+  Show(R"(64y^2^ - 1 = \y)" + Pair(8, 1, "y"), kCol);
+  PageEnd();
+}
+
+// --- Screen 2: more factors ----------------------------------------------------------------------
+
+void CommonFactorFirst() {
+  NewScreen();
+  SayAt(3, Text("{} is no difference of two squares:  3 and 75 are no squares.", "3x^2^ - 75"));
+  PageEnd();
+  Say(R"(\yTry it:\z  But 3 is a factor of both terms.  What is left when we take it out?)");
+  PageEnd();
+  Show("3x^2^ - 75 = 3(x^2^ - 25)", kCol);
+  Say("Now the squares of x and 5 stand in the parentheses:");
+  Show(R"(3x^2^ - 75 = \y3)" + Pair(1, 5), kCol);
+  PageEnd();
+  Say(R"(To \cfactor completely\z, we take a common factor out first, and it stays in front.)");
+  PageEnd();
+  Say(R"(\yWatch out:\z  Here the 3 is left inside, or lost.)");
+  PaperBox(
+      {R"(\r(3x + 15)(x - 5)\z   3x + 15 = 3(x + 5))", R"(\r(x + 5)(x - 5)\z   is x^2^ - 25)"});
+  PageEnd();
+}
+
+void CommonFactorAndNumber() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "20y^2^ - 45"));
+  PageEnd();
+  Say("5 is a factor of both terms:");
+  Show("20y^2^ - 45 = 5(4y^2^ - 9)", kCol);
+  PageEnd();
+  Say("4y^2^ is 2y times 2y, and 9 is 3 times 3:");
+  Show(R"(20y^2^ - 45 = \y5)" + Pair(2, 3, "y"), kCol);
+  PageEnd();
+}
+
+void FourthPowers() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  x^4^ is a square, too.  Of what?)");
+  PageEnd();
+  Say("x^2^ times x^2^ is x^4^, since 2 + 2 = 4.  So we can factor x^4^ - 16:");
+  Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  Which of the two factors can be factored again?)");
+  PageEnd();
+  Say("x^2^ - 4 is a difference of squares.  The sum x^2^ + 4 stays as it is.");
+  Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kCol);
+  PageEnd();
+  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
+  PageEnd();
+  Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kCol);
+  Show(R"(           = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kCol);
+  PageEnd();
+}
+
+// --- The lesson ----------------------------------------------------------------------------------
 
 class DifferenceOfTwoSquares final : public LessonScript {
  public:
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{Screen1}, {Screen2}}; }
+  std::vector<Screen> Screens() override {
+    return {{AreaWithoutCorner, RuleForLetters, NotASquareOfADifference, NumberInFront},
+            {CommonFactorFirst, CommonFactorAndNumber, FourthPowers}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  // The numbers of one problem.
-  int first_ = 0;  // 2 to 9
+  void BeginPage() const;
+  void TakeCommonFactorOut() const;
+  void FactorDifference(const SquareDifference& difference) const;
+  void FactorAgain() const;
+  void Check() const;
+
+  SquareDifference asked_;
 };
 
-// --- Generator ---------------------------------------------------------------
+// --- Generator -----------------------------------------------------------------------------------
 
 void DifferenceOfTwoSquares::DrawProblem(RandomStream& random) {
-  first_ = random.Rand(2, 9);
-
-  problem.question = {"Not written yet: what is " + NumStr(first_) + " + 1?"};
-  Choices choices(problem, choice_kind::FourShuffled, NumStr);
-  choices.Right(first_ + 1);
-  choices.Wrong("forgets to add", first_);
-  choices.Wrong("subtracts", first_ - 1);
-  choices.Wrong("adds twice", first_ + 2);
+  asked_ = DrawSquareDifference(random);
+  problem.question = {"Factor this expression completely:", asked_.Asked()};
+  problem.kind = choice_kind::FiveShuffled;
+  problem.Right(1, asked_.Factored());
+  int slot = 1;
+  for (const WrongFactors& wrong : WrongFactorings(asked_, random))
+    problem.Wrong(++slot, wrong.mistake, wrong.text);
 }
 
-// --- Problem page ------------------------------------------------------------
+// --- Problem page --------------------------------------------------------------------------------
 
 void DifferenceOfTwoSquares::ShowProblem() {
   SayAt(5, problem.question[0]);
-  ShowAnswersInTwoColumns(problem);
+  ShowAt(7, problem.question[1], kCol);
+  ShowAnswersInOneColumn(problem, {.row = 10, .width = 32});
 }
 
-// --- Worked explanation ------------------------------------------------------
+// --- Worked explanation --------------------------------------------------------------------------
 
 void DifferenceOfTwoSquares::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
+  BeginPage();
   PageEnd();
+  if (asked_.form == DifferenceForm::CommonFactor) TakeCommonFactorOut();
+  FactorDifference(asked_);
+  if (asked_.form == DifferenceForm::FourthPowers) FactorAgain();
+  NewScreen();
+  BeginPage();
+  Check();
   Conclude(problem);
+}
+
+void DifferenceOfTwoSquares::BeginPage() const {
+  ProblemBanner();
+  SayAt(5, problem.question[0]);
+  ShowAt(6.5, problem.question[1], kCol);
+}
+
+void DifferenceOfTwoSquares::TakeCommonFactorOut() const {
+  Say(Text("{} is a factor of both terms.  We take it out:", asked_.common));
+  Show("= " + NumStr(asked_.common) + "(" + asked_.WithoutCommon() + ")", kCol);
+  PageEnd();
+}
+
+void DifferenceOfTwoSquares::FactorDifference(const SquareDifference& difference) const {
+  const std::string first = difference.FirstRoot();
+  const int last = difference.LastRoot();
+  Say(Text(R"({} is a \ydifference of two squares\z.  {} is {} times {}, and {} is {} times {}.)",
+           difference.WithoutCommon(), difference.FirstSquare(), first, first,
+           difference.LastSquare(), last, last));
+  PageEnd();
+  Say(Text("Write the factors as the sum and difference of the values {} and {}.", first, last));
+  Show("= " + CoefText(asked_.common) + difference.SumTimesDifference(), kCol);
+  PageEnd();
+}
+
+void DifferenceOfTwoSquares::FactorAgain() const {
+  NewScreen();
+  BeginPage();
+  Show("= " + asked_.SumTimesDifference(), kCol);
+  const SquareDifference inner = asked_.Inner();
+  Say(Text(R"({} is a difference of two squares, too, of {} and {}.)", inner.WithoutCommon(),
+           inner.FirstRoot(), inner.LastRoot()));
+  Show(inner.WithoutCommon() + " = " + inner.SumTimesDifference(), kCol);
+  PageEnd();
+  Say("The sum of two squares stays as it is:");
+  Show("= " + asked_.Factored(), kCol);
+  PageEnd();
+}
+
+void DifferenceOfTwoSquares::Check() const {
+  const SquareDifference inner = asked_.Inner();
+  const std::string middle = PowerTerm(inner.a * inner.b, inner.letter, 1);
+  Say(R"(\yCheck:\z  We multiply out.)");
+  Show(inner.SumTimesDifference(), kCol + 2);
+  Show("= " + inner.FirstSquare() + " - " + middle + " + " + middle + " - " +
+           NumStr(inner.LastSquare()),
+       kCol);
+  Show("= " + inner.WithoutCommon(), kCol);
+  PageEnd();
+  if (asked_.form == DifferenceForm::Bare) return;
+  const std::string before = asked_.form == DifferenceForm::CommonFactor
+                                 ? NumStr(asked_.common)
+                                 : FactorOf(asked_.FirstRoot(), asked_.LastRoot());
+  Say("The other factor comes in:");
+  Show(before + "(" + inner.WithoutCommon() + ") = " + asked_.Asked(), kCol);
+  PageEnd();
 }
 
 const LessonRegistration<DifferenceOfTwoSquares> kRegistration("Difference of Two Squares");

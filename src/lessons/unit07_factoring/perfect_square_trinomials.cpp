@@ -67,9 +67,9 @@ void AreaOfTheSquare() {
   PageEnd();
   figure.PrintSquares("x^2^", "9");
   figure.PrintStrips("3x");
-  SayAt(10, R"(x by x is x^2^, and 3 by 3 is 9.  Each strip is 3 by x.)", beside);
+  SayAt(9.5, R"(x by x is x^2^, and 3 by 3 is 9.  Each strip is 3 by x.)", beside);
   PageEnd();
-  SayAt(13, "The two strips are alike.  Together they are 6x:");
+  SayAt(14, "The two strips are alike.  Together they are 6x:");
   Show("(x + 3)^2^ = x^2^ + 3x + 3x + 9", kCol);
   Show(R"(         = \yx^2^ + 6x + 9)", kCol);
   PageEnd();
@@ -93,8 +93,7 @@ void WithMinus() {
           {"a^2^ + 2ab + b^2^ = (a + b)^2^", "a^2^ - 2ab + b^2^ = (a - b)^2^"}, {.width = 30});
   PageEnd();
   Say(R"(A \ctrinomial\z has three terms.  These are the squares of a + b and a - b.)");
-  Say(R"(\yTry it:\z  x^2^ and 25 are squares.  Is every trinomial that begins and ends with them a )"
-      "square?");
+  Say(R"(\yTry it:\z  Is every trinomial with x^2^ and 25 at its ends a square?)");
   PageEnd();
 }
 
@@ -157,7 +156,7 @@ void TwoRoots() {
   AddLine("First:   9x^2^ is 3x times 3x.", {.col = 3});
   AddLine("Last:    1 is 1 times 1.", {.col = 3});
   AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({3, 1})) + ".  It fits.", {.col = 3});
-  Say(R"(Its sign is plus, so the answer is \y3x + 1\z.)");
+  Say(Text(R"(Its sign is plus:  \y{}\z)", BinomialText({3, 1})));
   PageEnd();
   Say(R"(\yTry it:\z  Find the middle term that makes x^2^ + ... + 36 a square.)");
   PageEnd();
