@@ -21,7 +21,7 @@ std::string Pair(int a, int b, const std::string& letter = "x") {
 void AreaWithoutCorner() {
   constexpr double kRow = 5;
   constexpr double kFigureCol = 4;
-  const TextPlace beside = {.col = 17, .lastCol = 40};
+  const TextPlace beside = {.col = 17};
   NewScreen();
   SayAt(3, "A square with the side 5 loses a corner with the side 2.");
   const SquareWithoutCorner figure(kRow, kFigureCol);
@@ -33,8 +33,7 @@ void AreaWithoutCorner() {
   SayAt(9, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
   PageEnd();
   figure.CutInTwo();
-  SayAt(11.5, "Now we cut what is left in two, and the lower part stands up beside the other one.");
-  PageEnd();
+  SayAt(11.5, "We cut what is left in two.  The lower part stands up beside the upper one.");
   figure.MoveBeside();
   Say(R"(\yTry it:\z  How long is the rectangle, and how high?)");
   PageEnd();
@@ -46,9 +45,8 @@ void AreaWithoutCorner() {
 
 void RuleForLetters() {
   NewScreen();
-  SayAt(3, R"(A \cdifference\z is what we get when we subtract.)");
+  SayAt(3, R"(A \cdifference\z is what subtracting gives.)");
   RuleBox("Difference of Two Squares", {"a^2^ - b^2^ = (a + b)(a - b)"}, {.width = 32});
-  PageEnd();
   Say(R"(\yTry it:\z  Multiply out  )" + Text("{}.", Pair(1, 3)));
   PageEnd();
   Show(Pair(1, 3) + " = x^2^ - 3x + 3x - 9", kCol);
@@ -58,6 +56,7 @@ void RuleForLetters() {
   Say(R"(To \cfactor\z means to go back, from x^2^ - 9 to the factors.)");
   Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "x^2^ - 49"));
   PageEnd();
+  Say("49 is 7 times 7, so b is 7:");
   Show(R"(x^2^ - 49 = \y)" + Pair(1, 7), kCol);
   PageEnd();
 }
@@ -70,14 +69,14 @@ void NotASquareOfADifference() {
   Show("(x - 7)^2^ = x^2^ - 7x - 7x + 49", kCol);
   Show("         = x^2^ - 14x + 49", kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The two signs must be different.)");
+  Say(R"(\yWatch out:\z  The two signs are different.)");
   PaperBox(
       {R"(x^2^ - 49 = (x + 7)(x - 7),)", R"(\rnot (x - 7)(x - 7),\z  \rnot (x + 7)(x + 7)\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Is x^2^ + 49, a \ysum\z of two squares, the product of such factors?)");
+  Say(R"(\yTry it:\z  x^2^ + 49 is a \ysum\z of two squares.  Does it have such factors?)");
   PageEnd();
-  Say("No.  Equal signs give the middle term 14x or -14x.  Different signs give -49.  A sum of two "
-      "squares stays as it is.");
+  Say("No.  Two factors with the same sign give a middle term, 14x or -14x.  With different signs "
+      "the last term is -49.  The sum stays as it is.");
   PageEnd();
 }
 
@@ -89,12 +88,11 @@ void NumberInFront() {
   Say("We write the factors as the sum and difference of the values 2x and 5:");
   Show(R"(4x^2^ - 25 = \y)" + Pair(2, 5), kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  We take the square roots, of both.  Half of a number is no root.)");
+  Say(R"(\yWatch out:\z  We need both square roots.)");
   PaperBox({R"(\r(4x + 25)(4x - 25)\z = 16x^2^ - 625)", R"(\r(5x + 2)(5x - 2)\z = 25x^2^ - 4)"});
-  PageEnd();
   Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "64y^2^ - 1"));
   PageEnd();
-  Say("64y^2^ is 8y times 8y, and 1 is 1 times 1:");
+  Say("64y^2^ is 8y times 8y, not 32y times 32y.  And 1 is 1 times 1:");
   Show(R"(64y^2^ - 1 = \y)" + Pair(8, 1, "y"), kCol);
   PageEnd();
 }
@@ -103,50 +101,46 @@ void NumberInFront() {
 
 void CommonFactorFirst() {
   NewScreen();
-  SayAt(3, Text("{} is no difference of two squares:  3 and 75 are no squares.", "3x^2^ - 75"));
-  PageEnd();
-  Say(R"(\yTry it:\z  But 3 is a factor of both terms.  What is left when we take it out?)");
+  SayAt(3, "In 3x^2^ - 75 the numbers are no squares.  But 3 is a factor of both terms.");
+  Say(R"(\yTry it:\z  What is left when we take the 3 out?)");
   PageEnd();
   Show("3x^2^ - 75 = 3(x^2^ - 25)", kCol);
-  Say("Now the squares of x and 5 stand in the parentheses:");
+  Say("In the parentheses stand the squares of x and 5:");
   Show(R"(3x^2^ - 75 = \y3)" + Pair(1, 5), kCol);
   PageEnd();
-  Say(R"(To \cfactor completely\z, we take a common factor out first, and it stays in front.)");
+  Say(R"(To \cfactor completely\z, we take the common factor out first, and keep it in front.)");
   PageEnd();
-  Say(R"(\yWatch out:\z  Here the 3 is left inside, or lost.)");
-  PaperBox(
-      {R"(\r(3x + 15)(x - 5)\z   3x + 15 = 3(x + 5))", R"(\r(x + 5)(x - 5)\z   is x^2^ - 25)"});
+  Say(R"(\yWatch out:\z  Here 3 is left inside, or lost.)");
+  PaperBox({R"(\r(3x + 15)(x - 5)\z    3x + 15 is 3(x + 5))",
+            R"(\r(x + 5)(x - 5)\z      is x^2^ - 25)"});
   PageEnd();
-}
 
-void CommonFactorAndNumber() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "20y^2^ - 45"));
   PageEnd();
-  Say("5 is a factor of both terms:");
+  Say("5 is a factor of both terms.  Then 4y^2^ is 2y times 2y, and 9 is 3 times 3:");
   Show("20y^2^ - 45 = 5(4y^2^ - 9)", kCol);
-  PageEnd();
-  Say("4y^2^ is 2y times 2y, and 9 is 3 times 3:");
   Show(R"(20y^2^ - 45 = \y5)" + Pair(2, 3, "y"), kCol);
   PageEnd();
 }
 
 void FourthPowers() {
+  constexpr double kWide = 2;  // column of wide lines
   NewScreen();
   SayAt(3, R"(\yTry it:\z  x^4^ is a square, too.  Of what?)");
   PageEnd();
-  Say("x^2^ times x^2^ is x^4^, since 2 + 2 = 4.  So we can factor x^4^ - 16:");
-  Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kCol);
-  PageEnd();
+  Say("Of x^2^:  x^2^ times x^2^ is x^4^.");
+  Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kWide);
   Say(R"(\yTry it:\z  Which of the two factors can be factored again?)");
   PageEnd();
   Say("x^2^ - 4 is a difference of squares.  The sum x^2^ + 4 stays as it is.");
-  Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kCol);
+  Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kWide);
   PageEnd();
   Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
   PageEnd();
-  Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kCol);
-  Show(R"(           = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kCol);
+  Say("81y^4^ is 9y^2^ times 9y^2^:");
+  Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kWide);
+  Show(R"(          = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
   PageEnd();
 }
 
@@ -159,7 +153,7 @@ class DifferenceOfTwoSquares final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{AreaWithoutCorner, RuleForLetters, NotASquareOfADifference, NumberInFront},
-            {CommonFactorFirst, CommonFactorAndNumber, FourthPowers}};
+            {CommonFactorFirst, FourthPowers}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;

@@ -57,7 +57,7 @@ void SquaresAndRoots() {
 void AreaOfTheSquare() {
   constexpr double kRow = 6;
   constexpr double kFigureCol = 7;
-  const TextPlace beside = {.col = 19, .lastCol = 40};
+  const TextPlace beside = {.col = 19};
   NewScreen();
   SayAt(3, "This square has the side x + 3:");
   const SquareOfSum figure(kRow, kFigureCol, "x", "3");

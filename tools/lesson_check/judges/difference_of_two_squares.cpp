@@ -121,7 +121,7 @@ void AddMistakesOfSquares(long common, long p, long q, Mistakes& mistakes) {
     return;
   }
   mistakes.AddWithSigns("exchanges the two numbers", 1, q, p);
-  if ((p == 1 && q % 2 == 0) || (q == 1 && p % 2 == 0))
+  if ((p == 1 && q > 2 && q % 2 == 0) || (q == 1 && p > 2 && p % 2 == 0))
     mistakes.AddWithSigns("takes half in place of the square root", 1, Half(p * p), Half(q * q));
 }
 
@@ -133,7 +133,7 @@ void AddMistakesOfFourthPowers(long p, long q, Mistakes& mistakes) {
   mistakes.Add("takes it for the square of a difference", 1, {sum, minus, minus});
   mistakes.Add("leaves a difference of squares inside", 1, {sum, {p * p, 2, -q * q}});
   mistakes.Add("takes a sum of squares for a difference", 1, {plus, minus, plus, minus});
-  mistakes.Add("forgets the sum of squares", 1, {plus, minus});
+  mistakes.AddWithSigns("forgets the sum of squares", 1, p, q);
 }
 
 std::string LineWithPower(const course::Problem& problem) {

@@ -143,9 +143,10 @@ Terms TermsWithoutRoots(const SquareDifference& asked) {
           PowerTerm(asked.a * asked.a, asked.letter, 1), asked.LastSquare()};
 }
 
-// The numbers that come out when 16 is halved; 1 stays.
+// One of the squares is 1, which stays, and the other one is even.  Half of 4 is its root.
 bool CanBeHalved(const SquareDifference& asked) {
-  return (asked.a == 1 && asked.b % 2 == 0) || (asked.b == 1 && asked.a % 2 == 0);
+  const int larger = std::max(asked.a, asked.b);
+  return asked.a * asked.b == larger && larger % 2 == 0 && larger > 2;
 }
 int Halved(int square) {
   return square == 1 ? 1 : square / 2;
@@ -184,7 +185,7 @@ std::vector<WrongFactors> WrongFactoringsWithCommonFactor(const SquareDifference
                                                           RandomStream& random) {
   const SameSigns same = DrawSameSigns(random);
   Terms terms = TermsWithoutRoots(asked);
-  if (random.Rnd() < 0.5) {
+  if (random.Rnd() < 0.6) {
     terms = RightTerms(asked);
     terms.mistake = "forgets the common factor";
     terms.before = "";
@@ -199,13 +200,17 @@ std::vector<WrongFactors> WrongFactoringsOfFourthPowers(const SquareDifference& 
   const std::string sum = FactorOf(asked.FirstRoot(), asked.LastRoot());
   const std::string squaredSum = FactorOf(inner.FirstRoot(), inner.b) + "^2^";
   const std::string squaredDifference = FactorOf(inner.FirstRoot(), -inner.b) + "^2^";
-  Terms terms = RightTerms(inner);
-  terms.before = sum;
-  const WrongFactors sameSigns = terms.With(DrawSameSigns(random));
+  const SameSigns same = DrawSameSigns(random);
+  const Terms terms = RightTerms(inner);
+  Terms withSum = terms;
+  withSum.before = sum;
+  Terms withoutSum = terms;
+  withoutSum.mistake = "forgets the sum of squares";
+  const bool mixed = random.Rnd() < 0.5;
   return {{"leaves a difference of squares inside", asked.SumTimesDifference()},
           {"takes a sum of squares for a difference", squaredSum + squaredDifference},
-          {"forgets the sum of squares", inner.SumTimesDifference()},
-          sameSigns};
+          withSum.With(same),
+          mixed ? withoutSum.Mixed() : withoutSum.With(same)};
 }
 
 }  // namespace
