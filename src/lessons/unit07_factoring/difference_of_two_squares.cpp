@@ -19,7 +19,7 @@ std::string Pair(int a, int b, const std::string& letter = "x") {
 // --- Screen 1: a^2 - b^2 -------------------------------------------------------------------------
 
 void AreaWithoutCorner() {
-  constexpr double kRow = 5;
+  constexpr double kRow = 6;
   constexpr double kFigureCol = 4;
   const TextPlace beside = {.col = 17};
   NewScreen();
@@ -27,15 +27,17 @@ void AreaWithoutCorner() {
   const SquareWithoutCorner figure(kRow, kFigureCol);
   PageEnd();
   figure.TakeCornerAway();
-  SayAt(5, R"(\yTry it:\z  What area is left?)", beside);
+  SayAt(6, R"(\yTry it:\z  What area is left?)", beside);
   PageEnd();
-  SayAt(7.5, "5^2^ is 25, and 2^2^ is 4.", beside);
-  SayAt(9, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
+  SayAt(8.5, "5^2^ is 25, and 2^2^ is 4.", beside);
+  SayAt(10, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
   PageEnd();
   figure.CutInTwo();
-  SayAt(11.5, "We cut what is left in two.  The lower part stands up beside the upper one.");
+  SayAt(12.5, "We cut what is left in two.  The parts are 5 by 3 and 3 by 2.");
+  PageEnd();
+  Say("The lower part stands up beside the upper one.");
   figure.MoveBeside();
-  Say(R"(\yTry it:\z  How long is the rectangle, and how high?)");
+  Say(R"(\yTry it:\z  How long and how high is it?)");
   PageEnd();
   Say("It is 5 + 2 = 7 long and 5 - 2 = 3 high.  Its area is the same:");
   Show("(5 + 2)(5 - 2) = 7 " + tutor::Times + " 3 = 21", kCol);
@@ -51,7 +53,7 @@ void RuleForLetters() {
   PageEnd();
   Show(Pair(1, 3) + " = x^2^ - 3x + 3x - 9", kCol);
   Show(R"(               = \yx^2^ - 9)", kCol);
-  Say("The middle terms cancel:  their sum is 0.");
+  Say("The middle terms cancel:  -3x + 3x = 0.");
   PageEnd();
   Say(R"(To \cfactor\z means to go back, from x^2^ - 9 to the factors.)");
   Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "x^2^ - 49"));
@@ -82,13 +84,15 @@ void NotASquareOfADifference() {
 
 void NumberInFront() {
   NewScreen();
-  SayAt(3, Text("Let's factor {}.  Both terms are squares:", "4x^2^ - 25"));
-  Show("4x^2^ = (2x)^2^      25 = 5^2^", kCol);
+  SayAt(3, "Let's factor this expression.  Both terms are squares:");
+  ShowAt(6, "4x^2^ - 25", 12);
+  Note(7.2, 6, "the square of 2x");
+  Note(7.2, 18, "the square of 5");
   PageEnd();
   Say("We write the factors as the sum and difference of the values 2x and 5:");
   Show(R"(4x^2^ - 25 = \y)" + Pair(2, 5), kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  We need both square roots.)");
+  Say(R"(\yWatch out:\z  These give other products.)");
   PaperBox({R"(\r(4x + 25)(4x - 25)\z = 16x^2^ - 625)", R"(\r(5x + 2)(5x - 2)\z = 25x^2^ - 4)"});
   Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "64y^2^ - 1"));
   PageEnd();
@@ -110,7 +114,7 @@ void CommonFactorFirst() {
   PageEnd();
   Say(R"(To \cfactor completely\z, we take the common factor out first, and keep it in front.)");
   PageEnd();
-  Say(R"(\yWatch out:\z  Here 3 is left inside, or lost.)");
+  Say(R"(\yWatch out:\z  3 is left inside, or lost.)");
   PaperBox({R"(\r(3x + 15)(x - 5)\z    3x + 15 is 3(x + 5))",
             R"(\r(x + 5)(x - 5)\z      is x^2^ - 25)"});
   PageEnd();
@@ -127,16 +131,20 @@ void CommonFactorFirst() {
 void FourthPowers() {
   constexpr double kWide = 2;  // column of wide lines
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  x^4^ is a square, too.  Of what?)");
-  PageEnd();
-  Say("Of x^2^:  x^2^ times x^2^ is x^4^.");
+  SayAt(3, "x^4^ is a square, too:  x^2^ times x^2^.");
   Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kWide);
   Say(R"(\yTry it:\z  Which of the two factors can be factored again?)");
   PageEnd();
   Say("x^2^ - 4 is a difference of squares.  The sum x^2^ + 4 stays as it is.");
   Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kWide);
   PageEnd();
-  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
+  Say(R"(\yWatch out:\z  These are not right.)");
+  PaperBox({R"(\r(x^2^ + 4)(x^2^ - 4)\z  goes on to x^2^ - 4)",
+            R"(\r(x + 2)^2^(x - 2)^2^\z  x^2^ + 4 was a sum)"});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
   PageEnd();
   Say("81y^4^ is 9y^2^ times 9y^2^:");
   Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kWide);
@@ -241,21 +249,21 @@ void DifferenceOfTwoSquares::FactorAgain() const {
 }
 
 void DifferenceOfTwoSquares::Check() const {
+  const bool bare = asked_.form == DifferenceForm::Bare;
   const SquareDifference inner = asked_.Inner();
   const std::string middle = PowerTerm(inner.a * inner.b, inner.letter, 1);
-  Say(R"(\yCheck:\z  We multiply out.)");
-  Show(inner.SumTimesDifference(), kCol + 2);
-  Show("= " + inner.FirstSquare() + " - " + middle + " + " + middle + " - " +
-           NumStr(inner.LastSquare()),
-       kCol);
-  Show("= " + inner.WithoutCommon(), kCol);
+  WhiteBox({.row = 8, .rows = bare ? 7.0 : 10.0});
+  SayInBox(R"(\bCheck:\z  We multiply out.)");
+  SayInBox("  " + inner.SumTimesDifference());
+  SayInBox(Text("= {} - {} + {} - {}", inner.FirstSquare(), middle, middle, inner.LastSquare()));
+  SayInBox("= " + inner.WithoutCommon());
   PageEnd();
-  if (asked_.form == DifferenceForm::Bare) return;
+  if (bare) return;
   const std::string before = asked_.form == DifferenceForm::CommonFactor
                                  ? NumStr(asked_.common)
                                  : FactorOf(asked_.FirstRoot(), asked_.LastRoot());
-  Say("The other factor comes in:");
-  Show(before + "(" + inner.WithoutCommon() + ") = " + asked_.Asked(), kCol);
+  SayInBox("The other factor comes in:");
+  SayInBox(Text("  {}({}) = {}", before, inner.WithoutCommon(), asked_.Asked()));
   PageEnd();
 }
 

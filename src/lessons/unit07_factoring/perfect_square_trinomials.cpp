@@ -145,7 +145,7 @@ void TwoRoots() {
   Say(R"(\yTry it:\z  -5 times -5 is 25, too.  So 25 has two square roots.  Does a trinomial have )"
       "two?");
   PageEnd();
-  Say("Yes.  We reverse both signs of 2x - 5, and the square is the same:");
+  Say("Yes.  -2x + 5 has the same square:");
   Show("(-2x + 5)^2^ = 4x^2^ - 20x + 25", kCol);
   Say("We take the root that begins without a minus sign:  2x - 5.");
   PageEnd();

@@ -4,6 +4,7 @@
 
 #include "display/drawing.h"
 #include "display/grid.h"
+#include "lessons/page/boxes.h"
 #include "lessons/page/page_lines.h"
 #include "lessons/page/show.h"
 #include "lessons/page/slides.h"
@@ -26,6 +27,8 @@ void DrawPart(double row, double col, double width, double height, platform::Col
   isDrawBox(row, col, row + rows - 1, col + width - 1, platform::colour::White, 2);
 }
 
+constexpr double kLabelRows = 1.1;  // of the name of a side, above it
+
 // In the middle of an area of so many rows and columns; exponents take half a cell.
 void PrintInside(double row, double col, double rows, double cols, const std::string& text) {
   const double marks = text.find('^') == std::string::npos ? 0 : 2.5;
@@ -44,6 +47,9 @@ constexpr double kShortRows = 2;
 constexpr double kSide = 7.5;
 constexpr double kCorner = 3;
 constexpr double kRest = kSide - kCorner;
+constexpr double kSideRows = kSide * kRowsPerColumn;
+constexpr double kCornerRows = kCorner * kRowsPerColumn;
+constexpr double kRestRows = kRest * kRowsPerColumn;
 
 }  // namespace
 
@@ -54,8 +60,8 @@ SquareOfSum::SquareOfSum(double row, double col, const std::string& a, const std
   DrawPart(row + kLongRows, col, kLong, kShort, kStrip);
   DrawPart(row + kLongRows, col + kLong, kShort, kShort, kLastSquare);
   const double left = static_cast<double>(std::max(a.size(), b.size())) + 0.5;
-  PrintInside(row - 1.1, col, 1, kLong, a);
-  PrintInside(row - 1.1, col + kLong, 1, kShort, b);
+  PrintInside(row - kLabelRows, col, 1, kLong, a);
+  PrintInside(row - kLabelRows, col + kLong, 1, kShort, b);
   PrintInside(row, col - left, kLongRows, left, a);
   PrintInside(row + kLongRows, col - left, kShortRows, left, b);
 }
@@ -72,23 +78,26 @@ void SquareOfSum::PrintStrips(const std::string& area) const {
 
 SquareWithoutCorner::SquareWithoutCorner(double row, double col) : row_(row), col_(col) {
   DrawPart(row, col, kSide, kSide, kFirstSquare);
-  DrawPart(row + kRest * kRowsPerColumn, col + kRest, kCorner, kCorner, kLastSquare);
+  DrawPart(row + kRestRows, col + kRest, kCorner, kCorner, kLastSquare);
+  PrintInside(row - kLabelRows, col, 1, kSide, "5");
+  PrintInside(row + kSideRows, col + kRest, 1, kCorner, "2");
 }
 
 void SquareWithoutCorner::TakeCornerAway() const {
-  ClearCells(row_ + kRest * kRowsPerColumn + 0.1, col_ + kRest + 0.1, kCorner, 2);
+  ClearCells(row_ + kRestRows + 0.1, col_ + kRest + 0.1, kCorner, kCornerRows + 0.1);
 }
 
 void SquareWithoutCorner::CutInTwo() const {
   DrawPart(row_, col_, kSide, kRest, kFirstSquare);
-  DrawPart(row_ + kRest * kRowsPerColumn, col_, kRest, kCorner, kStrip);
+  DrawPart(row_ + kRestRows, col_, kRest, kCorner, kStrip);
 }
 
 void SquareWithoutCorner::MoveBeside() const {
-  constexpr double kDown = 2;  // rows
-  ClearCells(row_ + kRest * kRowsPerColumn + 0.1, col_ - 0.1, kSide, 2.2);
-  DrawPart(row_ + kDown, col_ + kSide, kCorner, kRest, kStrip);
-  SlideUp({row_ + kDown, col_ + kSide, kCorner + 0.2, kRest * kRowsPerColumn + 0.1}, kDown);
+  ClearCells(row_ + kRestRows + 0.1, col_ - 0.1, kSide + 0.2, kCornerRows + 1.1);
+  DrawPart(row_ + kCornerRows, col_ + kSide, kCorner, kRest, kStrip);
+  SlideUp({row_ + kCornerRows, col_ + kSide, kCorner + 0.2, kRestRows + 0.1}, kCornerRows);
+  PrintInside(row_ - kLabelRows, col_ + kSide, 1, kCorner, "2");
+  GoBelow();
 }
 
 }  // namespace course::polynomials

@@ -29,7 +29,8 @@ class SquareWithoutCorner {
   // The corner goes; then what is left falls into a part of 5 by 3 and one of 3 by 2.
   void TakeCornerAway() const;
   void CutInTwo() const;
-  // The lower part stands up and slides beside the upper one: a rectangle of 7 by 3.
+  // The lower part stands up and slides beside the upper one: a rectangle of 7 by 3.  The next
+  // Say goes on below.
   void MoveBeside() const;
 
  private:
