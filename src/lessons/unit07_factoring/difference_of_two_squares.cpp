@@ -19,21 +19,21 @@ std::string Pair(int a, int b, const std::string& letter = "x") {
 // --- Screen 1: a^2 - b^2 -------------------------------------------------------------------------
 
 void AreaWithoutCorner() {
-  constexpr double kRow = 6;
+  constexpr double kRow = 5.5;
   constexpr double kFigureCol = 4;
   const TextPlace beside = {.col = 17};
   NewScreen();
-  SayAt(3, "A square with the side 5 loses a corner with the side 2.");
+  SayAt(3, "A square loses its lower right corner:");
   const SquareWithoutCorner figure(kRow, kFigureCol);
   PageEnd();
   figure.TakeCornerAway();
-  SayAt(6, R"(\yTry it:\z  What area is left?)", beside);
+  SayAt(5.5, R"(\yTry it:\z  What area is left?)", beside);
   PageEnd();
-  SayAt(8.5, "5^2^ is 25, and 2^2^ is 4.", beside);
-  SayAt(10, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
+  SayAt(8, "5^2^ is 25, and 2^2^ is 4.", beside);
+  SayAt(9.5, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
   PageEnd();
   figure.CutInTwo();
-  SayAt(12.5, "We cut what is left in two.  The parts are 5 by 3 and 3 by 2.");
+  SayAt(12, "We cut what is left in two.  The parts are 5 by 3 and 3 by 2.");
   PageEnd();
   Say("The lower part stands up beside the upper one.");
   figure.MoveBeside();
@@ -114,13 +114,13 @@ void CommonFactorFirst() {
   PageEnd();
   Say(R"(To \cfactor completely\z, we take the common factor out first, and keep it in front.)");
   PageEnd();
-  Say(R"(\yWatch out:\z  3 is left inside, or lost.)");
-  PaperBox({R"(\r(3x + 15)(x - 5)\z    3x + 15 is 3(x + 5))",
-            R"(\r(x + 5)(x - 5)\z      is x^2^ - 25)"});
-  PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "20y^2^ - 45"));
+  SayAt(3, R"(\yWatch out:\z  3 must not stay inside, or be lost.)");
+  PaperBox({"3x^2^ - 75 = 3(x + 5)(x - 5)", R"(\rnot (3x + 15)(x - 5),\z  3x + 15 is 3(x + 5))",
+            R"(\rnot (x + 5)(x - 5),\z    that is x^2^ - 25)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "20y^2^ - 45"));
   PageEnd();
   Say("5 is a factor of both terms.  Then 4y^2^ is 2y times 2y, and 9 is 3 times 3:");
   Show("20y^2^ - 45 = 5(4y^2^ - 9)", kCol);
@@ -139,16 +139,14 @@ void FourthPowers() {
   Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kWide);
   PageEnd();
   Say(R"(\yWatch out:\z  These are not right.)");
-  PaperBox({R"(\r(x^2^ + 4)(x^2^ - 4)\z  goes on to x^2^ - 4)",
-            R"(\r(x + 2)^2^(x - 2)^2^\z  x^2^ + 4 was a sum)"});
+  PaperBox({R"(\r(x^2^ + 4)(x^2^ - 4)\z  stops too early)",
+            R"(\r(x + 2)^2^(x - 2)^2^\z  but x^2^ + 4 is a sum)"});
   PageEnd();
-
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
+  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
   PageEnd();
   Say("81y^4^ is 9y^2^ times 9y^2^:");
   Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kWide);
-  Show(R"(          = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
+  Show(R"(         = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
   PageEnd();
 }
 
@@ -252,7 +250,7 @@ void DifferenceOfTwoSquares::Check() const {
   const bool bare = asked_.form == DifferenceForm::Bare;
   const SquareDifference inner = asked_.Inner();
   const std::string middle = PowerTerm(inner.a * inner.b, inner.letter, 1);
-  WhiteBox({.row = 8, .rows = bare ? 7.0 : 10.0});
+  WhiteBox({.row = 8.5, .rows = bare ? 7.0 : 10.0});
   SayInBox(R"(\bCheck:\z  We multiply out.)");
   SayInBox("  " + inner.SumTimesDifference());
   SayInBox(Text("= {} - {} + {} - {}", inner.FirstSquare(), middle, middle, inner.LastSquare()));

@@ -27,12 +27,24 @@ void DrawPart(double row, double col, double width, double height, platform::Col
   isDrawBox(row, col, row + rows - 1, col + width - 1, platform::colour::White, 2);
 }
 
-constexpr double kLabelRows = 1.1;  // of the name of a side, above it
+constexpr double kLabelRows = 1.3;  // of the name of a side, above it
+// What is cleared or slides begins so much lower, and further right, than a mark on the same cell.
+constexpr double kLower = 0.2;
+constexpr double kRight = 0.1;
 
 // In the middle of an area of so many rows and columns; exponents take half a cell.
 void PrintInside(double row, double col, double rows, double cols, const std::string& text) {
   const double marks = text.find('^') == std::string::npos ? 0 : 2.5;
   ShowAt(row + (rows - 1) / 2, text, col + (cols - (static_cast<double>(text.size()) - marks)) / 2);
+}
+
+// The same without a ground of its own, on a coloured part.
+void PrintArea(double row, double col, double rows, double cols, const std::string& text) {
+  constexpr double kSize = 20;  // points
+  const double marks = text.find('^') == std::string::npos ? 0 : 2.5;
+  const double width = static_cast<double>(text.size()) - marks;
+  PrintNiceHeading(0, text, row + (rows - 1) / 2, col + (cols - width) / 2, "Courier New", true,
+                   false, kSize, platform::colour::White, platform::colour::White, 0);
 }
 
 // --- The square of a sum -------------------------------------------------------------------------
@@ -67,13 +79,13 @@ SquareOfSum::SquareOfSum(double row, double col, const std::string& a, const std
 }
 
 void SquareOfSum::PrintSquares(const std::string& first, const std::string& last) const {
-  PrintInside(row_, col_, kLongRows, kLong, first);
-  PrintInside(row_ + kLongRows, col_ + kLong, kShortRows, kShort, last);
+  PrintArea(row_, col_, kLongRows, kLong, first);
+  PrintArea(row_ + kLongRows, col_ + kLong, kShortRows, kShort, last);
 }
 
 void SquareOfSum::PrintStrips(const std::string& area) const {
-  PrintInside(row_, col_ + kLong, kLongRows, kShort, area);
-  PrintInside(row_ + kLongRows, col_, kShortRows, kLong, area);
+  PrintArea(row_, col_ + kLong, kLongRows, kShort, area);
+  PrintArea(row_ + kLongRows, col_, kShortRows, kLong, area);
 }
 
 SquareWithoutCorner::SquareWithoutCorner(double row, double col) : row_(row), col_(col) {
@@ -84,7 +96,7 @@ SquareWithoutCorner::SquareWithoutCorner(double row, double col) : row_(row), co
 }
 
 void SquareWithoutCorner::TakeCornerAway() const {
-  ClearCells(row_ + kRestRows + 0.1, col_ + kRest + 0.1, kCorner, kCornerRows + 0.1);
+  ClearCells(row_ + kRestRows + 0.1 - kLower, col_ + kRest + 0.1 - kRight, kCorner, kCornerRows);
 }
 
 void SquareWithoutCorner::CutInTwo() const {
@@ -93,9 +105,12 @@ void SquareWithoutCorner::CutInTwo() const {
 }
 
 void SquareWithoutCorner::MoveBeside() const {
-  ClearCells(row_ + kRestRows + 0.1, col_ - 0.1, kSide + 0.2, kCornerRows + 1.1);
+  ClearCells(row_ + kRestRows - kLower, col_ - 0.1 - kRight, kSide + 0.3, kCornerRows + 1.3);
   DrawPart(row_ + kCornerRows, col_ + kSide, kCorner, kRest, kStrip);
-  SlideUp({row_ + kCornerRows, col_ + kSide, kCorner + 0.2, kRestRows + 0.1}, kCornerRows);
+  SlideUp({row_ + kCornerRows - kLower, col_ + kSide - kRight, kCorner + 0.3, kRestRows + 0.2},
+          kCornerRows);
+  DrawPart(row_, col_, kSide, kRest, kFirstSquare);  // their edges in full
+  DrawPart(row_, col_ + kSide, kCorner, kRest, kStrip);
   PrintInside(row_ - kLabelRows, col_ + kSide, 1, kCorner, "2");
   GoBelow();
 }
