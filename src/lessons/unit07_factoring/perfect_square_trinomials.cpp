@@ -59,7 +59,7 @@ void AreaOfTheSquare() {
   constexpr double kFigureCol = 7;
   const TextPlace beside = {.col = 19};
   NewScreen();
-  SayAt(3, "This square has the side x + 3:");
+  SayAt(3, "A square with the side x grows to x + 3:");
   const SquareOfSum figure(kRow, kFigureCol, "x", "3");
   PageEnd();
   SayAt(5, R"(Its area is (x + 3)^2^.  \yTry it:\z  What is the area of each of its four parts?)",
@@ -132,16 +132,15 @@ void NumberInFront() {
   PaperBox({R"(\r(2x + 5)^2^\z has the middle term +20x)", R"(\r(5x - 2)^2^\z begins with 25x^2^)",
             R"(\r(4x - 25)^2^\z begins with 16x^2^)"});
   PageEnd();
-
-  NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  For {} Tom takes half of 20.  He writes 2x - 10.  What is wrong?)",
-                TrinomialText(SquareOf(root))));
-  PageEnd();
-  Say("10 times 10 is 100, but the last term is 25.  Half of 20 is the \\yproduct\\z of 2 and 5.");
+  Say(R"(\yTry it:\z  Tom takes half of 20.  He writes 2x - 10.  What is wrong?)");
   PageEnd();
 }
 
 void TwoRoots() {
+  NewScreen();
+  SayAt(3, R"(In (2x - 10)^2^ the last term is 100, not 25.  Half of 20 is the \yproduct\z of 2 )"
+           "and 5.");
+  PageEnd();
   Say(R"(\yTry it:\z  -5 times -5 is 25, too.  So 25 has two square roots.  Does a trinomial have )"
       "two?");
   PageEnd();

@@ -67,15 +67,28 @@ constexpr double kRestRows = kRest * kRowsPerColumn;
 
 SquareOfSum::SquareOfSum(double row, double col, const std::string& a, const std::string& b)
     : row_(row), col_(col) {
+  const double left = static_cast<double>(std::max(a.size(), b.size())) + 0.5;
   DrawPart(row, col, kLong, kLong, kFirstSquare);
+  PrintInside(row - kLabelRows, col, 1, kLong, a);
+  PrintInside(row, col - left, kLongRows, left, a);
+  SlideStripsIn();
+  DrawPart(row, col, kLong, kLong, kFirstSquare);  // its edges in full
   DrawPart(row, col + kLong, kShort, kLong, kStrip);
   DrawPart(row + kLongRows, col, kLong, kShort, kStrip);
   DrawPart(row + kLongRows, col + kLong, kShort, kShort, kLastSquare);
-  const double left = static_cast<double>(std::max(a.size(), b.size())) + 0.5;
-  PrintInside(row - kLabelRows, col, 1, kLong, a);
   PrintInside(row - kLabelRows, col + kLong, 1, kShort, b);
-  PrintInside(row, col - left, kLongRows, left, a);
   PrintInside(row + kLongRows, col - left, kShortRows, left, b);
+}
+
+void SquareOfSum::SlideStripsIn() const {
+  constexpr double kAway = 1;  // rows or columns
+  constexpr double kEdge = 0.3;
+  DrawPart(row_, col_ + kLong + kAway, kShort, kLong, kStrip);
+  SlideLeft({row_ - kLower, col_ + kLong + kAway - kRight, kShort + kEdge, kLongRows + kEdge},
+            kAway);
+  DrawPart(row_ + kLongRows + kAway, col_, kLong, kShort, kStrip);
+  SlideUp({row_ + kLongRows + kAway - kLower, col_ - kRight, kLong + kEdge, kShortRows + kEdge},
+          kAway);
 }
 
 void SquareOfSum::PrintSquares(const std::string& first, const std::string& last) const {

@@ -8,7 +8,7 @@ namespace course::polynomials {
 
 // A square with the side a + b, cut into the square of a, two strips a by b, and the square of b.
 // It takes 6 rows and 9.4 columns from its upper left cell on; the names of the sides stand above
-// it and at its left.
+// it and at its left.  The square of a stands there first, and the strips slide to it.
 class SquareOfSum {
  public:
   SquareOfSum(double row, double col, const std::string& a, const std::string& b);
@@ -17,6 +17,8 @@ class SquareOfSum {
   void PrintStrips(const std::string& area) const;
 
  private:
+  void SlideStripsIn() const;
+
   double row_;
   double col_;
 };
