@@ -1,8 +1,8 @@
 // The student can tell whether a trinomial such as 4x^2 - 20x + 25 is the square of a binomial, by
 // the test of its middle term, and finds that binomial.
 //
-// A problem is a binomial squared.  The wrong choices come in pairs, each with both signs, so that
-// no box looks more like the others than the right one's neighbour does.
+// A problem is a binomial squared.  Every wrong choice stands there with both signs, as the right
+// one does, so that the box most like the others is no hint.
 #include "lessons/families/polynomials/square_figures.h"
 #include "lessons/families/polynomials/trinomial.h"
 #include "lessons/lesson.h"

@@ -21,8 +21,8 @@ int DrawCommonFactor(RandomStream& random) {
   return std::stoi(std::string(kCommonFactors.substr(static_cast<std::size_t>(at), 2)));
 }
 
-// Equal values would make the two squares one number; values with a common factor would leave it
-// in the factors.
+// Equal values can be exchanged without a mistake; values with a common factor would leave it in
+// the factors; and large numbers take time that the lesson is not about.
 bool IsAdmitted(const SquareDifference& drawn) {
   if (drawn.a == drawn.b || Gcf(drawn.a, drawn.b) > 1) return false;
   const int larger = std::max(drawn.a, drawn.b);
