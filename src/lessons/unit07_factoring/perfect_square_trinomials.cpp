@@ -32,7 +32,7 @@ std::string FirstTerm(const Binomial& binomial) {
   return CoefText(binomial.lead) + "x";
 }
 
-// "2 x 2x x 5 = 20x": what the middle term has to be, but for its sign.
+// "2(2x)(5) = 20x": what the middle term has to be, but for its sign.
 std::string TwiceTheProduct(const Binomial& binomial) {
   const int size = std::abs(binomial.constant);
   return Text("2({})({}) = {}x", FirstTerm(binomial), size, 2 * binomial.lead * size);
@@ -219,14 +219,14 @@ void PerfectSquareTrinomials::DrawProblem(RandomStream& random) {
   root_.lead = random.Rand(1, kLargest);
   root_.constant = random.Rand(1, kLargest);
   if (random.Rnd() - 0.5 < 0) root_.constant = -root_.constant;
-  const int kind = random.Rand(1, 7);  // two in seven for each mistake; else numbers at random
+  const int pair = random.Rand(1, 7);  // 1 is a pair of numbers at random
 
   problem.question = {"Find the square root of this polynomial:", TrinomialText(Asked())};
   Choices choices(problem, choice_kind::FourShuffledAndNone, BinomialText, 5);
   choices.Right(root_);
   choices.Wrong(kOtherSign, WithOtherSign(root_));
-  if (kind > 1) {
-    const auto [mistake, binomial] = MistakesWith(root_)[static_cast<std::size_t>(kind / 2 - 1)];
+  if (pair > 1) {
+    const auto [mistake, binomial] = MistakesWith(root_)[static_cast<std::size_t>(pair / 2 - 1)];
     choices.Wrong(mistake, binomial);
     choices.Wrong(mistake + " and overlooks the sign", WithOtherSign(binomial));
   }
@@ -273,8 +273,10 @@ void PerfectSquareTrinomials::TestMiddleTerm() const {
   Show(TwiceTheProduct(root_), kCol);
   PageEnd();
   const int middle = Asked().middle;
-  Say(Text("It fits, and its sign is {}.  So the binomial has a {} sign, too:",
-           middle > 0 ? "plus" : "minus", middle > 0 ? "plus" : "minus"));
+  const std::string sign = middle > 0 ? "plus" : "minus";
+  Say(Text(
+      "The trinomial has {}x.  It fits, and its sign is {}.  So the binomial has a {} sign, too:",
+      middle, sign, sign));
   Show(R"(\y)" + BinomialText(root_), kCol);
   PageEnd();
 }
