@@ -1,11 +1,14 @@
 // The student can write a number as a product of primes: finds a divisor by the tests of 2, 3 and
-// 5, splits the number in a factor tree until only primes are left, and writes equal ones as powers.
+// 5, splits the number in a factor tree until only primes are left, and writes equal ones as
+// powers.
 //
 // A number has four or five prime factors.  Two of the wrong choices are made from the right
 // factors, and one from factors that are wrong already, so that none of them is the odd one out.
+#include "lessons/families/factoring/divisor_tests.h"
 #include "lessons/families/factoring/factor_list.h"
 #include "lessons/families/factoring/factor_tree.h"
 #include "lessons/families/fractions/fraction_steps.h"
+#include "lessons/families/properties/property_pages.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -13,41 +16,296 @@ namespace {
 
 using namespace factoring;
 
-// --- Teaching screens --------------------------------------------------------
+using platform::colour::Cyan;
+using platform::colour::Yellow;
+using properties::DrawDots;
 
-void Screen1() {
+const std::string kTimes = " " + tutor::Times + " ";
+
+// --- Screen 1: divisors
+// ----------------------------------------------------------------------------
+
+void DotRectangle(double row, double col, int rows, int columns) {
+  for (int i = 0; i < rows; ++i) DrawDots(row + i, col, columns, Cyan);
+}
+
+void EqualRows() {
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "12 dots can stand in 3 rows of 4:");
+  DotRectangle(5, 4, 3, 4);
+  ShowAt(8.5, "3" + kTimes + "4 = 12", 3);
+  SayAt(12.5, R"(\yTry it:\z  Which other equal rows can 12 dots make?)");
+  PageEnd();
+  DotRectangle(5, 19, 2, 6);
+  ShowAt(8.5, "2" + kTimes + "6 = 12", 19);
+  DotRectangle(10.5, 4, 1, 12);
+  ShowAt(10.5, "1" + kTimes + "12 = 12", 29);
+  SayAt(15,
+        "2 rows of 6, or 1 row of 12.  They can be turned:  4 rows of 3, 6 rows of 2, 12 rows of "
+        "1.");
   PageEnd();
 }
 
-void Screen2() {
+void Divisors() {
   NewScreen();
-  Say("Screen 2 is not written yet.");
+  SayAt(3, R"(A \cdivisor\z of a number divides it, and nothing is left over.  We also call it a )"
+           "factor.  Divisors come in pairs:");
+  PaperBox({"1" + kTimes + "12      2" + kTimes + "6      3" + kTimes + "4"});
+  Say("So the divisors of 12 are 1, 2, 3, 4, 6 and 12.");
+  Say(R"(\yTry it:\z  Is 5 a divisor of 12?)");
+  PageEnd();
+  DotRectangle(15, 4, 2, 5);
+  DotRectangle(17, 4, 1, 2);
+  SayAt(15, "No.  After 2 rows of 5, 2 dots are left over.", {.col = 17});
+  Say(R"(\yTry it:\z  What are the divisors of 10?)");
+  PageEnd();
+  SayAt(21, Text(R"({} and {}:  the divisors are \y1, 2, 5 and 10\z.)", "1" + kTimes + "10",
+                 "2" + kTimes + "5"));
   PageEnd();
 }
 
-void Screen3() {
+// --- Screen 2: primes
+// ------------------------------------------------------------------------------
+
+void OnlyTwoDivisors() {
   NewScreen();
-  Say("Screen 3 is not written yet.");
+  SayAt(3, "7 dots do not make a rectangle of two rows or more.  They make one long row:");
+  DotRectangle(6, 4, 1, 7);
+  ShowAt(6, "1" + kTimes + "7 = 7", 22);
+  Say(R"(A whole number greater than 1 is a \cprime\z when its only divisors are 1 and itself.)");
+  Say(R"(With more divisors, it is \ccomposite\z.  12 is composite.)");
+  PageEnd();
+  Say("1 is neither prime nor composite:  it has only one divisor.");
+  Say(R"(\yTry it:\z  Which of 2, 9 and 11 are primes?)");
+  PageEnd();
+  Say(Text(R"(\y2 and 11\z.  9 is odd, but it is composite:  {}.)", "9 = 3" + kTimes + "3"));
   PageEnd();
 }
 
-void Screen4() {
+// The numbers from 1 to 30 in three rows; some of them are crossed out, others framed.
+class NumberGrid {
+ public:
+  static constexpr int kLast = 30;
+
+  explicit NumberGrid(double row) : row_(row) {
+    for (int n = 1; n <= kLast; ++n) ShowAt(RowOf(n), NumStr(n), ColumnOf(n));
+  }
+  void CrossOut(int n) const {
+    isDrawDiagonalLineWithColor(RowOf(n) + 0.4, ColumnOf(n) - 0.4, RowOf(n) - 0.2,
+                                ColumnOf(n) + WidthOf(n) - 0.6, 3, Cyan);
+  }
+  // All multiples of a number but itself.
+  void CrossOutMultiples(int of) const {
+    for (int n = 2 * of; n <= kLast; n += of) CrossOut(n);
+  }
+  void Frame(int n) const {
+    constexpr double kSide = 0.4;
+    ShowAt(RowOf(n), R"(\y)" + NumStr(n), ColumnOf(n));
+    isDrawRoundRect(RowOf(n) + 0.08, ColumnOf(n) - kSide, RowOf(n) + 0.16,
+                    ColumnOf(n) + WidthOf(n) - 1 + kSide, 2, Yellow);
+  }
+
+ private:
+  static constexpr int kInRow = 10;
+  double RowOf(int n) const { return row_ + 1.5 * ((n - 1) / kInRow); }
+  static double ColumnOf(int n) { return 2 + 3.8 * ((n - 1) % kInRow); }
+  static double WidthOf(int n) { return static_cast<double>(NumStr(n).size()); }
+
+  double row_;
+};
+
+void Sieve() {
   NewScreen();
-  Say("Screen 4 is not written yet.");
+  SayAt(3, "Let's find all primes up to 30.  1 is none, so we cross it out.");
+  const NumberGrid grid(6);
+  grid.CrossOut(1);
+  SayAt(11,
+        "2 is a prime.  But every other number with the divisor 2 is composite:  4, 6, 8, and "
+        "so on.");
+  PageEnd();
+  grid.CrossOutMultiples(2);
+  Say(R"(\yTry it:\z  3 is a prime, too.  Which numbers does it cross out?)");
+  PageEnd();
+  grid.CrossOutMultiples(3);
+  Say("6, 9, 12, 15, and so on.  9, 15, 21 and 27 were still there.");
+  Say(R"(\yTry it:\z  The next prime is 5.  Which number is new?)");
+  PageEnd();
+  grid.CrossOutMultiples(5);
+  for (int n = 2; n <= NumberGrid::kLast; ++n)
+    if (IsPrime(n)) grid.Frame(n);
+  ClearBelow(11);
+  SayAt(11,
+        R"(25 is new.  What is left is prime:  \y2, 3, 5, 7, 11, 13, 17, 19, 23\z and \y29\z.)");
+  Say(Text("7 crosses out nothing new:  14, 21 and 28 are gone, and {} is greater than 30.",
+           "7" + kTimes + "7"));
   PageEnd();
 }
 
-void Screen5() {
+// --- Screen 3: the tests of 2, 3 and 5
+// ---------------------------------------------------------------
+
+void LastDigits() {
   NewScreen();
-  Say("Screen 5 is not written yet.");
+  SayAt(3, "Can we see a divisor without dividing?  Look at the last digits:");
+  PaperBox(
+      {"divisor 2:  2   4   6   8  10  12  14  16", "divisor 5:  5  10  15  20  25  30  35  40"});
+  Say(R"(A number has the divisor 2 exactly when its last digit is \y0, 2, 4, 6 or 8\z.)");
+  Say(R"(It has the divisor 5 exactly when its last digit is \y0 or 5\z.)");
+  PageEnd();
+  Say(R"(\yTry it:\z  Which of 34, 45 and 60 have the divisor 2?  Which have 5?)");
+  PageEnd();
+  Say("34 and 60 have the divisor 2.  45 and 60 have the divisor 5.");
   PageEnd();
 }
 
-void Screen6() {
+void SumOfDigits() {
   NewScreen();
-  Say("Screen 6 is not written yet.");
+  SayAt(3, "For 3 the last digit does not help:  3 is a divisor of 33, but not of 23.");
+  Say("Look at 54.  Each of its 5 tens is 9 + 1, and 9 has the divisor 3.  So each ten leaves 1 "
+      "over:");
+  ShowAt(10.5, R"(5 from the tens, and 4 ones:  \y5 + 4 = 9\z)", 2);
+  SayAt(12, "3 is a divisor of 9, so it is a divisor of 54.");
+  PageEnd();
+  RuleBox("Is It a Divisor?",
+          {"2:  the last digit is 0, 2, 4, 6 or 8", "3:  3 is a divisor of the sum",
+           "of the digits", "5:  the last digit is 0 or 5"},
+          {.width = 34});
+  Say(R"(\yTry it:\z  Is 3 a divisor of 87?  Of 124?)");
+  PageEnd();
+  Say(Text("Of 87, yes:  {}.  Of 124, no:  {}.", DigitSumText(87), DigitSumText(124)));
+  PageEnd();
+}
+
+// --- Screen 4: factor trees
+// --------------------------------------------------------------------------
+
+void FirstTree() {
+  NewScreen();
+  SayAt(3, R"(We want to write 60 as a product of \yprimes\z.  We split it into two factors:)");
+  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 6, 14);
+  tree.Grow();
+  ShowAt(8, "60 = 6" + kTimes + "10", 28);
+  SayAt(14, R"(\yTry it:\z  6 and 10 are not primes.  How can we split them?)");
+  PageEnd();
+  tree.Grow();
+  ClearBelow(14);
+  SayAt(14, Text("{}, and {}.  A branch ends at a prime.  This is a \\cfactor tree\\z.",
+                 "6 = 2" + kTimes + "3", "10 = 2" + kTimes + "5"));
+  PageEnd();
+  ShowAt(12, "60 =", 9);
+  tree.DropPrimes(12);
+  SayAt(17, R"(The primes at its ends, in order, are the \cprime factorization\z:)");
+  PaperBox({"60 = 2" + kTimes + "2" + kTimes + "3" + kTimes + "5"});
+  PageEnd();
+}
+
+void NotYetPrimes() {
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  Ann writes {}.  Is this the prime factorization of 36?)",
+                "36 = 4" + kTimes + "9"));
+  PageEnd();
+  Say("No.  4 and 9 are composite.  The tree must go on:");
+  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(3))), 8, 14);
+  tree.GrowWhole();
+  PageEnd();
+  ShowAt(14, "36 =", 9);
+  tree.DropPrimes(14);
+  Say(R"(\yWatch out:\z  9, 15, 21, 27, 33, 39 and 51 are odd, but they are not primes.  3 is a )"
+      "divisor of each.");
+  Say(R"(\yTry it:\z  Why is 51 not a prime?)");
+  PageEnd();
+  Say(Text("{}, so 3 is a divisor:  {}.", DigitSumText(51), "51 = 3" + kTimes + "17"));
+  PageEnd();
+}
+
+// --- Screen 5: always the same primes
+// ------------------------------------------------------------------
+
+void TwoTrees() {
+  NewScreen();
+  SayAt(3, Text("Ann starts with {}, and Ben with {}.  Will they find different primes?",
+                "6" + kTimes + "10", "4" + kTimes + "15"));
+  FactorTreeFigure anns(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 7, 4);
+  FactorTreeFigure bens(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(5))), 7, 24);
+  anns.Grow();
+  bens.Grow();
+  PageEnd();
+  anns.GrowWhole();
+  bens.GrowWhole();
+  SayAt(13.5, "No.  Both have two factors 2, one 3 and one 5.");
+  Say(R"(Every whole number greater than 1 has \yonly one\z prime factorization.  Only the order of )"
+      "the factors can differ.  We write them from the smallest to the largest.");
+  PageEnd();
+}
+
+constexpr double kReasonCol = 22;
+
+// The number of a level is split by its smallest prime, with the reason beside it.
+void SplitWithReason(FactorTreeFigure& tree, int level, int number, int prime) {
+  SayAt(tree.RowOf(level), ReasonForDivisor(number, prime), {.col = kReasonCol});
+  tree.Grow();
+}
+
+void SmallestPrimeFirst() {
+  NewScreen();
+  SayAt(3, R"(One way always works:  we split off the \ysmallest prime\z, again and again.)");
+  FactorTreeFigure tree(TreeOfSmallestPrimes(84), 6, 3);
+  SplitWithReason(tree, 0, 84, 2);
+  PageEnd();
+  SplitWithReason(tree, 1, 42, 2);
+  SplitWithReason(tree, 2, 21, 3);
+  SayAt(14, "The tree ends here:");
+  AddLine(EndAtPrime(7));
+  PageEnd();
+  ShowAt(17, R"(\y= 84\z)", 18);
+  tree.DropPrimes(17);
+  SayAt(19, R"(\yTry it:\z  What is the prime factorization of 154?)");
+  PageEnd();
+  NewScreen();
+  SayAt(3,
+        "2 is the first prime of 154.  What comes next?  The tests of 3 and 5 fail, so we try 7, "
+        "11, 13, and so on:");
+  FactorTreeFigure larger(TreeOfSmallestPrimes(154), 7, 3);
+  SplitWithReason(larger, 0, 154, 2);
+  SplitWithReason(larger, 1, 77, 7);
+  PageEnd();
+  AddLine("");
+  SayAt(13, EndAtPrime(11));
+  larger.DropPrimes(15);
+  ShowAt(15, R"(\y= 154\z)", 15);
+  PageEnd();
+}
+
+// --- Screen 6: powers
+// ----------------------------------------------------------------------------------
+
+void EqualFactors() {
+  NewScreen();
+  SayAt(3, "Equal factors are written as a power.  72 has three factors 2 and two factors 3:");
+  ShowAt(6, "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + "3", 6);
+  ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
+  SayAt(10,
+        "The exponent tells how many times a prime is a factor.  The exponent 1 is not written.");
+  PageEnd();
+  Say(Text(R"(\yCheck:\z  {} is 8, and {} is 9.  {}.)", "2^3^", "3^2^", "8" + kTimes + "9 = 72"));
+  Say(R"(\yTry it:\z  Ben writes 72 = 2)" + kTimes + "3.  What has he forgotten?");
+  PageEnd();
+  Say("How many times each prime is a factor.  His product is only 6.");
+  PageEnd();
+}
+
+void FormsOfPowers() {
+  NewScreen();
+  SayAt(3, Text(R"(\yWatch out:\z  The prime stands below, and the exponent counts.  40 has three )"
+                "factors 2:"));
+  PaperBox({"40 = 2^3^" + kTimes + R"(5,   \rnot 3^2^)" + kTimes + R"(5\z)"});
+  Say("1 is not a prime.  It does not belong there:");
+  PaperBox({"40 = 2^3^" + kTimes + R"(5,   \rnot 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
+  Say(R"(\yTry it:\z  What is the prime factorization of 90?)");
+  PageEnd();
+  Say(Text("{}, {}, and {}.  In powers:", Words{"90 = 2" + kTimes + "45"},
+           Words{"45 = 3" + kTimes + "15"}, Words{"15 = 3" + kTimes + "5"}));
+  Show(R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 6);
   PageEnd();
 }
 
@@ -59,7 +317,9 @@ class PrimeFactorization final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{Screen1}, {Screen2}, {Screen3}, {Screen4}, {Screen5}, {Screen6}};
+    return {{EqualRows, Divisors},          {OnlyTwoDivisors, Sieve},
+            {LastDigits, SumOfDigits},      {FirstTree, NotYetPrimes},
+            {TwoTrees, SmallestPrimeFirst}, {EqualFactors, FormsOfPowers}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -69,6 +329,11 @@ class PrimeFactorization final : public LessonScript {
   int Number() const { return ProductOf(primes_); }
   void OfferChoices(RandomStream& random);
 
+  void BeginExplanation() const;
+  void GrowTree() const;
+  void WritePowers() const;
+  void Check() const;
+
   FactorList primes_;  // four or five, two of them different at least
 };
 
@@ -77,13 +342,13 @@ class PrimeFactorization final : public LessonScript {
 // Three characters a prime; the small ones come often.
 constexpr std::string_view kPrimeTable = "  2  2  2  2  2  2  3  3  3  3  5  5  5  7  7 11 13 17";
 constexpr int kTableSize = static_cast<int>(kPrimeTable.size() / 3);
-constexpr int kLargestNumber = 500;  // that is divided by hand
+constexpr int kLargestNumber = 720;  // that is divided by hand
 
 int PrimeInTable(int i) {
   return std::atoi(std::string(kPrimeTable.substr(static_cast<std::size_t>(i - 1) * 3, 3)).c_str());
 }
 
-// Of the whole table for the first factor, of its first three quarters for the others.
+// Of the whole table for the first factor, of its smaller primes for the others.
 int DrawPrime(RandomStream& random, double ratio) {
   return PrimeInTable(static_cast<int>(random.Rnd() * kTableSize * ratio) + 1);
 }
@@ -98,7 +363,7 @@ void PrimeFactorization::DrawProblem(RandomStream& random) {
     const int count = random.Rand(4, 5);
     primes_.clear();
     for (int i = 0; i < count; ++i)
-      primes_ = WithFactor(primes_, DrawPrime(random, i == 0 ? 1 : 0.75));
+      primes_ = WithFactor(primes_, DrawPrime(random, i == 0 ? 1 : 0.8));
   } while (!IsWorthSolving());
   problem.question = {Text("What is the prime factorization of {}?", Number()),
                       "Every factor must be a prime number."};
@@ -110,21 +375,29 @@ struct FormMistake {
   FactorList (*made)(const FactorList& primes, int first, int second);
 };
 constexpr FormMistake kNotPrime = {"leaves a factor that is not prime", Merged};
-constexpr FormMistake kOneIsPrime = {
-    "takes 1 for a prime", [](const FactorList& primes, int, int) { return WithFactor(primes, 1); }};
-constexpr FormMistake kExchanged = {
-    "exchanges base and exponent", [](const FactorList& primes, int base, int) {
-      FactorList exchanged = primes;
-      const int exponent = CountOf(primes, base);
-      for (int i = 0; i < exponent; ++i) exchanged = WithoutFactor(exchanged, base);
-      for (int i = 0; i < base; ++i) exchanged = WithFactor(exchanged, exponent);
-      return exchanged;
-    }};
+constexpr FormMistake kOneIsPrime = {"takes 1 for a prime", [](const FactorList& primes, int, int) {
+                                       return WithFactor(primes, 1);
+                                     }};
+constexpr FormMistake kExchanged = {"exchanges base and exponent",
+                                    [](const FactorList& primes, int base, int) {
+                                      FactorList exchanged = primes;
+                                      const int exponent = CountOf(primes, base);
+                                      for (int i = 0; i < exponent; ++i)
+                                        exchanged = WithoutFactor(exchanged, base);
+                                      for (int i = 0; i < base; ++i)
+                                        exchanged = WithFactor(exchanged, exponent);
+                                      return exchanged;
+                                    }};
 
-// Whether 2^3 can be read as 3^2 beside the other factors.
-bool CanBeExchanged(const FactorList& primes, int base) {
-  const int exponent = CountOf(primes, base);
-  return exponent > 1 && exponent != base && CountOf(primes, exponent) == 0;
+// A prime, not the one given, that can be exchanged with its exponent: 2^3 for 3^2, where no other
+// 3 is a factor.  0 without one.
+int PrimeToExchange(const FactorList& primes, int miscounted) {
+  for (const int base : Different(primes)) {
+    const int exponent = CountOf(primes, base);
+    if (base != miscounted && exponent > 1 && exponent != base && CountOf(primes, exponent) == 0)
+      return base;
+  }
+  return 0;
 }
 
 void PrimeFactorization::OfferChoices(RandomStream& random) {
@@ -135,17 +408,18 @@ void PrimeFactorization::OfferChoices(RandomStream& random) {
   };
   const int recipe = random.Index(8);
   const bool twice = random.Sign() > 0;
-  const bool exchanges = recipe >= 6 && CanBeExchanged(primes_, prime(0)) && prime(2) != prime(0);
-  const FormMistake& form = exchanges ? kExchanged : recipe == 5 ? kOneIsPrime : kNotPrime;
+  const int exchanged = recipe >= 6 ? PrimeToExchange(primes_, prime(2)) : 0;
+  const FormMistake& form = exchanged != 0 ? kExchanged : recipe <= 2 ? kOneIsPrime : kNotPrime;
+  const int first = exchanged != 0 ? exchanged : prime(0);
   const FactorList miscounted =
       twice ? WithFactor(primes_, prime(2)) : WithoutFactor(primes_, prime(2));
   const std::string miscounts = twice ? "counts a prime factor twice" : "loses a prime factor";
 
   Choices<FactorList> choices(problem, choice_kind::FiveShuffled, PowersText);
   choices.Right(primes_);
-  choices.Wrong(form.name, form.made(primes_, prime(0), prime(1)));
+  choices.Wrong(form.name, form.made(primes_, first, prime(1)));
   choices.Wrong(miscounts, miscounted);
-  choices.Wrong(form.name + (" and " + miscounts), form.made(miscounted, prime(0), prime(1)));
+  choices.Wrong(form.name + (" and " + miscounts), form.made(miscounted, first, prime(1)));
   if (recipe % 2 == 0) choices.Wrong("writes each prime factor only once", Different(primes_));
   choices.Wrong(kNotPrime.name, Merged(primes_, prime(1), prime(2)));
   choices.Wrong(kNotPrime.name, Merged(primes_, prime(0), prime(2)));
@@ -167,10 +441,66 @@ void PrimeFactorization::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void PrimeFactorization::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
-  PageEnd();
+  GrowTree();
+  WritePowers();
+  Check();
   Conclude(problem);
+}
+
+void PrimeFactorization::BeginExplanation() const {
+  ProblemBanner();
+  SayAt(4.5, problem.question[0]);
+}
+
+void PrimeFactorization::GrowTree() const {
+  BeginExplanation();
+  SayAt(6, "We split off the smallest prime, again and again.");
+  FactorTreeFigure tree(TreeOfSmallestPrimes(Number()), 8.5, 3);
+  PageEnd();
+  int rest = Number();
+  for (int level = 0; level + 1 < tree.Levels(); ++level) {
+    const int prime = primes_[static_cast<std::size_t>(level)];
+    SplitWithReason(tree, level, rest, prime);
+    rest /= prime;
+    PageEnd();
+  }
+  const double below = tree.RowOf(tree.Levels());
+  SayAt(below, EndAtPrime(rest));
+  PageEnd();
+  tree.DropPrimes(below + 2);
+  ShowAt(below + 2, "= " + NumStr(Number()), 24);
+  PageEnd();
+}
+
+void PrimeFactorization::WritePowers() const {
+  NewScreen();
+  BeginExplanation();
+  const std::string number = NumStr(Number()) + " = ";
+  ShowAt(6.5, number + fractions::ProductText(primes_), 4);
+  SayAt(8.5, "We count the equal factors:");
+  for (const int prime : Different(primes_)) {
+    const int times = CountOf(primes_, prime);
+    AddLine(Text("   {} is a factor {} time{}.", prime, times, Words{PluralSuffix(times)}));
+  }
+  PageEnd();
+  if (Different(primes_).size() == primes_.size())
+    Say("No two are equal, so there is nothing to write as a power:");
+  else
+    Say("We write equal factors as a power:");
+  Show(number + R"(\y)" + PowersText(primes_) + R"(\z)", 4);
+  PageEnd();
+}
+
+void PrimeFactorization::Check() const {
+  Say(R"(\yCheck:\z  Every factor is a prime.  We multiply:)");
+  FactorList values;
+  for (const int prime : Different(primes_)) {
+    int value = 1;
+    for (int i = 0; i < CountOf(primes_, prime); ++i) value *= prime;
+    values.push_back(value);
+  }
+  Show(fractions::ProductText(values) + " = " + NumStr(Number()), 4);
+  PageEnd();
 }
 
 const LessonRegistration<PrimeFactorization> kRegistration("Prime Factorization");

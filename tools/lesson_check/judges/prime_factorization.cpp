@@ -88,8 +88,7 @@ void AddFormMistakes(const List& primes, const std::string& behind, Reading& rea
   withOne.push_back(1);
   reading.mistakes["takes 1 for a prime" + behind].push_back(TextOf(withOne));
 
-  std::vector<std::string>& exchanged =
-      reading.mistakes["exchanges base and exponent" + behind];
+  std::vector<std::string>& exchanged = reading.mistakes["exchanges base and exponent" + behind];
   for (const long base : std::set<long>(primes.begin(), primes.end())) {
     const long exponent = std::ranges::count(primes, base);
     List list = primes;
@@ -112,10 +111,10 @@ Reading ReadPrimeFactorization(const course::Problem& problem) {
   reading.flaw = FlawOf;
   reading.kind = std::to_string(primes.size()) + " prime factors" +
                  (primes.back() > 5 ? ", one larger than 5" : "");
-  reading.Within("the number", Rational(number), 16, 500);
+  reading.Within("the number", Rational(number), 16, 720);
   reading.Within("the count of factors", Rational(static_cast<long>(primes.size())), 4, 5);
-  reading.Within("the count of different factors", Rational(static_cast<long>(different.size())),
-                 2, 5);
+  reading.Within("the count of different factors", Rational(static_cast<long>(different.size())), 2,
+                 5);
 
   AddFormMistakes(primes, "", reading);
   reading.mistakes["writes each prime factor only once"] = {

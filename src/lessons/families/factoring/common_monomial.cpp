@@ -1,0 +1,85 @@
+#include "lessons/families/factoring/common_monomial.h"
+
+#include "mathkit/integers.h"
+
+namespace course::factoring {
+
+using polynomials::Sum;
+using polynomials::Term;
+
+namespace {
+
+std::size_t PowerOf(const Term& term) {
+  return term.letters.size();
+}
+
+// The smallest divisor of a number, 1 aside.
+int SmallestDivisor(int number) {
+  int divisor = 2;
+  while (number % divisor != 0) ++divisor;
+  return divisor;
+}
+
+}  // namespace
+
+std::string TakenOutText(const TakenOut& taken) {
+  return TermText(taken.factor) + "(" + SumText(taken.inside) + ")";
+}
+
+TakenOut Reversed(TakenOut taken) {
+  taken.inside.back().coef *= -1;
+  return taken;
+}
+
+Term CommonMonomial::Factor(int number, int power) const {
+  return {number, std::string(static_cast<std::size_t>(power), letter)};
+}
+
+Term CommonMonomial::TermAt(int i) const {
+  return Factor(numbers[i], powers[i]);
+}
+
+int CommonMonomial::CommonNumber() const {
+  return Gcf(numbers[0], numbers[1]);
+}
+
+TakenOut CommonMonomial::Rest(const Term& factor, const Term& first, Term second) const {
+  if (minus) second.coef *= -1;
+  return {factor, {first, second}};
+}
+
+std::string CommonMonomial::Text() const {
+  return SumText(Rest({}, TermAt(0), TermAt(1)).inside);
+}
+
+TakenOut CommonMonomial::Take(const Term& factor) const {
+  const auto divided = [&](int i) {
+    return Factor(numbers[i] / factor.coef, powers[i] - static_cast<int>(PowerOf(factor)));
+  };
+  return Rest(factor, divided(0), divided(1));
+}
+
+std::vector<FactoringMistake> CommonMonomial::Mistakes() const {
+  const int common = CommonNumber();
+  const int first = numbers[0] / common;
+  const int second = numbers[1] / common;
+  const int difference = powers[0] - powers[1];
+  std::vector<FactoringMistake> mistakes = {
+      {"takes out only the number", Take(Factor(common, 0))},
+      {"takes out only the letters", Take(Factor(1, powers[1]))},
+      {"leaves the exponent inside as it was",
+       Rest(CommonFactor(), Factor(first, powers[0]), Factor(second, 0))},
+      {"divides only the first term",
+       Rest(CommonFactor(), Factor(first, difference), Factor(numbers[1], 0))},
+      {"takes out the higher power",
+       Rest(Factor(common, powers[0]), Factor(first, 0), Factor(second, powers[1]))},
+  };
+  const int part = common / SmallestDivisor(common);
+  if (part > 1)
+    mistakes.push_back({"leaves a common factor inside", Take(Factor(part, powers[1]))});
+  if (powers[1] > 1)
+    mistakes.push_back({"leaves a common factor inside", Take(Factor(common, powers[1] - 1))});
+  return mistakes;
+}
+
+}  // namespace course::factoring
