@@ -40,27 +40,21 @@ void EqualRows() {
   ShowAt(8.5, "2" + kTimes + "6 = 12", 19);
   DotRectangle(10.5, 4, 1, 12);
   ShowAt(10.5, "1" + kTimes + "12 = 12", 29);
-  SayAt(15,
-        "2 rows of 6, or 1 row of 12.  They can be turned:  4 rows of 3, 6 rows of 2, 12 rows of "
-        "1.");
+  Say("We can also turn them:  4 rows of 3, 6 rows of 2, 12 rows of 1.");
   PageEnd();
 }
 
 void Divisors() {
   NewScreen();
-  SayAt(3, R"(A \cdivisor\z of a number divides it, and nothing is left over.  We also call it a )"
-           "factor.  Divisors come in pairs:");
-  PaperBox({"1" + kTimes + "12      2" + kTimes + "6      3" + kTimes + "4"});
-  Say("So the divisors of 12 are 1, 2, 3, 4, 6 and 12.");
+  SayAt(3, R"(A \cdivisor\z of a number divides it, and nothing is left over.)");
+  Say("12 has the divisors 1, 2, 3, 4, 6 and 12.");
   Say(R"(\yTry it:\z  Is 5 a divisor of 12?)");
   PageEnd();
-  DotRectangle(15, 4, 2, 5);
-  DotRectangle(17, 4, 1, 2);
-  SayAt(15, "No.  After 2 rows of 5, 2 dots are left over.", {.col = 17});
-  Say(R"(\yTry it:\z  What are the divisors of 10?)");
-  PageEnd();
-  SayAt(21, Text(R"({} and {}:  the divisors are \y1, 2, 5 and 10\z.)", "1" + kTimes + "10",
-                 "2" + kTimes + "5"));
+  DotRectangle(11, 4, 2, 5);
+  DotRectangle(13, 4, 1, 2);
+  SayAt(11, "No.  After 2 rows of 5, 2 dots are left over.", {.col = 17});
+  SayAt(15, Text(R"(Divisors are also called \cfactors\z:  {} has the factors 3 and 4.)",
+                 "3" + kTimes + "4"));
   PageEnd();
 }
 
@@ -69,16 +63,13 @@ void Divisors() {
 
 void OnlyTwoDivisors() {
   NewScreen();
-  SayAt(3, "7 dots do not make a rectangle of two rows or more.  They make one long row:");
-  DotRectangle(6, 4, 1, 7);
-  ShowAt(6, "1" + kTimes + "7 = 7", 22);
-  Say(R"(A whole number greater than 1 is a \cprime\z when its only divisors are 1 and itself.)");
-  Say(R"(With more divisors, it is \ccomposite\z.  12 is composite.)");
+  SayAt(3, "7 dots make only one long row:");
+  DotRectangle(5, 4, 1, 7);
+  ShowAt(5, "1" + kTimes + "7 = 7", 22);
+  Say(R"(A \cprime\z is a whole number greater than 1 with only two divisors, 1 and itself.)");
   PageEnd();
-  Say("1 is neither prime nor composite:  it has only one divisor.");
-  Say(R"(\yTry it:\z  Which of 2, 9 and 11 are primes?)");
-  PageEnd();
-  Say(Text(R"(\y2 and 11\z.  9 is odd, but it is composite:  {}.)", "9 = 3" + kTimes + "3"));
+  Say(R"(A whole number with more divisors, such as 12, is \ccomposite\z.)");
+  Say("1 has only one divisor.  It is neither prime nor composite.");
   PageEnd();
 }
 
@@ -115,29 +106,27 @@ class NumberGrid {
 };
 
 void Sieve() {
+  constexpr double kTextRow = 11;
   NewScreen();
-  SayAt(3, "Let's find all primes up to 30.  1 is none, so we cross it out.");
+  SayAt(3, "Let's find all primes up to 30:");
   const NumberGrid grid(6);
-  grid.CrossOut(1);
-  SayAt(11,
-        "2 is a prime.  But every other number with the divisor 2 is composite:  4, 6, 8, and "
-        "so on.");
   PageEnd();
+  grid.CrossOut(1);
   grid.CrossOutMultiples(2);
-  Say(R"(\yTry it:\z  3 is a prime, too.  Which numbers does it cross out?)");
+  SayAt(kTextRow,
+        "1 is no prime.  2 is one, but the other numbers with the divisor 2 are composite.");
+  Say(R"(\yTry it:\z  3 is a prime.  Which numbers does it cross out?)");
   PageEnd();
   grid.CrossOutMultiples(3);
-  Say("6, 9, 12, 15, and so on.  9, 15, 21 and 27 were still there.");
-  Say(R"(\yTry it:\z  The next prime is 5.  Which number is new?)");
+  Say("6, 9, 12, and so on.  9, 15, 21 and 27 are odd, but they are composite.");
+  Say(R"(\yTry it:\z  Which new number does 5 cross out?)");
   PageEnd();
   grid.CrossOutMultiples(5);
   for (int n = 2; n <= NumberGrid::kLast; ++n)
     if (IsPrime(n)) grid.Frame(n);
-  ClearBelow(11);
-  SayAt(11,
-        R"(25 is new.  What is left is prime:  \y2, 3, 5, 7, 11, 13, 17, 19, 23\z and \y29\z.)");
-  Say(Text("7 crosses out nothing new:  14, 21 and 28 are gone, and {} is greater than 30.",
-           "7" + kTimes + "7"));
+  ClearBelow(kTextRow);
+  SayAt(kTextRow, "25.  14, 21 and 28 are crossed out already, so 7 finds nothing new.");
+  Say(R"(All the others are \yprimes\z.)");
   PageEnd();
 }
 
@@ -146,33 +135,32 @@ void Sieve() {
 
 void LastDigits() {
   NewScreen();
-  SayAt(3, "Can we see a divisor without dividing?  Look at the last digits:");
-  PaperBox(
-      {"divisor 2:  2   4   6   8  10  12  14  16", "divisor 5:  5  10  15  20  25  30  35  40"});
-  Say(R"(A number has the divisor 2 exactly when its last digit is \y0, 2, 4, 6 or 8\z.)");
-  Say(R"(It has the divisor 5 exactly when its last digit is \y0 or 5\z.)");
+  SayAt(3, "Can we see a divisor without dividing?  Look at these numbers:");
+  PaperBox({"divisor 2:   2   4   6   8  10  12", "divisor 5:   5  10  15  20  25  30"});
+  Say(R"(\yTry it:\z  What do the last digits tell?)");
   PageEnd();
-  Say(R"(\yTry it:\z  Which of 34, 45 and 60 have the divisor 2?  Which have 5?)");
-  PageEnd();
-  Say("34 and 60 have the divisor 2.  45 and 60 have the divisor 5.");
+  Say("Numbers with the divisor 2 end in 0, 2, 4, 6 or 8.  Numbers with the divisor 5 end in 0 or "
+      "5.  No other numbers do.");
   PageEnd();
 }
 
 void SumOfDigits() {
   NewScreen();
-  SayAt(3, "For 3 the last digit does not help:  3 is a divisor of 33, but not of 23.");
-  Say("Look at 54.  Each of its 5 tens is 9 + 1, and 9 has the divisor 3.  So each ten leaves 1 "
-      "over:");
-  ShowAt(10.5, R"(5 from the tens, and 4 ones:  \y5 + 4 = 9\z)", 2);
-  SayAt(12, "3 is a divisor of 9, so it is a divisor of 54.");
+  SayAt(
+      3,
+      "What about 3?  54 has 5 tens.  Each ten is 9 + 1.  3 is a divisor of 9, so each ten leaves "
+      "1 over:");
+  ShowAt(7, R"(5 from the tens and 4 ones:  \y5 + 4 = 9\z)", 2);
   PageEnd();
-  RuleBox("Is It a Divisor?",
-          {"2:  the last digit is 0, 2, 4, 6 or 8", "3:  3 is a divisor of the sum",
-           "of the digits", "5:  the last digit is 0 or 5"},
-          {.width = 34});
-  Say(R"(\yTry it:\z  Is 3 a divisor of 87?  Of 124?)");
+  Say("3 is a divisor of 9, so it is a divisor of 54.  The sum of the digits tells it.");
   PageEnd();
-  Say(Text("Of 87, yes:  {}.  Of 124, no:  {}.", DigitSumText(87), DigitSumText(124)));
+  PaperBox({"2:  The last digit is 0, 2, 4, 6 or 8.", "3:  3 divides the sum of the digits.",
+            "5:  The last digit is 0 or 5."});
+  Say(R"(\yTry it:\z  Is 3 a divisor of 124?  Of 51?)");
+  PageEnd();
+  Say(Text("Of 124, no:  {}.", DigitSumText(124)));
+  Say(Text("Of 51, yes:  {}.  So 51 is not a prime:  {}.", DigitSumText(51),
+           "51 = 3" + kTimes + "17"));
   PageEnd();
 }
 
@@ -181,20 +169,19 @@ void SumOfDigits() {
 
 void FirstTree() {
   NewScreen();
-  SayAt(3, R"(We want to write 60 as a product of \yprimes\z.  We split it into two factors:)");
-  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 6, 14);
+  SayAt(3, R"(Let's write 60 as a product of primes:)");
+  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 5.5, 14);
   tree.Grow();
-  ShowAt(8, "60 = 6" + kTimes + "10", 28);
-  SayAt(14, R"(\yTry it:\z  6 and 10 are not primes.  How can we split them?)");
+  SayAt(12, R"(\yTry it:\z  How can we split 6 and 10?)");
   PageEnd();
+  ClearBelow(12);
   tree.Grow();
-  ClearBelow(14);
-  SayAt(14, Text("{}, and {}.  A branch ends at a prime.  This is a \\cfactor tree\\z.",
+  SayAt(14, Text(R"({}, and {}.  A branch ends at a prime.  This is a \cfactor tree\z.)",
                  "6 = 2" + kTimes + "3", "10 = 2" + kTimes + "5"));
   PageEnd();
-  ShowAt(12, "60 =", 9);
-  tree.DropPrimes(12);
-  SayAt(17, R"(The primes at its ends, in order, are the \cprime factorization\z:)");
+  ShowAt(11.5, "60 =", 9);
+  tree.DropPrimes(11.5);
+  SayAt(17, R"(The product of the primes at the ends is the \cprime factorization\z of 60.)");
   PaperBox({"60 = 2" + kTimes + "2" + kTimes + "3" + kTimes + "5"});
   PageEnd();
 }
@@ -205,16 +192,10 @@ void NotYetPrimes() {
                 "36 = 4" + kTimes + "9"));
   PageEnd();
   Say("No.  4 and 9 are composite.  The tree must go on:");
-  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(3))), 8, 14);
+  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(3))), 9.5, 14);
   tree.GrowWhole();
-  PageEnd();
-  ShowAt(14, "36 =", 9);
-  tree.DropPrimes(14);
-  Say(R"(\yWatch out:\z  9, 15, 21, 27, 33, 39 and 51 are odd, but they are not primes.  3 is a )"
-      "divisor of each.");
-  Say(R"(\yTry it:\z  Why is 51 not a prime?)");
-  PageEnd();
-  Say(Text("{}, so 3 is a divisor:  {}.", DigitSumText(51), "51 = 3" + kTimes + "17"));
+  ShowAt(15.5, "36 =", 9);
+  tree.DropPrimes(15.5);
   PageEnd();
 }
 
@@ -223,18 +204,17 @@ void NotYetPrimes() {
 
 void TwoTrees() {
   NewScreen();
-  SayAt(3, Text("Ann starts with {}, and Ben with {}.  Will they find different primes?",
-                "6" + kTimes + "10", "4" + kTimes + "15"));
+  SayAt(3, "Ann and Ben start in two ways.  Will they find different primes?");
   FactorTreeFigure anns(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 7, 4);
   FactorTreeFigure bens(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(5))), 7, 24);
   anns.Grow();
   bens.Grow();
   PageEnd();
-  anns.GrowWhole();
-  bens.GrowWhole();
-  SayAt(13.5, "No.  Both have two factors 2, one 3 and one 5.");
-  Say(R"(Every whole number greater than 1 has \yonly one\z prime factorization.  Only the order of )"
-      "the factors can differ.  We write them from the smallest to the largest.");
+  anns.Grow();
+  bens.Grow();
+  SayAt(13.5,
+        R"(No.  Every whole number greater than 1 has \yonly one\z prime factorization.  Only )"
+        "the order can differ.");
   PageEnd();
 }
 
@@ -248,31 +228,22 @@ void SplitWithReason(FactorTreeFigure& tree, int level, int number, int prime) {
 
 void SmallestPrimeFirst() {
   NewScreen();
-  SayAt(3, R"(One way always works:  we split off the \ysmallest prime\z, again and again.)");
-  FactorTreeFigure tree(TreeOfSmallestPrimes(84), 6, 3);
-  SplitWithReason(tree, 0, 84, 2);
+  SayAt(3, R"(We can split off the \ysmallest\z primes first:)");
+  FactorTreeFigure tree(TreeOfSmallestPrimes(154), 5.5, 4);
+  SplitWithReason(tree, 0, 154, 2);
   PageEnd();
-  SplitWithReason(tree, 1, 42, 2);
-  SplitWithReason(tree, 2, 21, 3);
-  SayAt(14, "The tree ends here:");
-  AddLine(EndAtPrime(7));
+  SplitWithReason(tree, 1, 77, 7);
+  SayAt(11.5, EndAtPrime(11));
   PageEnd();
-  ShowAt(17, R"(\y= 84\z)", 18);
-  tree.DropPrimes(17);
-  SayAt(19, R"(\yTry it:\z  What is the prime factorization of 154?)");
+  ClearBelow(11.5);
+  tree.DropPrimes(12);
+  ShowAt(12, "= 154", 16);
+  SayAt(14, "When the tests fail, we try the next primes:  7, 11, 13.");
+  Say(R"(\yTry it:\z  What is the prime factorization of 84?)");
   PageEnd();
-  NewScreen();
-  SayAt(3,
-        "2 is the first prime of 154.  What comes next?  The tests of 3 and 5 fail, so we try 7, "
-        "11, 13, and so on:");
-  FactorTreeFigure larger(TreeOfSmallestPrimes(154), 7, 3);
-  SplitWithReason(larger, 0, 154, 2);
-  SplitWithReason(larger, 1, 77, 7);
-  PageEnd();
-  AddLine("");
-  SayAt(13, EndAtPrime(11));
-  larger.DropPrimes(15);
-  ShowAt(15, R"(\y= 154\z)", 15);
+  SayAt(20, Text("{}, {}, and {}:", "84 = 2" + kTimes + "42", "42 = 2" + kTimes + "21",
+                 "21 = 3" + kTimes + "7"));
+  ShowAt(22.5, R"(84 = \y2)" + kTimes + "2" + kTimes + "3" + kTimes + R"(7\z)", 4);
   PageEnd();
 }
 
@@ -284,28 +255,29 @@ void EqualFactors() {
   SayAt(3, "Equal factors are written as a power.  72 has three factors 2 and two factors 3:");
   ShowAt(6, "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + "3", 6);
   ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
+  PageEnd();
   SayAt(10,
         "The exponent tells how many times a prime is a factor.  The exponent 1 is not written.");
-  PageEnd();
-  Say(Text(R"(\yCheck:\z  {} is 8, and {} is 9.  {}.)", "2^3^", "3^2^", "8" + kTimes + "9 = 72"));
-  Say(R"(\yTry it:\z  Ben writes 72 = 2)" + kTimes + "3.  What has he forgotten?");
-  PageEnd();
-  Say("How many times each prime is a factor.  His product is only 6.");
+  Say(Text(R"(\yCheck:\z  {}, {}, and {}.)", "2^3^ = 8", "3^2^ = 9", "8" + kTimes + "9 = 72"));
   PageEnd();
 }
 
 void FormsOfPowers() {
   NewScreen();
-  SayAt(3, Text(R"(\yWatch out:\z  The prime stands below, and the exponent counts.  40 has three )"
-                "factors 2:"));
-  PaperBox({"40 = 2^3^" + kTimes + R"(5,   \rnot 3^2^)" + kTimes + R"(5\z)"});
-  Say("1 is not a prime.  It does not belong there:");
-  PaperBox({"40 = 2^3^" + kTimes + R"(5,   \rnot 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
+  SayAt(3, Text(R"(\yWatch out:\z  {}.  These are wrong:)", "40 = 2^3^" + kTimes + "5"));
+  PaperBox({R"(\r40 = 2)" + kTimes + R"(5\z)", R"(\r40 = 3^2^)" + kTimes + R"(5\z)",
+            R"(\r40 = 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
+  Say(R"(\yTry it:\z  Which mistakes do you see?)");
+  PageEnd();
+  Say("First:  2 is a factor three times, not once.  Second:  base and exponent have changed "
+      "places. "
+      " Third:  1 is not a prime.");
+  PageEnd();
   Say(R"(\yTry it:\z  What is the prime factorization of 90?)");
   PageEnd();
-  Say(Text("{}, {}, and {}.  In powers:", Words{"90 = 2" + kTimes + "45"},
-           Words{"45 = 3" + kTimes + "15"}, Words{"15 = 3" + kTimes + "5"}));
-  Show(R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 6);
+  Say(Text("{}, {}, and {}:", "90 = 2" + kTimes + "45", "45 = 3" + kTimes + "15",
+           "15 = 3" + kTimes + "5"));
+  Show(R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 4);
   PageEnd();
 }
 
@@ -327,6 +299,7 @@ class PrimeFactorization final : public LessonScript {
 
   bool IsWorthSolving() const;
   int Number() const { return ProductOf(primes_); }
+  FactorList FirstSplit(int factor) const { return WithFactor({factor}, Number() / factor); }
   void OfferChoices(RandomStream& random);
 
   void BeginExplanation() const;
@@ -402,7 +375,7 @@ int PrimeToExchange(const FactorList& primes, int miscounted) {
 
 void PrimeFactorization::OfferChoices(RandomStream& random) {
   const auto count = static_cast<int>(primes_.size());
-  const std::vector<int> order = random.RandSeq(count, 3);
+  const std::vector<int> order = random.RandSeq(count, count);
   const auto prime = [&](int i) {
     return primes_[static_cast<std::size_t>(order[static_cast<std::size_t>(i)] - 1)];
   };
@@ -421,8 +394,7 @@ void PrimeFactorization::OfferChoices(RandomStream& random) {
   choices.Wrong(miscounts, miscounted);
   choices.Wrong(form.name + (" and " + miscounts), form.made(miscounted, first, prime(1)));
   if (recipe % 2 == 0) choices.Wrong("writes each prime factor only once", Different(primes_));
-  choices.Wrong(kNotPrime.name, Merged(primes_, prime(1), prime(2)));
-  choices.Wrong(kNotPrime.name, Merged(primes_, prime(0), prime(2)));
+  choices.Wrong("stops after the first split", FirstSplit(prime(0) * prime(1)));
   // Another prime of the table in the place of one.
   choices.Fill([&] {
     const int other = DrawPrime(random, 1);
@@ -435,7 +407,7 @@ void PrimeFactorization::OfferChoices(RandomStream& random) {
 void PrimeFactorization::ShowProblem() {
   SayAt(5, problem.question[0]);
   SayAt(7, problem.question[1]);
-  ShowAnswersInTwoColumns(problem, {.width = 20});  // 2^2 x 3 x 5 x 7 is long
+  ShowAnswersInTwoColumns(problem, {.width = 20, .fontSize = 16});  // 2^2 x 3 x 5 x 7 is long
 }
 
 // --- Worked explanation ------------------------------------------------------
@@ -454,7 +426,8 @@ void PrimeFactorization::BeginExplanation() const {
 
 void PrimeFactorization::GrowTree() const {
   BeginExplanation();
-  SayAt(6, "We split off the smallest prime, again and again.");
+  SayAt(6,
+        Text("We split off the smallest prime, again and again.  Which one divides {}?", Number()));
   FactorTreeFigure tree(TreeOfSmallestPrimes(Number()), 8.5, 3);
   PageEnd();
   int rest = Number();
@@ -467,8 +440,9 @@ void PrimeFactorization::GrowTree() const {
   const double below = tree.RowOf(tree.Levels());
   SayAt(below, EndAtPrime(rest));
   PageEnd();
-  tree.DropPrimes(below + 2);
-  ShowAt(below + 2, "= " + NumStr(Number()), 24);
+  ClearBelow(below);
+  tree.DropPrimes(below);
+  ShowAt(below, "= " + NumStr(Number()), 24);
   PageEnd();
 }
 
@@ -477,16 +451,15 @@ void PrimeFactorization::WritePowers() const {
   BeginExplanation();
   const std::string number = NumStr(Number()) + " = ";
   ShowAt(6.5, number + fractions::ProductText(primes_), 4);
-  SayAt(8.5, "We count the equal factors:");
-  for (const int prime : Different(primes_)) {
-    const int times = CountOf(primes_, prime);
-    AddLine(Text("   {} is a factor {} time{}.", prime, times, Words{PluralSuffix(times)}));
+  if (Different(primes_).size() == primes_.size()) {
+    SayAt(8.5, "No two factors are equal, so there is nothing to write as a power.");
+  } else {
+    SayAt(8.5, "We write equal factors as a power:");
+    for (const int prime : Different(primes_))
+      if (CountOf(primes_, prime) > 1)
+        AddLine(Text("   {} is a factor {} times.", prime, CountOf(primes_, prime)));
   }
   PageEnd();
-  if (Different(primes_).size() == primes_.size())
-    Say("No two are equal, so there is nothing to write as a power:");
-  else
-    Say("We write equal factors as a power:");
   Show(number + R"(\y)" + PowersText(primes_) + R"(\z)", 4);
   PageEnd();
 }

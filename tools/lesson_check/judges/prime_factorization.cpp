@@ -117,6 +117,9 @@ Reading ReadPrimeFactorization(const course::Problem& problem) {
                  5);
 
   AddFormMistakes(primes, "", reading);
+  for (long factor = 4; factor < number; ++factor)
+    if (number % factor == 0)
+      reading.mistakes["stops after the first split"].push_back(TextOf({factor, number / factor}));
   reading.mistakes["writes each prime factor only once"] = {
       TextOf(List(different.begin(), different.end()))};
   for (const long prime : different) {
