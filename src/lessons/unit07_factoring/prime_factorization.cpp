@@ -47,7 +47,7 @@ void EqualRows() {
 void Divisors() {
   NewScreen();
   SayAt(3, R"(A \cdivisor\z of a number divides it, and nothing is left over.)");
-  Say("12 has the divisors 1, 2, 3, 4, 6 and 12.");
+  Say("Of 12 they are 1, 2, 3, 4, 6 and 12.");
   Say(R"(\yTry it:\z  Is 5 a divisor of 12?)");
   PageEnd();
   DotRectangle(11, 4, 2, 5);
@@ -113,8 +113,7 @@ void Sieve() {
   PageEnd();
   grid.CrossOut(1);
   grid.CrossOutMultiples(2);
-  SayAt(kTextRow,
-        "1 is no prime.  2 is one, but the other numbers with the divisor 2 are composite.");
+  SayAt(kTextRow, "1 is no prime.  2 is one, but 4, 6, 8, and so on, are composite.");
   Say(R"(\yTry it:\z  3 is a prime.  Which numbers does it cross out?)");
   PageEnd();
   grid.CrossOutMultiples(3);
@@ -190,12 +189,13 @@ void NotYetPrimes() {
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  Ann writes {}.  Is this the prime factorization of 36?)",
                 "36 = 4" + kTimes + "9"));
+  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(3))), 6, 14);
+  tree.Grow();
   PageEnd();
-  Say("No.  4 and 9 are composite.  The tree must go on:");
-  FactorTreeFigure tree(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(3))), 9.5, 14);
-  tree.GrowWhole();
-  ShowAt(15.5, "36 =", 9);
-  tree.DropPrimes(15.5);
+  tree.Grow();
+  ShowAt(12, "36 =", 9);
+  tree.DropPrimes(12);
+  Say("No.  4 and 9 are composite, so their branches must go on.");
   PageEnd();
 }
 
@@ -264,16 +264,13 @@ void EqualFactors() {
 
 void FormsOfPowers() {
   NewScreen();
-  SayAt(3, Text(R"(\yWatch out:\z  {}.  These are wrong:)", "40 = 2^3^" + kTimes + "5"));
+  SayAt(3, Text(R"(\yTry it:\z  {}.  What is wrong?)", "40 = 2^3^" + kTimes + "5"));
   PaperBox({R"(\r40 = 2)" + kTimes + R"(5\z)", R"(\r40 = 3^2^)" + kTimes + R"(5\z)",
             R"(\r40 = 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
-  Say(R"(\yTry it:\z  Which mistakes do you see?)");
   PageEnd();
-  Say("First:  2 is a factor three times, not once.  Second:  base and exponent have changed "
-      "places. "
-      " Third:  1 is not a prime.");
-  PageEnd();
-  Say(R"(\yTry it:\z  What is the prime factorization of 90?)");
+  Say("First:  2 is a factor three times.  Second:  base and exponent are exchanged.  Third:  1 is "
+      "not a prime.");
+  Say(R"(\yTry it:\z  Factor 90 into primes.)");
   PageEnd();
   Say(Text("{}, {}, and {}:", "90 = 2" + kTimes + "45", "45 = 3" + kTimes + "15",
            "15 = 3" + kTimes + "5"));
