@@ -124,7 +124,7 @@ void Sieve() {
   for (int n = 2; n <= NumberGrid::kLast; ++n)
     if (IsPrime(n)) grid.Frame(n);
   ClearBelow(kTextRow);
-  SayAt(kTextRow, "25.  14, 21 and 28 are crossed out already, so 7 finds nothing new.");
+  SayAt(kTextRow, "25.  7 finds nothing new:  14, 21 and 28 are crossed out already.");
   Say(R"(All the others are \yprimes\z.)");
   PageEnd();
 }
@@ -134,7 +134,7 @@ void Sieve() {
 
 void LastDigits() {
   NewScreen();
-  SayAt(3, "Can we see a divisor without dividing?  Look at these numbers:");
+  SayAt(3, "Can we see a divisor without dividing?");
   PaperBox({"divisor 2:   2   4   6   8  10  12", "divisor 5:   5  10  15  20  25  30"});
   Say(R"(\yTry it:\z  What do the last digits tell?)");
   PageEnd();
@@ -404,7 +404,7 @@ void PrimeFactorization::OfferChoices(RandomStream& random) {
 void PrimeFactorization::ShowProblem() {
   SayAt(5, problem.question[0]);
   SayAt(7, problem.question[1]);
-  ShowAnswersInTwoColumns(problem, {.width = 20, .fontSize = 16});  // 2^2 x 3 x 5 x 7 is long
+  ShowAnswersInOneColumn(problem, {.row = 9.5, .width = 24});  // 1 x 2^2 x 3 x 5 x 7 is long
 }
 
 // --- Worked explanation ------------------------------------------------------

@@ -4,7 +4,9 @@
 //
 // Wrong choices that are equal to the expression, with a common factor left inside, are wrong
 // because the greatest one is asked for.
+#include "lessons/families/factoring/common_factors_figure.h"
 #include "lessons/families/factoring/common_monomial.h"
+#include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -14,9 +16,148 @@ using namespace factoring;
 
 // --- Teaching screens --------------------------------------------------------
 
-void Screen1() {
+constexpr double kMath = 4;  // column of the lines of mathematics
+
+void GoingBack() {
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "We know how to distribute a factor:");
+  ShowAt(5, "3(2x + 5) = 6x + 15", kMath);
+  SayAt(7, R"(To \cfactor\z an expression means to go back, from the sum to the product:)");
+  ShowAt(10, "6x + 15 = 3(2x + 5)", kMath);
+  PageEnd();
+  SayAt(12,
+        R"(3 is a factor of 6x and of 15.  It is a \ccommon factor\z.  We take it out, and divide )"
+        "each term by it.");
+  PageEnd();
+  Say(R"(\yTry it:\z  Which number is a common factor of 10x and 15?)");
+  PageEnd();
+  Say("5 is.  10x divided by 5 is 2x, and 15 divided by 5 is 3:");
+  Show(R"(10x + 15 = \y5(2x + 3)\z)", kMath);
+  PageEnd();
+}
+
+void GreatestNumber() {
+  NewScreen();
+  SayAt(3, "12x + 18 has the common factors 2, 3 and 6.  Which one do we take out?");
+  PageEnd();
+  Say(R"(The \cgreatest common factor\z.  Then nothing common is left inside:)");
+  PaperBox({R"(\r2(6x + 9)\z    3 is still common)", R"(6(2x + 3)    nothing is common)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  What is still common in 4(6x + 10)?)");
+  PageEnd();
+  Say("2 is a factor of 6x and of 10.  The greatest common factor was 8:");
+  Show(R"(24x + 40 = \y8(3x + 5)\z)", kMath);
+  PageEnd();
+}
+
+void PrimesInCommon() {
+  NewScreen();
+  SayAt(
+      3,
+      "With larger numbers the primes help.  Let's find the greatest common factor of 24 and 36:");
+  const CommonFactorsFigure figure(NumberWrittenOut(24), NumberWrittenOut(36), 6.5, kMath);
+  PageEnd();
+  figure.FrameCommon();
+  SayAt(12, "The framed primes are factors of both numbers.  We multiply them:");
+  figure.DropCommon("12");
+  PageEnd();
+  Say(R"(\yTry it:\z  What is the greatest common factor of 30 and 45?)");
+  PageEnd();
+  Say(Text(R"(30 is {}, and 45 is {}.  Both have 3 and 5, so it is \y15\z.)",
+           fractions::ProductText({2, 3, 5}), fractions::ProductText({3, 3, 5})));
+  PageEnd();
+}
+
+void LettersInCommon() {
+  NewScreen();
+  SayAt(3, Text("Letters can be common, too.  What do {} and {} share?", "x^5^", "x^2^"));
+  const CommonFactorsFigure figure(PowerWrittenOut('x', 5), PowerWrittenOut('x', 2), 6, kMath);
+  PageEnd();
+  figure.FrameCommon();
+  figure.DropCommon("x^2^");
+  SayAt(11.5,
+        Text(R"(Both have two factors x.  So we take {}, the power with the \ylower\z exponent.)",
+             "x^2^"));
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  What is the greatest common factor of {} and {}?)", "n^4^", "n"));
+  PageEnd();
+  Say(Text(R"(n has one factor n, so only one is common:  \yn\z.)"));
+  PageEnd();
+}
+
+constexpr CommonMonomial kExample = {'x', {18, 12}, {5, 2}, false};
+
+// Both terms over the factor, built up; two lines.
+void ShowQuotients(const CommonMonomial& sum, double row, double col) {
+  const TakenOut right = sum.Right();
+  for (int i = 0; i < 2; ++i)
+    ShowAt(row + 3.5 * i,
+           TermText(sum.TermAt(i)) + "/(" + TermText(right.factor) +
+               ") = " + TermText(sum.Quotient(i)),
+           col);
+}
+
+void NumbersAndLetters() {
+  NewScreen();
+  SayAt(3, Text("Let's factor {}.", kExample.Text()));
+  Say(Text("The greatest common factor of 18 and 12 is 6, and that of {} and {} is {}.", "x^5^",
+           "x^2^", "x^2^"));
+  Say(Text(R"(We take out both:  \y{}\z)", "6x^2^"));
+  PageEnd();
+  SayAt(11, "We divide each term by it.  The numbers are divided, the exponents subtracted:");
+  ShowQuotients(kExample, 15, kMath);
+  PageEnd();
+  ShowAt(22, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
+  PageEnd();
+
+  NewScreen();
+  ShowAt(3, kExample.Text() + " = " + TakenOutText(kExample.Right()), kMath);
+  const std::string factor = "6x^2^" + tutor::Dot;
+  SayAt(5, Text(R"(\yCheck:\z  {}, and {}.)", factor + "3x^3^ = 18x^5^", factor + "2 = 12x^2^"));
+  RuleBox("Removing the GCF",
+          {"Find the greatest common factor.", "Divide each term by it.",
+           "Write it before the parentheses."},
+          {.width = 30});
+  PageEnd();
+  Say(R"(\yTry it:\z  What is still common inside?)");
+  PaperBox({R"(\r6(3x^5^ + 2x^2^)\z)", R"(\rx^2^(18x^3^ + 12)\z)", R"(\r6x(3x^4^ + 2x)\z)"});
+  PageEnd();
+  Say(Text("First {}, then 6, then x.", "x^2^"));
+  PageEnd();
+}
+
+void MinusAndOne() {
+  NewScreen();
+  SayAt(3, Text("The minus sign stays a minus sign:"));
+  ShowAt(5, R"(20n^4^ - 8n^3^ = \y4n^3^(5n - 2)\z)", kMath);
+  PageEnd();
+  SayAt(7, Text("What if a term is the common factor itself?  Let's take {} out of {}:", "3y",
+                "9y^3^ + 3y"));
+  ShowAt(11, "9y^3^/(3y) = 3y^2^       3y/(3y) = 1", kMath);
+  PageEnd();
+  SayAt(13, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
+  PaperBox({R"(3y(3y^2^ + 1),  \rnot 3y(3y^2^)\z)"});
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  Factor {}.)", "8a^5^ - 4a^2^"));
+  PageEnd();
+  Say(Text(R"({} is common, and {} divided by it is 1:  \y{}\z)", "4a^2^", "4a^2^",
+           "4a^2^(2a^3^ - 1)"));
+  PageEnd();
+}
+
+void FindTheMistake() {
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  {}.  What is wrong?)", "10a^4^ - 15a^2^"));
+  PaperBox({R"(A:  \r5a^2^(2a^4^ - 3)\z)", R"(B:  \r5a^2^(2a^2^ - 15)\z)",
+            R"(C:  \r5a^4^(2 - 3a^2^)\z)"});
+  PageEnd();
+  Say(Text("A:  The exponent inside was not made smaller.  {} divided by {} is {}.", "a^4^", "a^2^",
+           "a^2^"));
+  PageEnd();
+  Say("B:  Only the first term was divided.  15 must become 3.");
+  PageEnd();
+  Say(Text("C:  The higher power was taken out, but {} is not a factor of {}.", "a^4^", "a^2^"));
+  Show(R"(10a^4^ - 15a^2^ = \y5a^2^(2a^2^ - 3)\z)", kMath);
   PageEnd();
 }
 
@@ -27,13 +168,22 @@ class RemovingTheGreatestCommonFactor final : public LessonScript {
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{Screen1}}; }
+  std::vector<Screen> Screens() override {
+    return {{GoingBack, GreatestNumber, PrimesInCommon, LettersInCommon, NumbersAndLetters,
+             MinusAndOne, FindTheMistake}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
   bool IsWorthSolving() const;
   void OfferChoices(RandomStream& random);
+
+  void BeginExplanation() const;
+  void ExplainNumbers() const;
+  void ExplainLetters() const;
+  void Divide() const;
+  void Check() const;
 
   CommonMonomial sum_;
 };
@@ -108,10 +258,72 @@ void RemovingTheGreatestCommonFactor::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void RemovingTheGreatestCommonFactor::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
-  PageEnd();
+  ExplainNumbers();
+  ExplainLetters();
+  Divide();
+  Check();
   Conclude(problem);
+}
+
+void RemovingTheGreatestCommonFactor::BeginExplanation() const {
+  ProblemBanner();
+  SayAt(4.5, problem.question[0]);
+  ShowAt(6, problem.question[1], kMath);
+}
+
+void RemovingTheGreatestCommonFactor::ExplainNumbers() const {
+  BeginExplanation();
+  const auto [first, second] = sum_.numbers;
+  SayAt(8, Text("First the numbers.  We write {} and {} as products of primes:", first, second));
+  const CommonFactorsFigure figure(NumberWrittenOut(first), NumberWrittenOut(second), 11, kMath);
+  PageEnd();
+  figure.FrameCommon();
+  figure.DropCommon(NumStr(sum_.CommonNumber()));
+  SayAt(figure.RowBelow(),
+        Text("The greatest common factor of the numbers is {}.", sum_.CommonNumber()));
+  PageEnd();
+}
+
+void RemovingTheGreatestCommonFactor::ExplainLetters() const {
+  NewScreen();
+  BeginExplanation();
+  const WrittenProduct higher = PowerWrittenOut(sum_.letter, sum_.powers[0]);
+  const WrittenProduct lower = PowerWrittenOut(sum_.letter, sum_.powers[1]);
+  SayAt(8, Text("Then the letters.  What do {} and {} share?", higher.name, lower.name));
+  const CommonFactorsFigure figure(higher, lower, 11, kMath);
+  PageEnd();
+  figure.FrameCommon();
+  figure.DropCommon(lower.name);
+  SayAt(figure.RowBelow(), Text("{} is common, the power with the lower exponent.", lower.name));
+  Say(Text(R"(So the greatest common factor is \y{}\z.)", TermText(sum_.CommonFactor())));
+  PageEnd();
+}
+
+void RemovingTheGreatestCommonFactor::Divide() const {
+  NewScreen();
+  BeginExplanation();
+  SayAt(8, Text("We divide each term by {}:", TermText(sum_.CommonFactor())));
+  ShowQuotients(sum_, 10.5, kMath);
+  PageEnd();
+  SayAt(16, "We write the factor in front, and what is left in parentheses:");
+  Show(sum_.Text() + R"( = \y)" + TakenOutText(sum_.Right()) + R"(\z)", kMath);
+  if (sum_.LeavesOne()) AddLine("The 1 must be written.");
+  PageEnd();
+}
+
+void RemovingTheGreatestCommonFactor::Check() const {
+  const TakenOut right = sum_.Right();
+  NewScreen();
+  BeginExplanation();
+  ShowAt(7.5, "= " + TakenOutText(right), kMath);
+  SayAt(9.5, R"(\yCheck:\z  We distribute the factor.)");
+  for (int i = 0; i < 2; ++i)
+    Show(TermText(right.factor) + " " + tutor::Times + " " + TermText(sum_.Quotient(i)) + " = " +
+             TermText(sum_.TermAt(i)),
+         kMath);
+  PageEnd();
+  Say(Text("Nothing common is left in {}.", SumText(right.inside)));
+  PageEnd();
 }
 
 const LessonRegistration<RemovingTheGreatestCommonFactor> kRegistration(

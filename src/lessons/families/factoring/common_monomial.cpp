@@ -39,6 +39,10 @@ Term CommonMonomial::TermAt(int i) const {
   return Factor(numbers[i], powers[i]);
 }
 
+Term CommonMonomial::Quotient(int i) const {
+  return Factor(numbers[i] / CommonNumber(), powers[i] - powers[1]);
+}
+
 int CommonMonomial::CommonNumber() const {
   return Gcf(numbers[0], numbers[1]);
 }

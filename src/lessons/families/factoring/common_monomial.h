@@ -39,6 +39,8 @@ struct CommonMonomial {
   TakenOut Take(const polynomials::Term& factor) const;
   TakenOut Right() const { return Take(CommonFactor()); }
 
+  // A term 0 or 1 divided by the greatest common factor, without the sign between the terms.
+  polynomials::Term Quotient(int i) const;
   // Whether the second term divided is 1, which has to be written.
   bool LeavesOne() const { return numbers[1] == CommonNumber(); }
 
