@@ -228,7 +228,7 @@ void SplitWithReason(FactorTreeFigure& tree, int level, int number, int prime) {
 
 void SmallestPrimeFirst() {
   NewScreen();
-  SayAt(3, R"(We can split off the \ysmallest\z primes first:)");
+  SayAt(3, R"(Let's split off the \ysmallest\z prime:)");
   FactorTreeFigure tree(TreeOfSmallestPrimes(154), 5.5, 4);
   SplitWithReason(tree, 0, 154, 2);
   PageEnd();
@@ -239,7 +239,7 @@ void SmallestPrimeFirst() {
   tree.DropPrimes(12);
   ShowAt(12, "= 154", 16);
   SayAt(14, "When the tests fail, we try the next primes:  7, 11, 13.");
-  Say(R"(\yTry it:\z  What is the prime factorization of 84?)");
+  Say(R"(\yTry it:\z  Factor 84 into primes.)");
   PageEnd();
   SayAt(20, Text("{}, {}, and {}:", "84 = 2" + kTimes + "42", "42 = 2" + kTimes + "21",
                  "21 = 3" + kTimes + "7"));
@@ -256,9 +256,9 @@ void EqualFactors() {
   ShowAt(6, "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + "3", 6);
   ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
   PageEnd();
-  SayAt(10,
-        "The exponent tells how many times a prime is a factor.  The exponent 1 is not written.");
-  Say(Text(R"(\yCheck:\z  {}, {}, and {}.)", "2^3^ = 8", "3^2^ = 9", "8" + kTimes + "9 = 72"));
+  SayAt(10, "The exponent tells how many times a prime is a factor.");
+  Say(Text(R"(\yCheck:\z  {}.  With a factor lost or counted twice it would not be 72.)",
+           "8" + kTimes + "9 = 72"));
   PageEnd();
 }
 
@@ -275,6 +275,7 @@ void FormsOfPowers() {
   Say(Text("{}, {}, and {}:", "90 = 2" + kTimes + "45", "45 = 3" + kTimes + "15",
            "15 = 3" + kTimes + "5"));
   Show(R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 4);
+  AddLine("The exponent 1 is not written.");
   PageEnd();
 }
 

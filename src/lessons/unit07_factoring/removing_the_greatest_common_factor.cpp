@@ -22,13 +22,11 @@ void GoingBack() {
   NewScreen();
   SayAt(3, "We know how to distribute a factor:");
   ShowAt(5, "3(2x + 5) = 6x + 15", kMath);
-  SayAt(7, R"(To \cfactor\z an expression means to go back, from the sum to the product:)");
-  ShowAt(10, "6x + 15 = 3(2x + 5)", kMath);
+  SayAt(7, R"(To \cfactor\z means to go back:)");
+  ShowAt(9, "6x + 15 = 3(2x + 5)", kMath);
   PageEnd();
-  SayAt(12,
-        R"(3 is a factor of 6x and of 15.  It is a \ccommon factor\z.  We take it out, and divide )"
-        "each term by it.");
-  PageEnd();
+  SayAt(11,
+        R"(3 is a \ccommon factor\z of 6x and 15.  We take it out, and divide each term by it.)");
   Say(R"(\yTry it:\z  Which number is a common factor of 10x and 15?)");
   PageEnd();
   Say("5 is.  10x divided by 5 is 2x, and 15 divided by 5 is 3:");
@@ -52,14 +50,12 @@ void GreatestNumber() {
 
 void PrimesInCommon() {
   NewScreen();
-  SayAt(
-      3,
-      "With larger numbers the primes help.  Let's find the greatest common factor of 24 and 36:");
-  const CommonFactorsFigure figure(NumberWrittenOut(24), NumberWrittenOut(36), 6.5, kMath);
+  SayAt(3, "The primes help us find the greatest common factor of 24 and 36:");
+  const CommonFactorsFigure figure(NumberWrittenOut(24), NumberWrittenOut(36), 6, kMath);
   PageEnd();
   figure.FrameCommon();
-  SayAt(12, "The framed primes are factors of both numbers.  We multiply them:");
   figure.DropCommon("12");
+  SayAt(11.5, "The framed primes are factors of both numbers.  We multiply them.");
   PageEnd();
   Say(R"(\yTry it:\z  What is the greatest common factor of 30 and 45?)");
   PageEnd();
@@ -87,14 +83,13 @@ void LettersInCommon() {
 
 constexpr CommonMonomial kExample = {'x', {18, 12}, {5, 2}, false};
 
-// Both terms over the factor, built up; two lines.
-void ShowQuotients(const CommonMonomial& sum, double row, double col) {
-  const TakenOut right = sum.Right();
-  for (int i = 0; i < 2; ++i)
-    ShowAt(row + 3.5 * i,
-           TermText(sum.TermAt(i)) + "/(" + TermText(right.factor) +
-               ") = " + TermText(sum.Quotient(i)),
-           col);
+// Both terms over the greatest common factor, built up beside each other.
+void ShowQuotients(const CommonMonomial& sum, double row) {
+  const auto quotient = [&](int i) {
+    return TermText(sum.TermAt(i)) + "/(" + TermText(sum.CommonFactor()) +
+           ") = " + TermText(sum.Quotient(i));
+  };
+  ShowAt(row, quotient(0) + "      " + quotient(1), kMath);
 }
 
 void NumbersAndLetters() {
@@ -105,24 +100,25 @@ void NumbersAndLetters() {
   Say(Text(R"(We take out both:  \y{}\z)", "6x^2^"));
   PageEnd();
   SayAt(11, "We divide each term by it.  The numbers are divided, the exponents subtracted:");
-  ShowQuotients(kExample, 15, kMath);
+  ShowQuotients(kExample, 15);
   PageEnd();
-  ShowAt(22, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
+  ShowAt(18, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
   PageEnd();
 
   NewScreen();
   ShowAt(3, kExample.Text() + " = " + TakenOutText(kExample.Right()), kMath);
   const std::string factor = "6x^2^" + tutor::Dot;
   SayAt(5, Text(R"(\yCheck:\z  {}, and {}.)", factor + "3x^3^ = 18x^5^", factor + "2 = 12x^2^"));
-  RuleBox("Removing the GCF",
+  PageEnd();
+  RuleBox("Taking Out the Common Factor",
           {"Find the greatest common factor.", "Divide each term by it.",
            "Write it before the parentheses."},
-          {.width = 30});
+          {.width = 32});
   PageEnd();
   Say(R"(\yTry it:\z  What is still common inside?)");
   PaperBox({R"(\r6(3x^5^ + 2x^2^)\z)", R"(\rx^2^(18x^3^ + 12)\z)", R"(\r6x(3x^4^ + 2x)\z)"});
   PageEnd();
-  Say(Text("First {}, then 6, then x.", "x^2^"));
+  Say(Text("In the first {}, in the second 6, in the third x.", "x^2^"));
   PageEnd();
 }
 
@@ -137,7 +133,6 @@ void MinusAndOne() {
   PageEnd();
   SayAt(13, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
   PaperBox({R"(3y(3y^2^ + 1),  \rnot 3y(3y^2^)\z)"});
-  PageEnd();
   Say(Text(R"(\yTry it:\z  Factor {}.)", "8a^5^ - 4a^2^"));
   PageEnd();
   Say(Text(R"({} is common, and {} divided by it is 1:  \y{}\z)", "4a^2^", "4a^2^",
@@ -153,7 +148,6 @@ void FindTheMistake() {
   PageEnd();
   Say(Text("A:  The exponent inside was not made smaller.  {} divided by {} is {}.", "a^4^", "a^2^",
            "a^2^"));
-  PageEnd();
   Say("B:  Only the first term was divided.  15 must become 3.");
   PageEnd();
   Say(Text("C:  The higher power was taken out, but {} is not a factor of {}.", "a^4^", "a^2^"));
@@ -279,7 +273,7 @@ void RemovingTheGreatestCommonFactor::ExplainNumbers() const {
   PageEnd();
   figure.FrameCommon();
   figure.DropCommon(NumStr(sum_.CommonNumber()));
-  SayAt(figure.RowBelow(),
+  SayAt(figure.RowBelow() + 0.5,
         Text("The greatest common factor of the numbers is {}.", sum_.CommonNumber()));
   PageEnd();
 }
@@ -294,7 +288,8 @@ void RemovingTheGreatestCommonFactor::ExplainLetters() const {
   PageEnd();
   figure.FrameCommon();
   figure.DropCommon(lower.name);
-  SayAt(figure.RowBelow(), Text("{} is common, the power with the lower exponent.", lower.name));
+  SayAt(figure.RowBelow() + 0.5,
+        Text("{} is common, the power with the lower exponent.", lower.name));
   Say(Text(R"(So the greatest common factor is \y{}\z.)", TermText(sum_.CommonFactor())));
   PageEnd();
 }
@@ -303,26 +298,22 @@ void RemovingTheGreatestCommonFactor::Divide() const {
   NewScreen();
   BeginExplanation();
   SayAt(8, Text("We divide each term by {}:", TermText(sum_.CommonFactor())));
-  ShowQuotients(sum_, 10.5, kMath);
+  ShowQuotients(sum_, 11);
   PageEnd();
-  SayAt(16, "We write the factor in front, and what is left in parentheses:");
+  SayAt(13.5, "We write the factor in front, and what is left in parentheses:");
   Show(sum_.Text() + R"( = \y)" + TakenOutText(sum_.Right()) + R"(\z)", kMath);
   if (sum_.LeavesOne()) AddLine("The 1 must be written.");
   PageEnd();
 }
 
 void RemovingTheGreatestCommonFactor::Check() const {
-  const TakenOut right = sum_.Right();
-  NewScreen();
-  BeginExplanation();
-  ShowAt(7.5, "= " + TakenOutText(right), kMath);
-  SayAt(9.5, R"(\yCheck:\z  We distribute the factor.)");
+  Say(R"(\yCheck:\z  We distribute the factor.)");
   for (int i = 0; i < 2; ++i)
-    Show(TermText(right.factor) + " " + tutor::Times + " " + TermText(sum_.Quotient(i)) + " = " +
-             TermText(sum_.TermAt(i)),
+    Show(TermText(sum_.CommonFactor()) + " " + tutor::Times + " " + TermText(sum_.Quotient(i)) +
+             " = " + TermText(sum_.TermAt(i)),
          kMath);
   PageEnd();
-  Say(Text("Nothing common is left in {}.", SumText(right.inside)));
+  Say(Text("Nothing common is left in {}.", SumText(sum_.Right().inside)));
   PageEnd();
 }
 

@@ -107,12 +107,12 @@ class MistakeFinder {
     AddOne(name + " and reverses the sign", taken);
   }
 
-  // A part of the number, or of the power, stays inside.
   void FindCommonFactorsLeft() {
-    for (long number = 2; number <= common_.number; ++number)
-      for (int power = 1; power <= common_.power; ++power)
-        if (common_.number % number == 0 && (number < common_.number) != (power < common_.power))
-          Add("leaves a common factor inside", TakenOut(sum_, {number, power}));
+    for (long number = 2; number < common_.number; ++number)
+      if (common_.number % number == 0)
+        Add("leaves a common number inside", TakenOut(sum_, {number, common_.power}));
+    for (int power = 1; power < common_.power; ++power)
+      Add("leaves a common letter inside", TakenOut(sum_, {common_.number, power}));
   }
 
   void FindWrongQuotients() {

@@ -92,7 +92,7 @@ void CommonFactorsFigure::FrameCommon() const {
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     if (!columns_[i].IsCommon()) continue;
     const double last = ColumnOf(i) + static_cast<double>(columns_[i].factor.size()) - 1;
-    isDrawRoundRect(row_ + 0.08, ColumnOf(i) - kSide, row_ + kSecondRow + 0.2, last + kSide, 2,
+    isDrawRoundRect(row_ - 0.04, ColumnOf(i) - kSide, row_ + kSecondRow + 0.24, last + kSide, 2,
                     platform::colour::Yellow);
   }
 }

@@ -80,9 +80,9 @@ std::vector<FactoringMistake> CommonMonomial::Mistakes() const {
   };
   const int part = common / SmallestDivisor(common);
   if (part > 1)
-    mistakes.push_back({"leaves a common factor inside", Take(Factor(part, powers[1]))});
+    mistakes.push_back({"leaves a common number inside", Take(Factor(part, powers[1]))});
   if (powers[1] > 1)
-    mistakes.push_back({"leaves a common factor inside", Take(Factor(common, powers[1] - 1))});
+    mistakes.push_back({"leaves a common letter inside", Take(Factor(common, powers[1] - 1))});
   return mistakes;
 }
 
