@@ -257,8 +257,7 @@ void EqualFactors() {
   ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
   PageEnd();
   SayAt(10, "The exponent tells how many times a prime is a factor.");
-  Say(Text(R"(\yCheck:\z  {}.  With a factor lost or counted twice it would not be 72.)",
-           "8" + kTimes + "9 = 72"));
+  Say(Text(R"(\yCheck:\z  {}.  A lost factor would show here.)", "8" + kTimes + "9 = 72"));
   PageEnd();
 }
 

@@ -307,7 +307,10 @@ void RemovingTheGreatestCommonFactor::Divide() const {
 }
 
 void RemovingTheGreatestCommonFactor::Check() const {
-  Say(R"(\yCheck:\z  We distribute the factor.)");
+  NewScreen();
+  BeginExplanation();
+  ShowAt(7.5, "= " + TakenOutText(sum_.Right()), kMath);
+  SayAt(9.5, R"(\yCheck:\z  We distribute the factor.)");
   for (int i = 0; i < 2; ++i)
     Show(TermText(sum_.CommonFactor()) + " " + tutor::Times + " " + TermText(sum_.Quotient(i)) +
              " = " + TermText(sum_.TermAt(i)),
