@@ -53,8 +53,7 @@ void Divisors() {
   DotRectangle(11, 4, 2, 5);
   DotRectangle(13, 4, 1, 2);
   SayAt(11, "No.  After 2 rows of 5, 2 dots are left over.", {.col = 17});
-  SayAt(15, Text(R"(Divisors are also called \cfactors\z:  {} has the factors 3 and 4.)",
-                 "3" + kTimes + "4"));
+  SayAt(15, R"(We also call divisors \cfactors\z:  3 and 4 are factors of 12.)");
   PageEnd();
 }
 
@@ -66,7 +65,7 @@ void OnlyTwoDivisors() {
   SayAt(3, "7 dots make only one long row:");
   DotRectangle(5, 4, 1, 7);
   ShowAt(5, "1" + kTimes + "7 = 7", 22);
-  Say(R"(A \cprime\z is a whole number greater than 1 with only two divisors, 1 and itself.)");
+  Say(R"(A \cprime number\z is a whole number with only two divisors, 1 and itself.)");
   PageEnd();
   Say(R"(A whole number with more divisors, such as 12, is \ccomposite\z.)");
   Say("1 has only one divisor.  It is neither prime nor composite.");
@@ -108,7 +107,7 @@ class NumberGrid {
 void Sieve() {
   constexpr double kTextRow = 11;
   NewScreen();
-  SayAt(3, "Let's find all primes up to 30:");
+  SayAt(3, "The prime numbers, or primes, up to 30:");
   const NumberGrid grid(6);
   PageEnd();
   grid.CrossOut(1);
@@ -125,7 +124,7 @@ void Sieve() {
     if (IsPrime(n)) grid.Frame(n);
   ClearBelow(kTextRow);
   SayAt(kTextRow, "25.  7 finds nothing new:  14, 21 and 28 are crossed out already.");
-  Say(R"(All the others are \yprimes\z.)");
+  Say(R"(The framed numbers are the \yprimes\z.)");
   PageEnd();
 }
 
@@ -178,7 +177,6 @@ void FirstTree() {
   SayAt(14, Text(R"({}, and {}.  A branch ends at a prime.  This is a \cfactor tree\z.)",
                  "6 = 2" + kTimes + "3", "10 = 2" + kTimes + "5"));
   PageEnd();
-  ShowAt(11.5, "60 =", 9);
   tree.DropPrimes(11.5);
   SayAt(17, R"(The product of the primes at the ends is the \cprime factorization\z of 60.)");
   PaperBox({"60 = 2" + kTimes + "2" + kTimes + "3" + kTimes + "5"});
@@ -193,7 +191,6 @@ void NotYetPrimes() {
   tree.Grow();
   PageEnd();
   tree.Grow();
-  ShowAt(12, "36 =", 9);
   tree.DropPrimes(12);
   Say("No.  4 and 9 are composite, so their branches must go on.");
   PageEnd();
@@ -237,7 +234,6 @@ void SmallestPrimeFirst() {
   PageEnd();
   ClearBelow(11.5);
   tree.DropPrimes(12);
-  ShowAt(12, "= 154", 16);
   SayAt(14, "When the tests fail, we try the next primes:  7, 11, 13.");
   Say(R"(\yTry it:\z  Factor 84 into primes.)");
   PageEnd();
@@ -252,7 +248,7 @@ void SmallestPrimeFirst() {
 
 void EqualFactors() {
   NewScreen();
-  SayAt(3, "Equal factors are written as a power.  72 has three factors 2 and two factors 3:");
+  SayAt(3, "72 has three factors 2 and two factors 3.  We write them as powers:");
   ShowAt(6, "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + "3", 6);
   ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
   PageEnd();
@@ -439,7 +435,6 @@ void PrimeFactorization::GrowTree() const {
   PageEnd();
   ClearBelow(below);
   tree.DropPrimes(below);
-  ShowAt(below, "= " + NumStr(Number()), 24);
   PageEnd();
 }
 

@@ -41,7 +41,7 @@ void GreatestNumber() {
   Say(R"(The \cgreatest common factor\z.  Then nothing common is left inside:)");
   PaperBox({R"(\r2(6x + 9)\z    3 is still common)", R"(6(2x + 3)    nothing is common)"});
   PageEnd();
-  Say(R"(\yTry it:\z  What is still common in 4(6x + 10)?)");
+  Say(Text(R"(\yTry it:\z  What is still common in {}?)", "4(6x + 10)"));
   PageEnd();
   Say("2 is a factor of 6x and of 10.  The greatest common factor was 8:");
   Show(R"(24x + 40 = \y8(3x + 5)\z)", kMath);
@@ -131,7 +131,7 @@ void MinusAndOne() {
                 "9y^3^ + 3y"));
   ShowAt(11, "9y^3^/(3y) = 3y^2^       3y/(3y) = 1", kMath);
   PageEnd();
-  SayAt(13, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
+  SayAt(13.5, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
   PaperBox({R"(3y(3y^2^ + 1),  \rnot 3y(3y^2^)\z)"});
   Say(Text(R"(\yTry it:\z  Factor {}.)", "8a^5^ - 4a^2^"));
   PageEnd();
@@ -316,7 +316,13 @@ void RemovingTheGreatestCommonFactor::Check() const {
              " = " + TermText(sum_.TermAt(i)),
          kMath);
   PageEnd();
-  Say(Text("Nothing common is left in {}.", SumText(sum_.Right().inside)));
+  const int first = sum_.Quotient(0).coef;
+  const int second = sum_.Quotient(1).coef;
+  if (first > 1 && second > 1)
+    Say(Text("Nothing common is left inside:  {} and {} share only the factor 1, and {} has no {}.",
+             first, second, second, std::string(1, sum_.letter)));
+  else
+    Say(Text("Nothing common is left in {}.", SumText(sum_.Right().inside)));
   PageEnd();
 }
 

@@ -117,7 +117,9 @@ void FactorTreeFigure::DropPrimes(double row) const {
     page::SlideDown({from, node.FirstColumn(), node.Width()}, row - from, page::Leaving::Copy,
                     page::Pace::Brisk);
   }
-  page::ShowAt(row, R"(\y)" + fractions::ProductText(leaves), firstLeaf_);
+  page::ShowAt(
+      row, R"(\y)" + fractions::ProductText(leaves) + R"(\z = )" + NumStr(nodes_.front().number),
+      firstLeaf_);
 }
 
 }  // namespace course::factoring

@@ -31,7 +31,8 @@ class FactorTreeFigure {
   int Levels() const { return levels_; }
   // Row of a level; the number at the top is level 0.
   double RowOf(int level) const;
-  // The leaves slide down into a row below the tree, and become a product there.
+  // The leaves slide down into a row below the tree, and become a product there, with its
+  // value behind it.
   void DropPrimes(double row) const;
 
  private:
