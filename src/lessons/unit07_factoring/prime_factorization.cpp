@@ -2,11 +2,12 @@
 // 5, splits the number in a factor tree until only primes are left, and writes equal ones as
 // powers.
 //
-// A number has four or five prime factors.  Two of the wrong choices are made from the right
-// factors, and one from factors that are wrong already, so that none of them is the odd one out.
+// A number has four or five prime factors, two of them different at least.
 #include "lessons/families/factoring/divisor_tests.h"
 #include "lessons/families/factoring/factor_list.h"
 #include "lessons/families/factoring/factor_tree.h"
+#include "lessons/families/factoring/number_grid.h"
+#include "lessons/families/factoring/prime_choices.h"
 #include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/families/properties/property_pages.h"
 #include "lessons/lesson.h"
@@ -17,7 +18,6 @@ namespace {
 using namespace factoring;
 
 using platform::colour::Cyan;
-using platform::colour::Yellow;
 using properties::DrawDots;
 
 const std::string kTimes = " " + tutor::Times + " ";
@@ -72,38 +72,6 @@ void OnlyTwoDivisors() {
   PageEnd();
 }
 
-// The numbers from 1 to 30 in three rows; some of them are crossed out, others framed.
-class NumberGrid {
- public:
-  static constexpr int kLast = 30;
-
-  explicit NumberGrid(double row) : row_(row) {
-    for (int n = 1; n <= kLast; ++n) ShowAt(RowOf(n), NumStr(n), ColumnOf(n));
-  }
-  void CrossOut(int n) const {
-    isDrawDiagonalLineWithColor(RowOf(n) + 0.4, ColumnOf(n) - 0.4, RowOf(n) - 0.2,
-                                ColumnOf(n) + WidthOf(n) - 0.6, 3, Cyan);
-  }
-  // All multiples of a number but itself.
-  void CrossOutMultiples(int of) const {
-    for (int n = 2 * of; n <= kLast; n += of) CrossOut(n);
-  }
-  void Frame(int n) const {
-    constexpr double kSide = 0.4;
-    ShowAt(RowOf(n), R"(\y)" + NumStr(n), ColumnOf(n));
-    isDrawRoundRect(RowOf(n) + 0.08, ColumnOf(n) - kSide, RowOf(n) + 0.16,
-                    ColumnOf(n) + WidthOf(n) - 1 + kSide, 2, Yellow);
-  }
-
- private:
-  static constexpr int kInRow = 10;
-  double RowOf(int n) const { return row_ + 1.5 * ((n - 1) / kInRow); }
-  static double ColumnOf(int n) { return 2 + 3.8 * ((n - 1) % kInRow); }
-  static double WidthOf(int n) { return static_cast<double>(NumStr(n).size()); }
-
-  double row_;
-};
-
 void Sieve() {
   constexpr double kTextRow = 11;
   NewScreen();
@@ -120,8 +88,7 @@ void Sieve() {
   Say(R"(\yTry it:\z  Which new number does 5 cross out?)");
   PageEnd();
   grid.CrossOutMultiples(5);
-  for (int n = 2; n <= NumberGrid::kLast; ++n)
-    if (IsPrime(n)) grid.Frame(n);
+  grid.FramePrimes();
   ClearBelow(kTextRow);
   SayAt(kTextRow, "25.  7 finds nothing new:  14, 21 and 28 are crossed out already.");
   Say(R"(The framed numbers are the \yprimes\z.)");
@@ -290,10 +257,7 @@ class PrimeFactorization final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  bool IsWorthSolving() const;
   int Number() const { return ProductOf(primes_); }
-  FactorList FirstSplit(int factor) const { return WithFactor({factor}, Number() / factor); }
-  void OfferChoices(RandomStream& random);
 
   void BeginExplanation() const;
   void GrowTree() const;
@@ -305,94 +269,11 @@ class PrimeFactorization final : public LessonScript {
 
 // --- Generator ---------------------------------------------------------------
 
-// Three characters a prime; the small ones come often.
-constexpr std::string_view kPrimeTable = "  2  2  2  2  2  2  3  3  3  3  5  5  5  7  7 11 13 17";
-constexpr int kTableSize = static_cast<int>(kPrimeTable.size() / 3);
-constexpr int kLargestNumber = 720;  // that is divided by hand
-
-int PrimeInTable(int i) {
-  return std::atoi(std::string(kPrimeTable.substr(static_cast<std::size_t>(i - 1) * 3, 3)).c_str());
-}
-
-// Of the whole table for the first factor, of its smaller primes for the others.
-int DrawPrime(RandomStream& random, double ratio) {
-  return PrimeInTable(static_cast<int>(random.Rnd() * kTableSize * ratio) + 1);
-}
-
-bool PrimeFactorization::IsWorthSolving() const {
-  // A power of one prime leaves nothing to sort.
-  return Number() <= kLargestNumber && Different(primes_).size() > 1;
-}
-
 void PrimeFactorization::DrawProblem(RandomStream& random) {
-  do {
-    const int count = random.Rand(4, 5);
-    primes_.clear();
-    for (int i = 0; i < count; ++i)
-      primes_ = WithFactor(primes_, DrawPrime(random, i == 0 ? 1 : 0.8));
-  } while (!IsWorthSolving());
+  primes_ = DrawPrimeFactors(random);
   problem.question = {Text("What is the prime factorization of {}?", Number()),
                       "Every factor must be a prime number."};
-  OfferChoices(random);
-}
-
-struct FormMistake {
-  const char* name;
-  FactorList (*made)(const FactorList& primes, int first, int second);
-};
-constexpr FormMistake kNotPrime = {"leaves a factor that is not prime", Merged};
-constexpr FormMistake kOneIsPrime = {"takes 1 for a prime", [](const FactorList& primes, int, int) {
-                                       return WithFactor(primes, 1);
-                                     }};
-constexpr FormMistake kExchanged = {"exchanges base and exponent",
-                                    [](const FactorList& primes, int base, int) {
-                                      FactorList exchanged = primes;
-                                      const int exponent = CountOf(primes, base);
-                                      for (int i = 0; i < exponent; ++i)
-                                        exchanged = WithoutFactor(exchanged, base);
-                                      for (int i = 0; i < base; ++i)
-                                        exchanged = WithFactor(exchanged, exponent);
-                                      return exchanged;
-                                    }};
-
-// A prime, not the one given, that can be exchanged with its exponent: 2^3 for 3^2, where no other
-// 3 is a factor.  0 without one.
-int PrimeToExchange(const FactorList& primes, int miscounted) {
-  for (const int base : Different(primes)) {
-    const int exponent = CountOf(primes, base);
-    if (base != miscounted && exponent > 1 && exponent != base && CountOf(primes, exponent) == 0)
-      return base;
-  }
-  return 0;
-}
-
-void PrimeFactorization::OfferChoices(RandomStream& random) {
-  const auto count = static_cast<int>(primes_.size());
-  const std::vector<int> order = random.RandSeq(count, count);
-  const auto prime = [&](int i) {
-    return primes_[static_cast<std::size_t>(order[static_cast<std::size_t>(i)] - 1)];
-  };
-  const int recipe = random.Index(8);
-  const bool twice = random.Sign() > 0;
-  const int exchanged = recipe >= 6 ? PrimeToExchange(primes_, prime(2)) : 0;
-  const FormMistake& form = exchanged != 0 ? kExchanged : recipe <= 2 ? kOneIsPrime : kNotPrime;
-  const int first = exchanged != 0 ? exchanged : prime(0);
-  const FactorList miscounted =
-      twice ? WithFactor(primes_, prime(2)) : WithoutFactor(primes_, prime(2));
-  const std::string miscounts = twice ? "counts a prime factor twice" : "loses a prime factor";
-
-  Choices<FactorList> choices(problem, choice_kind::FiveShuffled, PowersText);
-  choices.Right(primes_);
-  choices.Wrong(form.name, form.made(primes_, first, prime(1)));
-  choices.Wrong(miscounts, miscounted);
-  choices.Wrong(form.name + (" and " + miscounts), form.made(miscounted, first, prime(1)));
-  if (recipe % 2 == 0) choices.Wrong("writes each prime factor only once", Different(primes_));
-  choices.Wrong("stops after the first split", FirstSplit(prime(0) * prime(1)));
-  // Another prime of the table in the place of one.
-  choices.Fill([&] {
-    const int other = DrawPrime(random, 1);
-    return WithFactor(WithoutFactor(primes_, prime(0)), other);
-  });
+  OfferFactorizations(problem, primes_, random);
 }
 
 // --- Problem page ------------------------------------------------------------

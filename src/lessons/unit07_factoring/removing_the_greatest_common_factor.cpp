@@ -41,9 +41,9 @@ void GreatestNumber() {
   Say(R"(The \cgreatest common factor\z.  Then nothing common is left inside:)");
   PaperBox({R"(\r2(6x + 9)\z    3 is still common)", R"(6(2x + 3)    nothing is common)"});
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What is still common in {}?)", "4(6x + 10)"));
+  Say(Text(R"(\yTry it:\z  Ben writes {}.  What is still common?)", "24x + 40 = 4(6x + 10)"));
   PageEnd();
-  Say("2 is a factor of 6x and of 10.  The greatest common factor was 8:");
+  Say("2 is a factor of 6x and of 10.  So we take out 8:");
   Show(R"(24x + 40 = \y8(3x + 5)\z)", kMath);
   PageEnd();
 }

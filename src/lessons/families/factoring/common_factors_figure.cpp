@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "display/drawing.h"
 #include "display/stacked_text.h"
+#include "lessons/families/factoring/factor_frame.h"
 #include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/page/show.h"
 #include "lessons/page/slides.h"
@@ -88,12 +88,10 @@ double CommonFactorsFigure::ColumnOf(std::size_t i) const {
 }
 
 void CommonFactorsFigure::FrameCommon() const {
-  constexpr double kSide = 0.4;  // columns
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     if (!columns_[i].IsCommon()) continue;
     const double last = ColumnOf(i) + static_cast<double>(columns_[i].factor.size()) - 1;
-    isDrawRoundRect(row_ - 0.04, ColumnOf(i) - kSide, row_ + kSecondRow + 0.24, last + kSide, 2,
-                    platform::colour::Yellow);
+    FrameFactor(row_, row_ + kSecondRow, ColumnOf(i), last);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "display/drawing.h"
+#include "lessons/families/factoring/factor_frame.h"
 #include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/page/show.h"
 #include "lessons/page/slides.h"
@@ -11,9 +12,6 @@
 #include "platform/stop.h"
 
 namespace course::factoring {
-
-using platform::colour::White;
-using platform::colour::Yellow;
 
 namespace {
 
@@ -78,12 +76,9 @@ double FactorTreeFigure::RowOf(int level) const {
 }
 
 void FactorTreeFigure::ShowNode(const Node& node) const {
-  constexpr double kSide = 0.35;  // columns between a prime and its frame
   const double row = RowOf(node.level);
   page::ShowAt(row, (node.isLeaf ? R"(\y)" : "") + NumStr(node.number), node.FirstColumn());
-  if (node.isLeaf)
-    isDrawRoundRect(row + 0.08, node.FirstColumn() - kSide, row + 0.16,
-                    node.FirstColumn() + node.Width() - 1 + kSide, 2, Yellow);
+  if (node.isLeaf) FrameFactor(row, row, node.FirstColumn(), node.FirstColumn() + node.Width() - 1);
 }
 
 void FactorTreeFigure::DrawBranch(const Node& node) const {
@@ -91,7 +86,8 @@ void FactorTreeFigure::DrawBranch(const Node& node) const {
   constexpr double kAboveNumber = 0.5;
   const Node& parent = nodes_[static_cast<std::size_t>(node.parent)];
   isDrawDiagonalLineWithColor(RowOf(parent.level) + kBelowNumber, parent.middle,
-                              RowOf(node.level) - kAboveNumber, node.middle, 2, White);
+                              RowOf(node.level) - kAboveNumber, node.middle, 2,
+                              platform::colour::White);
 }
 
 void FactorTreeFigure::Grow() {
@@ -102,10 +98,6 @@ void FactorTreeFigure::Grow() {
     ShowNode(node);
   }
   ++shown_;
-}
-
-void FactorTreeFigure::GrowWhole() {
-  while (shown_ < levels_) Grow();
 }
 
 void FactorTreeFigure::DropPrimes(double row) const {

@@ -27,7 +27,6 @@ class FactorTreeFigure {
 
   // The next level appears.
   void Grow();
-  void GrowWhole();
   int Levels() const { return levels_; }
   // Row of a level; the number at the top is level 0.
   double RowOf(int level) const;
