@@ -107,7 +107,7 @@ void NumbersAndLetters() {
 
   NewScreen();
   ShowAt(3, kExample.Text() + " = " + TakenOutText(kExample.Right()), kMath);
-  const std::string factor = "6x^2^" + tutor::Dot;
+  const std::string factor = "6x^2^ " + tutor::Times + " ";
   SayAt(5, Text(R"(\yCheck:\z  {}, and {}.)", factor + "3x^3^ = 18x^5^", factor + "2 = 12x^2^"));
   PageEnd();
   RuleBox("Taking Out the Common Factor",
@@ -135,8 +135,8 @@ void MinusAndOne() {
   PaperBox({R"(3y(3y^2^ + 1),  \rnot 3y(3y^2^)\z)"});
   Say(Text(R"(\yTry it:\z  Factor {}.)", "8a^5^ - 4a^2^"));
   PageEnd();
-  Say(Text(R"({} is common, and {} divided by it is 1:  \y{}\z)", "4a^2^", "4a^2^",
-           "4a^2^(2a^3^ - 1)"));
+  Say(Text("{} is common, and the second term leaves 1:", "4a^2^"));
+  Show(R"(8a^5^ - 4a^2^ = \y4a^2^(2a^3^ - 1)\z)", kMath);
   PageEnd();
 }
 

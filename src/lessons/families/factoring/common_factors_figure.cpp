@@ -7,7 +7,6 @@
 #include "lessons/families/factoring/factor_frame.h"
 #include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/page/show.h"
-#include "lessons/page/slides.h"
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
 
@@ -101,12 +100,12 @@ void CommonFactorsFigure::DropCommon(const std::string& product) const {
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     if (!columns_[i].IsCommon()) continue;
     ++common;
-    page::SlideDown(
-        {row_ + kSecondRow, ColumnOf(i), static_cast<double>(columns_[i].factor.size())},
-        kCommonRow - kSecondRow, page::Leaving::Copy, page::Pace::Brisk);
+    SlideFactorDown(row_ + kSecondRow, to, ColumnOf(i),
+                    static_cast<double>(columns_[i].factor.size()));
   }
+  FrameCommon();
   const std::string factors = Aligned([](const Column& column) { return column.IsCommon(); });
-  page::ShowAt(to, R"(\y)" + factors + (common > 1 ? " = " + product : ""), firstCol_);
+  ShowOverSlid(to, firstCol_, R"(\y)" + factors + (common > 1 ? " = " + product : ""));
 }
 
 double CommonFactorsFigure::RowBelow() const {

@@ -25,7 +25,7 @@ class CommonFactorsFigure {
                       double col);
 
   void FrameCommon() const;
-  // The common factors slide down, and their product, which is given as a text, stands behind them.
+  // The framed factors slide down, and their product, which is given as a text, stands behind them.
   void DropCommon(const std::string& product) const;
   double RowBelow() const;  // of all, the common factors included
 

@@ -1,6 +1,10 @@
 #include "lessons/families/factoring/factor_frame.h"
 
 #include "display/drawing.h"
+#include "display/stacked_text.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/show.h"
+#include "lessons/page/slides.h"
 
 namespace course::factoring {
 
@@ -11,6 +15,19 @@ void FrameFactor(double firstRow, double lastRow, double firstCol, double lastCo
   constexpr int kThickness = 2;   // pixels
   isDrawRoundRect(firstRow + kAbove, firstCol - kSide, lastRow + kBelow, lastCol + kSide,
                   kThickness, platform::colour::Yellow);
+}
+
+void SlideFactorDown(double fromRow, double toRow, double col, double width) {
+  constexpr double kInside = 0.15;  // rows: only what stands within the frame moves
+  constexpr double kHeight = 0.9;
+  page::SlideDown({fromRow + kInside, col, width, kHeight}, toRow - fromRow, page::Leaving::Copy,
+                  page::Pace::Brisk);
+}
+
+void ShowOverSlid(double row, double col, const std::string& product) {
+  constexpr double kAround = 0.2;  // rows
+  page::ClearCells(row - kAround, col, StackedTextWidth(product), 1 + 2 * kAround);
+  page::ShowAt(row, product, col);
 }
 
 }  // namespace course::factoring

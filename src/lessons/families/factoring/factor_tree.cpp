@@ -7,7 +7,6 @@
 #include "lessons/families/factoring/factor_frame.h"
 #include "lessons/families/fractions/fraction_steps.h"
 #include "lessons/page/show.h"
-#include "lessons/page/slides.h"
 #include "mathkit/expressions.h"
 #include "platform/stop.h"
 
@@ -78,7 +77,12 @@ double FactorTreeFigure::RowOf(int level) const {
 void FactorTreeFigure::ShowNode(const Node& node) const {
   const double row = RowOf(node.level);
   page::ShowAt(row, (node.isLeaf ? R"(\y)" : "") + NumStr(node.number), node.FirstColumn());
-  if (node.isLeaf) FrameFactor(row, row, node.FirstColumn(), node.FirstColumn() + node.Width() - 1);
+  if (node.isLeaf) FrameNode(node);
+}
+
+void FactorTreeFigure::FrameNode(const Node& node) const {
+  const double row = RowOf(node.level);
+  FrameFactor(row, row, node.FirstColumn(), node.FirstColumn() + node.Width() - 1);
 }
 
 void FactorTreeFigure::DrawBranch(const Node& node) const {
@@ -105,13 +109,12 @@ void FactorTreeFigure::DropPrimes(double row) const {
   for (const Node& node : nodes_) {
     if (!node.isLeaf) continue;
     leaves.push_back(node.number);
-    const double from = RowOf(node.level);
-    page::SlideDown({from, node.FirstColumn(), node.Width()}, row - from, page::Leaving::Copy,
-                    page::Pace::Brisk);
+    SlideFactorDown(RowOf(node.level), row, node.FirstColumn(), node.Width());
+    FrameNode(node);
   }
-  page::ShowAt(
-      row, R"(\y)" + fractions::ProductText(leaves) + R"(\z = )" + NumStr(nodes_.front().number),
-      firstLeaf_);
+  ShowOverSlid(
+      row, firstLeaf_,
+      R"(\y)" + fractions::ProductText(leaves) + R"(\z = )" + NumStr(nodes_.front().number));
 }
 
 }  // namespace course::factoring

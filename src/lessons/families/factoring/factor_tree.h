@@ -46,6 +46,7 @@ class FactorTreeFigure {
   };
   int Place(const FactorTree& tree, int level, int parent);
   void ShowNode(const Node& node) const;
+  void FrameNode(const Node& node) const;
   void DrawBranch(const Node& node) const;
 
   double row_;
