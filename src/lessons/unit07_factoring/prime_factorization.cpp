@@ -22,8 +22,7 @@ using properties::DrawDots;
 
 const std::string kTimes = " " + tutor::Times + " ";
 
-// --- Screen 1: divisors
-// ----------------------------------------------------------------------------
+// --- Screen 1: divisors -----------------------------------------------------
 
 void DotRectangle(double row, double col, int rows, int columns) {
   for (int i = 0; i < rows; ++i) DrawDots(row + i, col, columns, Cyan);
@@ -57,8 +56,7 @@ void Divisors() {
   PageEnd();
 }
 
-// --- Screen 2: primes
-// ------------------------------------------------------------------------------
+// --- Screen 2: primes -------------------------------------------------------
 
 void OnlyTwoDivisors() {
   NewScreen();
@@ -75,7 +73,7 @@ void OnlyTwoDivisors() {
 void Sieve() {
   constexpr double kTextRow = 11;
   NewScreen();
-  SayAt(3, "The prime numbers, or primes, up to 30:");
+  SayAt(3, "Which are prime numbers, or primes?");
   const NumberGrid grid(6);
   PageEnd();
   grid.CrossOut(1);
@@ -95,8 +93,7 @@ void Sieve() {
   PageEnd();
 }
 
-// --- Screen 3: the tests of 2, 3 and 5
-// ---------------------------------------------------------------
+// --- Screen 3: the tests of 2, 3 and 5 --------------------------------------
 
 void LastDigits() {
   NewScreen();
@@ -129,8 +126,7 @@ void SumOfDigits() {
   PageEnd();
 }
 
-// --- Screen 4: factor trees
-// --------------------------------------------------------------------------
+// --- Screen 4: factor trees -------------------------------------------------
 
 void FirstTree() {
   NewScreen();
@@ -163,8 +159,7 @@ void NotYetPrimes() {
   PageEnd();
 }
 
-// --- Screen 5: always the same primes
-// ------------------------------------------------------------------
+// --- Screen 5: always the same primes ---------------------------------------
 
 void TwoTrees() {
   NewScreen();
@@ -210,8 +205,7 @@ void SmallestPrimeFirst() {
   PageEnd();
 }
 
-// --- Screen 6: powers
-// ----------------------------------------------------------------------------------
+// --- Screen 6: powers -------------------------------------------------------
 
 void EqualFactors() {
   NewScreen();

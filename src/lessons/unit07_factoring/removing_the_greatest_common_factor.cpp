@@ -77,7 +77,7 @@ void LettersInCommon() {
   PageEnd();
   Say(Text(R"(\yTry it:\z  What is the greatest common factor of {} and {}?)", "n^4^", "n"));
   PageEnd();
-  Say(Text(R"(n has one factor n, so only one is common:  \yn\z.)"));
+  Say(R"(n has one factor n, so only one is common:  \yn\z.)");
   PageEnd();
 }
 
@@ -124,7 +124,7 @@ void NumbersAndLetters() {
 
 void MinusAndOne() {
   NewScreen();
-  SayAt(3, Text("The minus sign stays a minus sign:"));
+  SayAt(3, "The minus sign stays a minus sign:");
   ShowAt(5, R"(20n^4^ - 8n^3^ = \y4n^3^(5n - 2)\z)", kMath);
   PageEnd();
   SayAt(7, Text("What if a term is the common factor itself?  Let's take {} out of {}:", "3y",
