@@ -3,6 +3,7 @@
 //
 // Every choice is multiplied out: one that is the same product as another, in either order of its
 // factors, gives way to a random one.
+#include "lessons/families/factoring/factor_pairs.h"
 #include "lessons/families/polynomials/factor_moves.h"
 #include "lessons/families/polynomials/trinomial.h"
 #include "lessons/lesson.h"
@@ -10,6 +11,7 @@
 namespace course {
 namespace {
 
+using namespace factoring;
 using namespace polynomials;
 
 constexpr int kLargest = 10;  // size of the numbers in the factors
@@ -25,24 +27,7 @@ std::string Identity(const Factors& factors) {
   return TrinomialText(factors.Product()) + " = " + FactorsText(factors);
 }
 
-// Product and sum of a pair, each in its column.
-std::string PairLine(const NumberPair& pair) {
-  constexpr std::size_t kSumColumn = 19;
-  std::string line = NumStr(pair.first) + " " + tutor::Times + " " + InParentheses(pair.second) +
-                     " = " + NumStr(pair.first * pair.second);
-  line.resize(kSumColumn, ' ');
-  return line + NumStr(pair.first) + " + " + InParentheses(pair.second) + " = " +
-         NumStr(pair.Sum());
-}
-
 // --- Teaching screens --------------------------------------------------------
-
-// The pairs that are tried, below a blank row; the last one is found.
-void ListTried(const std::vector<NumberPair>& pairs) {
-  double row = NextRow() + 1;
-  for (const NumberPair& pair : pairs)
-    SayAt(row++, (&pair == &pairs.back() ? R"(  \y)" : "  ") + WithoutBreaks(PairLine(pair)));
-}
 
 // What comes out, half a row below the pairs.
 void AddResult(const std::string& text) {
@@ -202,7 +187,6 @@ class TrinomialsX2BxC final : public LessonScript {
 
   void BeginPage();
   void TellProductAndSum() const;
-  std::string SignSentence() const;
   void ListPairs();
   void FillIn();
   void Check();
@@ -288,7 +272,7 @@ void TrinomialsX2BxC::ExplainProblem() {
   PageEnd();
   TellProductAndSum();
   PageEnd();
-  Say(SignSentence());
+  Say(SignSentence(Asked().constant, Asked().middle));
   PageEnd();
   ListPairs();
   FillIn();
@@ -308,19 +292,6 @@ void TrinomialsX2BxC::TellProductAndSum() const {
   Say(Text(R"(Their \yproduct\z is \y{}\z, the last number.)", Asked().constant));
   AddLine(Text(R"(Their \csum\z is \c{}\z, the number before x.)", sum));
   if (std::abs(sum) == 1) AddLine(Text("{} means {}x.", term, sum));
-}
-
-std::string TrinomialsX2BxC::SignSentence() const {
-  const bool sumPositive = Asked().middle > 0;
-  if (Asked().constant > 0)
-    return std::string(
-               "The product is positive, so both numbers have the same sign.  The sum is ") +
-           (sumPositive ? "positive, so both are positive." : "negative, so both are negative.");
-  return std::string(
-             "The product is negative, so one number is positive and the other negative.  "
-             "The sum is ") +
-         (sumPositive ? "positive" : "negative") + ", so the number farther from 0 is " +
-         (sumPositive ? "positive." : "negative.");
 }
 
 // The pairs up to the one that is right, two a page.

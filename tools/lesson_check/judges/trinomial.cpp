@@ -1,5 +1,7 @@
 // A trinomial to be factored: the choices are multiplied out.
+#include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
@@ -75,6 +77,137 @@ Reading ReadMonicTrinomial(const course::Problem& problem) {
   return reading;
 }
 
+// --- Trinomials that begin with another number ---------------------------------------------------
+
+// (first x + firstLast)(second x + secondLast), the numbers before x positive.
+struct Product {
+  long first = 0;
+  long firstLast = 0;
+  long second = 0;
+  long secondLast = 0;
+
+  long Middle() const { return first * secondLast + firstLast * second; }
+  bool HasCommonFactor() const {
+    return std::gcd(first, firstLast) > 1 || std::gcd(second, secondLast) > 1;
+  }
+  std::string Text(char letter) const {
+    const Polynomial x = Polynomial::Letter(letter);
+    const auto factor = [&](long lead, long last) {
+      return Polynomial(Rational(lead)) * x + Polynomial(Rational(last));
+    };
+    return (factor(first, firstLast) * factor(second, secondLast)).Text();
+  }
+};
+
+// Every way to have the first and last terms of a x^2 + b x + c; each factor stands first once.
+std::vector<Product> ProductsWithEnds(long a, long c) {
+  std::vector<Product> products;
+  for (long first = 1; first <= a; ++first)
+    for (long last = -std::labs(c); last <= std::labs(c); ++last)
+      if (a % first == 0 && last != 0 && c % last == 0)
+        products.push_back({first, last, a / first, c / last});
+  return products;
+}
+
+struct Coefficients {
+  long a = 0;
+  long b = 0;
+  long c = 0;
+};
+
+// What goes wrong when the middle term is split, b = first + second with first times second = a c.
+void AddSplittingMistakes(char letter, const Coefficients& asked, Reading& reading) {
+  const auto add = [&](const char* mistake, const Product& product) {
+    reading.mistakes[mistake].push_back(product.Text(letter));
+  };
+  const long size = std::labs(asked.a * asked.c);
+  for (long first = -size; first <= size; ++first) {
+    if (first == 0 || size % first != 0) continue;
+    const long second = asked.a * asked.c / first;
+    const long shared = std::gcd(asked.a, first);  // of a x^2 + first x
+    if (first + second != asked.b) {
+      add("takes a pair with the right product and the wrong sum",
+          {asked.a / shared, first / shared, shared, asked.c * shared / first});
+      continue;
+    }
+    add("writes the two numbers straight into the factors", {1, first, 1, second});
+    if (shared > 1)  // only x is taken out of the first two terms
+      add("leaves a common factor inside", {asked.a, first, 1, asked.c * shared / first});
+  }
+}
+
+void AddTrialMistakes(char letter, const Coefficients& asked, Reading& reading) {
+  for (const Product& product : ProductsWithEnds(asked.a, asked.c)) {
+    if (product.Middle() == asked.b) continue;
+    reading.mistakes["checks only the first and last terms"].push_back(product.Text(letter));
+    if (product.HasCommonFactor())
+      reading.mistakes["puts numbers with a common factor into one factor"].push_back(
+          product.Text(letter));
+  }
+}
+
+Product RightProduct(const Coefficients& asked) {
+  for (const Product& product : ProductsWithEnds(asked.a, asked.c))
+    if (product.Middle() == asked.b) return product;
+  throw Unreadable("the trinomial has no whole factors");
+}
+
+void AddSignMistakes(char letter, const Product& right, Reading& reading) {
+  const auto [first, p, second, q] = right;
+  reading.mistakes["reverses one sign"] = {Product{first, -p, second, q}.Text(letter),
+                                           Product{first, p, second, -q}.Text(letter)};
+  reading.mistakes["reverses both signs"] = {Product{first, -p, second, -q}.Text(letter)};
+  const Product exchanged = {first, q, second, p};
+  if (exchanged.Middle() != right.Middle())
+    reading.mistakes["exchanges the last numbers"] = {exchanged.Text(letter)};
+}
+
+// A trinomial that begins with a number above 1 before the square, its numbers without a common
+// factor; the largest number in its factors is told.
+Reading ReadTrinomial(const course::Problem& problem, long largest,
+                      void (*addMistakes)(char letter, const Coefficients& asked,
+                                          Reading& reading)) {
+  const std::string line = TrinomialLine(problem);
+  const Polynomial trinomial = ValueOf(line);
+  const char letter = LetterOf(line);
+  if (trinomial.Degree(letter) != 2) throw Unreadable("\"" + line + "\" is no trinomial");
+  const auto whole = [&](int exponent) {
+    return trinomial.Coefficient(letter, exponent).Number().get_num().get_si();
+  };
+  const Coefficients asked = {whole(2), whole(1), whole(0)};
+  Reading reading;
+  reading.answer = trinomial.Text();
+  reading.value = [letter](const std::string& choice) {
+    if (!IsProductOfBinomials(choice, letter))
+      throw Unreadable("\"" + choice + "\" is no product of binomials");
+    return ValueOf(choice).Text();
+  };
+  reading.Within("the first number", asked.a, 2, largest * largest);
+  if (asked.b == 0) reading.faults.push_back("the middle term is missing");
+  if (std::gcd(std::gcd(asked.a, asked.b), asked.c) != 1)
+    reading.faults.push_back("the terms have a common factor");
+  const Product right = RightProduct(asked);
+  reading.Within("a number in the factors",
+                 std::max({right.first, right.second, std::labs(right.firstLast),
+                           std::labs(right.secondLast)}),
+                 1, largest);
+  reading.kind = std::string(asked.c > 0 ? "same signs" : "different signs") +
+                 (asked.b > 0 ? ", middle positive" : ", middle negative");
+  AddSignMistakes(letter, right, reading);
+  addMistakes(letter, asked, reading);
+  return reading;
+}
+
+constexpr long kLargest = 9;
+Reading ReadForTrial(const course::Problem& problem) {
+  return ReadTrinomial(problem, kLargest, AddTrialMistakes);
+}
+Reading ReadForGrouping(const course::Problem& problem) {
+  return ReadTrinomial(problem, kLargest, AddSplittingMistakes);
+}
+
+const JudgeRegistration kTrial(ReadForTrial, {"Trinomials of the Form ax\xB2+bx+c"});
+const JudgeRegistration kGrouping(ReadForGrouping, {"Using Grouping to Factor Trinomials"});
 const JudgeRegistration kRegistration(ReadMonicTrinomial, {"Trinomials of the Form x\xB2+bx+c"});
 
 }  // namespace
