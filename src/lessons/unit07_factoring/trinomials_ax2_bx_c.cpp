@@ -34,43 +34,59 @@ void SayPairs(const Trinomial& trinomial) {
   AddLine("  last numbers:   " + PairsText(trinomial.constant));
 }
 
+// Arrows at a product such as "(x + 3)(2x + 1)": above it from the first to the last number, below
+// it between the two in the middle.
+void DrawOuterAndInner(double row, double col, const Factors& factors) {
+  const auto first = static_cast<double>(FactorText(factors.first).size());
+  const auto both = static_cast<double>(FactorsText(factors).size());
+  const double above = row - 0.9;
+  const double below = row + 1.1;
+  const double middle[] = {col + first - 2, col + first + 1.5};
+  isDrawArrow3Segment(row - 0.5, col + 1, above, col + 1, above, col + both - 2, row - 0.4,
+                      col + both - 2, platform::colour::Yellow, "NA", "A");
+  isDrawArrow3Segment(row + 0.7, middle[0], below, middle[0], below, middle[1], row + 0.6,
+                      middle[1], platform::colour::Yellow, "NA", "A");
+}
+
 void FourProducts() {
+  constexpr Factors kFactors = {{1, 3}, {2, 1}};
+  constexpr double kRow = 7;
+  constexpr double kCol = 5;
   const std::string d = tutor::Dot;
   NewScreen();
   SayAt(3,
-        Text("Until now our trinomials began with x^2^.  Now a number stands before it, as in {}.",
-             TrinomialText({2, 7, 3})));
+        Text("A number can stand before x^2^, as in {}.  Such a trinomial comes from two factors:",
+             TrinomialText(kFactors.Product())));
+  ShowAt(kRow, FactorsText(kFactors), kCol);
+  DrawOuterAndInner(kRow, kCol, kFactors);
   PageEnd();
-  Say("Such a trinomial comes from two factors, too:");
-  ShowAt(8, FactorsText({{1, 3}, {2, 1}}), 12);
+  Note(6.2, 22, "outer terms");
+  Note(7.8, 22, "inner terms");
   WhiteBox({.row = 9.5, .rows = 6.5});
   SayInBox("first terms:  x" + d + "2x = 2x^2^");
   SayInBox("outer terms:  x" + d + "1 = x");
   SayAt(16.5, R"(\yTry it:\z  Which two products are still missing?)");
   PageEnd();
-  SayInBox("inner terms:  3" + d + "2x = 6x");
+  SayInBox("inner terms:  3 " + tutor::Times + " 2x = 6x");
   SayInBox("last terms:   3 " + tutor::Times + " 1 = 3");
   ClearBelow(16.5);
-  SayAt(16.5, "Sum:  2x^2^ + x + 6x + 3 = " + WithoutBreaks(TrinomialText({2, 7, 3})));
+  SayAt(16.5, "Sum:  2x^2^ + x + 6x + 3 = " + WithoutBreaks(TrinomialText(kFactors.Product())));
   PageEnd();
-  Say(R"(\yTry it:\z  Which two products make the middle term 7x?)");
-  PageEnd();
-  Say("The outer and the inner one:  x + 6x = 7x.");
+  Say("The outer and the inner product together make the middle term:  " +
+      WithoutBreaks("x + 6x = 7x."));
   PageEnd();
 }
 
 void ThreeRules() {
   NewScreen();
-  SayAt(3, Text("To factor {} we go back to {}.", TrinomialText({2, 7, 3}),
-                FactorsText({{1, 3}, {2, 1}})));
   RuleBox("Factoring ax^2^ + bx + c",
           {"first numbers:  product a", "last numbers:   product c", "outer + inner product:  bx"},
-          {.width = 28});
+          {.row = 3, .width = 28});
   PageEnd();
-  Say(R"(a is the number in front of x^2^, b the number in front of x, and c the last number.)");
-  Say(Text(R"(\yTry it:\z  What are a, b and c in {}?)", TrinomialText({2, 7, 3})));
-  PageEnd();
-  Say("a is 2, b is 7, and c is 3.  x is 1x, so the first numbers 1 and 2 have the product 2.");
+  Say(Text(
+      "a stands in front of x^2^, b in front of x, and c is the last number.  In {} they are 2, "
+      "7 and 3.",
+      TrinomialText({2, 7, 3})));
   PageEnd();
 }
 
@@ -84,30 +100,26 @@ void TwoPlaces() {
   PageEnd();
   Say("The second trial gives the middle term:");
   Show(Identity({{1, 5}, {2, 1}}));
-  Say(R"(\yWatch out:\z  For 2x^2^ it matters where 1 and 5 stand.  Always look at the middle term.)");
+  Say(R"(\yWatch out:\z  1 and 5 must not change places:  that gives 7x.)");
   PageEnd();
 
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({3, 16, 5})));
-  PageEnd();
   SayPairs({3, 16, 5});
-  SayTrials({3, 16, 5});
   PageEnd();
+  SayTrials({3, 16, 5});
   Show(Identity({{1, 5}, {3, 1}}));
+  PageEnd();
 }
 
 void AnOrder() {
   constexpr Trinomial kAsked = {6, 19, 10};
   const std::vector<Trial> trials = TrialsUntilFound(kAsked);
-  Say(Text("Now let's factor {}.  There are more pairs:", TrinomialText(kAsked)));
+  NewScreen();
+  SayAt(3, Text("Now let's factor {}.  There are more pairs:", TrinomialText(kAsked)));
   SayPairs(kAsked);
   PageEnd();
-
-  NewScreen();
-  SayAt(3,
-        Text("To leave nothing out in {}, we keep an order:  pairs whose numbers are closest come "
-             "first.",
-             TrinomialText(kAsked)));
+  Say("We keep an order, so that we leave none out:  pairs whose numbers are closest come first.");
   WhiteBox({.rows = 3.5});
   SayTrial(trials.front(), false);
   PageEnd();
@@ -119,14 +131,14 @@ void AnOrder() {
   SayTrial(trials.back(), true);
   Show(Identity({{2, 5}, {3, 2}}));
   PageEnd();
-  Say(R"(\yWatch out:\z  When all three terms have a common factor, take it out first.)");
-  Show("4x^2^ + 14x + 6 = 2(" + TrinomialText({2, 7, 3}) + ")");
-  PageEnd();
 
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({4, 12, 5})));
+  SayAt(3, R"(\yWatch out:\z  When all three terms have a common factor, take it out first.)");
+  Show("4x^2^ + 14x + 6 = 2(" + TrinomialText({2, 7, 3}) + ")");
   PageEnd();
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({4, 12, 5})));
   SayPairs({4, 12, 5});
+  PageEnd();
   SayTrials({4, 12, 5});
   Show(Identity({{2, 1}, {2, 5}}));
   Say("Here both factors begin with 2x, so 1 and 5 may change places.");
@@ -135,15 +147,12 @@ void AnOrder() {
 
 void SameSigns() {
   NewScreen();
-  SayAt(3,
-        R"(When the last number is \ypositive\z, both signs are the same.  They are that of the )"
-        "middle term:");
+  SayAt(3, R"(When the last number is \ypositive\z, both signs are that of the middle term:)");
   PaperBox({Identity({{2, 5}, {3, 2}}), Identity({{2, -5}, {3, -2}})});
   PageEnd();
   Say("So we find the numbers first, and put the signs in last.");
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({3, -10, 8})));
   PageEnd();
-  SayPairs({3, -10, 8});
   SayTrials({3, -10, 8});
   Say("The middle term is -10x:  both signs are minus.");
   Show(Identity({{1, -2}, {3, -4}}));
@@ -170,29 +179,27 @@ void DifferentSigns() {
   NewScreen();
   CheckByMultiplying(3, kRight);
   PageEnd();
-  Say(R"(\yWatch out:\z  With both signs reversed the ends are right, but the middle term is not:)");
+  Say(R"(\yWatch out:\z  Do not reverse the signs:)");
   PaperBox({R"(\r(2x - 5)(3x + 2)\z gives -11x)"});
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({8, -10, -3})));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({6, -1, -2})));
   PageEnd();
-  SayTrials({8, -10, -3});
-  Say("12x comes from 3 and 4x.  It must be negative:");
-  Show(Identity({{2, -3}, {4, 1}}));
+  SayTrials({6, -1, -2});
+  Say("-x means -1x.  4x comes from 2 and 2x, and must be negative:");
+  Show(Identity({{2, 1}, {3, -2}}));
   PageEnd();
 }
 
-void MiddleTermWithoutNumber() {
+void ALongSearch() {
+  constexpr Trinomial kAsked = {12, 4, -5};
   NewScreen();
-  SayAt(3,
-        Text("In {} no number stands in front of x.  -x means -1x.", TrinomialText({6, -1, -2})));
-  SayTrials({6, -1, -2});
-  Say(Text("4x comes from 2x and 2, and must be negative:  {}", FactorsText({{2, 1}, {3, -2}})));
+  SayAt(3, Text(R"(\yTry it:\z  A longer search:  what are the factors of {}?)",
+                TrinomialText(kAsked)));
+  SayPairs(kAsked);
   PageEnd();
-  Say(Text(R"(\yTry it:\z  A long search:  what are the factors of {}?)",
-           TrinomialText({12, 4, -5})));
+  SayTrials(kAsked);
   PageEnd();
-  SayPairs({12, 4, -5});
-  SayTrials({12, 4, -5});
-  Say(Text("10x comes from 2x and 5, and must be positive:  {}", FactorsText({{2, -1}, {6, 5}})));
+  Say("10x comes from 5 and 2x.  It must be positive, so the 5 gets the plus sign:");
+  RaiseConstants(NextRow() + 0.5, 3, {{2, -1}, {6, 5}});
   PageEnd();
 }
 
@@ -205,7 +212,7 @@ class TrinomialsAX2BxC final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{FourProducts, ThreeRules, TwoPlaces, AnOrder},
-            {SameSigns, DifferentSigns, MiddleTermWithoutNumber}};
+            {SameSigns, DifferentSigns, ALongSearch}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -260,7 +267,7 @@ void TrinomialsAX2BxC::DrawProblem(RandomStream& random) {
 void TrinomialsAX2BxC::ShowProblem() {
   SayAt(5, problem.question[0]);
   ShowAt(7, problem.question[1], 4);
-  ShowAnswersInTwoColumns(problem, {.width = 20});  // two brackets are long
+  ShowAnswersInTwoColumns(problem, {.width = 20, .fontSize = 18});  // (2x + 3)(20x + 3) is long
 }
 
 // --- Worked explanation --------------------------------------------------------------------------
@@ -288,9 +295,10 @@ void TrinomialsAX2BxC::TellPairs() const {
   Say(Text(R"(The \yfirst\z numbers have the product {}:)", asked_.square));
   AddLine("  " + PairsText(asked_.square));
   PageEnd();
-  Say(Text(R"(The \clast\z numbers have the product {}:)", asked_.constant));
+  Say(Text(asked_.constant > 0 ? R"(The \ylast\z numbers have the product {}:)"
+                               : R"(Without signs the \ylast\z numbers have the product {}:)",
+           std::abs(asked_.constant)));
   AddLine("  " + PairsText(asked_.constant));
-  if (asked_.constant < 0) AddLine("The signs are put in later.");
   PageEnd();
 }
 
@@ -314,10 +322,11 @@ void TrinomialsAX2BxC::GoThroughTrials() {
   constexpr std::size_t kInBox = 8;
   NewScreen();
   BeginPage();
-  SayAt(8, "We try the closest numbers first:");
+  SayAt(8, Text("We try the closest numbers first, until the result is {}x:",
+                CoefText(std::abs(asked_.middle))));
   const std::vector<Trial> trials = TrialsUntilFound(asked_);
   const std::size_t lines = std::min(kInBox, trials.size());
-  WhiteBox({.row = 9.5, .rows = kTrialRows * static_cast<double>(lines) + 0.5});
+  WhiteBox({.row = 10.5, .rows = kTrialRows * static_cast<double>(lines) + 0.5});
   for (std::size_t i = 0; i < trials.size(); ++i) {
     if (i > 0 && i % kAPage == 0) PageEnd();
     if (i > 0 && i % kInBox == 0) SayInBoxAnew("");
@@ -339,11 +348,17 @@ void TrinomialsAX2BxC::PutSignsIn() {
     const Factors& sizes = found.sizes;
     const int lead = outerIsLarger ? sizes.first.lead : sizes.second.lead;
     const int last = outerIsLarger ? sizes.second.constant : sizes.first.constant;
-    SayAt(8,
-          Text("The larger product is {} = {}.  It gets the sign of the middle term, {}.  So this "
-               "{} gets a {} sign, and the other number the opposite sign:",
-               CoefText(lead * last) + "x", CoefText(lead) + "x" + tutor::Dot + NumStr(last),
-               Words{sign}, last, Words{sign}));
+    const int other = outerIsLarger ? sizes.first.constant : sizes.second.constant;
+    const bool same = last == other;
+    SayAt(
+        8,
+        Text(
+            "The larger product, {} = {}, must be {}.  So {} gets the {} sign, and {} the {} sign:",
+            CoefText(lead * last) + "x", CoefText(lead) + "x" + tutor::Dot + NumStr(last),
+            Words{asked_.middle > 0 ? "positive" : "negative"},
+            Words{(same ? "this " : "") + NumStr(last)}, Words{sign},
+            Words{(same ? "the other " : "") + NumStr(other)},
+            Words{asked_.middle > 0 ? "minus" : "plus"}));
   }
   RaiseConstants(12.5, 4, right_);
   PageEnd();

@@ -64,13 +64,14 @@ Factors ConstantsExchanged(Factors factors) {
   return factors;
 }
 
-// A random number in the factors whose sign is reversed: in the right ones it would make them the
-// box most like the others.
-Factors WithRandomNumber(Factors signReversed, int largest, RandomStream& random) {
-  int& constant =
-      random.Rand(1, 2) == 1 ? signReversed.first.constant : signReversed.second.constant;
+// One sign reversed, and a random number in the other factor: beside the right numbers it would
+// make the right factors the box most like the others.
+Factors WithRandomNumber(const Factors& right, bool signOfFirst, int largest,
+                         RandomStream& random) {
+  Factors factors = OneSignReversed(right, signOfFirst);
+  int& constant = signOfFirst ? factors.second.constant : factors.first.constant;
   constant = polynomials::DrawConstant(random, largest);
-  return signReversed;
+  return factors;
 }
 
 }  // namespace
@@ -86,14 +87,14 @@ Factors DrawFactors(RandomStream& random, int largest) {
 
 void FillFactorChoices(Problem& problem, const Factors& right,
                        const std::vector<WrongFactors>& others, int largest, RandomStream& random) {
-  const Factors signReversed = OneSignReversed(right, random.Rand(1, 2) == 1);
+  const bool signOfFirst = random.Rand(1, 2) == 1;
   const bool hasRandomNumber = random.Rand(1, 2) == 1;
   const int count = static_cast<int>(others.size());
   const std::vector<int> order = random.RandSeq(count, count);
-  const auto drawn = [&] { return Answer{WithRandomNumber(signReversed, largest, random)}; };
+  const auto drawn = [&] { return Answer{WithRandomNumber(right, signOfFirst, largest, random)}; };
   Choices<Answer> choices(problem, choice_kind::FiveShuffled, AnswerText);
   choices.Right({right});
-  choices.Wrong("reverses one sign", {signReversed});
+  choices.Wrong("reverses one sign", {OneSignReversed(right, signOfFirst)});
   const Factors exchanged = ConstantsExchanged(right);
   if (exchanged.SameProductAs(right))
     choices.Wrong(kFiller, drawn());
