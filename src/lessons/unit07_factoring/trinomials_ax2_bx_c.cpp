@@ -218,7 +218,7 @@ class TrinomialsAX2BxC final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  std::vector<WrongFactors> OtherMistakes(RandomStream& random) const;
+  std::vector<WrongFactors> TrialMistakes() const;
 
   void BeginPage();
   void TellPairs() const;
@@ -232,25 +232,15 @@ class TrinomialsAX2BxC final : public LessonScript {
 
 // --- Generator -----------------------------------------------------------------------------------
 
-std::vector<WrongFactors> TrinomialsAX2BxC::OtherMistakes(RandomStream& random) const {
-  std::vector<WrongFactors> primitive;
-  std::vector<WrongFactors> withCommonFactor;
-  for (const Trial& trial : AllTrials(asked_)) {
-    if (trial.Middle() == std::abs(asked_.middle)) continue;
-    const Factors factors = WithSigns(trial, asked_);
-    if (trial.CommonFactor() == 1)
-      primitive.push_back({"checks only the first and last terms", factors});
-    else
-      withCommonFactor.push_back({"puts numbers with a common factor into one factor", factors});
-  }
-  std::vector<WrongFactors> mistakes = {{"reverses both signs",
-                                         {{right_.first.lead, -right_.first.constant},
-                                          {right_.second.lead, -right_.second.constant}}}};
-  for (const std::vector<WrongFactors>& kind : {primitive, withCommonFactor}) {
-    if (kind.empty()) continue;
-    const int place = random.Index(static_cast<int>(kind.size()));
-    mistakes.push_back(kind[static_cast<std::size_t>(place - 1)]);
-  }
+// Of all trials that do not give the middle term.
+std::vector<WrongFactors> TrinomialsAX2BxC::TrialMistakes() const {
+  std::vector<WrongFactors> mistakes;
+  for (const Trial& trial : AllTrials(asked_))
+    if (trial.Middle() != std::abs(asked_.middle))
+      mistakes.push_back({trial.CommonFactor() == 1
+                              ? "checks only the first and last terms"
+                              : "puts numbers with a common factor into one factor",
+                          WithSigns(trial, asked_)});
   return mistakes;
 }
 
@@ -258,8 +248,7 @@ void TrinomialsAX2BxC::DrawProblem(RandomStream& random) {
   right_ = DrawFactors(random, kLargest);
   asked_ = right_.Product();
   problem.question = {"Find the factors of this trinomial:", TrinomialText(asked_)};
-  const std::vector<WrongFactors> others = OtherMistakes(random);
-  FillFactorChoices(problem, right_, others, kLargest, random);
+  FillFactorChoices(problem, right_, TrialMistakes(), kLargest, random);
 }
 
 // --- Problem page --------------------------------------------------------------------------------

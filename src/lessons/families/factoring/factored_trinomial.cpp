@@ -88,9 +88,8 @@ Factors DrawFactors(RandomStream& random, int largest) {
 void FillFactorChoices(Problem& problem, const Factors& right,
                        const std::vector<WrongFactors>& others, int largest, RandomStream& random) {
   const bool signOfFirst = random.Rand(1, 2) == 1;
-  const bool hasRandomNumber = random.Rand(1, 2) == 1;
-  const int count = static_cast<int>(others.size());
-  const std::vector<int> order = random.RandSeq(count, count);
+  const bool hasRandomNumber = random.Rand(1, 3) == 1;
+  const bool otherComesFirst = random.Rand(1, 2) == 1;
   const auto drawn = [&] { return Answer{WithRandomNumber(right, signOfFirst, largest, random)}; };
   Choices<Answer> choices(problem, choice_kind::FiveShuffled, AnswerText);
   choices.Right({right});
@@ -101,10 +100,14 @@ void FillFactorChoices(Problem& problem, const Factors& right,
   else
     choices.Wrong("exchanges the last numbers", {exchanged});
   if (hasRandomNumber) choices.Wrong(kFiller, drawn());
-  for (const int place : order) {
+  const Factors bothReversed = OneSignReversed(OneSignReversed(right, true), false);
+  if (!otherComesFirst) choices.Wrong("reverses both signs", {bothReversed});
+  if (!others.empty()) {
+    const int place = random.Index(static_cast<int>(others.size()));
     const WrongFactors& other = others[static_cast<std::size_t>(place - 1)];
     choices.Wrong(other.mistake, {other.factors});
   }
+  choices.Wrong("reverses both signs", {bothReversed});
   choices.Fill(drawn);
 }
 

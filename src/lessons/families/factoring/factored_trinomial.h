@@ -23,9 +23,10 @@ struct WrongFactors {
   std::string mistake;
   Factors factors;
 };
-// Five shuffled choices: the right factors, a reversed sign, exchanged last numbers, two of the
-// wrong factors that are given, at most one of a name, and in half of the problems a random number
-// in place of one of those.  Factors with the product of another choice give way.
+// Five shuffled choices: the right factors, those with one sign reversed, with exchanged last
+// numbers, and two of these three: both signs reversed, one of the others that are given, a random
+// number, which is there in a third of the problems.  Factors with the product of another choice
+// give way to a random number as well.
 void FillFactorChoices(Problem& problem, const Factors& right,
                        const std::vector<WrongFactors>& others, int largest, RandomStream& random);
 
