@@ -13,31 +13,50 @@ namespace {
 using namespace factoring;
 using namespace polynomials;
 
-// --- Screen 1: four terms ------------------------------------------------------------------------
+// --- Figures -------------------------------------------------------------------------------------
+
+constexpr double kProductSize = 15;  // points, of a product in the table
+
+// A table of (x + 3)(2x + 5), a row and a column for each of its terms; the cells are empty.
+void ShowProductTable() {
+  constexpr double kLefts[] = {28, 65};
+  constexpr double kTops[] = {24, 63};
+  constexpr double kWidth = 28;
+  constexpr double kHeight = 30;
+  const std::string columns[] = {"x", "3"};
+  const std::string rows[] = {"2x", "5"};
+  PrintCellTable table;
+  table.heightPixels = 130;
+  for (const double top : kTops)
+    for (const double left : kLefts) table.cells.push_back({left, top, kWidth, kHeight});
+  for (std::size_t i = 0; i < 2; ++i) {
+    table.labels.push_back(
+        {kLefts[i], 3, kWidth, 20, columns[i], 12, platform::colour::Black, true});
+    table.labels.push_back({4, kTops[i] + 5, 22, 20, rows[i], 12, platform::colour::Black, true});
+  }
+  CellTable(table);
+}
 
 // The four terms, what is taken out of both groups, and the product.
 void ShowSteps(const SplitTrinomial& split) {
-  Show("  " + split.FourTerms());
-  Show("= " + split.TakenOut());
-  Show("= " + FactorsText(split.Factored()));
+  WhiteBox({.rows = 5});
+  SayInBox("  " + split.FourTerms());
+  SayInBox("= " + split.TakenOut());
+  SayInBox(R"(= \b)" + FactorsText(split.Factored()));
 }
+
+// --- Screen 1: four terms ------------------------------------------------------------------------
 
 void CommonParentheses() {
   const std::string d = tutor::Dot;
-  const SplitTrinomial first({2, 11, 15}, {6, 5});
-  const SplitTrinomial second({15, 11, 2}, {5, 6});
+  const SplitTrinomial split({2, 11, 15}, {6, 5});
   NewScreen();
   SayAt(3, "Both parts of this sum have the \\cfactor\\z y.  We take it out:");
   ShowAt(5.5, "2x" + d + "y + 5" + d + "y = y(2x + 5)");
   PageEnd();
-  SayAt(7,
-        Text("A sum in parentheses can take the place of y, here {}:", FactorText(first.Common())));
-  TakeOutTwice(9.5, kMathCol, first);
-  PageEnd();
-  SayAt(13, Text(R"(\yTry it:\z  How do you write {} as a product?)", second.TakenOut()));
-  PageEnd();
-  Say(Text("Both parts have the factor {}.  We take it out:", FactorText(second.Common())));
-  Show(FactorsText(second.Factored()));
+  SayAt(7.5,
+        Text("A sum in parentheses can take the place of y, here {}:", FactorText(split.Common())));
+  TakeOutTwice(10, kMathCol, split);
   PageEnd();
 }
 
@@ -71,12 +90,11 @@ void MinusGroup() {
   SayAt(3, Text("In {} the second group begins with a minus sign:", split.FourTerms()));
   Show(split.Groups());
   PageEnd();
-  const std::string d = tutor::Dot;
-  Say(Text("Then we take out a negative number, here -3.  {}, and {}.", "-9x is -3" + d + "3x",
-           "6 is -3" + d + "(-2)"));
+  Say(Text("Then we take out a negative number, here -3.  {}, and {}.",
+           "-3 " + tutor::Times + " 3x is -9x", "-3 " + tutor::Times + " (-2) is 6"));
   Show("  " + split.TakenOut());
-  Show("= " + FactorsText(split.Factored()));
   PageEnd();
+  Show("= " + FactorsText(split.Factored()));
   Say(R"(\yWatch out:\z  What stands in parentheses must be the same twice, signs included.)");
   PaperBox({R"(\r2x(3x - 2) - 3(3x + 2)\z:  look again)"});
   PageEnd();
@@ -100,18 +118,20 @@ void OneIsLeft() {
 void WhereTheyComeFrom() {
   NewScreen();
   SayAt(3,
-        "A trinomial has only three terms.  When we multiply out, two of the four terms are "
-        "combined:");
-  Show("  (x + 3)(2x + 5)");
+        "A trinomial has only three terms.  We multiply out (x + 3)(2x + 5) to see where four "
+        "terms come from:");
+  ShowProductTable();
   PageEnd();
-  Show("= 2x^2^ + 5x + 6x + 15");
-  Show("= 2x^2^ + 11x + 15");
+  int cell = 0;
+  for (const char* product : {"2x^2^", "6x", "5x", "15"})
+    picPrintCellPrint(++cell, product, platform::colour::Blue, kProductSize);
+  Show("2x^2^ + 6x + 5x + 15 = " + WithoutBreaks(TrinomialText({2, 11, 15})));
   PageEnd();
-  Say(R"(To go back, we \csplit\z the middle term:  11x is 5x + 6x.)");
-  Say(Text(R"(\yTry it:\z  How much is {}, and how much is {}, the first number times the last?)",
-           "5 " + tutor::Times + " 6", "2 " + tutor::Times + " 15"));
+  Say(R"(To go back, we \csplit\z 11x into 6x + 5x.)");
+  Say(Text(R"(\yTry it:\z  How much is {}, and how much is {}?)", "6 " + tutor::Times + " 5",
+           "2 " + tutor::Times + " 15"));
   PageEnd();
-  Say("Both are 30.  2 and 15 come from the same numbers 1, 3, 2 and 5 as 5 and 6.");
+  Say("Both are 30:  across the table, both products are made of the same 1, 3, 2 and 5.");
   PageEnd();
 }
 
@@ -127,7 +147,7 @@ void TheRule() {
            "6 " + tutor::Times + " 4 = 24"));
   ListTried(PairsUntilFound(kAsked));
   PageEnd();
-  Say("We split 11x into 3x + 8x, group, and take out twice:");
+  SayAt(NextRow() + 0.5, "We split 11x into 3x + 8x:");
   ShowSteps(Split(kAsked));
   PageEnd();
 
@@ -136,22 +156,17 @@ void TheRule() {
            "factors:");
   PaperBox({R"(\r(x + 3)(x + 8)\z begins with x^2^, not 6x^2^)"});
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({3, 10, 8})));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({2, 7, 3})));
   PageEnd();
-  ListTried(PairsUntilFound({3, 10, 8}));
-  PageEnd();
-  Say("We split 10x into 4x + 6x:");
-  ShowSteps(Split({3, 10, 8}));
+  ListTried(PairsUntilFound({2, 7, 3}));
+  ShowSteps(Split({2, 7, 3}));
   PageEnd();
 }
 
 void NegativeLastNumber() {
-  constexpr Trinomial kAsked = {6, -5, -6};
+  constexpr Trinomial kAsked = {3, -4, -4};
   NewScreen();
-  SayAt(3, Text("Let's factor {}.  The product is -36, so one number is positive and the other "
-                "negative.",
-                TrinomialText(kAsked)));
-  PageEnd();
+  SayAt(3, Text("Let's factor {}.  The product is -12, and the sum is -4:", TrinomialText(kAsked)));
   ListTried(PairsUntilFound(kAsked));
   PageEnd();
   Say("We write the negative part first.  Then the second group begins with a plus sign:");
@@ -160,28 +175,23 @@ void NegativeLastNumber() {
   Show("= " + Split(kAsked).TakenOut());
   Show("= " + FactorsText(Split(kAsked).Factored()));
   PageEnd();
+  CheckByMultiplying(NextRow() + 1, Split(kAsked).Factored());
+  PageEnd();
 
   NewScreen();
-  CheckByMultiplying(3, Split(kAsked).Factored());
+  SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({8, 10, -3})));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({8, 10, -3})));
-  PageEnd();
-  Say(Text("The product is -24, and -2 + 12 is 10:"));
+  Say("The product is -24, and -2 + 12 is 10:");
   ShowSteps(Split({8, 10, -3}));
   PageEnd();
 }
 
 void NegativeSum() {
-  constexpr Trinomial kAsked = {10, -11, 3};
-  NewScreen();
-  SayAt(3,
-        Text(R"(\yTry it:\z  The product is positive and the sum negative.  What are the factors )"
-             "of {}?",
-             TrinomialText(kAsked)));
+  constexpr Trinomial kAsked = {5, -11, 2};
+  Say(Text(R"(\yTry it:\z  Now the sum alone is negative.  What are the factors of {}?)",
+           TrinomialText(kAsked)));
   PageEnd();
-  ListTried(PairsUntilFound(kAsked));
-  PageEnd();
-  Say("Both numbers are negative.  From the second group we take out -3:");
+  SayAt(NextRow() + 1, "Both numbers are negative, -1 and -10:");
   ShowSteps(Split(kAsked));
   PageEnd();
 }
@@ -270,7 +280,7 @@ void UsingGrouping::TellProductAndSum() const {
   Show(Text("{} {} {} = {}", asked_.square, tutor::Times, InParentheses(asked_.constant),
             asked_.square * asked_.constant));
   PageEnd();
-  Say(Text(R"(Their \ysum\z is {}, the number in front of x.)", asked_.middle));
+  Say(Text(R"(Their \ysum\z is the number before x, {}.)", asked_.middle));
   if (std::abs(asked_.middle) == 1)
     AddLine(Text("{} means {}x.", CoefText(asked_.middle) + "x", asked_.middle));
 }
@@ -282,13 +292,16 @@ void UsingGrouping::ListPairs() {
   NewScreen();
   BeginPage();
   std::vector<NumberPair> pairs = PairsUntilFound(asked_);
-  SayAt(8, Text("We list pairs with the product {} until the sum is {}:",
-                asked_.square * asked_.constant, asked_.middle));
+  const int product = asked_.square * asked_.constant;
   if (pairs.size() > kInBox) {
+    SayAt(8, Text("We list pairs with the product {}.  The sum of {} and {} is far from {}, so we "
+                  "begin farther down:",
+                  product, pairs.front().first, pairs.front().second, asked_.middle));
     pairs.erase(pairs.begin(), pairs.end() - kInBox);
-    AddLine(Text("The first sums are far from {}, so we begin with {}.", asked_.middle,
-                 pairs.front().first));
     PageEnd();
+  } else {
+    SayAt(8, Text("We list the pairs with the product {} until the sum is {}:", product,
+                  asked_.middle));
   }
   const std::size_t column = SumColumnOf(pairs);
   std::size_t characters = 0;
