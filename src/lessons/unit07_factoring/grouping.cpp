@@ -3,6 +3,7 @@
 // twice.
 #include "lessons/families/factoring/factor_pairs.h"
 #include "lessons/families/factoring/factored_trinomial.h"
+#include "lessons/families/factoring/product_figures.h"
 #include "lessons/families/factoring/split_middle.h"
 #include "lessons/families/polynomials/trinomial.h"
 #include "lessons/lesson.h"
@@ -13,29 +14,7 @@ namespace {
 using namespace factoring;
 using namespace polynomials;
 
-// --- Figures -------------------------------------------------------------------------------------
-
-constexpr double kProductSize = 15;  // points, of a product in the table
-
-// A table of (x + 3)(2x + 5), a row and a column for each of its terms; the cells are empty.
-void ShowProductTable() {
-  constexpr double kLefts[] = {28, 65};
-  constexpr double kTops[] = {24, 63};
-  constexpr double kWidth = 28;
-  constexpr double kHeight = 30;
-  const std::string columns[] = {"x", "3"};
-  const std::string rows[] = {"2x", "5"};
-  PrintCellTable table;
-  table.heightPixels = 130;
-  for (const double top : kTops)
-    for (const double left : kLefts) table.cells.push_back({left, top, kWidth, kHeight});
-  for (std::size_t i = 0; i < 2; ++i) {
-    table.labels.push_back(
-        {kLefts[i], 3, kWidth, 20, columns[i], 12, platform::colour::Black, true});
-    table.labels.push_back({4, kTops[i] + 5, 22, 20, rows[i], 12, platform::colour::Black, true});
-  }
-  CellTable(table);
-}
+// --- Screen 1: four terms ------------------------------------------------------------------------
 
 // The four terms, what is taken out of both groups, and the product.
 void ShowSteps(const SplitTrinomial& split) {
@@ -44,8 +23,6 @@ void ShowSteps(const SplitTrinomial& split) {
   SayInBox("= " + split.TakenOut());
   SayInBox(R"(= \b)" + FactorsText(split.Factored()));
 }
-
-// --- Screen 1: four terms ------------------------------------------------------------------------
 
 void CommonParentheses() {
   const std::string d = tutor::Dot;
@@ -68,7 +45,7 @@ void TwoGroups() {
                 first.FourTerms()));
   Show(first.Groups());
   PageEnd();
-  Say("Each group has a common factor.  From the first we take out 2x, from the second 5:");
+  Say("Each group has a greatest common factor, 2x and 5.  We take it out:");
   Show(first.TakenOut());
   PageEnd();
   Say(Text("Now {} is common, and we take out a second time:", FactorText(first.Common())));
@@ -95,8 +72,9 @@ void MinusGroup() {
   Show("  " + split.TakenOut());
   PageEnd();
   Show("= " + FactorsText(split.Factored()));
-  Say(R"(\yWatch out:\z  What stands in parentheses must be the same twice, signs included.)");
-  PaperBox({R"(\r2x(3x - 2) - 3(3x + 2)\z:  look again)"});
+  Say(R"(\yWatch out:\z  The parentheses must match.)");
+  PaperBox({R"(\r2x(3x - 2) - 3(3x + 2)\z  a wrong sign)",
+            R"(\rx(6x - 4) - 3(3x - 2)\z   2 is still inside)"});
   PageEnd();
 }
 
@@ -116,45 +94,46 @@ void OneIsLeft() {
 // --- Screen 2: three terms -----------------------------------------------------------------------
 
 void WhereTheyComeFrom() {
+  constexpr Factors kFactors = {{1, 3}, {2, 5}};
   NewScreen();
   SayAt(3,
-        "A trinomial has only three terms.  We multiply out (x + 3)(2x + 5) to see where four "
-        "terms come from:");
-  ShowProductTable();
+        "Grouping can factor a trinomial without trials.  We multiply out (x + 3)(2x + 5) to see "
+        "where four terms come from:");
+  ShowProductTable(kFactors);
   PageEnd();
-  int cell = 0;
-  for (const char* product : {"2x^2^", "6x", "5x", "15"})
-    picPrintCellPrint(++cell, product, platform::colour::Blue, kProductSize);
+  FillProductTable(kFactors);
   Show("2x^2^ + 6x + 5x + 15 = " + WithoutBreaks(TrinomialText({2, 11, 15})));
   PageEnd();
   Say(R"(To go back, we \csplit\z 11x into 6x + 5x.)");
   Say(Text(R"(\yTry it:\z  How much is {}, and how much is {}?)", "6 " + tutor::Times + " 5",
            "2 " + tutor::Times + " 15"));
   PageEnd();
-  Say("Both are 30:  across the table, both products are made of the same 1, 3, 2 and 5.");
+  const std::string times = " " + tutor::Times + " ";
+  Say(Text("Both are 30:  each is {}, the numbers at the edges of the table.",
+           "1" + times + "2" + times + "3" + times + "5"));
   PageEnd();
 }
 
 void TheRule() {
-  constexpr Trinomial kAsked = {6, 11, 4};
+  constexpr Trinomial kAsked = {6, 11, 3};
   NewScreen();
   RuleBox("Grouping ax^2^ + bx + c",
-          {"1. Find two numbers whose", "product is ac and whose sum is b.",
-           "2. Split the middle term.", "3. Group, and take out twice."},
+          {"1. two numbers: product ac, sum b", "2. split the middle term",
+           "3. group, and take out twice"},
           {.row = 3, .width = 30});
   PageEnd();
-  Say(Text("Let's factor {}.  The product is {}, and the sum is 11:", TrinomialText(kAsked),
-           "6 " + tutor::Times + " 4 = 24"));
+  Say(Text("Let's factor {}.", TrinomialText(kAsked)));
+  AddLine("  ac is 6 " + tutor::Times + " 3 = 18, and b is 11:");
   ListTried(PairsUntilFound(kAsked));
   PageEnd();
-  SayAt(NextRow() + 0.5, "We split 11x into 3x + 8x:");
+  SayAt(NextRow() + 0.5, "We split 11x into 2x + 9x:");
   ShowSteps(Split(kAsked));
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  3 and 8 split the middle term.  They are not the numbers in the )"
+  SayAt(3, R"(\yWatch out:\z  2 and 9 split the middle term.  They are not the numbers in the )"
            "factors:");
-  PaperBox({R"(\r(x + 3)(x + 8)\z begins with x^2^, not 6x^2^)"});
+  PaperBox({R"(\r(x + 2)(x + 9)\z begins with x^2^, not 6x^2^)"});
   PageEnd();
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({2, 7, 3})));
   PageEnd();
@@ -188,10 +167,11 @@ void NegativeLastNumber() {
 
 void NegativeSum() {
   constexpr Trinomial kAsked = {5, -11, 2};
-  Say(Text(R"(\yTry it:\z  Now the sum alone is negative.  What are the factors of {}?)",
-           TrinomialText(kAsked)));
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  Now the sum alone is negative.  What are the factors of {}?)",
+                TrinomialText(kAsked)));
   PageEnd();
-  SayAt(NextRow() + 1, "Both numbers are negative, -1 and -10:");
+  Say("ac is 10, so we take -1 and -10:");
   ShowSteps(Split(kAsked));
   PageEnd();
 }
@@ -276,7 +256,7 @@ void UsingGrouping::BeginPage() {
 }
 
 void UsingGrouping::TellProductAndSum() const {
-  Say(Text(R"(We need two numbers.  Their \yproduct\z is that of the first and the last number:)"));
+  Say(R"(We need two numbers.  Their \yproduct\z is that of the first and the last number:)");
   Show(Text("{} {} {} = {}", asked_.square, tutor::Times, InParentheses(asked_.constant),
             asked_.square * asked_.constant));
   PageEnd();
@@ -322,7 +302,6 @@ void UsingGrouping::ListPairs() {
 
 void UsingGrouping::SplitAndGroup() {
   const SplitTrinomial split = Split(asked_);
-  const auto [first, second] = split.Numbers();
   NewScreen();
   BeginPage();
   SayAt(8, Text("We split the middle term{}:",
@@ -333,7 +312,7 @@ void UsingGrouping::SplitAndGroup() {
   Show(split.Groups());
   PageEnd();
   const std::string firstOutside = CoefText(split.FirstOutside()) + "x";
-  if (second < 0) {
+  if (split.Numbers().second < 0) {
     Say(
         Text("From the first group we take out {}.  The second begins with a minus sign:  from it "
              "we take out {}.",

@@ -3,6 +3,7 @@
 // puts the signs in last.
 #include "lessons/families/factoring/factor_trials.h"
 #include "lessons/families/factoring/factored_trinomial.h"
+#include "lessons/families/factoring/product_figures.h"
 #include "lessons/families/polynomials/factor_moves.h"
 #include "lessons/families/polynomials/trinomial.h"
 #include "lessons/lesson.h"
@@ -32,20 +33,6 @@ void SayTrials(const Trinomial& trinomial) {
 void SayPairs(const Trinomial& trinomial) {
   AddLine("  first numbers:  " + PairsText(trinomial.square));
   AddLine("  last numbers:   " + PairsText(trinomial.constant));
-}
-
-// Arrows at a product such as "(x + 3)(2x + 1)": above it from the first to the last number, below
-// it between the two in the middle.
-void DrawOuterAndInner(double row, double col, const Factors& factors) {
-  const auto first = static_cast<double>(FactorText(factors.first).size());
-  const auto both = static_cast<double>(FactorsText(factors).size());
-  const double above = row - 0.9;
-  const double below = row + 1.1;
-  const double middle[] = {col + first - 2, col + first + 1.5};
-  isDrawArrow3Segment(row - 0.5, col + 1, above, col + 1, above, col + both - 2, row - 0.4,
-                      col + both - 2, platform::colour::Yellow, "NA", "A");
-  isDrawArrow3Segment(row + 0.7, middle[0], below, middle[0], below, middle[1], row + 0.6,
-                      middle[1], platform::colour::Yellow, "NA", "A");
 }
 
 void FourProducts() {
