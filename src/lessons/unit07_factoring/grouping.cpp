@@ -62,7 +62,7 @@ void TwoGroups() {
 }
 
 void MinusGroup() {
-  const SplitTrinomial split = Split({6, -13, 6});
+  const SplitTrinomial split = SplitMiddle({6, -13, 6});
   NewScreen();
   SayAt(3, Text("In {} the second group begins with a minus sign:", split.FourTerms()));
   Show(split.Groups());
@@ -127,7 +127,7 @@ void TheRule() {
   ListTried(PairsUntilFound(kAsked));
   PageEnd();
   SayAt(NextRow() + 0.5, "We split 11x into 2x + 9x:");
-  ShowSteps(Split(kAsked));
+  ShowSteps(SplitMiddle(kAsked));
   PageEnd();
 
   NewScreen();
@@ -138,7 +138,7 @@ void TheRule() {
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({2, 7, 3})));
   PageEnd();
   ListTried(PairsUntilFound({2, 7, 3}));
-  ShowSteps(Split({2, 7, 3}));
+  ShowSteps(SplitMiddle({2, 7, 3}));
   PageEnd();
 }
 
@@ -149,19 +149,19 @@ void NegativeLastNumber() {
   ListTried(PairsUntilFound(kAsked));
   PageEnd();
   Say("We write the negative part first.  Then the second group begins with a plus sign:");
-  Show("  " + Split(kAsked).FourTerms());
+  Show("  " + SplitMiddle(kAsked).FourTerms());
   PageEnd();
-  Show("= " + Split(kAsked).TakenOut());
-  Show("= " + FactorsText(Split(kAsked).Factored()));
+  Show("= " + SplitMiddle(kAsked).TakenOut());
+  Show("= " + FactorsText(SplitMiddle(kAsked).Factored()));
   PageEnd();
-  CheckByMultiplying(NextRow() + 1, Split(kAsked).Factored());
+  CheckByMultiplying(NextRow() + 1, SplitMiddle(kAsked).Factored());
   PageEnd();
 
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({8, 10, -3})));
   PageEnd();
   Say("The product is -24, and -2 + 12 is 10:");
-  ShowSteps(Split({8, 10, -3}));
+  ShowSteps(SplitMiddle({8, 10, -3}));
   PageEnd();
 }
 
@@ -172,7 +172,7 @@ void NegativeSum() {
                 TrinomialText(kAsked)));
   PageEnd();
   Say("ac is 10, so we take -1 and -10:");
-  ShowSteps(Split(kAsked));
+  ShowSteps(SplitMiddle(kAsked));
   PageEnd();
 }
 
@@ -205,7 +205,7 @@ class UsingGrouping final : public LessonScript {
 // --- Generator -----------------------------------------------------------------------------------
 
 std::vector<WrongFactors> UsingGrouping::SplittingMistakes() const {
-  const SplitTrinomial split = Split(asked_);
+  const SplitTrinomial split = SplitMiddle(asked_);
   const auto [first, second] = split.Numbers();
   std::vector<WrongFactors> mistakes = {
       {"writes the two numbers straight into the factors", {{1, first}, {1, second}}}};
@@ -223,7 +223,7 @@ void UsingGrouping::DrawProblem(RandomStream& random) {
   const int largest = random.Rand(1, 2) == 1 ? 5 : 9;
   asked_ = DrawFactors(random, largest).Product();
   problem.question = {"Find the factors of this trinomial:", TrinomialText(asked_)};
-  FillFactorChoices(problem, Split(asked_).Factored(), SplittingMistakes(), largest, random);
+  FillFactorChoices(problem, SplitMiddle(asked_).Factored(), SplittingMistakes(), largest, random);
 }
 
 // --- Problem page --------------------------------------------------------------------------------
@@ -301,7 +301,7 @@ void UsingGrouping::ListPairs() {
 }
 
 void UsingGrouping::SplitAndGroup() {
-  const SplitTrinomial split = Split(asked_);
+  const SplitTrinomial split = SplitMiddle(asked_);
   NewScreen();
   BeginPage();
   SayAt(8, Text("We split the middle term{}:",
@@ -329,7 +329,7 @@ void UsingGrouping::SplitAndGroup() {
 }
 
 void UsingGrouping::TakeOut() {
-  const SplitTrinomial split = Split(asked_);
+  const SplitTrinomial split = SplitMiddle(asked_);
   NewScreen();
   BeginPage();
   SayAt(8, Text("Both parts have the factor {}.  We take it out:", FactorText(split.Common())));

@@ -256,7 +256,7 @@ void TrinomialsAX2BxC::ExplainProblem() {
   PageEnd();
   GoThroughTrials();
   PutSignsIn();
-  CheckByMultiplying(15, right_);
+  CheckByMultiplying(14, right_);
   PageEnd();
   Conclude(problem);
 }
@@ -336,7 +336,7 @@ void TrinomialsAX2BxC::PutSignsIn() {
             Words{(same ? "the other " : "") + NumStr(other)},
             Words{asked_.middle > 0 ? "minus" : "plus"}));
   }
-  RaiseConstants(12.5, 4, right_);
+  RaiseConstants(11.5, 4, right_);
   PageEnd();
 }
 

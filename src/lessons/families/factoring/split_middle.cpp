@@ -63,7 +63,7 @@ std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial) {
   return pairs;
 }
 
-SplitTrinomial Split(const Trinomial& trinomial) {
+SplitTrinomial SplitMiddle(const Trinomial& trinomial) {
   NumberPair numbers = PairsUntilFound(trinomial).back();
   if (numbers.first > 0 && numbers.second < 0) std::swap(numbers.first, numbers.second);
   return {trinomial, numbers};

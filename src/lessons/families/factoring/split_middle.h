@@ -49,7 +49,7 @@ class SplitTrinomial {
 std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial);
 // With that pair.  A negative number stands before a positive one: then nothing negative has to be
 // taken out of the second group.
-SplitTrinomial Split(const Trinomial& trinomial);
+SplitTrinomial SplitMiddle(const Trinomial& trinomial);
 
 // Prints what is taken out of the groups on a row from the column on; the common factor slides down
 // to the row two below, where the product appears.
