@@ -36,7 +36,7 @@ bool HasCommonFactor(const Binomial& factor) {
   return Gcf(factor.lead, std::abs(factor.constant)) > 1;
 }
 
-// Whether such a problem is asked: with numbers up to 9, 45 % of the draws are.
+// Whether such a problem is asked: with numbers up to 9, 44 % of the draws are.
 bool IsAsked(const Factors& factors) {
   const Trinomial product = factors.Product();
   return product.square != 1                 // a lesson of its own
