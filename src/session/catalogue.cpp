@@ -216,6 +216,12 @@ void FillDiagnosticTable() {
   session.gDiagnosticStatus = 1;
 }
 
+std::vector<std::string_view> DiagnosticTitles() {
+  std::vector<std::string_view> titles;
+  for (const DiagnosticProblem& problem : kDiagnosticProblems) titles.push_back(problem.key);
+  return titles;
+}
+
 std::span<const CatalogueLesson> DiagnosticLessons() {
   return kDiagnosticLessons;
 }

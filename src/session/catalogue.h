@@ -13,6 +13,8 @@ void FillCourseTables();
 
 // Fills gDiagnosticData and sets gDiagnosticStatus to 1.
 void FillDiagnosticTable();
+// The titles of its rows; some stand there twice.
+std::vector<std::string_view> DiagnosticTitles();
 
 // A lesson that a script teaches, with the number of its screens.
 struct CatalogueLesson {

@@ -1,4 +1,5 @@
-// Ties the menu's entry for diagnostic results to their form.
+// Ties the menu's entries for the diagnostic test, once all its lessons stand, and for its results
+// to what they open.
 #pragma once
 
 #include "shell/menu.h"
