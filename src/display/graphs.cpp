@@ -28,13 +28,23 @@ void PrintAt(platform::Surface& figure, double x, double y, const std::string& t
   figure.Print(text);
 }
 
+constexpr int kRight = 5;        // squares of a plane to each side of the y axis
+constexpr double kMargin = 1.5;  // squares, beyond the last grid line
+
+// Squares of the plane above its x axis.
+int SquaresUp(const platform::Surface& plane) {
+  return static_cast<int>(std::lround(-plane.ScaleHeight() / 2 - kMargin));
+}
+
 template <class PrintNumber>
-void LabelAxes(PrintNumber print) {
-  for (int n = 1; n <= 5; ++n) {
+void LabelAxes(int up, PrintNumber print) {
+  for (int n = 1; n <= kRight; ++n) {
     const std::string positive = std::to_string(n);
     const std::string negative = std::to_string(-n);
-    print(-0.6, n + 0.5, positive);
-    print(-0.8, -n + 0.5, negative);
+    if (n <= up) {
+      print(-0.6, n + 0.5, positive);
+      print(-0.8, -n + 0.5, negative);
+    }
     print(n - 0.2, -0.2, positive);
     print(-n - 0.4, -0.2, negative);
   }
@@ -65,32 +75,34 @@ void picGraph2DPrepare(int index, double row, double col, double wd, double ht) 
   frmPR->figureItems.at(static_cast<std::size_t>(index)).clear();
 }
 
-void picGraph2DShowPlane(int index, const std::string& numbers, bool thin) {
+void picGraph2DShowPlane(int index, const std::string& numbers, bool thin, int up) {
   platform::PictureBox& figure = Figure("picGraph2DShowPlane", index);
+  if (up < 1 || up > kRight) platform::Stop("picGraph2DShowPlane: up = " + std::to_string(up));
   figure.SetAccessibleName("Coordinate plane");
   figure.FontSize = kLabelSize;
   figure.SetVisible(true);
-  figure.Scale(-6.5, 6.5, 6.5, -6.5);
-  for (int t = -5; t <= 5; ++t) {
-    figure.Line(t, 5.5, t, -5.5, platform::colour::Cyan);
-    figure.Line(5.5, t, -5.5, t, platform::colour::Cyan);
+  figure.Scale(-6.5, up + kMargin, 6.5, -up - kMargin);
+  const double end = up + 0.5;
+  for (int t = -kRight; t <= kRight; ++t) {
+    figure.Line(t, end, t, -end, platform::colour::Cyan);
+    if (std::abs(t) <= up) figure.Line(5.5, t, -5.5, t, platform::colour::Cyan);
   }
   if (thin) {
-    figure.Line(0, 5.5, 0, -5.5);
+    figure.Line(0, end, 0, -end);
     figure.Line(-5.5, 0, 5.5, 0);
   } else {
-    figure.FilledBox(-0.05, 5.5, 0.05, -5.5);
+    figure.FilledBox(-0.05, end, 0.05, -end);
     figure.FilledBox(-5.5, -0.05, 5.5, 0.05);
   }
   if (UpperCase(numbers) == "SHOWNUMBERS")
     LabelAxes(
-        [&](double x, double y, const std::string& number) { PrintAt(figure, x, y, number); });
+        up, [&](double x, double y, const std::string& number) { PrintAt(figure, x, y, number); });
   figure.Refresh();
 }
 
 void picGraph2DPrintNumbersOnTop(int index) {
   platform::PictureBox& figure = Figure("picGraph2DPrintNumbersOnTop", index);
-  LabelAxes([&](double x, double y, const std::string& number) {
+  LabelAxes(SquaresUp(figure), [&](double x, double y, const std::string& number) {
     const double height = figure.TextHeight(number);  // the digits fill the middle of the line
     figure.FilledBox(x, y - 0.15 * height, x + figure.TextWidth(number), y - 0.85 * height,
                      platform::colour::White);

@@ -12,8 +12,8 @@ namespace course {
 // Boxes 1 to 5; any other index stops the program.  Row, column, width and height in cells; the box
 // stands one column further right than the cell.
 void picGraph2DPrepare(int index, double row, double col, double wd, double ht);
-// "SHOWNUMBERS", in any case, labels the axes.
-void picGraph2DShowPlane(int index, const std::string& numbers, bool thin = false);
+// "SHOWNUMBERS", in any case, labels the axes.  The y axis runs to up, 1 to 5, and as far down.
+void picGraph2DShowPlane(int index, const std::string& numbers, bool thin = false, int up = 5);
 // The plane's numbers again, each on a small white ground: above what was drawn since.
 void picGraph2DPrintNumbersOnTop(int index);
 // style "arrows" or "noarrows", in any case; u, above 0, is the value of a labelled tick's step.

@@ -12,8 +12,9 @@
 namespace course::graphs {
 namespace {
 
-constexpr double kSquaresAcross = 13;  // from -6.5 to 6.5
-constexpr int kLineWidth = 3;          // pixels
+constexpr int kSquaresAcross = 13;  // from -6.5 to 6.5
+constexpr int kSquaresBeside = 3;   // above and below the grid's last squares together
+constexpr int kLineWidth = 3;       // pixels
 constexpr int kThinWidth = 2;
 constexpr double kFarAway = 20;  // squares, beyond the plane's corners from anywhere on it
 constexpr double kDash = 0.45;   // squares, of a dash
@@ -122,26 +123,28 @@ void DrawItem(int index, const FigureItem& item, platform::Colour colour) {
 }
 
 // The letters of the axes at their ends, beyond the grid.
-void NameAxes(int index) {
+void NameAxes(int index, int squaresUp) {
   picGraph2DPrintRotated(index, 0, 5.9, 0.75, "x", platform::colour::Black, kAxisSize, kLabelFace);
-  picGraph2DPrintRotated(index, 0, 0.25, 6.45, "y", platform::colour::Black, kAxisSize, kLabelFace);
+  picGraph2DPrintRotated(index, 0, 0.25, squaresUp + 1.45, "y", platform::colour::Black, kAxisSize,
+                         kLabelFace);
 }
 
 }  // namespace
 
-void ShowPlane(int index, double row, double col, int square) {
+void ShowPlane(int index, double row, double col, int square, PlaneHeight height) {
   if (square <= 0 || square % 2 != 0)
     platform::Stop("ShowPlane: square = " + std::to_string(square));
-  picGraph2DPrepare(index, row, col, kSquaresAcross * square / gCellWidth,
-                    kSquaresAcross * square / gCellHeight);
-  picGraph2DShowPlane(index, "shownumbers");
-  NameAxes(index);
+  const int squaresUp = static_cast<int>(height);
+  picGraph2DPrepare(index, row, col, static_cast<double>(kSquaresAcross) * square / gCellWidth,
+                    static_cast<double>(2 * squaresUp + kSquaresBeside) * square / gCellHeight);
+  picGraph2DShowPlane(index, "shownumbers", false, squaresUp);
+  NameAxes(index, squaresUp);
   platform::PictureBox& plane = frmPR->picGraph2D[index];
-  GroundOf(index) = LabelGround({plane.TextWidth("5"), plane.TextHeight("5")});
+  GroundOf(index) = LabelGround({plane.TextWidth("5"), plane.TextHeight("5")}, squaresUp);
 }
 
-void ShowPlaneAtRight(double row) {
-  ShowPlane(1, row, kColAtRight, kSquareAtRight);
+void ShowPlaneAtRight(double row, PlaneHeight height) {
+  ShowPlane(1, row, kColAtRight, kSquareAtRight, height);
 }
 
 void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items) {

@@ -24,11 +24,14 @@ namespace course::graphs {
 // A numbered plane with its upper left corner at a cell of the lesson's grid, as picGraph2DPrepare
 // counts it.  square is the side of a grid square in pixels; the plane takes 13 of them each way.
 // Only an even number keeps the grid on whole pixels, any other stops the program.  Several planes,
-// by their index 1 to 5, stand on one page.
-void ShowPlane(int index, double row, double col, int square);
+// by their index 1 to 5, stand on one page.  One whose y axis runs from -3 to 3 only takes 9
+// squares upward.
+enum class PlaneHeight { Low = 3, Full = 5 };
+void ShowPlane(int index, double row, double col, int square,
+               PlaneHeight height = PlaneHeight::Full);
 
-// Plane 1 at the right margin, 10.4 rows high, and the place of the text beside it.
-void ShowPlaneAtRight(double row = 3.2);
+// Plane 1 at the right margin, 10.4 rows high or 7.2, and the place of the text beside it.
+void ShowPlaneAtRight(double row = 3.2, PlaneHeight height = PlaneHeight::Full);
 inline constexpr page::TextPlace kBesidePlane = {.lastCol = 22};
 
 // Points, lines, steps and guides in one colour; other shapes stop the program.  The label of a

@@ -8,14 +8,16 @@ namespace course::graphs {
 namespace {
 
 constexpr double kGridEnd = 5.6;
-constexpr double kEdge = 6.3;       // how far out a label reaches, so that all of it is in the box
-constexpr double kFarAway = 20;     // beyond the plane's corners from anywhere on it
-constexpr double kLineHalf = 0.15;  // half the width of a line, and a little air
-constexpr double kPointHalf = 0.3;  // a point's radius, and a little air
-constexpr double kLineGap = 0.3;    // between a line and its label
-constexpr double kPointGap = 0.32;  // between the middle of a point and its label
-constexpr double kSlide = 0.25;     // from one place along a line to the next
-constexpr double kSample = 0.2;     // of a label: closer than a line is wide
+constexpr double kBehindGrid = 0.6;  // from the last grid line to the end of an axis
+constexpr double kEdge = 6.3;        // how far out a label reaches, so that all of it is in the box
+constexpr double kBehindEdge = 1.3;  // the same upward, from the last grid line
+constexpr double kFarAway = 20;      // beyond the plane's corners from anywhere on it
+constexpr double kLineHalf = 0.15;   // half the width of a line, and a little air
+constexpr double kPointHalf = 0.3;   // a point's radius, and a little air
+constexpr double kLineGap = 0.3;     // between a line and its label
+constexpr double kPointGap = 0.32;   // between the middle of a point and its label
+constexpr double kSlide = 0.25;      // from one place along a line to the next
+constexpr double kSample = 0.2;      // of a label: closer than a line is wide
 
 double LengthOf(Vector v) {
   return std::sqrt(v.x * v.x + v.y * v.y);  // hypot minds overflow, and takes ten times as long
@@ -26,17 +28,17 @@ struct Reach {
   double first;
   double last;
 };
-Reach ReachOf(Vector point, Vector along) {
+Reach ReachOf(Vector point, Vector along, double edgeUp) {
   Reach reach = {-kFarAway, kFarAway};
-  const auto cut = [&](double start, double step) {
+  const auto cut = [&](double start, double step, double edge) {
     if (step == 0) return;
-    const double a = (-kEdge - start) / step;
-    const double b = (kEdge - start) / step;
+    const double a = (-edge - start) / step;
+    const double b = (edge - start) / step;
     reach.first = std::max(reach.first, std::min(a, b));
     reach.last = std::min(reach.last, std::max(a, b));
   };
-  cut(point.x, along.x);
-  cut(point.y, along.y);
+  cut(point.x, along.x, kEdge);
+  cut(point.y, along.y, edgeUp);
   return reach;
 }
 
@@ -60,14 +62,15 @@ Vector PointOf(const FigureItem& line) {
   return x ? Vector{*x, 0} : Vector{0, line.Value("intercept")};
 }
 
-LabelGround::LabelGround(LabelSize number) {
+LabelGround::LabelGround(LabelSize number, int squaresUp) : edgeUp_(squaresUp + kBehindEdge) {
+  const double gridTop = squaresUp + kBehindGrid;
   // The axes with the numbers to the left of one and below the other, and the axes' letters.
   const double left = 0.45 + number.width;
   const double below = 0.3 + number.height;
   boxes_ = {{{-kGridEnd, -below}, {1, 0}, {2 * kGridEnd, below + 0.1}},
-            {{-left, -kGridEnd}, {1, 0}, {left + 0.1, 2 * kGridEnd}},
+            {{-left, -gridTop}, {1, 0}, {left + 0.1, 2 * gridTop}},
             {{kGridEnd, -0.2}, {1, 0}, {1, 1}},
-            {{0.1, kGridEnd}, {1, 0}, {0.8, 1}}};
+            {{0.1, gridTop}, {1, 0}, {0.8, 1}}};
 }
 
 void LabelGround::Avoid(const FigureItem& item) {
@@ -107,7 +110,7 @@ bool LabelGround::Stroke::Holds(Vector place) const {
 LabelBox LabelGround::PlaceAtLine(const FigureItem& line, LabelSize label) {
   const Vector point = PointOf(line);
   const Vector along = DirectionOf(line);
-  const Reach reach = ReachOf(point, along);
+  const Reach reach = ReachOf(point, along, edgeUp_);
   std::vector<LabelBox> places;
   for (double way = reach.last - label.width; way >= reach.first; way -= kSlide) {
     LabelBox place = {point + way * along, along, label};
@@ -148,7 +151,7 @@ LabelBox LabelGround::PlaceAtPoint(Vector point, LabelSize label) {
 }
 
 bool LabelGround::IsFree(Vector place) const {
-  if (std::abs(place.x) > kEdge || std::abs(place.y) > kEdge) return false;
+  if (std::abs(place.x) > kEdge || std::abs(place.y) > edgeUp_) return false;
   return std::ranges::none_of(boxes_, [&](const LabelBox& box) { return box.Holds(place); }) &&
          std::ranges::none_of(strokes_, [&](const Stroke& stroke) { return stroke.Holds(place); });
 }

@@ -1,6 +1,6 @@
 // Where labels stand on a coordinate plane: beside their line or point, and off the axes with their
 // numbers, other lines, points and labels, as far as there is room.  All in grid squares, from -6.5
-// to 6.5 each way.
+// to 6.5 across, and so far or less upward.
 #pragma once
 
 #include <vector>
@@ -42,8 +42,8 @@ Vector PointOf(const FigureItem& line);
 
 class LabelGround {
  public:
-  // number is the size of the longest number at an axis.
-  explicit LabelGround(LabelSize number = {});
+  // number is the size of the longest number at an axis; the grid has so many squares upward.
+  explicit LabelGround(LabelSize number = {}, int squaresUp = 5);
 
   // Labels keep clear of this line, point, step or pair of guides.
   void Avoid(const FigureItem& item);
@@ -67,6 +67,7 @@ class LabelGround {
   int Covered(const LabelBox& label, int most) const;
   LabelBox Take(const std::vector<LabelBox>& places);
 
+  double edgeUp_;  // how far up and down a label reaches
   std::vector<Stroke> strokes_;
   std::vector<LabelBox> boxes_;
 };
