@@ -1,0 +1,330 @@
+// The student can name the parts of a coordinate plane, read the coordinates of a point, find the
+// point of given coordinates, also on an axis, and tell the quadrant from the signs.
+#include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/graphs/point_question.h"
+#include "lessons/lesson.h"
+
+namespace course {
+namespace {
+
+using namespace graphs;
+
+constexpr int kPlane = 1;
+constexpr double kBelowPlane = 14.2;  // row, on a teaching screen
+
+FigureItem PointOf(PlanePoint point, const std::string& label) {
+  return PointItem(point.x, point.y, label);
+}
+
+// "3 right", "5 down".
+std::string Across(int x) {
+  return NumStr(std::abs(x)) + (x < 0 ? " left" : " right");
+}
+std::string Upward(int y) {
+  return NumStr(std::abs(y)) + (y < 0 ? " down" : " up");
+}
+
+// The way from the origin along the x axis, and the rest of the way to the point.
+void WalkAcross(int x) {
+  DrawOnPlane(kPlane, {StepItem(0, 0, x, 0)}, platform::colour::Blue);
+}
+void WalkUp(PlanePoint to) {
+  DrawOnPlane(kPlane, {StepItem(to.x, 0, 0, to.y)}, platform::colour::Blue);
+}
+// The point at the end of the way.
+void Arrive(PlanePoint at, const std::string& label) {
+  DrawOnPlane(kPlane, {PointOf(at, label)}, platform::colour::Blue);
+}
+
+// Room for the labels of what comes on later pages.
+void Expect(const std::vector<PlanePoint>& points) {
+  for (const PlanePoint& point : points)
+    KeepLabelsClearOf(kPlane, {StepItem(0, 0, point.x, 0), StepItem(point.x, 0, 0, point.y),
+                               PointItem(point.x, point.y)});
+}
+
+// --- Teaching screens --------------------------------------------------------
+
+void TwoAxes() {
+  NewScreen();
+  ShowPlaneAtRight();
+  Say(R"(Two number lines that cross at 0 make a \ccoordinate plane\z.)", kBesidePlane);
+  PageEnd();
+  Say(R"(The level one is the \cx axis\z, the upright one is the \cy axis\z.)", kBesidePlane);
+  PageEnd();
+  SayAt(kBelowPlane, R"(They cross at the \corigin\z.)");
+  DrawOnPlane(kPlane, {PointItem(0, 0)}, platform::colour::Blue);
+  Say(R"(\yTry it:\z  Where are the negative numbers on each axis?)");
+  PageEnd();
+  Say("On the x axis they are to the left of the origin, as on every number line.  On the y axis "
+      "they are below it.");
+  PageEnd();
+}
+
+void TwoCoordinates() {
+  constexpr PlanePoint kFirst = {4, 2};
+  NewScreen();
+  ShowPlaneAtRight();
+  Expect({kFirst});
+  DrawOnPlane(kPlane, {PointOf(kFirst, "K")});
+  Say("Where is K?  Two numbers tell it.  We start at the origin.", kBesidePlane);
+  Say(R"(\yTry it:\z  How far do we go to the right?  Then how far up?)", kBesidePlane);
+  PageEnd();
+  WalkAcross(kFirst.x);
+  SayAt(kBelowPlane, R"(4 to the right:  the \cx coordinate\z of K is 4.)");
+  PageEnd();
+  WalkUp(kFirst);
+  Say(R"(Then 2 up:  the \cy coordinate\z of K is 2.)");
+  Say(R"(We write \y(4,2)\z.  The x coordinate always comes first.)");
+  PageEnd();
+}
+
+void NegativeCoordinates() {
+  constexpr PlanePoint kFirst = {-3, 1};
+  constexpr PlanePoint kExchanged = {1, -3};
+  NewScreen();
+  ShowPlaneAtRight();
+  Expect({kFirst, kExchanged});
+  DrawOnPlane(kPlane, {PointOf(kFirst, "L")});
+  Say("Left and down we count with negative numbers.", kBesidePlane);
+  Say(R"(\yTry it:\z  What are the coordinates of L?)", kBesidePlane);
+  PageEnd();
+  WalkAcross(kFirst.x);
+  WalkUp(kFirst);
+  SayAt(kBelowPlane, Text(R"(3 left, then 1 up:  L has the coordinates \y{}\z.  The minus of a )"
+                          "coordinate stands a little higher.",
+                          CoordinatesText(kFirst)));
+  PageEnd();
+  DrawOnPlane(kPlane, {PointOf(kExchanged, "M")});
+  Say(R"(\yTry it:\z  And the coordinates of M?)");
+  PageEnd();
+  WalkAcross(kExchanged.x);
+  WalkUp(kExchanged);
+  Say(Text(R"(1 right, then 3 down:  \y{}\z.)", CoordinatesText(kExchanged)));
+  PaperBox({Text(R"(L is {}, \rnot {}\z)", CoordinatesText(kFirst), CoordinatesText(kExchanged)),
+            "The same numbers in another order:  another point."});
+  PageEnd();
+}
+
+void Plotting() {
+  constexpr PlanePoint kFirst = {-2, -4};
+  constexpr PlanePoint kSecond = {5, -3};
+  NewScreen();
+  ShowPlaneAtRight();
+  Expect({kFirst, kSecond});
+  Say(R"(To \cplot\z a point is to draw it where its coordinates tell.)", kBesidePlane);
+  Say(Text(R"(\yTry it:\z  We plot {}.  Which way do we go from the origin?)",
+           CoordinatesText(kFirst)),
+      kBesidePlane);
+  PageEnd();
+  WalkAcross(kFirst.x);
+  SayAt(kBelowPlane, Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
+  PageEnd();
+  WalkUp(kFirst);
+  Arrive(kFirst, "P");
+  Say(Text("y is {}.  So we go 4 down.  There is the point, P.", CoordinateText(kFirst.y)));
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  Put your finger on {}.)", CoordinatesText(kSecond)));
+  PageEnd();
+  WalkAcross(kSecond.x);
+  WalkUp(kSecond);
+  Arrive(kSecond, "Q");
+  Say("5 right, then 3 down.  That is Q.");
+  PageEnd();
+}
+
+void PointsOnTheAxes() {
+  constexpr PlanePoint kOnX = {3, 0};
+  constexpr PlanePoint kOnY = {0, -4};
+  constexpr PlanePoint kAsked = {-5, 0};
+  NewScreen();
+  ShowPlaneAtRight();
+  Expect({kOnX, kOnY, kAsked});
+  Say("A coordinate can be 0.  Then we do not move that way.", kBesidePlane);
+  Say(Text(R"(\yTry it:\z  Where are {} and {}?)", CoordinatesText(kOnX), CoordinatesText(kOnY)),
+      kBesidePlane);
+  PageEnd();
+  DrawOnPlane(kPlane, {PointOf(kOnX, "R")});
+  SayAt(kBelowPlane, Text("{} is R:  3 right, and no way up or down.  It is on the x axis.",
+                          CoordinatesText(kOnX)));
+  PageEnd();
+  DrawOnPlane(kPlane, {PointOf(kOnY, "S")});
+  Say(Text("{} is S, on the y axis:  4 down from the origin.", CoordinatesText(kOnY)));
+  PageEnd();
+  DrawOnPlane(kPlane, {PointOf(kAsked, "T")});
+  Say(Text(R"(\yTry it:\z  Is T {} or {}?)", CoordinatesText(kAsked), CoordinatesText({0, -5})));
+  PageEnd();
+  AddLine(
+      Text(R"(T is \y{}\z:  5 left, so x is {}.)", CoordinatesText(kAsked), CoordinateText(-5)));
+  PageEnd();
+}
+
+// In the middle of each quadrant, counted from I on.
+void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
+  constexpr std::array<PlanePoint, 4> kMiddles = {{{3, 3}, {-3, 3}, {-3, -3}, {3, -3}}};
+  constexpr double kSize = 16;      // points
+  constexpr double kLetter = 0.27;  // half of the usual width of one, in squares
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const double left = kMiddles[i].x - kLetter * static_cast<double>(texts[i].size());
+    picGraph2DPrintRotated(kPlane, 0, left, kMiddles[i].y - down, texts[i], platform::colour::Blue,
+                           kSize);
+  }
+}
+
+void Quadrants() {
+  NewScreen();
+  ShowPlaneAtRight();
+  Say(R"(The axes part the plane into four \cquadrants\z.  I is to the right and above.  From )"
+      "there we count against the clock.",
+      kBesidePlane);
+  PrintInQuadrants({"I", "II", "III", "IV"}, -1);
+  PageEnd();
+  SayAt(kBelowPlane, "In I both coordinates are positive.  In II x is negative and y is positive.");
+  PrintInQuadrants({"(+,+)", "(-,+)", "", ""}, 0.2);
+  Say(R"(\yTry it:\z  Which signs do III and IV have?)");
+  PageEnd();
+  Say("In III both are negative.  In IV x is positive and y is negative.");
+  PrintInQuadrants({"", "", "(-,-)", "(+,-)"}, 0.2);
+  PageEnd();
+  ClearBelow(kBelowPlane);
+  SayAt(kBelowPlane,
+        Text(R"(\yTry it:\z  Which quadrants hold {}, {} and {}?)", CoordinatesText({4, -1}),
+             CoordinatesText({-1, 4}), CoordinatesText({0, 3})));
+  PageEnd();
+  Say(
+      Text("{} is in IV and {} in II.  {} is on the y axis, and a point on an axis is in no "
+           "quadrant.",
+           CoordinatesText({4, -1}), CoordinatesText({-1, 4}), CoordinatesText({0, 3})));
+  PageEnd();
+}
+
+// Five points of which one is looked for, on the lower plane.
+void WhichOfFive() {
+  constexpr PlanePoint kAsked = {-3, 2};
+  NewScreen();
+  ShowPlaneAtRight(3.2, PlaneHeight::Low);
+  Expect({kAsked});
+  DrawOnPlane(kPlane, {PointItem(3, 2, "F"), PointItem(2, -3, "G"), PointItem(3, -2, "H"),
+                       PointOf(kAsked, "J"), PointItem(-3, -2, "K")});
+  Say(Text("Which of these points has the coordinates {}?", CoordinatesText(kAsked)), kBesidePlane);
+  Say(R"(\yTry it:\z  In which quadrant is it?)", kBesidePlane);
+  PageEnd();
+  constexpr double kBelow = 11.2;
+  SayAt(kBelow, "x is negative and y is positive:  in II.  There J stands alone.");
+  PageEnd();
+  WalkAcross(kAsked.x);
+  WalkUp(kAsked);
+  Arrive(kAsked, "J");
+  Say(Text(R"(\yCheck:\z  3 left, then 2 up.  The answer is \yJ\z.)"));
+  Say(R"(\yTry it:\z  What would lead us to F, and what to G?)");
+  PageEnd();
+  Say("F is 3 right and 2 up:  the minus of x is lost.  G is 2 right and 3 down:  the coordinates "
+      "are exchanged.");
+  PageEnd();
+}
+
+// --- The lesson --------------------------------------------------------------
+
+class TheCoordinateSystem final : public LessonScript {
+ public:
+  using LessonScript::LessonScript;
+
+ private:
+  std::vector<Screen> Screens() override {
+    return {{TwoAxes, TwoCoordinates, NegativeCoordinates},
+            {Plotting, PointsOnTheAxes},
+            {Quadrants, WhichOfFive}};
+  }
+  void DrawProblem(RandomStream& random) override { question_.Draw(random, problem); }
+  void ShowProblem() override;
+  void ExplainProblem() override;
+  MistakesFigure FigureOfMistakes() override;
+
+  void ExplainReading() const;
+  void ExplainPlotting() const;
+
+  PointQuestion question_;
+};
+
+// --- Problem page ------------------------------------------------------------
+
+void TheCoordinateSystem::ShowProblem() {
+  constexpr int kSquare = 24;  // pixels
+  constexpr double kCol = 9.25;
+  const bool isLow = question_.Plane() == PlaneHeight::Low;
+  SayAt(3.4, problem.question[0]);
+  ShowPlane(kPlane, isLow ? 6 : 4.8, kCol, kSquare, question_.Plane());
+  DrawOnPlane(kPlane, problem.figure);
+  ShowAnswersInThreeColumns(problem, {.row = 18.2});
+}
+
+// --- Worked explanation ------------------------------------------------------
+
+constexpr double kTextRow = 4.6;
+constexpr double kPlaneRow = 6.6;
+
+void TheCoordinateSystem::ExplainProblem() {
+  ProblemBanner();
+  SayAt(kTextRow, problem.question[0]);
+  ShowPlaneAtRight(kPlaneRow, question_.Plane());
+  Expect({question_.Point()});
+  DrawOnPlane(kPlane, problem.figure);
+  Locate(kPlaneRow - 0.6, 1);
+  if (question_.AsksForPoint())
+    ExplainPlotting();
+  else
+    ExplainReading();
+  Conclude(problem);
+}
+
+void TheCoordinateSystem::ExplainReading() const {
+  const PlanePoint point = question_.Point();
+  const std::string& letter = question_.Letter();
+  Say(Text("x comes first.  Is {} right or left of the y axis, and how far?", letter),
+      kBesidePlane);
+  PageEnd();
+  WalkAcross(point.x);
+  Say(Text(R"({}, so the x coordinate is \y{}\z.)", Across(point.x), CoordinateText(point.x)),
+      kBesidePlane);
+  PageEnd();
+  WalkUp(point);
+  Say(Text(R"(Then {}, so the y coordinate is \y{}\z.)", Upward(point.y), CoordinateText(point.y)),
+      kBesidePlane);
+  PageEnd();
+}
+
+void TheCoordinateSystem::ExplainPlotting() const {
+  const PlanePoint point = question_.Point();
+  Say(Text("The first number, {}, is x.  Which way do we go?", CoordinateText(point.x)),
+      kBesidePlane);
+  PageEnd();
+  WalkAcross(point.x);
+  Say(Text("It is {}, so we go {} from the origin.", Words{point.x < 0 ? "negative" : "positive"},
+           Across(point.x)),
+      kBesidePlane);
+  PageEnd();
+  WalkUp(point);
+  Say(Text("The second number, {}, is y.  So we go {}, to {}.", CoordinateText(point.y),
+           Upward(point.y), question_.Letter()),
+      kBesidePlane);
+  PageEnd();
+}
+
+// The question stays with its plane.
+MistakesFigure TheCoordinateSystem::FigureOfMistakes() {
+  constexpr int kSquare = 16;
+  constexpr double kQuestionRows = 1.5;
+  constexpr double kCol = 12.5;
+  const bool isLow = question_.Plane() == PlaneHeight::Low;
+  const double planeRows = (isLow ? 9.0 : 13.0) * kSquare / gCellHeight;
+  return {kQuestionRows + planeRows + 0.5, [this](double row) {
+            SayAt(row - 1, problem.question[0]);
+            ShowPlane(kPlane, row - 1 + kQuestionRows, kCol, kSquare, question_.Plane());
+            DrawOnPlane(kPlane, problem.figure);
+          }};
+}
+
+const LessonRegistration<TheCoordinateSystem> kRegistration("The Coordinate System");
+
+}  // namespace
+}  // namespace course
