@@ -26,10 +26,10 @@ std::string Upward(int y) {
 
 // The way from the origin along the x axis, and the rest of the way to the point.
 void WalkAcross(int x) {
-  DrawOnPlane(kPlane, {StepItem(0, 0, x, 0)}, platform::colour::Blue);
+  DrawArrows(kPlane, StepItem(0, 0, x, 0), platform::colour::Blue);
 }
 void WalkUp(PlanePoint to) {
-  DrawOnPlane(kPlane, {StepItem(to.x, 0, 0, to.y)}, platform::colour::Blue);
+  DrawArrows(kPlane, StepItem(to.x, 0, 0, to.y), platform::colour::Blue);
 }
 // The point at the end of the way.
 void Arrive(PlanePoint at, const std::string& label) {
@@ -67,8 +67,8 @@ void TwoCoordinates() {
   ShowPlaneAtRight();
   Expect({kFirst});
   DrawOnPlane(kPlane, {PointOf(kFirst, "K")});
-  Say("Where is K?  Two numbers tell it.  We start at the origin.", kBesidePlane);
-  Say(R"(\yTry it:\z  How far do we go to the right?  Then how far up?)", kBesidePlane);
+  Say("Where is the point K?", kBesidePlane);
+  Say(R"(\yTry it:\z  How far right from the origin, then how far up?)", kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
   SayAt(kBelowPlane, R"(4 to the right:  the \cx coordinate\z of K is 4.)");
@@ -112,13 +112,12 @@ void Plotting() {
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst, kSecond});
-  Say(R"(To \cplot\z a point is to draw it where its coordinates tell.)", kBesidePlane);
-  Say(Text(R"(\yTry it:\z  We plot {}.  Which way do we go from the origin?)",
-           CoordinatesText(kFirst)),
-      kBesidePlane);
+  Say(R"(To \cplot\z a point means to draw it.)", kBesidePlane);
+  SayAt(kBelowPlane, Text(R"(\yTry it:\z  We plot {}.  Which way do we go from the origin?)",
+                          CoordinatesText(kFirst)));
   PageEnd();
   WalkAcross(kFirst.x);
-  SayAt(kBelowPlane, Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
+  Say(Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
   PageEnd();
   WalkUp(kFirst);
   Arrive(kFirst, "P");
@@ -144,11 +143,9 @@ void PointsOnTheAxes() {
   Say(Text(R"(\yTry it:\z  Where are {} and {}?)", CoordinatesText(kOnX), CoordinatesText(kOnY)),
       kBesidePlane);
   PageEnd();
-  DrawOnPlane(kPlane, {PointOf(kOnX, "R")});
-  SayAt(kBelowPlane, Text("{} is R:  3 right, and no way up or down.  It is on the x axis.",
-                          CoordinatesText(kOnX)));
-  PageEnd();
-  DrawOnPlane(kPlane, {PointOf(kOnY, "S")});
+  DrawOnPlane(kPlane, {PointOf(kOnX, "R"), PointOf(kOnY, "S")});
+  SayAt(kBelowPlane,
+        Text("{} is R, on the x axis:  3 right, and no way up or down.", CoordinatesText(kOnX)));
   Say(Text("{} is S, on the y axis:  4 down from the origin.", CoordinatesText(kOnY)));
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kAsked, "T")});
@@ -240,6 +237,7 @@ class TheCoordinateSystem final : public LessonScript {
   void ExplainProblem() override;
   MistakesFigure FigureOfMistakes() override;
 
+  void ShowPlaneInTheMiddle(double row, int square) const;
   void ExplainReading() const;
   void ExplainPlotting() const;
 
@@ -248,17 +246,36 @@ class TheCoordinateSystem final : public LessonScript {
 
 // --- Problem page ------------------------------------------------------------
 
-void TheCoordinateSystem::ShowProblem() {
-  constexpr int kSquare = 24;  // pixels
-  constexpr double kCol = 9.25;
-  const bool isLow = question_.Plane() == PlaneHeight::Low;
-  SayAt(3.4, problem.question[0]);
-  ShowPlane(kPlane, isLow ? 6 : 4.8, kCol, kSquare, question_.Plane());
+// square is the side of a grid square in pixels.
+void TheCoordinateSystem::ShowPlaneInTheMiddle(double row, int square) const {
+  constexpr double kColumns = 42;  // of the panel with its margins
+  const double columns = 13.0 * square / gCellWidth;
+  ShowPlane(kPlane, row, (kColumns - columns) / 2 - 1, square, question_.Plane());
   DrawOnPlane(kPlane, problem.figure);
-  ShowAnswersInThreeColumns(problem, {.row = 18.2});
+}
+
+void TheCoordinateSystem::ShowProblem() {
+  SayAt(4.2, problem.question[0]);
+  ShowPlaneInTheMiddle(5.8, question_.Plane() == PlaneHeight::Low ? 28 : 22);
+  ShowAnswersInThreeColumns(problem, {.row = 18});
 }
 
 // --- Worked explanation ------------------------------------------------------
+
+// The signs fit the place.
+void CheckQuadrant(PlanePoint point, const std::string& letter) {
+  const std::string quadrant =
+      point.y > 0 ? (point.x > 0 ? "I" : "II") : (point.x < 0 ? "III" : "IV");
+  const bool sameSign = (point.x > 0) == (point.y > 0);
+  const auto signOf = [](int n) { return Words{n < 0 ? "negative" : "positive"}; };
+  GoBelow();
+  if (sameSign)
+    AddLine(Text(R"(\yCheck:\z  {} is in quadrant {}, where both coordinates are {}.)", letter,
+                 quadrant, signOf(point.x)));
+  else
+    AddLine(Text(R"(\yCheck:\z  {} is in quadrant {}, where x is {} and y is {}.)", letter,
+                 quadrant, signOf(point.x), signOf(point.y)));
+}
 
 constexpr double kTextRow = 4.6;
 constexpr double kPlaneRow = 6.6;
@@ -274,6 +291,8 @@ void TheCoordinateSystem::ExplainProblem() {
     ExplainPlotting();
   else
     ExplainReading();
+  CheckQuadrant(question_.Point(), question_.Letter());
+  PageEnd();
   Conclude(problem);
 }
 
@@ -314,13 +333,11 @@ void TheCoordinateSystem::ExplainPlotting() const {
 MistakesFigure TheCoordinateSystem::FigureOfMistakes() {
   constexpr int kSquare = 16;
   constexpr double kQuestionRows = 1.5;
-  constexpr double kCol = 12.5;
   const bool isLow = question_.Plane() == PlaneHeight::Low;
   const double planeRows = (isLow ? 9.0 : 13.0) * kSquare / gCellHeight;
   return {kQuestionRows + planeRows + 0.5, [this](double row) {
             SayAt(row - 1, problem.question[0]);
-            ShowPlane(kPlane, row - 1 + kQuestionRows, kCol, kSquare, question_.Plane());
-            DrawOnPlane(kPlane, problem.figure);
+            ShowPlaneInTheMiddle(row - 1 + kQuestionRows, kSquare);
           }};
 }
 

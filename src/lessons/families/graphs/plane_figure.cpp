@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "display/graphs.h"
 #include "display/lesson_window.h"
@@ -110,6 +111,32 @@ void DrawCorner(int index, const FigureItem& item, platform::Colour colour) {
   DrawStroke(index, corner, corner + Vector{0, item.Value("up")}, kThinWidth, colour);
 }
 
+platform::PixelPoint PixelOf(const platform::PictureBox& plane, Vector place) {
+  const double square = plane.PixelWidth() / static_cast<double>(kSquaresAcross);
+  return {static_cast<int>(std::lround(square * place.x + plane.PixelWidth() / 2.0)),
+          static_cast<int>(std::lround(plane.PixelHeight() / 2.0 - square * place.y))};
+}
+
+// Along a line of the grid; nothing when both ends are the same.
+void DrawArrow(int index, Vector from, Vector to, platform::Colour colour) {
+  constexpr double kHeadLength = 0.6;  // squares
+  constexpr double kHeadHalf = 0.32;
+  constexpr double kBarHalf = 0.11;
+  const Vector way = to + -1 * from;
+  if (way.x == 0 && way.y == 0) return;
+  platform::PictureBox& plane = frmPR->picGraph2D[index];
+  const Vector along = 1 / std::hypot(way.x, way.y) * way;
+  const Vector aside = {-along.y, along.x};
+  const Vector neck = to + -kHeadLength * along;
+  const Vector start = from + -kBarHalf * aside;
+  const Vector end = neck + kBarHalf * aside;
+  plane.FilledBox(start.x, start.y, end.x, end.y, colour);
+  const std::array<platform::PixelPoint, 3> head = {PixelOf(plane, to),
+                                                    PixelOf(plane, neck + kHeadHalf * aside),
+                                                    PixelOf(plane, neck + -kHeadHalf * aside)};
+  plane.Polygon(head, colour);
+}
+
 void DrawItem(int index, const FigureItem& item, platform::Colour colour) {
   if (item.shape == "line")
     DrawLineItem(index, item, colour);
@@ -149,6 +176,16 @@ void ShowPlaneAtRight(double row, PlaneHeight height) {
 
 void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items) {
   for (const FigureItem& item : items) GroundOf(index).Avoid(item);
+}
+
+void DrawArrows(int index, const FigureItem& step, platform::Colour colour) {
+  const Vector from = {step.Value("x"), step.Value("y")};
+  const Vector corner = from + Vector{step.Value("right"), 0};
+  DrawArrow(index, from, corner, colour);
+  DrawArrow(index, corner, corner + Vector{0, step.Value("up")}, colour);
+  frmPR->picGraph2D[index].Refresh();
+  KeepFigureItem(index, step);
+  picGraph2DPrintNumbersOnTop(index);
 }
 
 void DrawOnPlane(int index, const std::vector<FigureItem>& items, platform::Colour colour) {

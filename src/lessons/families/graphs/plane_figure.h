@@ -39,6 +39,8 @@ inline constexpr page::TextPlace kBesidePlane = {.lastCol = 22};
 // numbers and off all that was drawn before.
 void DrawOnPlane(int index, const std::vector<FigureItem>& items,
                  platform::Colour colour = platform::colour::Black);
+// A step as thick arrows, which are seen on an axis, too; right or up may be 0.
+void DrawArrows(int index, const FigureItem& step, platform::Colour colour);
 // Labels keep clear of what later pages are going to draw.
 void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items);
 
