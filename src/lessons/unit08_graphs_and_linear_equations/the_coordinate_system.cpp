@@ -113,11 +113,10 @@ void Plotting() {
   ShowPlaneAtRight();
   Expect({kFirst, kSecond});
   Say(R"(To \cplot\z a point means to draw it.)", kBesidePlane);
-  SayAt(kBelowPlane, Text(R"(\yTry it:\z  We plot {}.  Which way do we go from the origin?)",
-                          CoordinatesText(kFirst)));
+  Say(Text(R"(\yTry it:\z  Plot {}.  Which way do we go?)", CoordinatesText(kFirst)), kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
-  Say(Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
+  SayAt(kBelowPlane, Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
   PageEnd();
   WalkUp(kFirst);
   Arrive(kFirst, "P");
@@ -139,13 +138,13 @@ void PointsOnTheAxes() {
   NewScreen();
   ShowPlaneAtRight();
   Expect({kOnX, kOnY, kAsked});
-  Say("A coordinate can be 0.  Then we do not move that way.", kBesidePlane);
+  Say("A coordinate can be 0.", kBesidePlane);
   Say(Text(R"(\yTry it:\z  Where are {} and {}?)", CoordinatesText(kOnX), CoordinatesText(kOnY)),
       kBesidePlane);
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kOnX, "R"), PointOf(kOnY, "S")});
-  SayAt(kBelowPlane,
-        Text("{} is R, on the x axis:  3 right, and no way up or down.", CoordinatesText(kOnX)));
+  SayAt(kBelowPlane, Text("{} is R, on the x axis:  3 right, and y is 0, so no way up or down.",
+                          CoordinatesText(kOnX)));
   Say(Text("{} is S, on the y axis:  4 down from the origin.", CoordinatesText(kOnY)));
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kAsked, "T")});
@@ -171,12 +170,11 @@ void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
 void Quadrants() {
   NewScreen();
   ShowPlaneAtRight();
-  Say(R"(The axes part the plane into four \cquadrants\z.  I is to the right and above.  From )"
-      "there we count against the clock.",
-      kBesidePlane);
+  Say(R"(The axes part the plane into four \cquadrants\z.)", kBesidePlane);
+  SayAt(kBelowPlane, "We count them against the clock.");
   PrintInQuadrants({"I", "II", "III", "IV"}, -1);
   PageEnd();
-  SayAt(kBelowPlane, "In I both coordinates are positive.  In II x is negative and y is positive.");
+  Say("In I both coordinates are positive.  In II x is negative and y is positive.");
   PrintInQuadrants({"(+,+)", "(-,+)", "", ""}, 0.2);
   Say(R"(\yTry it:\z  Which signs do III and IV have?)");
   PageEnd();
@@ -203,7 +201,7 @@ void WhichOfFive() {
   Expect({kAsked});
   DrawOnPlane(kPlane, {PointItem(3, 2, "F"), PointItem(2, -3, "G"), PointItem(3, -2, "H"),
                        PointOf(kAsked, "J"), PointItem(-3, -2, "K")});
-  Say(Text("Which of these points has the coordinates {}?", CoordinatesText(kAsked)), kBesidePlane);
+  Say(Text("Which point has the coordinates {}?", CoordinatesText(kAsked)), kBesidePlane);
   Say(R"(\yTry it:\z  In which quadrant is it?)", kBesidePlane);
   PageEnd();
   constexpr double kBelow = 11.2;
