@@ -10,18 +10,18 @@ namespace {
 using namespace graphs;
 
 constexpr int kPlane = 1;
-constexpr double kBelowPlane = 14.2;  // row, on a teaching screen
+constexpr double kBelowPlane = 14;  // row, on a teaching screen
 
 FigureItem PointOf(PlanePoint point, const std::string& label) {
   return PointItem(point.x, point.y, label);
 }
 
 // "3 right", "5 down".
-std::string Across(int x) {
-  return NumStr(std::abs(x)) + (x < 0 ? " left" : " right");
+Words Across(int x) {
+  return {NumStr(std::abs(x)) + (x < 0 ? " left" : " right")};
 }
-std::string Upward(int y) {
-  return NumStr(std::abs(y)) + (y < 0 ? " down" : " up");
+Words Upward(int y) {
+  return {NumStr(std::abs(y)) + (y < 0 ? " down" : " up")};
 }
 
 // The way from the origin along the x axis, and the rest of the way to the point.
@@ -150,8 +150,7 @@ void PointsOnTheAxes() {
   DrawOnPlane(kPlane, {PointOf(kAsked, "T")});
   Say(Text(R"(\yTry it:\z  Is T {} or {}?)", CoordinatesText(kAsked), CoordinatesText({0, -5})));
   PageEnd();
-  AddLine(
-      Text(R"(T is \y{}\z:  5 left, so x is {}.)", CoordinatesText(kAsked), CoordinateText(-5)));
+  Say(Text(R"(T is \y{}\z:  5 left, so x is {}.)", CoordinatesText(kAsked), CoordinateText(-5)));
   PageEnd();
 }
 
@@ -170,8 +169,8 @@ void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
 void Quadrants() {
   NewScreen();
   ShowPlaneAtRight();
-  Say(R"(The axes part the plane into four \cquadrants\z.)", kBesidePlane);
-  SayAt(kBelowPlane, "We count them against the clock.");
+  Say(R"(The axes divide the plane into four \cquadrants\z.)", kBesidePlane);
+  SayAt(kBelowPlane, "We count from I against the clock.");
   PrintInQuadrants({"I", "II", "III", "IV"}, -1);
   PageEnd();
   Say("In I both coordinates are positive.  In II x is negative and y is positive.");
@@ -266,13 +265,13 @@ void CheckQuadrant(PlanePoint point, const std::string& letter) {
       point.y > 0 ? (point.x > 0 ? "I" : "II") : (point.x < 0 ? "III" : "IV");
   const bool sameSign = (point.x > 0) == (point.y > 0);
   const auto signOf = [](int n) { return Words{n < 0 ? "negative" : "positive"}; };
-  GoBelow();
+  const double row = RowBelow() + 0.5;
   if (sameSign)
-    AddLine(Text(R"(\yCheck:\z  {} is in quadrant {}, where both coordinates are {}.)", letter,
-                 quadrant, signOf(point.x)));
+    SayAt(row, Text(R"(\yCheck:\z  {} is in quadrant {}, where both coordinates are {}.)", letter,
+                    quadrant, signOf(point.x)));
   else
-    AddLine(Text(R"(\yCheck:\z  {} is in quadrant {}, where x is {} and y is {}.)", letter,
-                 quadrant, signOf(point.x), signOf(point.y)));
+    SayAt(row, Text(R"(\yCheck:\z  {} is in quadrant {}, where x is {} and y is {}.)", letter,
+                    quadrant, signOf(point.x), signOf(point.y)));
 }
 
 constexpr double kTextRow = 4.6;
@@ -290,7 +289,6 @@ void TheCoordinateSystem::ExplainProblem() {
   else
     ExplainReading();
   CheckQuadrant(question_.Point(), question_.Letter());
-  PageEnd();
   Conclude(problem);
 }
 
