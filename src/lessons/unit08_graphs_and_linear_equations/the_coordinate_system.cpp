@@ -75,7 +75,7 @@ void TwoCoordinates() {
   PageEnd();
   WalkUp(kFirst);
   Say(R"(Then 2 up:  the \cy coordinate\z of K is 2.)");
-  Say(R"(We write \y(4,2)\z.  The x coordinate always comes first.)");
+  Say(R"(Both are the \ccoordinates\z of K, (4,2).  The x coordinate always comes first.)");
   PageEnd();
 }
 

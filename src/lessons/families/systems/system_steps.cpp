@@ -14,12 +14,6 @@ namespace {
 
 using namespace page;
 
-// TermText behind another term.
-std::string LaterTermText(int coefficient, int value) {
-  const bool bare = std::abs(coefficient) == 1 && value >= 0;
-  return SignedCoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
-}
-
 }  // namespace
 
 std::string ActionToRemove(int coefficient, const std::string& letter) {
@@ -58,6 +52,11 @@ void SayStepInBox(const EquationStep& step) {
 std::string TermText(int coefficient, int value) {
   const bool bare = coefficient == 1 || (coefficient == -1 && value >= 0);
   return CoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
+}
+
+std::string LaterTermText(int coefficient, int value) {
+  const bool bare = std::abs(coefficient) == 1 && value >= 0;
+  return SignedCoefText(coefficient) + (bare ? NumStr(value) : "(" + NumStr(value) + ")");
 }
 
 std::string SubstitutedText(const LinearEquation& equation, int x, int y) {

@@ -27,6 +27,8 @@ std::string AlignedEquation(const std::string& equation);
 
 // A coefficient with a number in place of its letter at the head of an expression: 2(3), -(-3), 3.
 std::string TermText(int coefficient, int value);
+// The same behind another term: " - 2(3)".
+std::string LaterTermText(int coefficient, int value);
 // The left side worked out: "2(1) - 3(-2) = 2 + 6 = 8".
 std::string SubstitutedText(const LinearEquation& equation, int x, int y);
 // In the white box: what the pair means, and an equation with its numbers, true or false.
