@@ -1,46 +1,276 @@
-// The student can ...
-//
-// What the student can do afterwards, in two or three lines.
+// The student knows what an ordered pair and a solution of an equation in x and y are, tries a pair
+// in an equation, makes a table of pairs, and sees the pairs as points of one line.
+#include "lessons/families/graphs/plane_figure.h"
+#include "lessons/families/systems/linear_system.h"
+#include "lessons/families/systems/tried_equation.h"
 #include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
+using namespace graphs;
+using namespace systems;
+
+// The equations of the teaching screens.
+constexpr TriedEquation kLeftSide = {{3, -2, 0}, {0, 0, 8}};
+constexpr TriedEquation kSolvedForY = {{0, 1, 0}, {2, 0, -3}};
+constexpr TriedEquation kTwoSides = {{3, 0, 0}, {0, 2, 1}};
+
+constexpr double kCellSize = 14;  // points
+
 // --- Teaching screens --------------------------------------------------------
 
-void Screen1() {
+// The rows x and y of a table, four pairs side by side.
+void ShowPairsInRows() {
+  constexpr int kPairs[][2] = {{1, 4}, {2, 3}, {5, 0}, {7, -2}};
+  PrintCellTable table;
+  table.heightPixels = 100;
+  for (const double top : {6.0, 53.0})
+    for (int i = 0; i < 4; ++i) table.cells.push_back({15.0 + 21 * i, top, 19, 41});
+  table.labels = {{6, 16, 8, 30, "x", kCellSize}, {6, 63, 8, 30, "y", kCellSize}};
+  CellTable(table);
+  for (int i = 0; i < 4; ++i) {
+    picPrintCellPrint(i + 1, NumStr(kPairs[i][0]), platform::colour::Black, kCellSize);
+    picPrintCellPrint(i + 5, NumStr(kPairs[i][1]), platform::colour::Blue, kCellSize);
+  }
+}
+
+void ManyPairs() {
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "One number makes x + 2 = 5 true:  3.  Now there are two variables:");
+  Show("x + y = 5", 15);
+  Say(R"(\yTry it:\z  Which numbers make it true?)");
+  PageEnd();
+  ShowPairsInRows();
+  Say("All of these do, and many more.  In the last one 7 + (-2) is 5.");
   PageEnd();
 }
 
-void Screen2() {
+void OrderedPairs() {
   NewScreen();
-  Say("Screen 2 is not written yet.");
+  SayAt(3, R"(We write two such numbers as an \cordered pair\z (x,y).  A pair that makes the )"
+           R"(equation true is called a \csolution\z.)");
+  PageEnd();
+  Say("(1,4) means x = 1 and y = 4, since x comes first.  It is a solution of x + y = 5.");
+  Say(R"(\yTry it:\z  Is (1,4) or (4,1) a solution of x - y = 3?)");
+  PageEnd();
+  PaperBox({R"((4,1):  4 - 1 = 3   \btrue\z)", R"((1,4):  1 - 4 = -3, not 3   \rfalse\z)"});
+  Say("Only (4,1) is one.  The order matters.");
   PageEnd();
 }
 
-void Screen3() {
+void WhatLinearMeans() {
   NewScreen();
-  Say("Screen 3 is not written yet.");
+  SayAt(3, R"(An equation is \clinear\z when we can write it as ax + by = c, where a, b and c are )"
+           "numbers, and a and b are not both 0.");
+  Say(R"(\yTry it:\z  Is x^2^ + y = 5 linear?)");
+  PageEnd();
+  Say(R"(No.  x has an exponent there.)");
+  Say(Text("But {} is linear:  we subtract 2x from both sides, and get {}.", "y = 2x + 1",
+           "-2x + y = 1"));
   PageEnd();
 }
 
-void Screen4() {
+// Both numbers come into the places of their letters, on a row below.
+void BringNumbersIntoPlace() {
+  constexpr double kRow = 6;
+  constexpr double kCol = 10;
+  constexpr double kValueCol = 30;
+  constexpr double kBelow = 8;
+  ShowAt(kRow, kLeftSide.Text(), kCol);
+  ShowAt(kRow - 0.5, R"(x = \y2\z)", kValueCol - 4);
+  ShowAt(kRow + 0.5, R"(y = \y-1\z)", kValueCol - 4);
+  SayAt(9.5, R"(\yTry it:\z  What comes into the place of x, and what into the place of y?)");
+  PageEnd();
+  SlideDown({kRow - 0.5, kValueCol, 1}, kBelow - kRow + 0.5, Leaving::Copy);
+  SlideLeft({kBelow, kValueCol, 1}, kValueCol - kCol - 2);
+  SlideDown({kRow + 0.5, kValueCol, 2}, kBelow - kRow - 0.5, Leaving::Copy);
+  SlideLeft({kBelow, kValueCol, 2}, kValueCol - kCol - 9);
+  ShowAt(kBelow, R"(3(\y2\z) - 2(\y-1\z) = 8)", kCol);
+}
+
+void TryOnTheLeft() {
   NewScreen();
-  Say("Screen 4 is not written yet.");
+  SayAt(3, "Is the ordered pair (2,-1) a solution of the following equation?");
+  BringNumbersIntoPlace();
+  ClearBelow(9.5);
+  SayAt(9.5, "We multiply, so we write parentheses.");
+  WhiteBox({.row = 11.5});
+  SayInBox(R"(\bEvaluate the expression on the left side of the equal sign.\z)");
+  PageEnd();
+  SayInBox(R"(6 - (-2) = 6 + 2 = 8)");
+  SayInBox(R"(8 = 8 is \btrue\z.  (2,-1) is a solution.)");
+  SayInBox(R"(\bTry it:\z  Is (-1,2) a solution, too?)");
+  PageEnd();
+  SayInBoxAnew("3(-1) - 2(2) = -3 - 4 = -7");
+  SayInBox(R"(-7 = 8 is \rfalse\z.  (-1,2) is not a solution.)");
+  SayInBox("x and y were exchanged.");
   PageEnd();
 }
 
-void Screen5() {
+void ShowTrial(const TriedEquation& equation, int x, int y) {
   NewScreen();
-  Say("Screen 5 is not written yet.");
+  SayAt(3, Text(R"(\yTry it:\z  Is the ordered pair {} a solution of the following equation?)",
+                PairText(x, y)));
+  ShowAt(6, equation.Text(), 14);
+  WhiteBox({.row = 8, .rows = 12});
+  SayEvaluation(equation, x, y);
+  SayVerdict(equation, x, y);
+}
+
+void TryOnBothSides() {
+  ShowTrial(kSolvedForY, 4, 5);
+  SayAt(21, "It is a solution since both sides have the same value.");
+  PageEnd();
+  ShowTrial(kTwoSides, -1, 2);
+  SayAt(21, "It is not a solution, whatever one side alone comes to.");
   PageEnd();
 }
 
-void Screen6() {
+// x, the expression, and y, four rows; nothing is filled in yet.
+void ShowTableOfY(double row) {
+  PrintCellTable table;
+  table.heightPixels = 190;
+  for (int i = 0; i < 4; ++i)
+    for (const auto& [left, width] : {std::pair(6.0, 20.0), {28.0, 44.0}, {74.0, 20.0}})
+      table.cells.push_back({left, 18.0 + 20 * i, width, 17});
+  table.labels = {{6, 3, 20, 14, "x", 12, platform::colour::Black, true},
+                  {28, 3, 44, 14, "2x + 1", 12, platform::colour::Black, true},
+                  {74, 3, 20, 14, "y", 12, platform::colour::Black, true}};
+  CellTable(table, row);
+}
+void FillX(int row, int x) {
+  picPrintCellPrint(3 * row - 2, NumStr(x), platform::colour::Black, kCellSize);
+}
+void FillY(int row, int x) {
+  picPrintCellPrint(3 * row - 1, "2" + InParentheses(x) + " + 1", platform::colour::Black,
+                    kCellSize);
+  picPrintCellPrint(3 * row, NumStr(2 * x + 1), platform::colour::Blue, kCellSize);
+}
+
+void TableOfPairs() {
   NewScreen();
-  Say("Screen 6 is not written yet.");
+  SayAt(3, "A ride costs 1 dollar, and 2 dollars more for each mile.  x miles cost y dollars:");
+  Show("y = 2x + 1", 15);
+  Say(R"(\yTry it:\z  Which depends on which:  the cost on the miles, or the miles on the cost?)");
+  PageEnd();
+  ClearBelow(7);
+  SayAt(7.2, R"(The cost \ydepends\z on the miles.  We choose x, and the equation tells y.)");
+  ShowTableOfY(9.8);
+  constexpr int kChosen[] = {0, 1, 2, -1};
+  FillX(1, 0);
+  FillY(1, 0);
+  FillX(2, 1);
+  SayAt(18.2, "For x = 0 we get y = 1:  the pair (0,1).");
+  Say(R"(\yTry it:\z  What is y for x = 1?)");
+  PageEnd();
+  FillY(2, 1);
+  Say("2 times 1 is 2, and 1 more is 3:  (1,3).");
+  PageEnd();
+  ClearRows(18.2, 6);
+  FillX(3, kChosen[2]);
+  FillX(4, kChosen[3]);
+  SayAt(18.2, "No ride has -1 miles.  But the equation takes negative numbers, too.");
+  Say(R"(\yTry it:\z  Find y for 2 and for -1.)");
+  PageEnd();
+  FillY(3, kChosen[2]);
+  FillY(4, kChosen[3]);
+  ClearRows(18.2, 6);
+  SayAt(18.2, "2(2) + 1 is 5, and 2(-1) + 1 = -2 + 1 is -1.  So (2,5) and (-1,-1) are solutions.");
+  PageEnd();
+}
+
+// The pairs of y = 2x + 1 beside the plane, five rows.
+constexpr int kXs[] = {0, 1, 2, -1, -2};
+constexpr double kBelowPlane = 14;
+
+int YOf(int x) {
+  return 2 * x + 1;
+}
+FigureItem PointFor(int x) {
+  return PointItem(x, YOf(x), PairText(x, YOf(x)));
+}
+
+void ShowTableBesidePlane() {
+  PrintCellTable table;
+  table.widthPixels = 200;
+  table.heightPixels = 180;
+  for (int i = 0; i < 5; ++i)
+    for (const double left : {8.0, 52.0}) table.cells.push_back({left, 17.0 + 16.2 * i, 40, 14});
+  table.labels = {{8, 2, 40, 14, "x", 12, platform::colour::Black, true},
+                  {52, 2, 40, 14, "y", 12, platform::colour::Black, true}};
+  CellTable(table, 6.2);
+  for (int i = 0; i < 5; ++i) {
+    picPrintCellPrint(2 * i + 1, NumStr(kXs[i]), platform::colour::Black, kCellSize);
+    picPrintCellPrint(2 * i + 2, NumStr(YOf(kXs[i])), platform::colour::Blue, kCellSize);
+  }
+}
+
+// Table and plane; labels keep clear of all points and of the line.
+void ShowPairsAndPlane(const std::string& text) {
+  NewScreen();
+  SayAt(3, text, kBesidePlane);
+  ShowTableBesidePlane();
+  ShowPlaneAtRight();
+  KeepLabelsClearOf(1, {LineItem(2, 1)});
+  for (const int x : kXs) KeepLabelsClearOf(1, {PointItem(x, YOf(x))});
+}
+
+void Walk(int x) {
+  DrawArrows(1, StepItem(0, 0, x, YOf(x)), platform::colour::Blue);
+  DrawOnPlane(1, {PointFor(x)});
+}
+
+void PairsBecomePoints() {
+  ShowPairsAndPlane("Each pair of y = 2x + 1 is a point of the plane.");
+  SayAt(kBelowPlane,
+        "Two number lines cross at 0.  From there x tells how far we go to the right, "
+        "and y how far up.");
+  PageEnd();
+  ClearBelow(kBelowPlane);
+  SayAt(kBelowPlane, "For (0,1) we go nowhere to the right, and 1 up.");
+  Walk(0);
+  Say(R"(\yTry it:\z  Where is (1,3)?)");
+  PageEnd();
+  Walk(1);
+  Say("1 right, then 3 up.");
+  PaperBox({R"((1,3) is \bnot\z (3,1), which is 3 right, 1 up.)"});
+  PageEnd();
+  ClearBelow(kBelowPlane);
+  DrawOnPlane(1, {PointFor(2)});
+  SayAt(kBelowPlane, "(2,5) is 2 right, 5 up.");
+  Say(R"(\yTry it:\z  Which way is (-1,-1)?)");
+  PageEnd();
+  Walk(-1);
+  Say("Negative numbers lead to the left and down:  1 left, 1 down.");
+  DrawOnPlane(1, {PointFor(-2)});
+  Say("(-2,-3) is 2 left, 3 down.");
+  PageEnd();
+}
+
+void PointsBecomeALine() {
+  ShowPairsAndPlane("Here are the points of all five pairs.");
+  DrawOnPlane(
+      1, {PointItem(0, 1), PointItem(1, 3), PointItem(2, 5), PointItem(-1, -1), PointItem(-2, -3)});
+  SayAt(kBelowPlane, R"(\yTry it:\z  What do you notice about them?)");
+  PageEnd();
+  DrawOnPlane(1, {LineItem(2, 1, "y = 2x + 1")}, platform::colour::Blue);
+  Say(R"(They lie on one straight line, the \cgraph\z of the equation.  That is why we call it )"
+      "linear.");
+  PageEnd();
+  Say(R"(\yTry it:\z  The line passes through (-3,-5).  Is that pair a solution?)");
+  PageEnd();
+  ClearBelow(kBelowPlane);
+  DrawOnPlane(1, {PointItem(-3, -5, "(-3,-5)")});
+  SayAt(kBelowPlane,
+        Text("Yes:  {}.  Each point of the line is a solution.", "2(-3) + 1 = -6 + 1 = -5"));
+  Say(R"(\yTry it:\z  And (3,1), beside the line?)");
+  PageEnd();
+  DrawOnPlane(1, {PointItem(3, 1, "(3,1)")});
+  Say(Text("No:  {}, not 1.", "2(3) + 1 = 7"));
+  CommentBox(
+      "Equation, table and line tell the same.  The line has no end:  there are infinitely "
+      "many solutions.");
   PageEnd();
 }
 
@@ -49,46 +279,126 @@ void Screen6() {
 class LinearEquationsInTwoVariables final : public LessonScript {
  public:
   using LessonScript::LessonScript;
+  bool ChoicesAreLaidDown() const override { return true; }
+  bool ChoicesAreWords() const override { return true; }
 
  private:
   std::vector<Screen> Screens() override {
-    return {{Screen1}, {Screen2}, {Screen3}, {Screen4}, {Screen5}, {Screen6}};
+    return {{ManyPairs, OrderedPairs}, {WhatLinearMeans, TryOnTheLeft},
+            {TryOnBothSides},          {TableOfPairs},
+            {PairsBecomePoints},       {PointsBecomeALine}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  // The numbers of one problem.
-  int first_ = 0;  // 2 to 9
+  void DrawEquation(RandomStream& random);
+  std::string MistakeForNo() const;
+  std::string MistakeForYes() const;
+  bool IsTrueWithLostMinus(bool wanted) const;
+
+  TriedEquation equation_;
+  int x_ = 0;  // -6 to 6
+  int y_ = 0;
 };
 
 // --- Generator ---------------------------------------------------------------
 
-void LinearEquationsInTwoVariables::DrawProblem(RandomStream& random) {
-  first_ = random.Rand(2, 9);
+void LinearEquationsInTwoVariables::DrawEquation(RandomStream& random) {
+  constexpr int kLargest = 6;
+  const int type = random.Rand(1, 3);
+  int a = 0;
+  int b = 0;
+  do {
+    a = random.Rand(-kLargest, kLargest);
+    b = random.Rand(-kLargest, kLargest);
+    x_ = random.Rand(-kLargest, kLargest);
+    y_ = random.Rand(-kLargest, kLargest);
+  } while (a == 0 || b == 0);  // a letter would be missing
+  const bool fits = random.Rnd() < 0.5;
+  const int more = fits ? 0 : random.Rand(1, 9);
+  if (type == 1)
+    equation_ = {{a, b, 0}, {0, 0, a * x_ + b * y_ + more}};
+  else if (type == 2)
+    equation_ = {{a, 0, 0}, {0, b, a * x_ - b * y_ + more}};
+  else  // without b
+    equation_ = {{0, 1, 0}, {a, 0, y_ - a * x_ + more}};
+}
 
-  problem.question = {"Not written yet: what is " + NumStr(first_) + " + 1?"};
-  Choices choices(problem, choice_kind::FourShuffled, NumStr);
-  choices.Right(first_ + 1);
-  choices.Wrong("forgets to add", first_);
-  choices.Wrong("subtracts", first_ - 1);
-  choices.Wrong("adds twice", first_ + 2);
+// Whether the equation comes out as wanted when a minus sign of the pair or a coefficient is
+// overlooked.
+bool LinearEquationsInTwoVariables::IsTrueWithLostMinus(bool wanted) const {
+  const auto comesOut = [&](const TriedEquation& equation, int x, int y) {
+    return equation.IsTrueFor(x, y) == wanted;
+  };
+  if (comesOut(equation_, std::abs(x_), y_) && x_ < 0) return true;
+  if (comesOut(equation_, x_, std::abs(y_)) && y_ < 0) return true;
+  for (int Side::*coefficient : {&Side::x, &Side::y}) {
+    for (Side TriedEquation::*side : {&TriedEquation::left, &TriedEquation::right}) {
+      TriedEquation other = equation_;
+      int& number = (other.*side).*coefficient;
+      if (number >= 0) continue;
+      number = -number;
+      if (comesOut(other, x_, y_)) return true;
+    }
+  }
+  return false;
+}
+
+// Of a pair that is a solution.
+std::string LinearEquationsInTwoVariables::MistakeForNo() const {
+  const bool loses = IsTrueWithLostMinus(false);
+  if (loses && y_ < 0) return "loses a minus sign";  // as often as the other mistake
+  if (!equation_.IsTrueFor(y_, x_)) return "exchanges x and y";
+  return loses ? "loses a minus sign" : kFiller;
+}
+
+// Of a pair that is none.
+std::string LinearEquationsInTwoVariables::MistakeForYes() const {
+  if (equation_.IsTrueFor(y_, x_)) return "exchanges x and y";
+  if (IsTrueWithLostMinus(true)) return "loses a minus sign";
+  return "does not compare the two sides";
+}
+
+void LinearEquationsInTwoVariables::DrawProblem(RandomStream& random) {
+  DrawEquation(random);
+  problem.question = {"Is the ordered pair " + PairText(x_, y_) + " a solution",
+                      "of the following equation?", equation_.Text()};
+  problem.kind = choice_kind::FourInOrder;
+  problem.Wrong(3, "thinks that x and y must be equal", "Only if x = y");
+  problem.Wrong(4, "does not put the numbers into the equation", "Cannot be told");
+  if (equation_.IsTrueFor(x_, y_)) {
+    problem.Wrong(2, MistakeForNo(), "No");
+    problem.Right(1, "Yes");
+  } else {
+    problem.Wrong(1, MistakeForYes(), "Yes");
+    problem.Right(2, "No");
+  }
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void LinearEquationsInTwoVariables::ShowProblem() {
-  SayAt(5, problem.question[0]);
-  ShowAnswersInTwoColumns(problem);
+  SayAt(5, problem.question[0] + " " + problem.question[1]);
+  ShowAt(8.5, problem.question[2], 13);
+  ShowAnswersInTwoColumns(problem, {.row = 12, .width = 19});
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void LinearEquationsInTwoVariables::ExplainProblem() {
   ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
+  SayAt(4.5, problem.question[0] + " " + problem.question[1]);
+  ShowAt(7, problem.question[2], 13);
+  WhiteBox({.row = 9, .rows = 13});
+  SayPairMeans(x_, y_);
+  SayInBox("We put both numbers into the equation.");
   PageEnd();
-  Conclude(problem);
+  SayInBoxAnew("");
+  SayEvaluation(equation_, x_, y_);
+  PageEnd();
+  SayVerdict(equation_, x_, y_);
+  ConcludeAt(23, problem);
 }
 
 const LessonRegistration<LinearEquationsInTwoVariables> kRegistration(

@@ -65,8 +65,8 @@ std::string TriedEquation::Text() const {
 std::vector<std::string> TriedEquation::LinesFor(int x, int y) const {
   const auto values = [&](const Side& side) { return NumStr(side.ValueFor(x, y)); };
   std::vector<std::string> lines = {WithNumbers(left, x, y) + " = " + WithNumbers(right, x, y)};
-  for (const std::string& line : {Products(left, x, y) + " = " + Products(right, x, y),
-                                  values(left) + " = " + values(right)})
+  for (const std::string& line :
+       {Products(left, x, y) + " = " + Products(right, x, y), values(left) + " = " + values(right)})
     if (line != lines.back()) lines.push_back(line);
   return lines;
 }
@@ -78,14 +78,11 @@ void SayPairMeans(int x, int y) {
 void SayEvaluation(const TriedEquation& equation, int x, int y) {
   const std::vector<std::string> lines = equation.LinesFor(x, y);
   SayInBox(AlignedEquation(lines.front()));
-  PageEnd();
   SayInBox(equation.right.HasLetter()
                ? R"(\bEvaluate the expressions on both sides of the equal sign.\z)"
                : R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
-  if (lines.size() == 1) return;
   for (std::size_t i = 1; i < lines.size(); ++i) SayInBox(AlignedEquation(lines[i]));
-  PageEnd();
 }
 
 void SayVerdict(const TriedEquation& equation, int x, int y) {

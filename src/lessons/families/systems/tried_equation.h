@@ -29,8 +29,7 @@ struct TriedEquation {
 
 // In the white box, which has to be there.  The signs of equality stand in one column.
 void SayPairMeans(int x, int y);
-// The numbers in their places, the heading of the steps, and the steps; each of the three ends its
-// page.
+// The numbers in their places and the heading of the steps, which end a page, and the steps.
 void SayEvaluation(const TriedEquation& equation, int x, int y);
 // Whether the last line is true, and what that says of the pair.
 void SayVerdict(const TriedEquation& equation, int x, int y);
