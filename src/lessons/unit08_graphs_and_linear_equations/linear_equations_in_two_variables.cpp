@@ -37,12 +37,13 @@ void ShowPairsInRows() {
 
 void ManyPairs() {
   NewScreen();
-  SayAt(3, "One number makes x + 2 = 5 true:  3.  Now there are two variables:");
+  SayAt(3, Text("One number makes {} true:  3.  Now there are two variables:", "x + 2 = 5"));
   Show("x + y = 5", 15);
   Say(R"(\yTry it:\z  Which numbers make it true?)");
   PageEnd();
   ShowPairsInRows();
-  Say("All of these do, and many more.  In the last one 7 + (-2) is 5.");
+  Say(Text("All of these do, and many more.  x and y need not be equal.  In the last pair {} is 5.",
+           "7 + (-2)"));
   PageEnd();
 }
 
@@ -51,8 +52,8 @@ void OrderedPairs() {
   SayAt(3, R"(We write two such numbers as an \cordered pair\z (x,y).  A pair that makes the )"
            R"(equation true is called a \csolution\z.)");
   PageEnd();
-  Say("(1,4) means x = 1 and y = 4, since x comes first.  It is a solution of x + y = 5.");
-  Say(R"(\yTry it:\z  Is (1,4) or (4,1) a solution of x - y = 3?)");
+  Say(Text("x comes first:  (1,4) means {} and {}.", "x = 1", "y = 4"));
+  Say(Text(R"(\yTry it:\z  Is (1,4) or (4,1) a solution of {}?)", "x - y = 3"));
   PageEnd();
   PaperBox({R"((4,1):  4 - 1 = 3   \btrue\z)", R"((1,4):  1 - 4 = -3, not 3   \rfalse\z)"});
   Say("Only (4,1) is one.  The order matters.");
@@ -63,7 +64,7 @@ void WhatLinearMeans() {
   NewScreen();
   SayAt(3, R"(An equation is \clinear\z when we can write it as ax + by = c, where a, b and c are )"
            "numbers, and a and b are not both 0.");
-  Say(R"(\yTry it:\z  Is x^2^ + y = 5 linear?)");
+  Say(Text(R"(\yTry it:\z  Is {} linear?)", "x^2^ + y = 5"));
   PageEnd();
   Say(R"(No.  x has an exponent there.)");
   Say(Text("But {} is linear:  we subtract 2x from both sides, and get {}.", "y = 2x + 1",
@@ -74,19 +75,20 @@ void WhatLinearMeans() {
 // Both numbers come into the places of their letters, on a row below.
 void BringNumbersIntoPlace() {
   constexpr double kRow = 6;
-  constexpr double kCol = 10;
-  constexpr double kValueCol = 30;
-  constexpr double kBelow = 8;
+  constexpr double kDown = 1.5;
+  constexpr double kCol = 5;    // of the equation
+  constexpr double kXCol = 28;  // of the numbers
+  constexpr double kYCol = 36;
   ShowAt(kRow, kLeftSide.Text(), kCol);
-  ShowAt(kRow - 0.5, R"(x = \y2\z)", kValueCol - 4);
-  ShowAt(kRow + 0.5, R"(y = \y-1\z)", kValueCol - 4);
+  ShowAt(kRow, R"(x = \y2\z)", kXCol - 4);
+  ShowAt(kRow, R"(y = \y-1\z)", kYCol - 4);
   SayAt(9.5, R"(\yTry it:\z  What comes into the place of x, and what into the place of y?)");
   PageEnd();
-  SlideDown({kRow - 0.5, kValueCol, 1}, kBelow - kRow + 0.5, Leaving::Copy);
-  SlideLeft({kBelow, kValueCol, 1}, kValueCol - kCol - 2);
-  SlideDown({kRow + 0.5, kValueCol, 2}, kBelow - kRow - 0.5, Leaving::Copy);
-  SlideLeft({kBelow, kValueCol, 2}, kValueCol - kCol - 9);
-  ShowAt(kBelow, R"(3(\y2\z) - 2(\y-1\z) = 8)", kCol);
+  SlideDown({kRow, kXCol, 1}, kDown, Leaving::Copy);
+  SlideLeft({kRow + kDown, kXCol, 1}, kXCol - kCol - 2);
+  SlideDown({kRow, kYCol, 2}, kDown, Leaving::Copy);
+  SlideLeft({kRow + kDown, kYCol, 2}, kYCol - kCol - 9);
+  ShowAt(kRow + kDown, R"(3(\y2\z) - 2(\y-1\z) = 8)", kCol);
 }
 
 void TryOnTheLeft() {
@@ -110,20 +112,19 @@ void TryOnTheLeft() {
 
 void ShowTrial(const TriedEquation& equation, int x, int y) {
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  Is the ordered pair {} a solution of the following equation?)",
-                PairText(x, y)));
-  ShowAt(6, equation.Text(), 14);
-  WhiteBox({.row = 8, .rows = 12});
+  SayAt(3, Text(R"(\yTry it:\z  Put {} into {}.)", PairText(x, y), equation.Text()));
+  WhiteBox({.row = 5, .rows = 10});
   SayEvaluation(equation, x, y);
   SayVerdict(equation, x, y);
 }
 
 void TryOnBothSides() {
   ShowTrial(kSolvedForY, 4, 5);
-  SayAt(21, "It is a solution since both sides have the same value.");
+  SayAt(16, "Both sides have the same value, 5.");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
-  SayAt(21, "It is not a solution, whatever one side alone comes to.");
+  SayAt(16, "The two sides have different values.");
+  Say("We put the numbers in, and we compare:  that always tells.");
   PageEnd();
 }
 
@@ -143,40 +144,39 @@ void FillX(int row, int x) {
   picPrintCellPrint(3 * row - 2, NumStr(x), platform::colour::Black, kCellSize);
 }
 void FillY(int row, int x) {
-  picPrintCellPrint(3 * row - 1, "2" + InParentheses(x) + " + 1", platform::colour::Black,
-                    kCellSize);
+  picPrintCellPrint(3 * row - 1, "2(" + NumStr(x) + ") + 1", platform::colour::Black, kCellSize);
   picPrintCellPrint(3 * row, NumStr(2 * x + 1), platform::colour::Blue, kCellSize);
 }
 
 void TableOfPairs() {
+  constexpr double kBelowTable = 16.5;
   NewScreen();
   SayAt(3, "A ride costs 1 dollar, and 2 dollars more for each mile.  x miles cost y dollars:");
   Show("y = 2x + 1", 15);
-  Say(R"(\yTry it:\z  Which depends on which:  the cost on the miles, or the miles on the cost?)");
+  Say(R"(\yTry it:\z  Does x depend on y, or y on x?)");
   PageEnd();
   ClearBelow(7);
-  SayAt(7.2, R"(The cost \ydepends\z on the miles.  We choose x, and the equation tells y.)");
-  ShowTableOfY(9.8);
-  constexpr int kChosen[] = {0, 1, 2, -1};
+  SayAt(6.8,
+        R"(The cost \ydepends\z on the miles, y on x.  We choose x, and the equation tells y:)");
+  ShowTableOfY(9);
   FillX(1, 0);
   FillY(1, 0);
+  SayAt(kBelowTable + 0.7, "0 miles cost 1 dollar:  the pair (0,1).");
   FillX(2, 1);
-  SayAt(18.2, "For x = 0 we get y = 1:  the pair (0,1).");
   Say(R"(\yTry it:\z  What is y for x = 1?)");
   PageEnd();
   FillY(2, 1);
   Say("2 times 1 is 2, and 1 more is 3:  (1,3).");
   PageEnd();
-  ClearRows(18.2, 6);
-  FillX(3, kChosen[2]);
-  FillX(4, kChosen[3]);
-  SayAt(18.2, "No ride has -1 miles.  But the equation takes negative numbers, too.");
+  ClearRows(kBelowTable + 0.7, 6);
+  FillX(3, 2);
+  FillX(4, -1);
+  SayAt(kBelowTable + 0.7, "No ride has -1 miles.  But the equation takes negative numbers, too.");
   Say(R"(\yTry it:\z  Find y for 2 and for -1.)");
   PageEnd();
-  FillY(3, kChosen[2]);
-  FillY(4, kChosen[3]);
-  ClearRows(18.2, 6);
-  SayAt(18.2, "2(2) + 1 is 5, and 2(-1) + 1 = -2 + 1 is -1.  So (2,5) and (-1,-1) are solutions.");
+  FillY(3, 2);
+  FillY(4, -1);
+  Say(Text("{}, and {}.", "2(2) + 1 = 5", "2(-1) + 1 = -1"));
   PageEnd();
 }
 
@@ -222,7 +222,7 @@ void Walk(int x) {
 }
 
 void PairsBecomePoints() {
-  ShowPairsAndPlane("Each pair of y = 2x + 1 is a point of the plane.");
+  ShowPairsAndPlane(Text("Each pair of {} is a point of the plane.", "y = 2x + 1"));
   SayAt(kBelowPlane,
         "Two number lines cross at 0.  From there x tells how far we go to the right, "
         "and y how far up.");
