@@ -82,7 +82,7 @@ void BringNumbersIntoPlace() {
   ShowAt(kRow, kLeftSide.Text(), kCol);
   ShowAt(kRow, R"(x = \y2\z)", kXCol - 4);
   ShowAt(kRow, R"(y = \y-1\z)", kYCol - 4);
-  SayAt(9.5, R"(\yTry it:\z  What comes into the place of x, and what into the place of y?)");
+  SayAt(9.5, R"(\yTry it:\z  Which number comes where?)");
   PageEnd();
   SlideDown({kRow, kXCol, 1}, kDown, Leaving::Copy);
   SlideLeft({kRow + kDown, kXCol, 1}, kXCol - kCol - 2);
@@ -123,8 +123,7 @@ void TryOnBothSides() {
   SayAt(16, "Both sides have the same value, 5.");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
-  SayAt(16, "The two sides have different values.");
-  Say("We put the numbers in, and we compare:  that always tells.");
+  SayAt(16, "Putting in and comparing always tells.");
   PageEnd();
 }
 
@@ -222,10 +221,9 @@ void Walk(int x) {
 }
 
 void PairsBecomePoints() {
-  ShowPairsAndPlane(Text("Each pair of {} is a point of the plane.", "y = 2x + 1"));
+  ShowPairsAndPlane("Each pair becomes a point.");
   SayAt(kBelowPlane,
-        "Two number lines cross at 0.  From there x tells how far we go to the right, "
-        "and y how far up.");
+        "Two number lines cross at 0.  x tells how far we go to the right, y how far up.");
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane, "For (0,1) we go nowhere to the right, and 1 up.");

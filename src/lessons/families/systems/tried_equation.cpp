@@ -89,9 +89,9 @@ void SayVerdict(const TriedEquation& equation, int x, int y) {
   const int left = equation.left.ValueFor(x, y);
   const int right = equation.right.ValueFor(x, y);
   if (left == right)
-    SayInBox(Text(R"({} = {} is \btrue\z.  {} is a solution.)", left, right, PairText(x, y)));
+    SayInBox(Text(R"({} = {} is \btrue\z:  a solution.)", left, right));
   else
-    SayInBox(Text(R"({} = {} is \rfalse\z.  {} is not a solution.)", left, right, PairText(x, y)));
+    SayInBox(Text(R"({} = {} is \rfalse\z:  no solution.)", left, right));
 }
 
 }  // namespace course::systems
