@@ -97,7 +97,7 @@ void TryOnTheLeft() {
   BringNumbersIntoPlace();
   ClearBelow(9.5);
   SayAt(9.5, "We multiply, so we write parentheses.");
-  WhiteBox({.row = 11.5});
+  WhiteBox({.row = 11.5, .rows = 9});
   SayInBox(R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
   SayInBox(R"(6 - (-2) = 6 + 2 = 8)");
@@ -150,12 +150,12 @@ void FillY(int row, int x) {
 void TableOfPairs() {
   constexpr double kBelowTable = 16.5;
   NewScreen();
-  SayAt(3, "A ride costs 1 dollar, and 2 dollars more for each mile.  x miles cost y dollars:");
+  SayAt(3, "A ride costs 1 dollar, plus 2 dollars a mile.  For x miles we pay y dollars:");
   Show("y = 2x + 1", 15);
   Say(R"(\yTry it:\z  Does x depend on y, or y on x?)");
   PageEnd();
-  ClearBelow(7);
-  SayAt(6.8,
+  ClearBelow(6.5);
+  SayAt(6.5,
         R"(The cost \ydepends\z on the miles, y on x.  We choose x, and the equation tells y:)");
   ShowTableOfY(9);
   FillX(1, 0);
@@ -180,7 +180,7 @@ void TableOfPairs() {
 }
 
 // The pairs of y = 2x + 1 beside the plane, five rows.
-constexpr int kXs[] = {0, 1, 2, -1, -2};
+constexpr std::array<int, 5> kXs = {0, 1, 2, -2, -1};
 constexpr double kBelowPlane = 14;
 
 int YOf(int x) {
@@ -199,57 +199,68 @@ void ShowTableBesidePlane() {
   table.labels = {{8, 2, 40, 14, "x", 12, platform::colour::Black, true},
                   {52, 2, 40, 14, "y", 12, platform::colour::Black, true}};
   CellTable(table, 6.2);
-  for (int i = 0; i < 5; ++i) {
-    picPrintCellPrint(2 * i + 1, NumStr(kXs[i]), platform::colour::Black, kCellSize);
-    picPrintCellPrint(2 * i + 2, NumStr(YOf(kXs[i])), platform::colour::Blue, kCellSize);
+  int cell = 0;
+  for (const int x : kXs) {
+    picPrintCellPrint(++cell, NumStr(x), platform::colour::Black, kCellSize);
+    picPrintCellPrint(++cell, NumStr(YOf(x)), platform::colour::Blue, kCellSize);
   }
 }
 
-// Table and plane; labels keep clear of all points and of the line.
-void ShowPairsAndPlane(const std::string& text) {
-  NewScreen();
-  SayAt(3, text, kBesidePlane);
-  ShowTableBesidePlane();
-  ShowPlaneAtRight();
-  KeepLabelsClearOf(1, {LineItem(2, 1)});
-  for (const int x : kXs) KeepLabelsClearOf(1, {PointItem(x, YOf(x))});
+FigureItem WalkTo(int x) {
+  return StepItem(0, 0, x, YOf(x));
 }
 
-void Walk(int x) {
-  DrawArrows(1, StepItem(0, 0, x, YOf(x)), platform::colour::Blue);
-  DrawOnPlane(1, {PointFor(x)});
+// The plane with the points of the first pairs; labels keep clear of all that comes, so that they
+// keep their places.
+void ShowPoints(std::size_t count) {
+  ShowPlaneAtRight();
+  KeepLabelsClearOf(1, {LineItem(2, 1)});
+  for (const int x : kXs) KeepLabelsClearOf(1, {PointItem(x, YOf(x)), WalkTo(x)});
+  for (std::size_t i = 0; i < count; ++i) DrawOnPlane(1, {PointFor(kXs[i])});
+}
+// The way to the last of them.
+void WalkToLast(std::size_t count) {
+  ShowPoints(count - 1);
+  DrawArrows(1, WalkTo(kXs[count - 1]), platform::colour::Blue);
+  DrawOnPlane(1, {PointFor(kXs[count - 1])});
 }
 
 void PairsBecomePoints() {
-  ShowPairsAndPlane("Each pair becomes a point.");
+  NewScreen();
+  SayAt(3, "Each pair becomes a point.", kBesidePlane);
+  ShowTableBesidePlane();
+  ShowPoints(0);
   SayAt(kBelowPlane,
         "Two number lines cross at 0.  x tells how far we go to the right, y how far up.");
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane, "For (0,1) we go nowhere to the right, and 1 up.");
-  Walk(0);
+  WalkToLast(1);
   Say(R"(\yTry it:\z  Where is (1,3)?)");
   PageEnd();
-  Walk(1);
+  WalkToLast(2);
   Say("1 right, then 3 up.");
   PaperBox({R"((1,3) is \bnot\z (3,1), which is 3 right, 1 up.)"});
   PageEnd();
   ClearBelow(kBelowPlane);
-  DrawOnPlane(1, {PointFor(2)});
+  WalkToLast(3);
   SayAt(kBelowPlane, "(2,5) is 2 right, 5 up.");
-  Say(R"(\yTry it:\z  Which way is (-1,-1)?)");
+  Say(R"(\yTry it:\z  Which way is (-2,-3)?)");
   PageEnd();
-  Walk(-1);
-  Say("Negative numbers lead to the left and down:  1 left, 1 down.");
-  DrawOnPlane(1, {PointFor(-2)});
-  Say("(-2,-3) is 2 left, 3 down.");
+  WalkToLast(4);
+  Say("Negative numbers lead to the left and down:  2 left, 3 down.");
+  PageEnd();
+  ShowPoints(5);
+  Say("(-1,-1) is 1 left, 1 down.");
   PageEnd();
 }
 
 void PointsBecomeALine() {
-  ShowPairsAndPlane("Here are the points of all five pairs.");
-  DrawOnPlane(
-      1, {PointItem(0, 1), PointItem(1, 3), PointItem(2, 5), PointItem(-1, -1), PointItem(-2, -3)});
+  NewScreen();
+  SayAt(3, "Here are the points of all five pairs.", kBesidePlane);
+  ShowTableBesidePlane();
+  ShowPlaneAtRight();
+  for (const int x : kXs) DrawOnPlane(1, {PointItem(x, YOf(x))});
   SayAt(kBelowPlane, R"(\yTry it:\z  What do you notice about them?)");
   PageEnd();
   DrawOnPlane(1, {LineItem(2, 1, "y = 2x + 1")}, platform::colour::Blue);
@@ -388,7 +399,7 @@ void LinearEquationsInTwoVariables::ExplainProblem() {
   ProblemBanner();
   SayAt(4.5, problem.question[0] + " " + problem.question[1]);
   ShowAt(7, problem.question[2], 13);
-  WhiteBox({.row = 9, .rows = 13});
+  WhiteBox({.row = 9, .rows = 11});
   SayPairMeans(x_, y_);
   SayInBox("We put both numbers into the equation.");
   PageEnd();
@@ -396,7 +407,7 @@ void LinearEquationsInTwoVariables::ExplainProblem() {
   SayEvaluation(equation_, x_, y_);
   PageEnd();
   SayVerdict(equation_, x_, y_);
-  ConcludeAt(23, problem);
+  ConcludeAt(21.5, problem);
 }
 
 const LessonRegistration<LinearEquationsInTwoVariables> kRegistration(
