@@ -123,7 +123,7 @@ void TryOnBothSides() {
   SayAt(16, "Both sides have the same value, 5.");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
-  SayAt(16, "Putting in and comparing always tells.");
+  SayAt(16, "Putting the numbers in always tells.");
   PageEnd();
 }
 
@@ -230,8 +230,7 @@ void PairsBecomePoints() {
   SayAt(3, "Each pair becomes a point.", kBesidePlane);
   ShowTableBesidePlane();
   ShowPoints(0);
-  SayAt(kBelowPlane,
-        "Two number lines cross at 0.  x tells how far we go to the right, y how far up.");
+  SayAt(kBelowPlane, "Two number lines cross at 0.  x tells how far right we go, y how far up.");
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane, "For (0,1) we go nowhere to the right, and 1 up.");
@@ -249,9 +248,6 @@ void PairsBecomePoints() {
   PageEnd();
   WalkToLast(4);
   Say("Negative numbers lead to the left and down:  2 left, 3 down.");
-  PageEnd();
-  ShowPoints(5);
-  Say("(-1,-1) is 1 left, 1 down.");
   PageEnd();
 }
 
