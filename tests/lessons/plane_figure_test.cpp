@@ -60,27 +60,29 @@ TEST_F(PlaneFigureTest, APointIsRoundAboutItsCrossing) {
 
 // What labels cover of a figure that was drawn without them: pixels that are neither paper nor
 // grid, and the outermost ones, which a label that were cut would reach.
-int CoveredByLabels(const std::vector<FigureItem>& items) {
+int CoveredByLabels(const std::vector<FigureItem>& items,
+                    PlaneHeight planeHeight = PlaneHeight::Full) {
   constexpr int square = 20;
   const platform::PictureBox& box = frmPR->picGraph2D[1];
-  const int size = 13 * square;
+  const int width = 13 * square;
+  const int height = (2 * static_cast<int>(planeHeight) + 3) * square;
   std::vector<FigureItem> unnamed = items;
   for (FigureItem& item : unnamed) item.label = "";
-  ShowPlane(1, 4, 23.75, square);
+  ShowPlane(1, 4, 23.75, square, planeHeight);
   DrawOnPlane(1, unnamed, kInk);
   std::vector<platform::Colour> before;
-  for (int y = 0; y < size; ++y)
-    for (int x = 0; x < size; ++x) before.push_back(box.Pixel(x, y));
-  ShowPlane(1, 4, 23.75, square);
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x) before.push_back(box.Pixel(x, y));
+  ShowPlane(1, 4, 23.75, square, planeHeight);
   DrawOnPlane(1, items, kInk);
   int covered = 0;
   int labelled = 0;
-  for (int y = 0; y < size; ++y) {
-    for (int x = 0; x < size; ++x) {
-      const platform::Colour old = before[static_cast<std::size_t>(y * size + x)];
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const platform::Colour old = before[static_cast<std::size_t>(y * width + x)];
       if (box.Pixel(x, y) == old) continue;
       ++labelled;
-      const bool atEdge = x == 0 || y == 0 || x == size - 1 || y == size - 1;
+      const bool atEdge = x == 0 || y == 0 || x == width - 1 || y == height - 1;
       covered += atEdge || (old != colour::White && old != colour::Cyan) ? 1 : 0;
     }
   }
@@ -127,6 +129,42 @@ TEST_F(PlaneFigureTest, TheLabelsOfASystemCoverNothing) {
           ExpectSystemIsLabelled(m1, b1, m2, b2);
           ExpectSystemIsLabelled(m2, b1, m1, b2);
         }
+}
+
+TEST_F(PlaneFigureTest, ALowPlaneHasThreeSquaresUpAndDown) {
+  constexpr int square = 20;
+  ShowPlane(1, 4, 23.75, square, PlaneHeight::Low);
+  ASSERT_EQ(Box().PixelHeight(), 9 * square);
+  const auto at = [&](int x, int y) {
+    return Box().Pixel(x * square + 13 * square / 2, 9 * square / 2 - y * square);
+  };
+  for (const int y : {-3, 3}) {
+    EXPECT_EQ(at(4, y), colour::Cyan);
+    EXPECT_EQ(at(4, y + y / 3), colour::White);
+  }
+  for (const int x : {-5, -2, 2, 5})
+    for (const int y : {-3, -2, 2, 3})
+      EXPECT_EQ(CoveredByLabels({PointItem(x, y, "(-2,-3)")}, PlaneHeight::Low), 0)
+          << x << "," << y;
+}
+
+TEST_F(PlaneFigureTest, AnArrowLiesOnItsLineAndEndsAtItsPoint) {
+  constexpr int square = 20;
+  constexpr int zero = 13 * square / 2;
+  ShowPlane(1, 4, 23.75, square);
+  DrawArrows(1, StepItem(0, 0, -3, 4), kInk);
+  for (const int x : {-1, -2}) EXPECT_EQ(At(x, 0, square), kInk);
+  for (const int y : {1, 2, 3}) EXPECT_EQ(At(-3, y, square), kInk);
+  EXPECT_NE(At(-4, 0, square), kInk);
+  EXPECT_NE(Box().Pixel(zero - 3 * square, zero - 4 * square - 1), kInk);
+  // As far above its line as below, and to both sides.
+  for (int away = 1; away < square / 2; ++away) {
+    const int x = zero - square - square / 2;
+    EXPECT_EQ(Box().Pixel(x, zero - away) == kInk, Box().Pixel(x, zero + away) == kInk) << away;
+    const int column = zero - 3 * square;
+    const int y = zero - 2 * square - square / 2;
+    EXPECT_EQ(Box().Pixel(column - away, y) == kInk, Box().Pixel(column + away, y) == kInk) << away;
+  }
 }
 
 TEST_F(PlaneFigureTest, OddSquaresStop) {
