@@ -96,7 +96,7 @@ void TryOnTheLeft() {
   SayAt(3, "Is the ordered pair (2,-1) a solution of the following equation?");
   BringNumbersIntoPlace();
   ClearBelow(9.5);
-  SayAt(9.5, "We multiply, so we write parentheses.");
+  SayAt(9.5, "The parentheses keep the minus sign.");
   WhiteBox({.row = 11.5, .rows = 9});
   SayInBox(R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
@@ -120,7 +120,6 @@ void ShowTrial(const TriedEquation& equation, int x, int y) {
 
 void TryOnBothSides() {
   ShowTrial(kSolvedForY, 4, 5);
-  SayAt(16, "Both sides have the same value, 5.");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
   SayAt(16, "Putting the numbers in always tells.");
@@ -336,8 +335,8 @@ bool LinearEquationsInTwoVariables::IsTrueWithLostMinus(bool wanted) const {
   const auto comesOut = [&](const TriedEquation& equation, int x, int y) {
     return equation.IsTrueFor(x, y) == wanted;
   };
-  if (comesOut(equation_, std::abs(x_), y_) && x_ < 0) return true;
-  if (comesOut(equation_, x_, std::abs(y_)) && y_ < 0) return true;
+  if (x_ < 0 && comesOut(equation_, -x_, y_)) return true;
+  if (y_ < 0 && comesOut(equation_, x_, -y_)) return true;
   for (int Side::*coefficient : {&Side::x, &Side::y}) {
     for (Side TriedEquation::*side : {&TriedEquation::left, &TriedEquation::right}) {
       TriedEquation other = equation_;

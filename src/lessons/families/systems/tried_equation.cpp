@@ -76,22 +76,20 @@ void SayPairMeans(int x, int y) {
 }
 
 void SayEvaluation(const TriedEquation& equation, int x, int y) {
-  const std::vector<std::string> lines = equation.LinesFor(x, y);
+  std::vector<std::string> lines = equation.LinesFor(x, y);
   SayInBox(AlignedEquation(lines.front()));
   SayInBox(equation.right.HasLetter()
                ? R"(\bEvaluate the expressions on both sides of the equal sign.\z)"
                : R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
-  for (std::size_t i = 1; i < lines.size(); ++i) SayInBox(AlignedEquation(lines[i]));
+  if (lines.size() > 1) lines.erase(lines.begin());
+  lines.back() += equation.IsTrueFor(x, y) ? R"(   \btrue\z)" : R"(   \rfalse\z)";
+  for (const std::string& line : lines) SayInBox(AlignedEquation(line));
 }
 
 void SayVerdict(const TriedEquation& equation, int x, int y) {
-  const int left = equation.left.ValueFor(x, y);
-  const int right = equation.right.ValueFor(x, y);
-  if (left == right)
-    SayInBox(Text(R"({} = {} is \btrue\z:  a solution.)", left, right));
-  else
-    SayInBox(Text(R"({} = {} is \rfalse\z:  no solution.)", left, right));
+  SayInBox(Text("So {} is {}.", PairText(x, y),
+                Words{equation.IsTrueFor(x, y) ? "a solution" : "not a solution"}));
 }
 
 }  // namespace course::systems

@@ -29,9 +29,10 @@ struct TriedEquation {
 
 // In the white box, which has to be there.  The signs of equality stand in one column.
 void SayPairMeans(int x, int y);
-// The numbers in their places and the heading of the steps, which end a page, and the steps.
+// The numbers in their places and the heading of the steps, which end a page, then the steps up to
+// what is true or false.
 void SayEvaluation(const TriedEquation& equation, int x, int y);
-// Whether the last line is true, and what that says of the pair.
+// What that says of the pair.
 void SayVerdict(const TriedEquation& equation, int x, int y);
 
 }  // namespace course::systems
