@@ -101,12 +101,14 @@ void TryOnTheLeft() {
   SayInBox(R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
   SayInBox(R"(6 - (-2) = 6 + 2 = 8)");
-  SayInBox(R"(8 = 8 is \btrue\z.  (2,-1) is a solution.)");
+  SayInBox(R"(8 = 8   \btrue\z)");
+  SayInBox("So (2,-1) is a solution.");
   SayInBox(R"(\bTry it:\z  Is (-1,2) a solution, too?)");
   PageEnd();
   SayInBoxAnew("3(-1) - 2(2) = -3 - 4 = -7");
-  SayInBox(R"(-7 = 8 is \rfalse\z.  (-1,2) is not a solution.)");
-  SayInBox("x and y were exchanged.");
+  SayInBox(R"(-7 = 8   \rfalse\z)");
+  SayInBox("So (-1,2) is not a solution.");
+  SayInBox("Here x and y are exchanged.");
   PageEnd();
 }
 
@@ -155,7 +157,7 @@ void TableOfPairs() {
   PageEnd();
   ClearBelow(6.5);
   SayAt(6.5,
-        R"(The cost \ydepends\z on the miles, y on x.  We choose x, and the equation tells y:)");
+        R"(y \ydepends\z on x:  miles make the cost.  We choose x, and the equation tells y:)");
   ShowTableOfY(9);
   FillX(1, 0);
   FillY(1, 0);
@@ -232,7 +234,7 @@ void PairsBecomePoints() {
   SayAt(kBelowPlane, "Two number lines cross at 0.  x tells how far right we go, y how far up.");
   PageEnd();
   ClearBelow(kBelowPlane);
-  SayAt(kBelowPlane, "For (0,1) we go nowhere to the right, and 1 up.");
+  SayAt(kBelowPlane, "For (0,1) we go 0 right and 1 up.");
   WalkToLast(1);
   Say(R"(\yTry it:\z  Where is (1,3)?)");
   PageEnd();
