@@ -181,7 +181,7 @@ void TableOfPairs() {
 }
 
 // The pairs of y = 2x + 1 beside the plane, five rows.
-constexpr std::array<int, 5> kXs = {0, 1, 2, -2, -1};
+constexpr std::array<int, 5> kXs = {0, 1, 2, -2, -3};
 constexpr double kBelowPlane = 14;
 
 int YOf(int x) {
@@ -264,16 +264,16 @@ void PointsBecomeALine() {
   Say(R"(They lie on one straight line, the \cgraph\z of the equation.  That is why we call it )"
       "linear.");
   PageEnd();
-  Say(R"(\yTry it:\z  The line passes through (-3,-5).  Is that pair a solution?)");
+  Say(R"(\yTry it:\z  The line passes through (0.5,2), too.  Is that pair a solution?)");
   PageEnd();
   ClearBelow(kBelowPlane);
-  DrawOnPlane(1, {PointItem(-3, -5, "(-3,-5)")});
+  DrawOnPlane(1, {PointItem(0.5, 2, "(0.5,2)")});
   SayAt(kBelowPlane,
-        Text("Yes:  {}.  Each point of the line is a solution.", "2(-3) + 1 = -6 + 1 = -5"));
-  Say(R"(\yTry it:\z  And (3,1), beside the line?)");
+        Text("Yes:  {}.  Each point of the line is a solution.", "2(0.5) + 1 = 1 + 1 = 2"));
+  Say(R"(\yTry it:\z  And (4,-2), beside the line?)");
   PageEnd();
-  DrawOnPlane(1, {PointItem(3, 1, "(3,1)")});
-  Say(Text("No:  {}, not 1.", "2(3) + 1 = 7"));
+  DrawOnPlane(1, {PointItem(4, -2, "(4,-2)")});
+  Say(Text("No:  {}, not -2.", "2(4) + 1 = 9"));
   CommentBox(
       "Equation, table and line tell the same.  The line has no end:  there are infinitely "
       "many solutions.");
