@@ -85,7 +85,8 @@ Reading ReadSystemInWriting(const course::Problem& problem) {
 }
 
 const JudgeRegistration kGraphing(ReadLinearSystem, {"Solving Systems by Graphing"});
-const JudgeRegistration kInWriting(ReadSystemInWriting, {"Solving Systems by Substitution"});
+const JudgeRegistration kInWriting(ReadSystemInWriting, {"Solving Systems by Elimination",
+                                                         "Solving Systems by Substitution"});
 
 }  // namespace
 }  // namespace lesson_check

@@ -10,11 +10,8 @@
 #include "mathkit/tutor_codes.h"
 
 namespace course::systems {
-namespace {
 
 using namespace page;
-
-}  // namespace
 
 std::string ActionToRemove(int coefficient, const std::string& letter) {
   const std::string size =

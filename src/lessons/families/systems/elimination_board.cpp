@@ -1,0 +1,206 @@
+#include "lessons/families/systems/elimination_board.h"
+
+#include <cstdlib>
+
+#include "display/animation.h"
+#include "display/drawing.h"
+#include "display/lesson_window.h"
+#include "display/print_cells.h"
+#include "engine/page.h"
+#include "lessons/families/systems/system_steps.h"
+#include "lessons/page/boxes.h"
+#include "lessons/page/page_lines.h"
+#include "lessons/page/say.h"
+#include "lessons/page/show.h"
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
+
+namespace course::systems {
+namespace {
+
+using namespace page;
+
+constexpr double kLabelCol = 1;
+constexpr double kEquationCol = 14;  // behind "Equation 1:"
+constexpr double kFactorCol = 33;
+
+constexpr double RowOfEquation(int line) {
+  return line == 1 ? 4.5 : 5.5;
+}
+constexpr double RowOfAddend(int line) {
+  return line == 1 ? 7.2 : 8.2;
+}
+constexpr double kRuleRow = 9.3;
+constexpr double kSumRow = 9.5;
+
+// The print cell that travels, in columns.
+constexpr int kCellColumns = 18;
+constexpr double kCellPoints = 16;
+constexpr double kTravelSpeed = 30;
+
+// --- Equations in columns: "  6x +  9y =   12" ---------------------------------------------------
+
+constexpr std::size_t kTermWidth = 4;      // "-36x"
+constexpr std::size_t kConstantWidth = 4;  // "-120"
+
+std::string AtRight(const std::string& text, std::size_t width) {
+  std::string padded;
+  for (std::size_t i = text.size(); i < width; ++i) padded += tutor::Gap;
+  return padded + text;
+}
+
+std::string RightSide(int constant) {
+  return tutor::Gap + "=" + tutor::Gap + AtRight(NumStr(constant), kConstantWidth);
+}
+
+// The term of x, then sign and term of y; the one that drops out in yellow.
+std::string InColumns(const LinearEquation& equation, char dropsOut) {
+  const auto coloured = [&](const std::string& term, char letter) {
+    return letter == dropsOut ? R"(\y)" + term + R"(\z)" : term;
+  };
+  const std::string sign = tutor::Gap + (equation.b < 0 ? "-" : "+") + tutor::Gap;
+  const std::string y = LetterTermText(std::abs(equation.b), 'y');
+  return coloured(AtRight(LetterTermText(equation.a, 'x'), kTermWidth), 'x') +
+         coloured(sign + AtRight(y, kTermWidth - 1), 'y') + RightSide(equation.c);
+}
+
+// The sum, of which at least one letter has dropped out.
+std::string SumInColumns(const LinearEquation& sum) {
+  const std::size_t leftWidth = 2 * kTermWidth + 2;
+  if (sum.a == 0)
+    return AtRight(sum.b == 0 ? "0" : LetterTermText(sum.b, 'y'), leftWidth) + RightSide(sum.c);
+  return AtRight(LetterTermText(sum.a, 'x'), kTermWidth) +
+         AtRight("", leftWidth - kTermWidth) + RightSide(sum.c);
+}
+
+void SlideInCell(const std::string& text, double fromRow, double toRow) {
+  PrintCellTable cell;
+  cell.widthPixels = kCellColumns * gCellWidth;
+  cell.heightPixels = gCellHeight + 6;
+  cell.cells = {{0, 0, 100, 100}};
+  CellTable(cell, fromRow);
+  frmPR->picPrintCellBox.SetLeft(frmPR->pnlLesson.Left() +
+                                 static_cast<int>(gLeftMargin + (kEquationCol - 1) * gCellWidth) *
+                                     platform::TwipsPerPixelX);
+  picPrintCellPrint(1, text, platform::colour::Blue, kCellPoints);
+  picPrintCellBoxMove(toRow - fromRow, 0, "V", kTravelSpeed);
+  picPrintCellBoxHide();
+}
+
+}  // namespace
+
+EliminationBoard::EliminationBoard(const LinearSystem& system)
+    : system_(system), plan_(PlanFor(system)) {}
+
+LinearEquation EliminationBoard::MultipleOf(int line) const {
+  return Multiplied(system_.Line(line), plan_.Factor(line));
+}
+
+LinearEquation EliminationBoard::Sum() const {
+  const LinearEquation first = MultipleOf(1);
+  const LinearEquation second = MultipleOf(2);
+  return {first.a + second.a, first.b + second.b, first.c + second.c};
+}
+
+// --- The steps -----------------------------------------------------------------------------------
+
+void EliminationBoard::ShowEquations() const {
+  for (const int line : {1, 2}) {
+    ShowAt(RowOfEquation(line), Text("Equation {}:", line), kLabelCol);
+    ShowAt(RowOfEquation(line), EquationText(system_.Line(line)), kEquationCol);
+  }
+}
+
+void EliminationBoard::OpenWorkBox() const {
+  ClearBelow(kBelowEquations);
+  WhiteBox({.row = kBelow});
+}
+
+void EliminationBoard::MoveDown(int line) const {
+  const LinearEquation multiple = MultipleOf(line);
+  SlideInCell(EquationText(multiple), RowOfEquation(line), RowOfAddend(line));
+  ShowAt(RowOfAddend(line), InColumns(multiple, plan_.letter), kEquationCol);
+}
+
+void EliminationBoard::MultiplyAndMoveDown(int line) const {
+  const LinearEquation& equation = system_.Line(line);
+  const int factor = plan_.Factor(line);
+  if (factor == 1) {
+    SayInBoxAnew(Text("Equation {} stays as it is.", line));
+  } else {
+    const std::string sides = EquationText(equation);
+    const std::string left = sides.substr(0, sides.find(" ="));
+    SayInBoxAnew(Text(R"(\bMultiply both sides of Equation {} by {}:\z)", line, factor));
+    SayInBox(AlignedEquation(NumStr(factor) + "(" + left + ") = " + NumStr(factor) + "(" +
+                             NumStr(equation.c) + ")"));
+    SayInBox(AlignedEquation(EquationText(Multiplied(equation, factor))));
+    ShowAt(RowOfEquation(line), tutor::Times + " " + InParentheses(factor), kFactorCol);
+  }
+  MoveDown(line);
+  PageEnd();
+}
+
+void EliminationBoard::SayWhatDropsOut() const {
+  const LinearEquation first = MultipleOf(1);
+  const LinearEquation sum = Sum();
+  if (sum.a == 0 && sum.b == 0) return SayInBox("The sum of the left sides is 0.");
+  const int coefficient = std::abs(CoefficientOf(first, plan_.letter));
+  SayInBox(Text("{} and {} add up to 0.  There is no {} any more.",
+                LetterTermText(coefficient, plan_.letter),
+                LetterTermText(-coefficient, plan_.letter), std::string(1, plan_.letter)));
+}
+
+void EliminationBoard::Add() const {
+  SayInBoxAnew(R"(\bAddition Principle of Equality:\z)");
+  SayInBox("We add the left sides and the right sides.");
+  constexpr double kRuleColumns = 17;
+  constexpr int kRulePixels = 2;
+  isDrawHorizLine(kRuleRow, kEquationCol, kEquationCol + kRuleColumns, kRulePixels);
+  ShowAt(kSumRow, SumInColumns(Sum()), kEquationCol);
+  SayWhatDropsOut();
+  PageEnd();
+}
+
+void EliminationBoard::SolveForLetter() const {
+  const char letter = OtherLetter();
+  const int coefficient = CoefficientOf(Sum(), letter);
+  SayInBoxAnew(R"(\bSolve the new equation for the variable.\z)");
+  SayInBox(AlignedEquation(LetterTermText(coefficient, letter) + " = " + NumStr(Sum().c)));
+  if (coefficient != 1)
+    SayStepInBox({ActionToIsolate(coefficient),
+                  LetterTermText(1, letter) + " = " + NumStr(ValueOf(letter))});
+}
+
+// The number that is known, in Equation 1.
+void EliminationBoard::SubstituteBack() const {
+  const auto [a, b, c] = system_.first;
+  const char found = OtherLetter();
+  const int value = ValueOf(found);
+  const int product = CoefficientOf(system_.first, found) * value;
+  const int coefficient = CoefficientOf(system_.first, plan_.letter);
+  const std::string right = " = " + NumStr(c);
+  const std::string term = LetterTermText(coefficient, plan_.letter);
+  SayInBoxAnew(Text("With {} = {} in Equation 1:", std::string(1, found), value));
+  if (found == 'x') {
+    SayInBox(AlignedEquation(TermText(a, value) + SignedCoefText(b) + "y" + right));
+    SayInBox(AlignedEquation(NumStr(product) + SignedCoefText(b) + "y" + right));
+  } else {
+    SayInBox(AlignedEquation(term + LaterTermText(b, value) + right));
+    SayInBox(AlignedEquation(term + tutor::Gap + SignedNumberText(product) + right));
+  }
+  PageEnd();
+  SayStepInBox({ActionToRemove(product, ""), term + " = " + NumStr(c - product)});
+  if (coefficient != 1)
+    SayStepInBox({ActionToIsolate(coefficient),
+                  LetterTermText(1, plan_.letter) + " = " + NumStr(ValueOf(plan_.letter))});
+  PageEnd();
+}
+
+void EliminationBoard::Check() const {
+  WhiteBox({.row = kBelow, .rows = kBelowCheck - 0.5 - kBelow});
+  SayPairInBox(system_.x, system_.y);
+  TryPairInBox(system_.first, system_.x, system_.y);
+  TryPairInBox(system_.second, system_.x, system_.y);
+}
+
+}  // namespace course::systems
