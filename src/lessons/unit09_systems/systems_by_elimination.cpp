@@ -14,7 +14,7 @@ using namespace systems;
 // The systems of the teaching screens.
 constexpr LinearSystem kIdea = {{1, 1, 7}, {1, -1, 3}, 5, 2};
 constexpr LinearSystem kOneFactor = {{3, 2, 4}, {5, -4, 14}, 2, -1};
-constexpr LinearSystem kSameTerms = {{2, 3, 5}, {4, 3, 1}, -2, 3};
+constexpr LinearSystem kSameTerms = {{3, 2, 5}, {3, 4, 1}, 3, -2};
 constexpr LinearSystem kWorked = {{4, 2, -2}, {-3, 3, 15}, -2, 3};
 constexpr LinearSystem kParallel = {{2, 1, 3}, {4, 2, 10}};
 constexpr LinearSystem kOneLine = {{2, 1, 3}, {4, 2, 6}};
@@ -27,58 +27,53 @@ constexpr double kBelow = EliminationBoard::kBelow;
 void Principle() {
   NewScreen();
   Say("The method of elimination depends upon the following important principle:");
-  RuleBox("Addition Principle of Equality", {"If a = b and c = d,", "then a + c = b + d."});
+  RuleBox("Addition Principle of Equality", {"If a = b and c = d, then a + c = b + d."});
   PageEnd();
-  Say("Equal numbers, added to equal numbers, give equal sums:");
+  Say("Equal numbers have equal sums:");
   Show("9 = 5 + 4");
   Show("3 = 2 + 1");
-  Say(R"(\yTry it:\z  Add the left sides and the right sides.  What do we get?)");
-  PageEnd();
-  Say("12 = 12.  Both sums are 12, since we have added the same amount to both sides.");
+  Say(R"(\yTry it:\z  Add both equations.)");
   PageEnd();
 }
 
 void AddTwoEquations() {
   const EliminationBoard board(kIdea);
   NewScreen();
-  SayAt(2, "Now we add two equations with letters.");
+  SayAt(2, "12 = 12.  And now with letters:");
   board.ShowEquations();
   SayAt(kBelowEquations, R"(\yTry it:\z  What is the sum of y and -y?)");
   PageEnd();
   board.OpenWorkBox();
-  SayInBox(R"(It is 0.  So y drops out.  We say that we \beliminate\z y.)");
   board.MoveDown(1);
   board.MoveDown(2);
+  board.ShowSum();
+  SayInBox(R"(It is 0, so we have \beliminated\z y.)");
   PageEnd();
-  board.Add();
-  board.SolveForLetter();
+  SayInBoxAnew("y has dropped out.  Only x is left.");
+  SayInBox("2x = 10, so x = 5.");
   SayInBox("Is 5 the whole solution?");
   PageEnd();
-  board.SubstituteBack();
-  SayInBoxAnew("");
-  SayPairInBox(kIdea.x, kIdea.y);
-  TryPairInBox(kIdea.first, kIdea.x, kIdea.y);
-  TryPairInBox(kIdea.second, kIdea.x, kIdea.y);
-  SayInBox(R"(The solution is the pair \b(5,2)\z, not 5 alone.)");
+  SayInBoxAnew("No.  With x = 5 in Equation 1 we have 5 + y = 7, so y = 2.");
+  SayInBox("Check:  5 + 2 = 7 and 5 - 2 = 3.");
+  SayInBox(R"(The solution is the pair \b(5,2)\z.)");
   PageEnd();
 }
 
 void OneMultiplication() {
   const EliminationBoard board(kOneFactor);
   NewScreen();
-  SayAt(2, "Here no terms are opposites.");
   board.ShowEquations();
-  SayAt(kBelowEquations, R"(\yTry it:\z  By which number do we multiply Equation 1 to get 4y?)");
+  SayAt(kBelowEquations,
+        R"(\yTry it:\z  2y and -4y are no opposites.  By which number do we multiply 2y?)");
   PageEnd();
-  Say("By 2, since 2 times 2y is 4y.  And 4y is the opposite of -4y.");
+  Say("By 2.  Then 4y is the opposite of -4y.");
   PaperBox({R"(\r6x + 2y = 8\z  forgets the term 2y.)",
             R"(\r6x + 4y = 4\z  forgets the right side.)", R"(\b6x + 4y = 8\z  is right.)"});
   PageEnd();
   board.OpenWorkBox();
-  board.MultiplyAndMoveDown(1);
-  board.MultiplyAndMoveDown(2);
-  board.Add();
-  board.SolveForLetter();
+  board.BringDown();
+  board.ShowSum();
+  SayInBoxAnew("11x = 22, so x = 2.");
   SayInBox("What is y?  Use Equation 1.");
   PageEnd();
   SayInBoxAnew("3(2) + 2y = 4, so 6 + 2y = 4.");
@@ -90,69 +85,56 @@ void OneMultiplication() {
 void EqualTerms() {
   const EliminationBoard board(kSameTerms);
   NewScreen();
-  SayAt(2, "Both equations have the same term, 3y.");
   board.ShowEquations();
-  SayAt(kBelowEquations, R"(\yTry it:\z  Does y drop out when we add?)");
-  PageEnd();
-  Say("No.  3y and 3y add up to 6y.  But 3y and -3y add up to 0, so we multiply one equation by "
-      "-1.");
+  SayAt(kBelowEquations, "3x and 3x add up to 6x, not to 0.");
+  Say(R"(\yTry it:\z  Multiply Equation 2 by -1.)");
   PageEnd();
   board.OpenWorkBox();
   board.MoveDown(1);
-  board.MultiplyAndMoveDown(2);
-  SayInBoxAnew(R"(\bWatch out:\z  -1 changes the sign of every term, also of the 1 on the right.)");
-  SayInBox("What is the sum of both equations?");
+  board.MoveDown(2);
+  SayInBox(R"(\bWatch out:\z  All three signs change, also the one on the right side.)");
   PageEnd();
-  board.Add();
-  SayInBoxAnew("-2x = 4, so x = -2.  Equation 1 gives -4 + 3y = 5, so y = 3.");
-  SayInBox(R"(The solution is \b(-2,3)\z.)");
+  board.ShowSum();
+  SayInBoxAnew("-2y = 4, so y = -2.");
+  SayInBox("Equation 1:  3x - 4 = 5, so x = 3.");
+  SayInBox(R"(The solution is \b(3,-2)\z, not (-2,3).)");
   PageEnd();
 }
 
 void ThePlan() {
   NewScreen();
-  PaperBox({R"(\bThe plan\z  Look at the terms of x and of y.)",
-            "Opposites?  Add the equations.", "Equal?  Multiply one by -1, then add.",
-            "Does one divide the other?  Multiply", "one equation.", "Else:  multiply both."},
-           2.5);
+  Say("We compare the terms of each letter:");
+  PaperBox({R"(\bOpposites?\z  We add the equations.)",
+            R"(\bEqual?\z  We multiply one of them by -1.)",
+            R"(\bElse?\z  We multiply one or both.)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Which letter would you eliminate, and how?)");
+  Say(R"(\yTry it:\z  Which letter is easy to eliminate?)");
   Show("3x + 4y = 2");
   Show("5x - 2y = 12");
   PageEnd();
-  Say("y is easy:  2 divides 4.  We multiply the second equation by 2.  For x we would have to "
-      "multiply both.");
-  PageEnd();
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  And here?)");
-  Show("4x + 2y = -2");
-  Show("-3x + 3y = 15");
-  PageEnd();
-  Say("2 and 3 both divide 6, so we can make 6y and -6y.");
-  AddLine("We multiply the first equation by 3 and the second one by -2.");
-  Say("x would take 12x and -12x.  Larger numbers mean more work.");
+  Say("y is, since 2 divides 4.  We multiply the second equation by 2.");
+  Say(Text(R"(\yTry it:\z  And in {} with {}?)", EquationText(kWorked.first),
+           EquationText(kWorked.second)));
   PageEnd();
 }
 
 void WorkedExample() {
   const EliminationBoard board(kWorked);
   NewScreen();
-  SayAt(2, "We solve this system.");
   board.ShowEquations();
-  SayAt(kBelowEquations, ReasonOfPlan(kWorked, board.Plan()));
+  board.ShowFactors();
+  SayAt(kBelowEquations, "y is easier:  it takes 6y and -6y.");
+  AddLine("x takes 12x and -12x.");
   PageEnd();
   board.OpenWorkBox();
-  board.MultiplyAndMoveDown(1);
-  board.MultiplyAndMoveDown(2);
+  board.BringDown();
   board.Add();
   board.SolveForLetter();
   PageEnd();
   board.SubstituteBack();
-  SayInBoxAnew("Is the solution (-2,3) or (3,-2)?");
-  PageEnd();
   ClearBelow(kBelow);
   board.Check();
-  SayAt(EliminationBoard::kBelowCheck, R"(x comes first:  the solution is \y(-2,3)\z.)");
+  SayAt(EliminationBoard::kBelowCheck, R"(The solution is \y(-2,3)\z:  x comes first.)");
   PageEnd();
 }
 
@@ -160,15 +142,16 @@ void WorkedExample() {
 void NoLetterLeft() {
   const EliminationBoard board(kParallel);
   NewScreen();
-  SayAt(2, "Sometimes both letters drop out.");
   board.ShowEquations();
-  board.OpenWorkBox();
-  board.MultiplyAndMoveDown(1);
-  board.MultiplyAndMoveDown(2);
-  board.Add();
-  SayInBoxAnew("Which pairs (x,y) make 0 = 4 true?");
+  SayAt(kBelowEquations, R"(\yTry it:\z  By which number do we multiply Equation 1?)");
   PageEnd();
-  SayInBoxAnew("No pair does.  The lines are parallel and have no common point.");
+  board.OpenWorkBox();
+  board.MoveDown(1);
+  board.MoveDown(2);
+  board.ShowSum();
+  SayInBox("By -2.  For which pairs is 0 = 4 true?");
+  PageEnd();
+  SayInBoxAnew("For none.  The lines are parallel:  they have no common point.");
   SayInBox(SolutionSentence(SystemClass::NoSolution));
   PageEnd();
 }
@@ -176,17 +159,18 @@ void NoLetterLeft() {
 void EveryPointOfTheLine() {
   const EliminationBoard board(kOneLine);
   NewScreen();
-  SayAt(2, "Only one number is different here.");
   board.ShowEquations();
+  SayAt(kBelowEquations, R"(\yTry it:\z  What is the sum this time?)");
+  PageEnd();
   board.OpenWorkBox();
   board.MoveDown(1);
   board.MoveDown(2);
-  board.Add();
-  SayInBoxAnew("0 = 0 is always true.  Equation 2 is Equation 1 times 2:  it has the same line.");
-  SayInBox(SolutionSentence(SystemClass::SameLine));
-  SayInBox("Is (0,0) one of them?");
+  board.ShowSum();
+  SayInBox("0 = 0 is true.  Is (0,0) a solution?");
   PageEnd();
-  SayInBoxAnew("No:  2(0) + 0 is 0, not 3.  Only points of the line are, such as (1,1).");
+  SayInBoxAnew(
+      "No:  2(0) + 0 is not 3.  But each point of their common line is one, such as (1,1).");
+  SayInBox(SolutionSentence(SystemClass::SameLine));
   PageEnd();
 }
 
@@ -221,9 +205,10 @@ bool IsAtMostOne(int number) {
 // What is found too easily.
 bool LeavesTooLittle(const LinearSystem& system) {
   if (IsAtMostOne(system.first.a) || IsAtMostOne(system.first.b)) return true;  // no factor to find
-  return IsAtMostOne(system.x) || IsAtMostOne(system.y);  // could be guessed
+  return IsAtMostOne(system.x) || IsAtMostOne(system.y);                        // could be guessed
 }
 
+// One try in thirty is accepted.
 void SystemsByElimination::DrawProblem(RandomStream& random) {
   system_ = DrawSystem(random, LeavesTooLittle);
   AskForSolution(problem, system_, random);
@@ -244,11 +229,11 @@ void SystemsByElimination::ExplainProblem() {
   const EliminationBoard board(system_);
   ProblemBanner();
   board.ShowEquations();
+  board.ShowFactors();
   SayAt(kBelowEquations, ReasonOfPlan(system_, board.Plan()));
   PageEnd();
   board.OpenWorkBox();
-  board.MultiplyAndMoveDown(1);
-  board.MultiplyAndMoveDown(2);
+  board.BringDown();
   board.Add();
   if (system_.Class() != SystemClass::OneSolution) {
     ClearBelow(kBelow);

@@ -30,7 +30,7 @@ constexpr double RowOfEquation(int line) {
 constexpr double RowOfAddend(int line) {
   return line == 1 ? 7.2 : 8.2;
 }
-constexpr double kRuleRow = 9.3;
+constexpr double kRuleRow = 8.85;  // the bar goes through the middle of its row
 constexpr double kSumRow = 9.5;
 
 // The print cell that travels, in columns.
@@ -69,8 +69,8 @@ std::string SumInColumns(const LinearEquation& sum) {
   const std::size_t leftWidth = 2 * kTermWidth + 2;
   if (sum.a == 0)
     return AtRight(sum.b == 0 ? "0" : LetterTermText(sum.b, 'y'), leftWidth) + RightSide(sum.c);
-  return AtRight(LetterTermText(sum.a, 'x'), kTermWidth) +
-         AtRight("", leftWidth - kTermWidth) + RightSide(sum.c);
+  return AtRight(LetterTermText(sum.a, 'x'), kTermWidth) + AtRight("", leftWidth - kTermWidth) +
+         RightSide(sum.c);
 }
 
 void SlideInCell(const std::string& text, double fromRow, double toRow) {
@@ -111,6 +111,13 @@ void EliminationBoard::ShowEquations() const {
   }
 }
 
+void EliminationBoard::ShowFactors() const {
+  for (const int line : {1, 2})
+    if (plan_.Factor(line) != 1)
+      ShowAt(RowOfEquation(line), tutor::Times + " " + InParentheses(plan_.Factor(line)),
+             kFactorCol);
+}
+
 void EliminationBoard::OpenWorkBox() const {
   ClearBelow(kBelowEquations);
   WhiteBox({.row = kBelow});
@@ -122,42 +129,43 @@ void EliminationBoard::MoveDown(int line) const {
   ShowAt(RowOfAddend(line), InColumns(multiple, plan_.letter), kEquationCol);
 }
 
-void EliminationBoard::MultiplyAndMoveDown(int line) const {
-  const LinearEquation& equation = system_.Line(line);
-  const int factor = plan_.Factor(line);
-  if (factor == 1) {
-    SayInBoxAnew(Text("Equation {} stays as it is.", line));
-  } else {
-    const std::string sides = EquationText(equation);
-    const std::string left = sides.substr(0, sides.find(" ="));
-    SayInBoxAnew(Text(R"(\bMultiply both sides of Equation {} by {}:\z)", line, factor));
-    SayInBox(AlignedEquation(NumStr(factor) + "(" + left + ") = " + NumStr(factor) + "(" +
-                             NumStr(equation.c) + ")"));
-    SayInBox(AlignedEquation(EquationText(Multiplied(equation, factor))));
-    ShowAt(RowOfEquation(line), tutor::Times + " " + InParentheses(factor), kFactorCol);
+void EliminationBoard::SayMultiplication(int line) const {
+  const std::string factor = NumStr(plan_.Factor(line));
+  const std::string sides = EquationText(system_.Line(line));
+  const std::size_t equals = sides.find(" = ");
+  SayInBoxAnew(Text(R"(\bMultiply both sides of Equation {} by{}\z)", line, " " + factor));
+  SayInBox(AlignedEquation(factor + "(" + sides.substr(0, equals) + ") = " + factor + "(" +
+                           sides.substr(equals + 3) + ")"));
+}
+
+void EliminationBoard::BringDown() const {
+  const bool both = plan_.firstFactor != 1 && plan_.secondFactor != 1;
+  for (const int line : {1, 2}) {
+    if (both && line == 2) PageEnd();
+    if (plan_.Factor(line) != 1) SayMultiplication(line);
+    MoveDown(line);
   }
-  MoveDown(line);
-  PageEnd();
+  if (plan_.firstFactor != 1 || plan_.secondFactor != 1) PageEnd();
 }
 
-void EliminationBoard::SayWhatDropsOut() const {
-  const LinearEquation first = MultipleOf(1);
-  const LinearEquation sum = Sum();
-  if (sum.a == 0 && sum.b == 0) return SayInBox("The sum of the left sides is 0.");
-  const int coefficient = std::abs(CoefficientOf(first, plan_.letter));
-  SayInBox(Text("{} and {} add up to 0.  There is no {} any more.",
-                LetterTermText(coefficient, plan_.letter),
-                LetterTermText(-coefficient, plan_.letter), std::string(1, plan_.letter)));
-}
-
-void EliminationBoard::Add() const {
-  SayInBoxAnew(R"(\bAddition Principle of Equality:\z)");
-  SayInBox("We add the left sides and the right sides.");
+void EliminationBoard::ShowSum() const {
   constexpr double kRuleColumns = 17;
   constexpr int kRulePixels = 2;
   isDrawHorizLine(kRuleRow, kEquationCol, kEquationCol + kRuleColumns, kRulePixels);
   ShowAt(kSumRow, SumInColumns(Sum()), kEquationCol);
-  SayWhatDropsOut();
+}
+
+void EliminationBoard::Add() const {
+  SayInBoxAnew(R"(\bAddition Principle of Equality:\z)");
+  SayInBox("We add left sides and right sides.");
+  ShowSum();
+  if (Sum().a == 0 && Sum().b == 0) {
+    SayInBox("Both letters drop out.");
+  } else {
+    const int coefficient = std::abs(CoefficientOf(MultipleOf(1), plan_.letter));
+    SayInBox(Text("{} and {} add up to 0.", LetterTermText(coefficient, plan_.letter),
+                  LetterTermText(-coefficient, plan_.letter)));
+  }
   PageEnd();
 }
 

@@ -20,12 +20,17 @@ class EliminationBoard {
 
   const EliminationPlan& Plan() const { return plan_; }
   void ShowEquations() const;
+  // Beside them, by what they are multiplied.
+  void ShowFactors() const;
   // An empty white box below the sum.
   void OpenWorkBox() const;
-  // A step each, which end their pages; the equation in work is 1 or 2.  One that is not multiplied
-  // slides down as it is.
-  void MultiplyAndMoveDown(int line) const;
-  void MoveDown(int line) const;  // without a word in the white box
+  // Equation 1 or 2, or its multiple, slides down; then their sum below them.
+  void MoveDown(int line) const;
+  void ShowSum() const;
+
+  // The steps in the white box, which end their pages.  Two equations without a multiplication
+  // slide down on the page of their sum.
+  void BringDown() const;
   void Add() const;
   void SubstituteBack() const;
   // The caller ends their last page.
@@ -37,7 +42,7 @@ class EliminationBoard {
   int ValueOf(char letter) const { return letter == 'x' ? system_.x : system_.y; }
   LinearEquation MultipleOf(int line) const;
   LinearEquation Sum() const;
-  void SayWhatDropsOut() const;
+  void SayMultiplication(int line) const;
 
   LinearSystem system_;
   EliminationPlan plan_;

@@ -63,15 +63,15 @@ std::string ReasonOfPlan(const LinearSystem& system, const EliminationPlan& plan
     return Text("Both equations have {}.  We multiply Equation 2 by -1 to get its opposite.",
                 first);
   if (plan.firstFactor != 1 && plan.secondFactor != 1)
-    return Text("We want the opposites {} and {}.  So we multiply Equation 1 by {} and Equation 2 "
-                "by {}.",
-                termOf(1, plan.firstFactor), termOf(2, plan.secondFactor), plan.firstFactor,
-                plan.secondFactor);
+    return Text(
+        "We want the opposites {} and {}.  So we multiply Equation 1 by {} and Equation 2 "
+        "by {}.",
+        termOf(1, plan.firstFactor), termOf(2, plan.secondFactor), plan.firstFactor,
+        plan.secondFactor);
   const int line = plan.firstFactor != 1 ? 1 : 2;
   const int factor = plan.Factor(line);
   return Text("{} times {} is {}, the opposite of {}.  So we multiply Equation {} by {}.", factor,
-              termOf(line, 1), termOf(line, factor),
-              line == 1 ? second : first, line, factor);
+              termOf(line, 1), termOf(line, factor), line == 1 ? second : first, line, factor);
 }
 
 }  // namespace course::systems

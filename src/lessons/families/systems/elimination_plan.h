@@ -9,14 +9,15 @@
 namespace course::systems {
 
 struct EliminationPlan {
-  char letter = 'y';   // that drops out
+  char letter = 'y';    // that drops out
   int firstFactor = 1;  // of Equation 1; 1 leaves it as it is
   int secondFactor = 1;
 
   int Factor(int line) const { return line == 1 ? firstFactor : secondFactor; }
 };
 
-// With as few multiplications as possible, and with small numbers; y where both letters are as easy.
+// With as few multiplications as possible, and with small numbers; y where both letters are as
+// easy.
 EliminationPlan PlanFor(const LinearSystem& system);
 // Both sides of the equation multiplied.
 LinearEquation Multiplied(const LinearEquation& equation, int factor);
