@@ -1,6 +1,8 @@
 // The student can find the equation of the line through two points: its slope m, then its y
 // intercept b from one of the points, and knows the equations of horizontal and vertical lines.
+#include "lessons/families/graphs/line_board.h"
 #include "lessons/families/graphs/line_through_points.h"
+#include "lessons/families/graphs/plane_figure.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -8,11 +10,125 @@ namespace {
 
 using namespace graphs;
 
+// The lines of the teaching screens.
+constexpr LineThroughPoints kWhole = {{-1, 4}, {2, -2}};
+constexpr LineThroughPoints kFraction = {{2, 3}, {-2, 2}};
+constexpr LineThroughPoints kLevel = {{-3, 2}, {4, 2}};
+constexpr LineThroughPoints kUpright = {{3, -2}, {3, 4}};
+
+constexpr double kBelowPlane = LineBoard::kBelowPlane;
+
 // --- Teaching screens --------------------------------------------------------
 
-void Screen1() {
+void SayBelowPlane(const std::string& text) {
+  ClearBelow(kBelowPlane);
+  SayAt(kBelowPlane, text);
+}
+
+void SlopeAndIntercept() {
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  ShowPlaneAtRight(LineBoard::kPlaneRow);
+  SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z.)", kBesidePlane);
+  Say("m is the slope, b is the y intercept.", kBesidePlane);
+  PageEnd();
+  const FigureItem line = LineItem(2, -1);
+  KeepLabelsClearOf(1, {StepItem(0, -1, 1, 2), LineItem(-1, 2)});
+  DrawOnPlane(1, {line}, platform::colour::Blue);
+  SayBelowPlane(R"(\yTry it:\z  Where does it cross the y axis?)");
+  PageEnd();
+  DrawOnPlane(1, {PointItem(0, -1, "(0,-1)")});
+  SayBelowPlane("At -1, so b = -1.");
+  Say(R"(\yTry it:\z  How many squares up does it go for one square to the right?)");
+  PageEnd();
+  DrawOnPlane(1, {StepItem(0, -1, 1, 2)});
+  SayBelowPlane("1 right and 2 up, so m = 2.  The line is y = 2x - 1.");
+  Say(R"(\yTry it:\z  Is it y = -x + 2, too?)");
+  PageEnd();
+  DrawOnPlane(1, {Broken(LineItem(-1, 2, "y = -x + 2"))}, platform::colour::Red);
+  SayBelowPlane(
+      "No.  There slope and intercept are exchanged.  That line is dashed:  it has the "
+      "slope -1 and crosses at 2.");
+  PageEnd();
+}
+
+// What a student gets who ...
+void WarnOfWrongSlopes() {
+  ClearBelow(kBelowPlane);
+  PaperBox(
+      {R"(\r3/(-6) = -1/2\z  puts run over rise.)", R"(\r6/3 = 2\z  loses the sign:  we go down.)"},
+      kBelowPlane);
+}
+
+void FromTwoPoints() {
+  const LineBoard board(kWhole);
+  NewScreen();
+  board.ShowPoints();
+  SayAt(LineBoard::kTextRow, "We know two points.", kBesidePlane);
+  AddLine("Solve for m and b.", kBesidePlane);
+  SayBelowPlane(R"(\yTry it:\z  How do we go from (-1,4) to (2,-2)?)");
+  PageEnd();
+  DrawOnPlane(1, {StepItem(-1, 4, 3, -6)});
+  SayBelowPlane("3 right and 6 down.  The run is 3, the rise is -6.");
+  Say(R"(\yTry it:\z  What is the slope?)");
+  PageEnd();
+  board.FindSlope();
+  PageEnd();
+  WarnOfWrongSlopes();
+  PageEnd();
+  board.PutFirstPointIn();
+  Say(R"(\yTry it:\z  What is b?)");
+  PageEnd();
+  board.SolveForIntercept();
+  Say(R"(\yWatch out:\z  It is 4 - 2, not 2 - 4.)");
+  PageEnd();
+  board.ShowEquationAndCheck();
+  PageEnd();
+}
+
+void WithFractions() {
+  const LineBoard board(kFraction);
+  NewScreen();
+  board.ShowPoints();
+  SayAt(LineBoard::kTextRow, "m and b can be fractions.", kBesidePlane);
+  SayBelowPlane(R"(\yTry it:\z  What is the slope of this line?)");
+  PageEnd();
+  board.FindSlope();
+  PageEnd();
+  board.PutFirstPointIn();
+  PageEnd();
+  board.SolveForIntercept();
+  PageEnd();
+  board.ShowEquationAndCheck();
+  PageEnd();
+}
+
+void HorizontalLines() {
+  const LineBoard board(kLevel);
+  NewScreen();
+  board.ShowPoints();
+  SayAt(LineBoard::kTextRow, R"(This line is \chorizontal\z.)", kBesidePlane);
+  SayBelowPlane(R"(\yTry it:\z  What is the rise?)");
+  PageEnd();
+  board.FindSlope();
+  PageEnd();
+  board.ShowHorizontal();
+  PageEnd();
+}
+
+void VerticalLines() {
+  const LineBoard board(kUpright);
+  NewScreen();
+  board.ShowPoints();
+  SayAt(LineBoard::kTextRow, R"(This line is \cvertical\z.)", kBesidePlane);
+  SayBelowPlane(R"(\yTry it:\z  What is the run?)");
+  PageEnd();
+  board.FindSlope();
+  PageEnd();
+  board.ShowVertical();
+  Say(R"(\yTry it:\z  Is it y = 3, too?)");
+  PageEnd();
+  DrawOnPlane(1, {Broken(LineItem(0, 3, "y = 3"))}, platform::colour::Red);
+  SayBelowPlane("No.  On the dashed line y = 3 each point has the y 3.  That line is horizontal.");
   PageEnd();
 }
 
@@ -23,7 +139,9 @@ class EquationOfALine final : public LessonScript {
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{Screen1}}; }
+  std::vector<Screen> Screens() override {
+    return {{SlopeAndIntercept, FromTwoPoints, WithFractions, HorizontalLines, VerticalLines}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
@@ -65,6 +183,14 @@ LineThroughPoints DrawLine(RandomStream& random) {
   return lines.at(static_cast<std::size_t>(random.Index(4)) - 1);
 }
 
+struct NamedPoint {
+  GridPoint place;
+  std::string name;
+};
+std::array<NamedPoint, 2> NamedPoints(const LineThroughPoints& line) {
+  return {{{line.first, "the first point"}, {line.second, "the second point"}}};
+}
+
 struct WrongLine {
   std::string mistake;
   std::string withOtherSign;  // the name when the sign of its intercept is turned, too
@@ -97,9 +223,9 @@ void OfferSloping(const LineThroughPoints& line, int pair, bool oneLikeRight,
   offer(pair + 1, !oneLikeRight);
   // Where some of these are the same line:
   offer(pair + 2, false);
-  for (const GridPoint& point : {line.first, line.second}) {
-    choices.Wrong("takes the y of a point for the intercept", WithSlope(m, {point.y, 1}));
-    choices.Wrong("takes the x of a point for the intercept", WithSlope(m, {point.x, 1}));
+  for (const auto& [point, name] : NamedPoints(line)) {
+    choices.Wrong("takes the y of " + name + " for the intercept", WithSlope(m, {point.y, 1}));
+    choices.Wrong("takes the x of " + name + " for the intercept", WithSlope(m, {point.x, 1}));
   }
 }
 
@@ -107,14 +233,19 @@ void OfferHorizontal(const LineThroughPoints& line, bool oneLikeRight,
                      Choices<LineEquation>& choices) {
   const Fraction b = line.Intercept();
   choices.Wrong("mixes up x and y", Upright(line.first.y));
-  choices.Wrong("takes the line for a vertical one", Upright(line.first.x));
-  choices.Wrong("takes the x of a point for the intercept", WithSlope(kZero, {line.first.x, 1}));
+  const auto offerX = [&](const NamedPoint& point) {
+    choices.Wrong("takes the line for a vertical one through " + point.name,
+                  Upright(point.place.x));
+    choices.Wrong("takes the x of " + point.name + " for the intercept",
+                  WithSlope(kZero, {point.place.x, 1}));
+  };
+  const auto [first, second] = NamedPoints(line);
+  offerX(first);
   if (oneLikeRight) {
     choices.Wrong("exchanges slope and intercept", WithSlope(b, kZero));
     choices.Wrong("turns the sign of the intercept", WithSlope(kZero, kZero - b));
   }
-  choices.Wrong("takes the line for a vertical one", Upright(line.second.x));
-  choices.Wrong("takes the x of a point for the intercept", WithSlope(kZero, {line.second.x, 1}));
+  offerX(second);
   choices.Wrong("takes 1 for the slope", WithSlope(kOne, b));
 }
 
@@ -122,13 +253,16 @@ void OfferVertical(const LineThroughPoints& line, bool oneLikeRight,
                    Choices<LineEquation>& choices) {
   const Fraction x = {line.first.x, 1};
   choices.Wrong("mixes up x and y", WithSlope(kZero, x));
-  choices.Wrong("takes the line for a horizontal one", WithSlope(kZero, {line.first.y, 1}));
-  choices.Wrong("exchanges the coordinates", Upright(line.first.y));
+  const auto offerY = [&](const NamedPoint& point) {
+    choices.Wrong("takes the line for a horizontal one through " + point.name,
+                  WithSlope(kZero, {point.place.y, 1}));
+    choices.Wrong("exchanges the coordinates of " + point.name, Upright(point.place.y));
+  };
+  const auto [first, second] = NamedPoints(line);
+  offerY(first);
   if (oneLikeRight) choices.Wrong("turns the sign of the number", Upright(-line.first.x));
-  choices.Wrong("takes the line for a horizontal one", WithSlope(kZero, {line.second.y, 1}));
-  choices.Wrong("exchanges the coordinates", Upright(line.second.y));
+  offerY(second);
   choices.Wrong("takes the number for the slope", WithSlope(x, kZero));
-  choices.Wrong("takes 1 for the slope", WithSlope(kOne, x));
 }
 
 void EquationOfALine::DrawProblem(RandomStream& random) {
@@ -158,9 +292,30 @@ void EquationOfALine::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void EquationOfALine::ExplainProblem() {
+  const LineBoard board(line_);
   ProblemBanner();
+  SayAt(LineBoard::kTextRow, problem.question[0] + " " + problem.question[1], kBesidePlane);
+  board.ShowPoints();
+  SayBelowPlane("The equation of a line is y = mx + b.");
+  AddLine("m is the slope, b is the y intercept.");
+  Say("Solve for m and b.");
   PageEnd();
-  Conclude(problem);
+  board.FindSlope();
+  PageEnd();
+  if (line_.IsVertical()) {
+    board.ShowVertical();
+  } else if (line_.IsHorizontal()) {
+    board.ShowHorizontal();
+  } else {
+    board.PutFirstPointIn();
+    PageEnd();
+    board.SolveForIntercept();
+    PageEnd();
+    board.ShowEquationAndCheck();
+  }
+  PageEnd();
+  ClearBelow(kBelowPlane);
+  ConcludeAt(kBelowPlane, problem);
 }
 
 const LessonRegistration<EquationOfALine> kRegistration("The Equation of a Line");

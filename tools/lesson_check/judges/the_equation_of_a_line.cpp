@@ -64,28 +64,43 @@ std::string XEquals(const Rational& number) {
   return "x=" + Polynomial(number).Text();
 }
 
+const char* NameOf(bool isFirst) {
+  return isFirst ? "the first point" : "the second point";
+}
+
 void ReadVertical(const Point& first, const Point& second, Reading& reading) {
   reading.kind = "vertical";
   reading.answer = XEquals(first.x);
   reading.mistakes["mixes up x and y"] = {YEquals(0, first.x)};
-  reading.mistakes["takes the line for a horizontal one"] = {YEquals(0, first.y),
-                                                             YEquals(0, second.y)};
   reading.mistakes["turns the sign of the number"] = {XEquals(-first.x)};
-  reading.mistakes["exchanges the coordinates"] = {XEquals(first.y), XEquals(second.y)};
   reading.mistakes["takes the number for the slope"] = {YEquals(first.x, 0)};
-  reading.mistakes["takes 1 for the slope"] = {YEquals(1, first.x)};
+  for (const Point* point : {&first, &second}) {
+    const std::string name = NameOf(point == &first);
+    reading.mistakes["takes the line for a horizontal one through " + name] = {
+        YEquals(0, point->y)};
+    reading.mistakes["exchanges the coordinates of " + name] = {XEquals(point->y)};
+  }
+}
+
+void AddCoordinateTakenForIntercept(const char* letter, const Rational& slope,
+                                    const Rational& first, const Rational& second,
+                                    Reading& reading) {
+  const std::string takes = std::string("takes the ") + letter + " of ";
+  reading.mistakes[takes + NameOf(true) + " for the intercept"] = {YEquals(slope, first)};
+  reading.mistakes[takes + NameOf(false) + " for the intercept"] = {YEquals(slope, second)};
 }
 
 void ReadHorizontal(const Point& first, const Point& second, Reading& reading) {
   reading.kind = "horizontal";
   reading.answer = YEquals(0, first.y);
   reading.mistakes["mixes up x and y"] = {XEquals(first.y)};
-  reading.mistakes["takes the line for a vertical one"] = {XEquals(first.x), XEquals(second.x)};
   reading.mistakes["exchanges slope and intercept"] = {YEquals(first.y, 0)};
   reading.mistakes["turns the sign of the intercept"] = {YEquals(0, -first.y)};
-  reading.mistakes["takes the x of a point for the intercept"] = {YEquals(0, first.x),
-                                                                  YEquals(0, second.x)};
   reading.mistakes["takes 1 for the slope"] = {YEquals(1, first.y)};
+  AddCoordinateTakenForIntercept("x", 0, first.x, second.x, reading);
+  for (const Point* point : {&first, &second})
+    reading.mistakes[std::string("takes the line for a vertical one through ") +
+                     NameOf(point == &first)] = {XEquals(point->x)};
 }
 
 void ReadSloping(const Point& first, const Point& second, Reading& reading) {
@@ -106,10 +121,8 @@ void ReadSloping(const Point& first, const Point& second, Reading& reading) {
   reading.mistakes["exchanges slope and intercept"] = {YEquals(intercept, slope)};
   reading.mistakes["exchanges slope and intercept and turns a sign"] = {YEquals(intercept, -slope)};
   reading.mistakes["turns the sign of the intercept"] = {YEquals(slope, -intercept)};
-  reading.mistakes["takes the y of a point for the intercept"] = {YEquals(slope, first.y),
-                                                                  YEquals(slope, second.y)};
-  reading.mistakes["takes the x of a point for the intercept"] = {YEquals(slope, first.x),
-                                                                  YEquals(slope, second.x)};
+  AddCoordinateTakenForIntercept("y", slope, first.y, second.y, reading);
+  AddCoordinateTakenForIntercept("x", slope, first.x, second.x, reading);
 }
 
 bool IsOnPlane(const Point& point) {
