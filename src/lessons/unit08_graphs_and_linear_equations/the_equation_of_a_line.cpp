@@ -31,17 +31,18 @@ void SlopeAndIntercept() {
   SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z.)", kBesidePlane);
   Say("m is the slope, b is the y intercept.", kBesidePlane);
   PageEnd();
-  const FigureItem line = LineItem(2, -1);
   KeepLabelsClearOf(1, {StepItem(0, -1, 1, 2), LineItem(-1, 2)});
-  DrawOnPlane(1, {line}, platform::colour::Blue);
+  DrawOnPlane(1, {LineItem(2, -1)}, platform::colour::Blue);
   SayBelowPlane(R"(\yTry it:\z  Where does it cross the y axis?)");
   PageEnd();
   DrawOnPlane(1, {PointItem(0, -1, "(0,-1)")});
-  SayBelowPlane("At -1, so b = -1.");
+  SayBelowPlane("At -1.  So the y intercept b is -1.");
   Say(R"(\yTry it:\z  How many squares up does it go for one square to the right?)");
   PageEnd();
   DrawOnPlane(1, {StepItem(0, -1, 1, 2)});
-  SayBelowPlane("1 right and 2 up, so m = 2.  The line is y = 2x - 1.");
+  DrawOnPlane(1, {LineItem(2, -1, "y = 2x - 1")}, platform::colour::Blue);
+  SayBelowPlane("1 right, 2 up:  the slope m is 2.  So the line is " +
+                WithoutBreaks("y = 2x - 1."));
   Say(R"(\yTry it:\z  Is it y = -x + 2, too?)");
   PageEnd();
   DrawOnPlane(1, {Broken(LineItem(-1, 2, "y = -x + 2"))}, platform::colour::Red);

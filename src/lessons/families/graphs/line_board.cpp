@@ -17,8 +17,9 @@ using namespace page;
 
 constexpr int kPlane = 1;
 constexpr int kGridEnd = 5;
-constexpr double kSlopeRow = 9.8;  // what is known, beside the plane
-constexpr double kInterceptRow = 12.8;
+constexpr double kKnownRow = 11.5;  // of what is known, beside the plane
+constexpr double kSlopeCol = 3;
+constexpr double kInterceptCol = 13;
 constexpr platform::Colour kLineColour = platform::colour::Blue;
 
 bool IsOnGrid(const GridPoint& point) {
@@ -113,11 +114,12 @@ void LineBoard::DrawLine() const {
 
 void LineBoard::FindSlope() const {
   const auto& [first, second] = line_;
+  ShowAt(kKnownRow, line_.IsVertical() ? "Slope:  Undefined" : "m = " + SlopeText(line_),
+         kSlopeCol);
   SayBelow("The slope m is rise over run:");
   Show("m = " + DifferenceText(second.y, first.y) + "/" + DifferenceText(second.x, first.x) +
        " = " + QuotientText(line_.Rise(), line_.Run()));
   if (line_.IsVertical()) AddLine("We cannot divide by 0.");
-  ShowAt(kSlopeRow, line_.IsVertical() ? "Slope:  Undefined" : "m = " + SlopeText(line_));
 }
 
 void LineBoard::PutFirstPointIn() const {
@@ -134,6 +136,7 @@ void LineBoard::SolveForIntercept() const {
   const Fraction product = Product();
   const std::string intercept = "b = " + ValueText(line_.Intercept());
   const Fraction size = {std::abs(product.num), product.den};
+  ShowAt(kKnownRow, intercept, kInterceptCol);
   if (product.num == 0) {
     SayBelow("0 plus b is b:");
     Show(intercept);
@@ -142,7 +145,6 @@ void LineBoard::SolveForIntercept() const {
                   ValueText(size)));
     Show("b = " + DifferenceSteps(line_.first.y, product));
   }
-  ShowAt(kInterceptRow, intercept);
 }
 
 void LineBoard::ShowEquationAndCheck() const {
@@ -150,27 +152,27 @@ void LineBoard::ShowEquationAndCheck() const {
   const auto [x, y] = line_.second;
   const Fraction constant = line_.Intercept();
   SayBelow("The equation y = mx + b becomes:");
-  ShowAt(kBelowPlane + 2.2, EquationText(line_.Equation()));
+  ShowAt(kBelowPlane + 2.3, EquationText(line_.Equation()));
   DrawLine();
-  SayAt(kBelowPlane + 4,
+  SayAt(kBelowPlane + 4.6,
         Text(R"(\yCheck:\z  x = {} gives the y of {}.)", x, PointText(line_.second)));
   const std::string product = ProductText(slope, x);
   const std::string value = ValueText(slope * Whole(x));
   std::string work = product + SignedText(constant);
   if (product != value && constant.num != 0) work += " = " + value + SignedText(constant);
-  ShowAt(kBelowPlane + 6.2, work + " = " + NumStr(y));
+  ShowAt(kBelowPlane + 6.9, work + " = " + NumStr(y));
 }
 
 void LineBoard::ShowHorizontal() const {
-  SayBelow("With m = 0 the term mx is 0.  So y = mx + b is just y = b.");
-  Say(Text("Each point of the line has the same y:"));
+  SayBelow("With m = 0 only y = b is left.");
+  Say(Text("Both points have the y {}, so b is {}:", line_.first.y, line_.first.y));
   Show(EquationText(line_.Equation()));
   DrawLine();
 }
 
 void LineBoard::ShowVertical() const {
-  SayBelow("There is no m, and so no y = mx + b.");
-  Say("But each point of the line has the same x:");
+  SayBelow("There is no m, so it is not y = mx + b.");
+  Say(Text("But all points of the line have the x {}:", line_.first.x));
   Show(EquationText(line_.Equation()));
   DrawLine();
 }
