@@ -63,10 +63,9 @@ void OneMultiplication() {
   const EliminationBoard board(kOneFactor);
   NewScreen();
   board.ShowEquations();
-  SayAt(kBelowEquations,
-        R"(\yTry it:\z  2y and -4y are no opposites.  By which number do we multiply 2y?)");
+  SayAt(kBelowEquations, R"(\yTry it:\z  Which number times 2y is the opposite of -4y?)");
   PageEnd();
-  Say("By 2.  Then 4y is the opposite of -4y.");
+  Say("2:  the opposite is 4y.  We multiply:");
   PaperBox({R"(\r6x + 2y = 8\z  forgets the term 2y.)",
             R"(\r6x + 4y = 4\z  forgets the right side.)", R"(\b6x + 4y = 8\z  is right.)"});
   PageEnd();
@@ -106,7 +105,7 @@ void ThePlan() {
   Say("We compare the terms of each letter:");
   PaperBox({R"(\bOpposites?\z  We add the equations.)",
             R"(\bEqual?\z  We multiply one of them by -1.)",
-            R"(\bElse?\z  We multiply one or both.)"});
+            R"(\bNeither?\z  We multiply one or both.)"});
   PageEnd();
   Say(R"(\yTry it:\z  Which letter is easy to eliminate?)");
   Show("3x + 4y = 2");
@@ -123,8 +122,8 @@ void WorkedExample() {
   NewScreen();
   board.ShowEquations();
   board.ShowFactors();
-  SayAt(kBelowEquations, "y is easier:  it takes 6y and -6y.");
-  AddLine("x takes 12x and -12x.");
+  SayAt(kBelowEquations, "y is easier:  we need 6y and -6y.");
+  AddLine("For x we need 12x and -12x.");
   PageEnd();
   board.OpenWorkBox();
   board.BringDown();
