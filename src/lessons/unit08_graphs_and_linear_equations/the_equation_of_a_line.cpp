@@ -169,7 +169,7 @@ LineThroughPoints DrawLine(RandomStream& random) {
   GridPoint first;
   do {
     first = DrawPoint(random);
-  } while (first.x == 0 || first.y == 0);  // its mirror image would be no other line
+  } while (first.x == 0 || first.y == 0);  // on an axis the line shows too soon
   const GridPoint second = {-first.x, std::abs(first.y) - 1};
   const GridPoint third = {-first.x + 1, first.y - 1};
   GridPoint fourth;
