@@ -173,12 +173,26 @@ void CheckTexts(const Problem& problem, const Reading& reading, const Complain& 
   for (const std::string& fault : reading.faults) complain(fault);
 }
 
+// Hard blanks hold values of the problem together; mistakes that differ in nothing else are counted
+// as one.
+std::string NameInTally(const std::string& name) {
+  std::string counted;
+  for (std::size_t at = 0; at < name.size();) {
+    const std::size_t end = std::min(name.find(' ', at), name.size());
+    const std::string word = name.substr(at, end - at);
+    const bool isValue = word.find(course::tutor::Gap) != std::string::npos;
+    counted += (at == 0 ? "" : " ") + (isValue ? "..." : word);
+    at = end + 1;
+  }
+  return counted;
+}
+
 void CheckMistakes(const Problem& problem, const std::vector<JudgedChoice>& choices,
                    const Reading& reading, const Complain& complain, MistakeCounts& mistakes) {
   for (const JudgedChoice& choice : choices) {
     const std::string& name = ChoiceAt(problem, choice.slot).mistake;
     if (name.empty()) continue;
-    MistakeCount& count = mistakes[name];
+    MistakeCount& count = mistakes[NameInTally(name)];
     ++count.met;
     if (name == kFiller) continue;
     const auto recipe = reading.mistakes.find(name);
@@ -213,7 +227,7 @@ std::uint32_t HashOf(const std::string& text) {  // FNV-1a
 
 void Count(const Problem& problem, const std::vector<JudgedChoice>& choices, const Reading& reading,
            Tally& tally) {
-  for (const auto& [name, values] : reading.mistakes) tally.mistakes[name];
+  for (const auto& [name, values] : reading.mistakes) tally.mistakes[NameInTally(name)];
   ++tally.kinds[KindOf(problem, reading)];
   tally.different.insert(HashOf(AskedText(problem)));
   std::vector<std::string> texts;
