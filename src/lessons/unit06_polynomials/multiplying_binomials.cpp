@@ -16,18 +16,20 @@ using namespace polynomials;
 constexpr std::string_view kFirstLetters = "tuvwxy";  // the second letter is the next one
 constexpr int kLargest = 9;                           // size of a coefficient, and of its change
 constexpr double kExpressionCol = 6;
+constexpr double kWideCol = 2;
 constexpr double kPairRow = 5;  // of two binomials above their table
 
 // --- Teaching screens ----------------------------------------------------------------------------
 
 void RectangleOfFourParts() {
-  constexpr double kBelow = 13.5;
+  constexpr double kBelow = 14.5;
   NewScreen();
-  SayAt(3, R"(A \cbinomial\z has two terms, as )" + WithoutBreaks("t + 3 has."));
-  CutRectangle rectangle({"t", "3"}, {"u", "2"}, 6.2);
+  SayAt(3, R"(A \cbinomial\z has two terms.  In t + 3 the terms are t and 3.)");
   PageEnd();
-  SayAt(kBelow, Text("The rectangle is {} wide and {} high, so its area is {}.", "t + 3", "u + 2",
-                     "(t + 3)(u + 2)"));
+  CutRectangle rectangle({"t", "3"}, {"u", "2"}, 7.2);
+  SayAt(kBelow, Text("A rectangle with sides {} and {}:", "t + 3", "u + 2"));
+  PageEnd();
+  AddLine(Text("Its area is {}.", "(t + 3)(u + 2)"));
   Say(R"(\yTry it:\z  What is the area of each part?)");
   PageEnd();
   rectangle.MoveApart();
@@ -49,6 +51,20 @@ void Work(FoilTable& table, std::initializer_list<Foil> products) {
 }
 void WorkAll(FoilTable& table) {
   Work(table, {Foil::First, Foil::Outer, Foil::Inner, Foil::Last});
+  table.Unmark();
+}
+
+void SumOfFourProducts(const FoilTable& table) {
+  table.Unmark();
+  ClearBelow(table.RowBelow());
+  SayAt(table.RowBelow(), "Their sum is the product of the binomials:");
+  Show("(3t + 2)(4u + 5)", kExpressionCol);
+  Show(R"(  = \y12tu + 15t + 8u + 10)", kExpressionCol);
+  Say(R"(\yTry it:\z  Can we combine 15t and 8u?)");
+  PageEnd();
+  Say("No.  15t has the letter t and 8u has the letter u, so they are unlike terms:");
+  PaperBox({R"(15t + 8u,  \rnot 23tu\z)"});
+  PageEnd();
 }
 
 void FourNames() {
@@ -56,27 +72,25 @@ void FourNames() {
   NewScreen();
   SayAt(3, "With four names we forget no product:");
   FoilTable table(pair, kPairRow);
-  PageEnd();
-  Work(table, {Foil::First, Foil::Outer});
+  Work(table, {Foil::First});
   SayAt(table.RowBelow(), R"(\cFirst\z:  the first term of each binomial)");
-  AddLine(R"(\cOuter\z:  the two terms at the outside)");
   PageEnd();
-  Say(R"(\yTry it:\z  The Inner terms stand in the middle, the Last terms at the ends of the )"
-      "binomials.  What are their products?");
+  table.Bring(Foil::Outer);
+  table.Multiply(Foil::Outer);
+  SayAt(table.RowBelow() + 1, R"(\cOuter\z:  the two terms at the outside)");
   PageEnd();
-  Work(table, {Foil::Inner, Foil::Last});
-  SayAt(table.RowBelow(), R"(\cInner\z:  )" + pair.ProductText(Foil::Inner));
-  AddLine(R"(\cLast\z:   )" + pair.ProductText(Foil::Last));
+  AddLine(R"(\cInner\z:  the two terms in the middle)");
+  AddLine(R"(\cLast\z:   the last term of each binomial)");
+  Say(R"(\yTry it:\z  What are the Inner and the Last product?)");
   PageEnd();
-  ClearBelow(table.RowBelow());
-  SayAt(table.RowBelow(), "Their sum is the product of the binomials:");
-  Show("(3t + 2)(4u + 5)", kExpressionCol);
-  Show(R"(  = \y12tu + 15t + 8u + 10)", kExpressionCol);
-  Say(R"(\yTry it:\z  Can we combine 15t and 8u?)");
+  Work(table, {Foil::Inner});
+  SayAt(table.RowBelow(), "Inner:  " + pair.ProductText(Foil::Inner));
   PageEnd();
-  Say("No.  They have different letters, so they are unlike terms:");
-  PaperBox({R"(15t + 8u,  \rnot 23tu\z)"});
+  table.Bring(Foil::Last);
+  table.Multiply(Foil::Last);
+  SayAt(table.RowBelow() + 1, "Last:   " + pair.ProductText(Foil::Last));
   PageEnd();
+  SumOfFourProducts(table);
 }
 
 void TwoProductsForgotten() {
@@ -84,14 +98,14 @@ void TwoProductsForgotten() {
   SayAt(3, R"(\yTry it:\z  Tom multiplies only first by first and last by last.  Is he right?)");
   PaperBox({R"((3t + 2)(4u + 5) = \r12tu + 10)"});
   PageEnd();
-  Say("No.  Outer and Inner are missing.  We see it with 1 in place of t and of u:");
-  Show("(3 + 2)(4 + 5) = 5 " + tutor::Times + " 9 = 45", kExpressionCol);
-  Show("12 + 10 = 22", kExpressionCol);
+  Say("No.  Outer and Inner are missing.  With 2 for t and 1 for u:");
+  Show("(6 + 2)(4 + 5) = 8 " + tutor::Times + " 9 = 72", kExpressionCol);
+  Show("24 + 10 = 34", kExpressionCol);
   PageEnd();
-  Say("With all four products it comes out:");
-  Show("12 + 15 + 8 + 10 = 45", kExpressionCol);
+  Say("With all four products we get the same value:");
+  Show("24 + 30 + 8 + 10 = 72", kExpressionCol);
   PageEnd();
-  RuleBox("First, Outer, Inner, Last",
+  RuleBox("First, Outer, Inner, Last  (FOIL)",
           {"Multiply the four pairs of terms.", "Add the four products."}, {.width = 34});
   PageEnd();
 }
@@ -106,11 +120,13 @@ void TermsWithSigns() {
   SayAt(table.RowBelow(),
         "w means 1w, so the First product is 2vw.  2 times -5 is -10, so Outer "
         "is negative.");
-  Say(R"(\yTry it:\z  Which signs have Inner and Last?)");
+  Say(R"(\yTry it:\z  Which signs do Inner and Last have?)");
   PageEnd();
   Work(table, {Foil::Inner, Foil::Last});
+  table.Unmark();
   SayAt(table.RowBelow(),
-        "Inner is negative.  Last is positive:  two negatives make a positive product.");
+        "Inner is negative, as -3 and 1 have different signs.  Last is positive:  two negatives "
+        "make a positive product.");
   Show(R"((2v - 3)(w - 5) = \y2vw - 10v - 3w + 15)", 1);
   PageEnd();
   Say(R"(\yWatch out:\z  The sign belongs to the term.)");
@@ -131,48 +147,59 @@ void MinusInFront() {
   Show("(-x + 4)(3y - 2)", kExpressionCol);
   Show(R"(  = \y-3xy + 2x + 12y - 8)", kExpressionCol);
   PageEnd();
-  Say(R"(\yCheck:\z  We put 1 in place of x and of y:)");
-  Show("(-1 + 4)(3 - 2) = 3 " + tutor::Times + " 1 = 3", kExpressionCol);
-  Show("-3 + 2 + 12 - 8 = 3", kExpressionCol);
+  Say(R"(\yCheck:\z  We put 2 in place of x and 1 in place of y:)");
+  Show("(-2 + 4)(3 - 2) = 2 " + tutor::Times + " 1 = 2", kExpressionCol);
+  Show("-6 + 4 + 12 - 8 = 2", kExpressionCol);
+  PageEnd();
+}
+
+void TwoMinusesInFront() {
+  const BinomialPair pair = {{{-2, "p"}, {-3, ""}}, {{-5, "q"}, {4, ""}}};
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Both first terms are negative.  Which products are negative, too?)");
+  FoilTable table(pair, kPairRow);
+  PageEnd();
+  WorkAll(table);
+  SayAt(table.RowBelow(),
+        "Outer and Last:  they have different signs.  First and Inner have two negatives each:");
+  Show("(-2p - 3)(-5q + 4)", kExpressionCol);
+  Show(R"(  = \y10pq - 8p + 15q - 12)", kExpressionCol);
+  PageEnd();
+  Say(R"(\yCheck:\z  We put 2 in place of p and 1 in place of q:)");
+  Show("(-4 - 3)(-5 + 4) = -7 " + tutor::Times + " (-1) = 7", kExpressionCol);
+  Show("20 - 16 + 15 - 12 = 7", kExpressionCol);
   PageEnd();
 }
 
 void SquareOfADifference() {
   const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {-4, ""}}};
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Ann squares each term.  Is she right?)");
+  SayAt(3, R"(\yTry it:\z  Ann squares z and 4 and keeps the minus sign.  Is she right?)");
   PaperBox({R"((z - 4)^2^ = \rz^2^ - 16)"});
   PageEnd();
   NewScreen();
-  SayAt(3,
-        Text("No.  {} is a product of two binomials.  It has four products, too:", "(z - 4)^2^"));
+  SayAt(3, Text("No.  {} is a product, too.  It has four products:", "(z - 4)^2^"));
   FoilTable table(pair, kPairRow);
   WorkAll(table);
   PageEnd();
-  SayAt(table.RowBelow(),
-        "Both letters are z, so Outer and Inner are like terms:  -4z and -4z make -8z.");
+  SayAt(table.RowBelow(), "Outer and Inner are like terms:  -4z and -4z make -8z.");
   Show(R"((z - 4)^2^ = \yz^2^ - 8z + 16)", kExpressionCol);
   PageEnd();
-  Say(R"(\yCheck:\z  With 10 in place of z:)");
-  PaperBox({"(10 - 4)^2^ = 36", "100 - 80 + 16 = 36", R"(100 - 16 = \r84\z)"});
+  Say(Text(R"(\yWatch out:\z  {} is another product:)", "z^2^ - 16"));
+  Show("(z - 4)(z + 4) = z^2^ + 4z - 4z - 16", kWideCol);
+  Show(R"(               = \yz^2^ - 16\z)", kWideCol);
+  PaperBox({R"((z - 4)^2^ = (z - 4)(z - 4),  \rnot (z - 4)(z + 4)\z)"});
   PageEnd();
 }
 
-void DifferenceOfSquares() {
-  const BinomialPair pair = {{{1, "z"}, {-4, ""}}, {{1, "z"}, {4, ""}}};
+void OneProductWrong() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  What is this product?)");
-  FoilTable table(pair, kPairRow);
+  SayAt(3, R"(\yTry it:\z  One of Mia's four products is wrong.  Which one?)");
+  PaperBox({"(7w + 6)(8x - 9)", R"(  = 56wx - 63w + 46x - 54)"});
   PageEnd();
-  WorkAll(table);
-  SayAt(table.RowBelow(),
-        Text("4z and -4z make 0.  So this is the product to which Ann's {} belongs:", "z^2^ - 16"));
-  Show("(z - 4)(z + 4) = z^2^ - 16", kExpressionCol);
-  PageEnd();
-  Say(Text(R"(\yTry it:\z  Ben says that {} is this product, too.  What is wrong?)", "(z - 4)^2^"));
-  PageEnd();
-  Say("The square has two equal factors, with the same sign:");
-  PaperBox({R"((z - 4)^2^ = (z - 4)(z - 4),  \rnot (z - 4)(z + 4)\z)"});
+  Say("It is Inner:  " + WithoutBreaks("6 " + tutor::Dot + " 8x = 48x."));
+  Say(R"(\yWatch out:\z  Many wrong choices have one product that is only slightly wrong.  Work )"
+      "out each of the four.");
   PageEnd();
 }
 
@@ -186,7 +213,7 @@ class MultiplyingBinomials final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{RectangleOfFourParts, FourNames, TwoProductsForgotten, TermsWithSigns, MinusInFront,
-             SquareOfADifference, DifferenceOfSquares}};
+             TwoMinusesInFront, SquareOfADifference, OneProductWrong}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -216,9 +243,8 @@ std::string MistakeOfCoefficient(int wrong, const BinomialPair& pair, Foil foil)
     return "takes the wrong sign for the " + FoilName(foil) + " product";
   if (wrong == first + second)
     return "adds the numbers of the " + FoilName(foil) + " terms in place of multiplying";
-  const int change = wrong - first * second;
-  return Text("makes the {} product {} too {}", FoilName(foil), std::abs(change),
-              Words{change > 0 ? "large" : "small"});
+  const Term term = {wrong, pair.Product(foil).letters};
+  return Text("works out {}", pair.FactorsText(foil) + " as " + TermText(term));
 }
 
 // Slots 2 and 3 have another Outer product, 4 and 5 another Inner one.
@@ -269,6 +295,7 @@ void MultiplyingBinomials::ExplainProblem() {
   TellLoneLetters(table);
   for (const Foil foil : kFoil) MultiplyPair(table, foil);
   ClearBelow(table.RowBelow());
+  table.Unmark();
   AddProducts(table.RowBelow());
   Check();
   Conclude(problem);
@@ -308,7 +335,8 @@ void MultiplyingBinomials::AddProducts(double row) const {
   SayAt(row, "We add the four products, each with its sign:");
   Show(SumText(pair_.Products()), kExpressionCol);
   PageEnd();
-  Say("They have different letters, so they are unlike terms.  None of them can be combined.");
+  Say("No two of them have exactly the same letters, so they are unlike terms.  None can be "
+      "combined.");
   PageEnd();
 }
 

@@ -1,11 +1,11 @@
 // A product of two binomials in two letters, such as (3t + 2)(4u - 5), to be multiplied out.
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
+#include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
 namespace {
@@ -46,27 +46,46 @@ std::string FlawOf(const std::string& choice, char first, char second) {
   return "";
 }
 
-// The product of two numbers a and b of one name, in front of a letter.
-void AddMistakes(const std::string& name, const Rational& a, const Rational& b, char letter,
-                 const Polynomial& right, Reading& reading) {
-  const Polynomial x = Polynomial::Letter(letter);
-  const auto with = [&](const Rational& wrong) {
-    return (right + Polynomial(Rational(wrong - a * b)) * x).Text();
-  };
-  const auto isNear = [&](const Rational& wrong) {
-    return wrong != 0 && wrong != a * b && abs(Rational(wrong - a * b)) <= kLargest;
-  };
-  for (int change = -kLargest; change <= kLargest; ++change) {
-    const Rational wrong = a * b + change;
-    if (isNear(wrong) && wrong != -a * b && wrong != a + b)
-      reading.mistakes["makes the " + name + " product " + std::to_string(std::abs(change)) +
-                       " too " + (change > 0 ? "large" : "small")] = {with(wrong)};
+std::string TermText(const Rational& number, char letter) {
+  const std::string text = number.get_str();
+  if (letter == 0) return text;
+  return (number == 1 ? "" : number == -1 ? "-" : text) + letter;
+}
+
+// Two terms with their numbers and letters; one of the letters is 0.
+struct Pair {
+  Rational a, b;
+  char letterOfA, letterOfB;
+
+  Rational Right() const { return a * b; }
+  char Letter() const { return letterOfA != 0 ? letterOfA : letterOfB; }
+  std::string NameOfSlip(const Rational& wrong) const {
+    const std::string later = TermText(b, letterOfB);
+    return "works out " + course::WithoutBreaks(TermText(a, letterOfA) + " " + course::tutor::Dot +
+                                                " " + (b < 0 ? "(" + later + ")" : later) + " as " +
+                                                TermText(wrong, Letter()));
   }
-  if (isNear(-a * b))
-    reading.mistakes["takes the wrong sign for the " + name + " product"] = {with(-a * b)};
-  if (isNear(a + b))
-    reading.mistakes["adds the numbers of the " + name + " terms in place of multiplying"] = {
-        with(a + b)};
+};
+
+void AddMistakes(const std::string& name, const Pair& pair, const Polynomial& right,
+                 Reading& reading) {
+  const Polynomial letter = Polynomial::Letter(pair.Letter());
+  const Rational product = pair.Right();
+  const auto with = [&](const Rational& wrong) {
+    return (right + Polynomial(Rational(wrong - product)) * letter).Text();
+  };
+  const Rational sum = pair.a + pair.b;
+  for (int change = -kLargest; change <= kLargest; ++change) {
+    const Rational wrong = product + change;
+    if (change == 0 || wrong == 0) continue;
+    if (wrong == -product)
+      reading.mistakes["takes the wrong sign for the " + name + " product"] = {with(wrong)};
+    else if (wrong == sum)
+      reading.mistakes["adds the numbers of the " + name + " terms in place of multiplying"] = {
+          with(wrong)};
+    else
+      reading.mistakes[pair.NameOfSlip(wrong)] = {with(wrong)};
+  }
 }
 
 Reading ReadProductOfBinomials(const course::Problem& problem) {
@@ -90,8 +109,8 @@ Reading ReadProductOfBinomials(const course::Problem& problem) {
     reading.Within("a coefficient", number, -kLargest, kLargest);
     if (number == 0) reading.faults.emplace_back("a coefficient is 0");
   }
-  AddMistakes("Outer", first.lead, second.constant, first.letter, right, reading);
-  AddMistakes("Inner", first.constant, second.lead, second.letter, right, reading);
+  AddMistakes("Outer", {first.lead, second.constant, first.letter, 0}, right, reading);
+  AddMistakes("Inner", {first.constant, second.lead, 0, second.letter}, right, reading);
   const bool inFront = first.lead < 0 || second.lead < 0;
   const bool between = first.constant < 0 || second.constant < 0;
   reading.kind = inFront ? "a minus sign in front" : between ? "a minus sign between" : "no minus";

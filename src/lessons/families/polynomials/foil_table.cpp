@@ -33,12 +33,6 @@ int IndexOf(Foil foil) {
   return static_cast<int>(foil);
 }
 
-// The second term keeps a sign of its own apart from the multiplication sign.
-std::string FactorsText(const Term& first, const Term& second) {
-  const std::string text = TermText(second);
-  return TermText(first) + " " + tutor::Times + " " + (second.coef < 0 ? "(" + text + ")" : text);
-}
-
 // A term of a binomial that begins at a column: where its sign or number stands, and how wide it
 // is.
 struct Place {
@@ -94,8 +88,16 @@ std::string BinomialPair::Text() const {
   return "(" + SumText(first) + ")(" + SumText(second) + ")";
 }
 
+// The second term keeps a sign of its own apart from the dot.
+std::string BinomialPair::FactorsText(Foil foil) const {
+  const Term& later = SecondTerm(foil);
+  const std::string text = TermText(later);
+  return TermText(FirstTerm(foil)) + " " + tutor::Dot + " " +
+         (later.coef < 0 ? "(" + text + ")" : text);
+}
+
 std::string BinomialPair::ProductText(Foil foil) const {
-  return FactorsText(FirstTerm(foil), SecondTerm(foil)) + " = " + TermText(Product(foil));
+  return FactorsText(foil) + " = " + TermText(Product(foil));
 }
 
 FoilTable::FoilTable(const BinomialPair& pair, double row) : pair_(pair), row_(row) {
@@ -118,9 +120,9 @@ void FoilTable::ShowTable() {
     for (const Foil foil : kFoil)
       table.cells.push_back({x(IndexOf(foil) * kSlot + (kSlot - kCellWidth) / 2),
                              y(kHeadHeight + line * kLineHeight), x(kCellWidth), y(kCellHeight)});
-  for (const Foil foil : kFoil)
-    table.labels.push_back({x(IndexOf(foil) * kSlot), y(3), x(kSlot), y(kHeadHeight - 3),
-                            FoilName(foil), 12, platform::colour::Red, true});
+  for (const Foil foil : kFoil)  // inside of the table's frame
+    table.labels.push_back({x(IndexOf(foil) * kSlot + 4), y(3), x(kSlot - 8), y(kHeadHeight - 3),
+                            FoilName(foil), 12, platform::colour::Black, true});
   CellTable(table, row_ + kBelow);
   rowBelow_ = page::RowBelow();
 }
@@ -146,8 +148,7 @@ void FoilTable::Bring(Foil foil) {
   for (const Place& place : {PlaceIn(pair_.first, FirstIndex(foil), kPairCol),
                              PlaceIn(pair_.second, SecondIndex(foil), secondCol)})
     SlideIn(place.column, place.width, foil);
-  picPrintCellPrint(IndexOf(foil) + 1, FactorsText(pair_.FirstTerm(foil), pair_.SecondTerm(foil)),
-                    platform::colour::Black, kFontSize);
+  picPrintCellPrint(IndexOf(foil) + 1, pair_.FactorsText(foil), platform::colour::Black, kFontSize);
   Locate(rowBelow_, 1);
 }
 

@@ -30,7 +30,9 @@ struct BinomialPair {
   Sum Products() const;
   // "(3t + 2)(4u + 5)".
   std::string Text() const;
-  // "3t x (-5) = -15t", with the multiplication sign.
+  // "3t . (-5)", with the multiplication dot: beside an x a cross is hard to read.
+  std::string FactorsText(Foil foil) const;
+  // "3t . (-5) = -15t".
   std::string ProductText(Foil foil) const;
 };
 
@@ -43,6 +45,8 @@ class FoilTable {
   void Bring(Foil foil);
   // Their product appears in the lower cell.
   void Multiply(Foil foil);
+  // The binomials are all white again.
+  void Unmark() const { ShowPair(); }
   // Half a row below the table.
   double RowBelow() const { return rowBelow_; }
 
