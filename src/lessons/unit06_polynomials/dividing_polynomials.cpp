@@ -15,6 +15,7 @@ namespace {
 using namespace polynomials;
 
 constexpr double kExpressionCol = 4;
+const std::string kDifference = "(20x^6^ - 8x^4^)/(4x^2^)";
 constexpr double kWorkRow = 14;  // below the fractions of an explanation
 
 std::string NumbersDivided(int above, int below) {
@@ -44,28 +45,41 @@ void SharedDots() {
   SayAt(10, R"(\yTry it:\z  How many of each color does a friend get?)");
   PageEnd();
   SlideRight({kRow - 0.2, kCol + 6, 3, kRows + 0.2}, 6);
-  SayAt(12.5, "3 yellow stones and 2 blue ones.  Both colors are divided by 4:");
-  ShowAt(16, R"((12 + 8)/4 = 12/4 + 8/4 = 3 + 2 = \y5)", kExpressionCol);
+  ClearBelow(10);
+  SayAt(10,
+        "Each row is the share of one friend:  3 yellow stones and 2 blue ones.  Both colors are "
+        "divided by 4:");
+  ShowAt(14.3, R"((12 + 8)/4 = 12/4 + 8/4 = 3 + 2 = \y5)", kExpressionCol);
   PageEnd();
-  SayAt(18.5, R"(\yTry it:\z  Tom divides only the 12.  He gets 3 + 8 = 11.  Can that be?)");
+  SayAt(16.8, R"(\yTry it:\z  Tom divides only the 12.  He gets 3 + 8 = 11.  Can that be?)");
   PageEnd();
-  Say("No.  There are 20 stones, and 20 " + tutor::Divided + R"( 4 is 5.  \yEach\z term must )" +
-      "be divided.");
+  Say("No.  There are 20 stones, and 20 " + tutor::Divided + R"( 4 is 5.  Each number, )" +
+      R"(or \cterm\z, must be divided.)");
   PageEnd();
 }
 
 void TermsOverANumber() {
+  constexpr double kRow = 7;
   NewScreen();
-  SayAt(3, R"(A \cpolynomial\z is a sum of terms.  Each is divided by the \cdivisor\z below )"
-           "the bar:");
-  Show("(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
+  SayAt(3, R"(A \cpolynomial\z has terms with + or - between them.  The \cdivisor\z stands )"
+           "below the bar:");
+  ShowAt(kRow, "(12x^2^ + 8x)/4", kExpressionCol);
+  PageEnd();
+  ShowAt(kRow, "(12x^2^ + 8x)/4 = 12x^2^/4 + 8x/4", kExpressionCol);
+  SayAt(kRow + 2.5, "Each term is divided by the divisor.");
   Say(R"(\yTry it:\z  What is each fraction?)");
   PageEnd();
   Say("The divisor has no x, so only the numbers are divided.  x^2^ and x stay:");
   Show(R"((12x^2^ + 8x)/4 = \y3x^2^ + 2x\z)", kExpressionCol);
-  Say(R"(\yTry it:\z  Is that 5x^3^?)");
   PageEnd();
-  Say("No.  3x^2^ and 2x are unlike terms, so they stay apart.");
+
+  NewScreen();
+  SayAt(3, R"(The answer of a division is the \cquotient\z.)");
+  Show("(12x^2^ + 8x)/4 = 3x^2^ + 2x", kExpressionCol);
+  Say(Text(R"(\yTry it:\z  Is the quotient {}?)", "5x^3^"));
+  PageEnd();
+  Say("No.  3x^2^ and 2x are unlike terms, so they stay apart.  With 10 in place of x:");
+  PaperBox({"3x^2^ + 2x = 300 + 20 = 320", R"(5x^3^ = \r5000\z)"});
   PageEnd();
 }
 
@@ -75,8 +89,8 @@ void OneTermOverAMonomial() {
                "  How do we divide by it?  (x is not 0.)");
   ShowAt(6.5, "15x^5^/(3x^2^)", kExpressionCol);
   PageEnd();
-  SayAt(9, "The numbers:  " + NumbersDivided(15, 3));
-  SayAt(10.5, "The letters:  2 of 5 factors x cancel.");
+  SayAt(9, "Numbers:  " + NumbersDivided(15, 3));
+  SayAt(10.5, "Letters:  x/x is 1, so 2 factors cancel.");
   const powers::FactorFraction fraction(12.5, kExpressionCol, {"x", 5}, {"x", 2});
   fraction.Cancel();
   PageEnd();
@@ -101,47 +115,52 @@ void TwoTermsOverAMonomial() {
   Say(R"(\yCheck:\z  We multiply the answer by the divisor:)");
   Show("3x^2^(5x^3^ + 2x) = 15x^5^ + 6x^3^", kExpressionCol);
   PageEnd();
+}
 
+void RuleAtWork() {
   NewScreen();
   RuleBox("Dividing By A Monomial",
           {"Divide each term.", "Divide the numbers in front.", "Subtract the exponents."},
           {.row = 3, .width = 32});
   PageEnd();
+  Say(R"(\yTry it:\z  What is this quotient?)");
+  Show(kDifference, kExpressionCol);
+  PageEnd();
+  Say("Numbers:    " + NumbersDivided(20, 4) + "  and  " + NumbersDivided(8, 4));
+  AddLine("Exponents:  6 - 2 = 4   and  4 - 2 = 2");
+  AddLine("The minus sign between the terms stays:");
+  Show(kDifference + R"( = \y5x^4^ - 2x^2^\z)", kExpressionCol);
+  PageEnd();
 }
 
 void WrongWays() {
-  Say(R"(\yTry it:\z  Three students divide.  What did each of them do wrong?)");
-  Show("(20x^6^ - 8x^4^)/(4x^2^)", kExpressionCol);
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Three students divide.  What did each of them do wrong?)");
+  Show(kDifference + " = 5x^4^ - 2x^2^", kExpressionCol);
   PageEnd();
   PaperBox(
-      {R"(Ann:  \r5x^3^ - 2x^2^\z)", R"(Ben:  \r5x^4^ - 8x^4^\z)", R"(Carl: \r16x^4^ - 4x^2^\z)"});
+      {R"(Ann:  \r5x^3^ - 2x^2^\z)", R"(Ben:  \r20x^6^ - 2x^2^\z)", R"(Carl: \r16x^4^ - 4x^2^\z)"});
   PageEnd();
-  Say("Ann divides the exponents.  Ben leaves a term undivided.  Carl subtracts the numbers.");
-  PageEnd();
-  NewScreen();
-  ShowAt(4, "(20x^6^ - 8x^4^)/(4x^2^)", kExpressionCol);
-  SayAt(6.5, R"(\yTry it:\z  What is the right answer?)");
-  PageEnd();
-  SayAt(8.5, NumbersDivided(20, 4) + "  and  " + NumbersDivided(8, 4));
-  AddLine("6 - 2 = 4  and  4 - 2 = 2");
-  AddLine("The minus sign between the terms stays:");
-  Show(R"((20x^6^ - 8x^4^)/(4x^2^) = \y5x^4^ - 2x^2^\z)", kExpressionCol);
+  Say("Ann divides the exponents.  Ben divides only the second term.  Carl subtracts the numbers.");
   PageEnd();
   Say(R"(\yWatch out:\z  These are wrong, too:)");
-  PaperBox({R"(\r5x^8^ - 2x^6^\z adds the exponents)", R"(\r5x^6^ - 2x^4^\z keeps the exponents)",
-            R"(\r20x^4^ - 8x^2^\z keeps the numbers)"});
+  PaperBox({R"(\r5x^8^ - 2x^6^:\z    exponents added)", R"(\r5x^6^ - 2x^4^:\z    exponents kept)",
+            R"(\r20x^4^ - 8x^2^:\z   numbers kept)", R"(\r5x^4^ + 2x^2^:\z    minus sign lost)"});
   PageEnd();
 }
 
 void LetterThatCancels() {
+  const MonomialQuotient quotient = {{{18, "xxx"}, {-12, "xx"}}, {6, "xx"}};
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What is left of the second term?)");
-  Show("(18x^3^ - 12x^2^)/(6x^2^)", kExpressionCol);
+  ShowAt(6, quotient.Text() + " = " + SplitText(quotient), kExpressionCol);
   PageEnd();
   Say("12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
-  Show(R"((18x^3^ - 12x^2^)/(6x^2^) = \y3x - 2\z)", kExpressionCol);
+  Show(quotient.Text() + R"( = \y3x - 2\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The 2 must not be lost, and of x^3^ not all factors cancel.)");
+  Say(Text(R"(\yWatch out:\z  In the second term {} is 1, so {} is left.  In the first term one x )"
+           "is left:",
+           "x^2^/x^2^", "2 " + tutor::Times + " 1 = 2"));
   PaperBox({R"(3x - 2,  \rnot 3x\z, \rnot 3 - 2\z)"});
   PageEnd();
 }
@@ -153,6 +172,9 @@ void TwoLetters() {
   ShowAt(6.5, quotient.Text(), kExpressionCol);
   ShowAt(10, "= " + SplitText(quotient), kExpressionCol);
   PageEnd();
+  SayAt(12.5, Text("In {} the letter y has the exponent 1:  {}", "6x^2^y", "y = y^1^"));
+  PageEnd();
+  ClearBelow(12.5);
   WhiteBox({.row = 12.5, .rows = 5});
   SayInBox("Numbers:  " + NumbersDivided(24, 6));
   SayInBox("x:  5 - 2 = 3      y:  4 - 1 = 3");
@@ -168,18 +190,19 @@ void TwoLetters() {
 }
 
 void LetterNotInDivisor() {
+  const std::string quotient = "(10x^4^y^3^ + 15x^3^y^2^)/(5y^2^)";
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What happens to x here?)");
-  ShowAt(6, "(10x^4^y^3^ + 15x^2^y^5^)/(5y^2^)", kExpressionCol);
+  ShowAt(6, quotient, kExpressionCol);
   PageEnd();
   SayAt(8.5,
-        "The divisor has no x.  Nothing is subtracted from its exponents, so x^4^ and x^2^ "
+        "The divisor has no x.  Nothing is subtracted from its exponents, so x^4^ and x^3^ "
         "stay.");
   Say(R"(\yTry it:\z  And what is the quotient?)");
   PageEnd();
   Say("Numbers:  " + NumbersDivided(10, 5) + "  and  " + NumbersDivided(15, 5));
-  AddLine("y:  3 - 2 = 1  and  5 - 2 = 3");
-  Show(R"((10x^4^y^3^ + 15x^2^y^5^)/(5y^2^) = \y2x^4^y + 3x^2^y^3^\z)", kExpressionCol);
+  AddLine("y:  3 - 2 = 1,  and 2 - 2 = 0, so no y is left in the second term.");
+  Show(quotient + R"( = \y2x^4^y + 3x^3^\z)", kExpressionCol);
   PageEnd();
 }
 
@@ -191,8 +214,8 @@ class DividingPolynomials final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{SharedDots, TermsOverANumber, OneTermOverAMonomial, TwoTermsOverAMonomial, WrongWays,
-             LetterThatCancels, TwoLetters, LetterNotInDivisor}};
+    return {{SharedDots, TermsOverANumber, OneTermOverAMonomial, TwoTermsOverAMonomial, RuleAtWork,
+             WrongWays, LetterThatCancels, TwoLetters, LetterNotInDivisor}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -286,8 +309,12 @@ void DividingPolynomials::ExplainProblem() {
   DivideTerm(0);
   DivideTerm(1);
   ClearBelow(kWorkRow);
-  const bool minus = quotient_.terms[1].coef < 0;
-  SayAt(kWorkRow, Text("With the {} sign between them we get:", Words{minus ? "minus" : "plus"}));
+  const Sum quotients = quotient_.Value();
+  const bool minus = quotients[1].coef < 0;
+  SayAt(kWorkRow,
+        Text("The first is {}, the second {}.  With the {} sign between them:",
+             TermText(quotients[0]), TermText({std::abs(quotients[1].coef), quotients[1].letters}),
+             Words{minus ? "minus" : "plus"}));
   Show(R"(= \y)" + RightText(problem), kExpressionCol);
   PageEnd();
   Check();
@@ -316,6 +343,7 @@ void DividingPolynomials::DivideTerm(std::size_t index) const {
     SayInBoxAnew(numbers);
   for (const char letter : {'x', 'y'})
     SayInBox(WhatIsLeft(letter, ExponentOf(term, letter), ExponentOf(divisor, letter)));
+  PageEnd();
   SayInBox(Text(R"(The {} fraction is \b{}\z.)", Words{index == 0 ? "first" : "second"},
                 TermText(Quotient(size, divisor))));
   PageEnd();
@@ -324,7 +352,7 @@ void DividingPolynomials::DivideTerm(std::size_t index) const {
 void DividingPolynomials::Check() const {
   Say(Text(R"(\yCheck:\z  We multiply it by {}.)", TermText(quotient_.divisor)));
   Show(TermText(quotient_.divisor) + "(" + RightText(problem) + ")", kExpressionCol);
-  Show("  = " + SumText(quotient_.terms), kExpressionCol);
+  ShowAt(NextRow() + 0.3, "  = " + SumText(quotient_.terms), kExpressionCol);
   PageEnd();
 }
 

@@ -131,6 +131,10 @@ void AddMistakes(const Question& question, Reading& reading) {
   };
   for (const Named& other : kOtherMistakes) add(other.name, other.rules);
   for (const Named& first : kExponentMistakes) {
+    // Who divides by an exponent of 1 is seen to keep the exponents.
+    if (first.rules.exponent == DividedExactly && question.divisor.x <= 1 &&
+        question.divisor.y <= 1)
+      continue;
     add(first.name, first.rules);
     for (const Named& other : kOtherMistakes) {
       const std::string name = std::string(first.name) + " and " + other.name;
@@ -142,12 +146,11 @@ void AddMistakes(const Question& question, Reading& reading) {
   }
 }
 
-// Two unlike terms in falling powers of x.
+// Two unlike terms.
 std::string FlawOf(const std::string& choice) {
   const std::vector<Monomial> terms = ReadTerms(choice);
   if (terms.size() != 2) return "has not two terms";
-  if (terms[0].x == terms[1].x && terms[0].y == terms[1].y) return "can be simplified";
-  return terms[0].x < terms[1].x ? "has rising powers" : "";
+  return terms[0].x == terms[1].x && terms[0].y == terms[1].y ? "can be simplified" : "";
 }
 
 void CheckRanges(const Question& question, Reading& reading) {

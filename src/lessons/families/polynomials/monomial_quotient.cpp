@@ -10,11 +10,6 @@ namespace {
 
 constexpr char kLetters[] = {'x', 'y'};
 
-void SortByPowersOfX(Sum& sum) {
-  std::ranges::stable_sort(sum, std::ranges::greater{},
-                           [](const Term& term) { return ExponentOf(term, 'x'); });
-}
-
 std::optional<int> Exponent(char letter, int above, int below, Division::Exponents rule) {
   if (below == 0) return above;
   switch (rule) {
@@ -134,7 +129,6 @@ Sum Division::Of(const MonomialQuotient& quotient) const {
     sum.push_back(*term);
     if (losesMinus) sum.back().coef = std::abs(term->coef);
   }
-  SortByPowersOfX(sum);
   if (sum[0].IsLike(sum[1])) return {};
   return sum;
 }
@@ -145,10 +139,15 @@ std::vector<DivisionSlip> TooManyLetters(const MonomialQuotient& quotient) {
 }
 
 std::vector<DivisionSlip> TooFewLetters(const MonomialQuotient& quotient) {
-  return Leading(quotient,
-                 {{"divides the exponents", {.exponents = Division::Exponents::Divided}},
-                  {"cancels x altogether", {.exponents = Division::Exponents::XCancelled}},
-                  {"cancels y altogether", {.exponents = Division::Exponents::YCancelled}}});
+  std::vector<DivisionSlip> slips = {
+      {"divides the exponents", {.exponents = Division::Exponents::Divided}},
+      {"cancels x altogether", {.exponents = Division::Exponents::XCancelled}},
+      {"cancels y altogether", {.exponents = Division::Exponents::YCancelled}}};
+  // Who divides by exponents of 1 is seen to keep the exponents.
+  if (std::ranges::all_of(kLetters,
+                          [&](char letter) { return ExponentOf(quotient.divisor, letter) <= 1; }))
+    slips.erase(slips.begin());
+  return Leading(quotient, slips);
 }
 
 std::vector<DivisionSlip> OtherSlips(const MonomialQuotient& quotient) {

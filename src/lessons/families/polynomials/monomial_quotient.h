@@ -36,7 +36,7 @@ struct Division {
   Terms terms = Terms::Both;
   bool losesMinus = false;
 
-  // In falling powers of x; nothing when it does not come out, or leaves like terms.
+  // In the order of the terms; nothing when it does not come out, or leaves like terms.
   Sum Of(const MonomialQuotient& quotient) const;
 };
 
