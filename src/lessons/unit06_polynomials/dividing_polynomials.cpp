@@ -59,7 +59,7 @@ void SharedDots() {
 }
 
 void TermsOverANumber() {
-  constexpr double kRow = 7;
+  constexpr double kRow = 7.4;
   NewScreen();
   SayAt(3, R"(A \cpolynomial\z has terms with + or - between them.  The \cdivisor\z stands )"
            "below the bar:");
@@ -153,12 +153,12 @@ void LetterThatCancels() {
   const MonomialQuotient quotient = {{{18, "xxx"}, {-12, "xx"}}, {6, "xx"}};
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What is left of the second term?)");
-  ShowAt(6, quotient.Text() + " = " + SplitText(quotient), kExpressionCol);
+  ShowAt(6.4, quotient.Text() + " = " + SplitText(quotient), kExpressionCol);
   PageEnd();
   Say("12 " + tutor::Divided + " 6 = 2, and 2 - 2 = 0:  no factor x is left.");
   Show(quotient.Text() + R"( = \y3x - 2\z)", kExpressionCol);
   PageEnd();
-  Say(Text(R"(\yWatch out:\z  In the second term {} is 1, so {} is left.  In the first term one x )"
+  Say(Text(R"(\yWatch out:\z  {} is 1, so {} is left.  In the first term one x )"
            "is left:",
            "x^2^/x^2^", "2 " + tutor::Times + " 1 = 2"));
   PaperBox({R"(3x - 2,  \rnot 3x\z, \rnot 3 - 2\z)"});
@@ -201,7 +201,7 @@ void LetterNotInDivisor() {
   Say(R"(\yTry it:\z  And what is the quotient?)");
   PageEnd();
   Say("Numbers:  " + NumbersDivided(10, 5) + "  and  " + NumbersDivided(15, 5));
-  AddLine("y:  3 - 2 = 1,  and 2 - 2 = 0, so no y is left in the second term.");
+  AddLine("y:  3 - 2 = 1, and 2 - 2 = 0, so no y is left in the second term.");
   Show(quotient + R"( = \y2x^4^y + 3x^3^\z)", kExpressionCol);
   PageEnd();
 }
@@ -315,7 +315,7 @@ void DividingPolynomials::ExplainProblem() {
         Text("The first is {}, the second {}.  With the {} sign between them:",
              TermText(quotients[0]), TermText({std::abs(quotients[1].coef), quotients[1].letters}),
              Words{minus ? "minus" : "plus"}));
-  Show(R"(= \y)" + RightText(problem), kExpressionCol);
+  ShowAt(NextRow() + 0.3, R"(= \y)" + RightText(problem), kExpressionCol);
   PageEnd();
   Check();
   Conclude(problem);
