@@ -24,15 +24,17 @@ std::string Difference(int m, int n) {
 
 void FactorsCancel() {
   NewScreen();
-  SayAt(3, "A fraction bar means division:");
-  ShowAt(6, "b^5^/b^2^ =", kExpressionCol);
-  const FactorFraction fraction(5.2, 10, {"b", 5}, {"b", 2});
+  SayAt(3, R"(In  b^5^  the \cbase\z is b and the \cexponent\z is 5:  b is a \cfactor\z 5 times.)");
+  PageEnd();
+  SayAt(6, "A fraction bar means division:");
+  ShowAt(8.5, "b^5^/b^2^ =", kExpressionCol);
+  const FactorFraction fraction(7.7, 10, {"b", 5}, {"b", 2});
   GoBelow();
   PageEnd();
   fraction.Cancel();
   fraction.ShowBehind(R"(= \yb^3^\z)");
-  SayAt(8.5, R"(b/b is 1, so a factor above and a factor below \ccancel\z:  we strike them out.)");
-  Say("5 - 2 = 3 factors are left above.");
+  SayAt(10.8, R"(b/b is 1, so a factor above and a factor below \ccancel\z:  we strike them out.)");
+  AddLine("5 - 2 = 3 factors are left above.");
   PageEnd();
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "c^7^ " + tutor::Divided + " c^3^"));
   PageEnd();
@@ -45,13 +47,14 @@ void SubtractTheExponents() {
   NewScreen();
   RuleBox("Rule For Dividing Powers",
           {"b^m^ " + tutor::Divided + " b^n^ = b^m-n^   (b is not 0)",
-           "The exponents are subtracted,", R"(\rnot divided and not added\z)"},
-          {.row = 3, .width = 32});
+           "With the same base, the exponents are",
+           R"(subtracted, \rnot divided, added, multiplied\z)"},
+          {.row = 3, .width = 38});
   PageEnd();
   SlideExponentsToDifference({"x", 8}, {"x", 2}, NextRow() + 0.5);
   Say(R"(\yWatch out:\z  With 2 in place of x:)");
   PaperBox({"2^8^ " + tutor::Divided + " 2^2^ = 256 " + tutor::Divided +
-            R"( 4 = 64,  \rnot 2^4^ or 2^10^\z)"});
+            R"( 4 = 64 = 2^6^,  \rnot 2^4^, 2^10^ or 2^16^\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "x^6^", "6x"));
   PageEnd();
@@ -76,24 +79,19 @@ void MoreFactorsBelow() {
         R"(\ybelow\z the bar.)");
   PageEnd();
   Say(R"(\yWatch out:\z  What is left stays on its side of the bar.  With 2 in place of n:)");
-  PaperBox({R"(2^2^/2^5^ = 4/32 = 1/8,  \rnot 8\z)"});
+  PaperBox({"2^2^ " + tutor::Divided + " 2^5^ = 4 " + tutor::Divided + " 32 = 1 " + tutor::Divided +
+            R"( 8,  \rnot 8\z)"});
+  Say(R"(\yTry it:\z  What is  )" + Text("{}?", "a^4^ " + tutor::Divided + " a^6^"));
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify this fraction:)");
-  Show("a^4^/a^6^", kExpressionCol);
-  PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= \y1\z/\ya^2^\z)", kExpressionCol + 3);
-  GoBelow();
+  Show(R"(a^4^/a^6^ = \y1\z/\ya^2^\z)", kExpressionCol);
   Say("6 - 4 = 2 factors a are left below.");
   PageEnd();
 }
 
 void NumbersInFront() {
   NewScreen();
-  SayAt(3, "Numbers in front are simply divided:");
-  ShowAt(5.5, "12x^7^/(4x^2^) = 12/4 " + tutor::Dot + R"( x^7^/x^2^ = \y3x^5^\z)", kExpressionCol);
-  SayAt(8, "12 " + tutor::Divided + " 4 = 3,  and 7 - 2 = 5.", {.col = kExpressionCol});
-  PageEnd();
-  Say(R"(\yWatch out:\z  The numbers are \ydivided\z.  Only the exponents are subtracted:)");
+  SayAt(3, R"(Numbers in front are \ydivided\z.  Only the exponents are subtracted:)");
+  ShowAt(6.5, "12x^7^/(4x^2^) = 12/4 " + tutor::Dot + R"( x^7^/x^2^ = \y3x^5^\z)", kExpressionCol);
   PaperBox({"12x^7^ " + tutor::Divided + R"( (4x^2^) = 3x^5^,  \rnot 8x^5^\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Simplify this fraction:)");
@@ -106,11 +104,11 @@ void NumbersInFront() {
 }
 
 void TwoLettersApart() {
+  constexpr double kFactorsRow = 9.4;
   NewScreen();
-  SayAt(3, "Each letter has a fraction of its own:");
-  ShowAt(5.5, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
+  SayAt(3, "x and y are different bases, so each letter has a fraction of its own:");
+  ShowAt(6.5, "x^4^y^2^/(x^3^y^5^) = x^4^/x^3^ " + tutor::Dot + " y^2^/y^5^", kExpressionCol);
   PageEnd();
-  constexpr double kFactorsRow = 7.9;
   const FactorFraction first(kFactorsRow, kExpressionCol + 2, {"x", 4}, {"x", 3});
   ShowAt(kFactorsRow + 0.8, "=", kExpressionCol);
   ShowAt(kFactorsRow + 0.8, tutor::Dot, first.ColumnBehind() + 1);
@@ -118,18 +116,30 @@ void TwoLettersApart() {
   first.Cancel();
   second.Cancel();
   PageEnd();
-  SayAt(11, "1 factor x is left above, 3 factors y are left below:");
+  SayAt(13, "1 factor x is left above, 3 factors y are left below:");
   Show(R"(= x \)"
        "z" +
            tutor::Dot + R"( 1/y^3^ = \yx\z/\yy^3^\z)",
        kExpressionCol);
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify this fraction:)");
-  Show("p^2^q^7^/(p^6^q^4^)", kExpressionCol);
+}
+
+void TwoLettersTried() {
+  constexpr double kFirstRow = 5.5;
+  constexpr double kSecondRow = 8.5;
+  constexpr double kBelow = 11.5;
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Simplify these fractions:)");
+  ShowAt(kFirstRow, "p^2^q^7^/(p^6^q^4^)", kExpressionCol);
+  ShowAt(kSecondRow, "a^2^b^3^/(a^4^b^8^)", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= \yq^3^\z/\yp^4^\z)", kExpressionCol + 5);
+  ShowAt(kFirstRow, R"(= \yq^3^\z/\yp^4^\z)", kExpressionCol + 5);
+  SayAt(kBelow, "6 - 2 = 4 factors p are left below, and 7 - 4 = 3 factors q above.");
+  PaperBox({"q^3^ " + tutor::Divided + " p^4^,  \\rnot p^4^ " + tutor::Divided + " q^3^\\z"});
+  PageEnd();
+  ShowAt(kSecondRow, R"(= \y1\z/\y(a^2^b^5^)\z)", kExpressionCol + 5);
   GoBelow();
-  Say("6 - 2 = 4 factors p are left below, and 7 - 4 = 3 factors q above.");
+  Say("4 - 2 = 2 factors a and 8 - 3 = 5 factors b are left below.  Nothing is left above but 1.");
   PageEnd();
 }
 
@@ -146,47 +156,60 @@ void ExponentZero() {
   Show(R"(x^4^/x^4^ = x^4-4^ = \yx^0^\z)", kExpressionCol);
   PageEnd();
   Say(R"(A number divided by itself is 1.  So  \y)" +
-      Text(R"({}\z  for each x that is not 0.)", "x^0^ = 1"));
+      Text(R"({}\z  for every x except 0.)", "x^0^ = 1"));
   Say(Text(R"(\yWatch out:\z  {} is not 0, and not x.)", "x^0^"));
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Simplify this fraction:)");
+  ShowAt(5.5, "a^5^b^0^/a^2^", kExpressionCol);
+  PageEnd();
+  ShowAt(5.5, R"(= a^5^/a^2^ = \ya^3^\z)", kExpressionCol + 5);
+  GoBelow();
+  Say(Text("{} is 1, and a factor 1 changes nothing.", "b^0^"));
   PageEnd();
 }
 
 void NegativeExponents() {
   constexpr double kFactorsRow = 11.5;
-  constexpr double kRuleRow = 15.8;
+  constexpr double kRuleRow = 16.4;
   NewScreen();
-  SayAt(3, "We go on dividing by 2.  What is next?");
-  CellTable(TwoRows("Power", "Value", 6), 4.4);
+  SayAt(3, R"(\yTry it:\z  We go on dividing by 2.  Which two values come next?)");
+  CellTable(TwoRows("Power", "Value", 6), 5.4);
   FillCells(1, {"2^3^", "2^2^", "2^1^", "2^0^", "2^-1^", "2^-2^"});
   FillCells(7, {"8", "4", "2", "1"});
   PageEnd();
   FillCells(11, {"1/2", "1/4"}, platform::colour::Blue);
-  SayAt(8.5,
+  SayAt(9.3,
         Text("Half of 1 is 1/2, and half of 1/2 is 1/4.  Why is {} a fraction?  Look:", "2^-2^"));
-  ShowAt(kFactorsRow + 0.8, "k^2^/k^5^ =", kExpressionCol);
-  const FactorFraction fraction(kFactorsRow, 10, {"k", 2}, {"k", 5});
+  ShowAt(kFactorsRow + 1.1, "k^2^/k^5^ =", kExpressionCol);
+  const FactorFraction fraction(kFactorsRow + 0.3, 10, {"k", 2}, {"k", 5});
   fraction.Cancel();
   fraction.ShowBehind(R"(= \y1\z/\yk^3^\z)");
   PageEnd();
   ShowAt(kRuleRow, R"(k^2^/k^5^ = k^2-5^ = \yk^-3^\z)", kExpressionCol);
   SayAt(kRuleRow, "by the rule", {.col = 22});
   PageEnd();
-  SayAt(18.3, "It is the same fraction both times, so");
-  ShowAt(20.8, R"(\yk^-3^\z = \y1\z/\yk^3^\z)", kExpressionCol);
+
+  NewScreen();
+  SayAt(3, "It is the same fraction both times, so");
+  Show(R"(\yk^-3^\z = \y1\z/\yk^3^\z)", kExpressionCol);
+  Say("In the same way, as the table says:");
+  Show(R"(2^-2^ = 1/2^2^ = \y1\z/\y4\z)", kExpressionCol);
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(A negative exponent tells how many factors are left \ybelow\z the bar.  It does not )"
-           "make a negative number:");
-  PaperBox({R"(2^-3^ = 1/2^3^ = 1/8,  \rnot -8 and not -6\z)"});
+  SayAt(3, R"(Exponent -3:  3 factors \ybelow\z the bar.)");
+  AddLine("It does not make a negative number:");
+  PaperBox({"2^-3^ = 1 " + tutor::Divided + " 2^3^ = 1 " + tutor::Divided + " 8,",
+            R"(\rnot -8,  not 2 )" + tutor::Times + R"( (-3) = -6\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Write this fraction first with, then without a fraction bar:)");
-  Show("x^3^y^0^/x^7^", kExpressionCol);
+  Say(R"(\yTry it:\z  Write this with a fraction bar.  Then write it without one:)");
+  Show("x^3^/x^7^", kExpressionCol);
   PageEnd();
-  ShowAt(NextRow() - 2.5, R"(= x^3^/x^7^ = \y1\z/\yx^4^\z = \yx^-4^\z)", kExpressionCol + 5);
+  ShowAt(NextRow() - 2.5, R"(= \y1\z/\yx^4^\z = \yx^-4^\z)", kExpressionCol + 3);
   GoBelow();
-  Say(Text("{} is a factor 1.  7 - 3 = 4 factors are left below.  By the rule the exponent is {}.",
-           "y^0^", "3 - 7 = -4"));
+  Say(Text("7 - 3 = 4 factors are left below.  By the rule the exponent is {}.", "3 - 7 = -4"));
   PageEnd();
 }
 
@@ -200,7 +223,7 @@ class DividingWithExponents final : public LessonScript {
   std::vector<Screen> Screens() override {
     return {{FactorsCancel, SubtractTheExponents},
             {MoreFactorsBelow},
-            {NumbersInFront, TwoLettersApart},
+            {NumbersInFront, TwoLettersApart, TwoLettersTried},
             {ExponentZero, NegativeExponents}};
   }
   void DrawProblem(RandomStream& random) override;
@@ -214,6 +237,7 @@ class DividingWithExponents final : public LessonScript {
   void SayWhatIsLeft() const;
   void SubtractExponents() const;
   std::string MeaningOfNegative() const;
+  void CheckByRule() const;
   void CheckWithTwo() const;
 
   QuotientProblem quotient_;
@@ -261,7 +285,10 @@ void DividingWithExponents::ExplainProblem() {
     Show(quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
     PageEnd();
   }
-  if (quotient_.other.empty() && quotient_.form != QuotientForm::Numbers) CheckWithTwo();
+  if (HasTwoLetters())
+    CheckByRule();
+  else if (quotient_.form != QuotientForm::Numbers)
+    CheckWithTwo();
   Conclude(problem);
 }
 
@@ -281,9 +308,8 @@ void DividingWithExponents::Prepare() const {
                  NumStr(quotient_.numberBelow) + " = " + NumStr(quotient_.Number())));
   if (quotient_.form == QuotientForm::ZeroExponent) {
     const std::string power = quotient_.other + "^0^";
-    Say(Text(R"({} is \y1\z, since a power with the exponent 0 is 1.  A factor 1 changes nothing, )"
-             "so we may leave it out.",
-             power));
+    Say(Text(R"({} is \y1\z, as {} is 1.  A factor 1 changes nothing, so we may leave it out.)",
+             power, quotient_.other + "/" + quotient_.other));
   }
   if (HasTwoLetters()) Say("Each letter has a fraction of its own.");
   if (quotient_.form == QuotientForm::Numbers || quotient_.form == QuotientForm::ZeroExponent ||
@@ -371,6 +397,23 @@ std::string PowerOfTwo(int exponent) {
   return factors < 2 ? value : over + PowerOf(2, factors) + " = " + value;
 }
 
+// "x^5-3^ = x^2^".
+std::string RuleText(const std::string& letter, int above, int below) {
+  const int difference = above - below;
+  return letter + "^" + NumStr(above) + "-" + NumStr(below) + "^ = " + letter +
+         (difference == 1 ? "" : "^" + NumStr(difference) + "^");
+}
+
+void DividingWithExponents::CheckByRule() const {
+  Say(R"(\yCheck:\z  We subtract the exponents of each letter by itself:)");
+  Show(RuleText(quotient_.letter, quotient_.above, quotient_.below) + "      " +
+           RuleText(quotient_.other, quotient_.otherAbove, quotient_.otherBelow),
+       kExpressionCol);
+  if (quotient_.above < quotient_.below || quotient_.otherAbove < quotient_.otherBelow)
+    AddLine("A negative exponent means:  below the bar.");
+  PageEnd();
+}
+
 // Both sides of the result with 2 in place of the letter.
 void DividingWithExponents::CheckWithTwo() const {
   const auto value = [](int exponent) {
@@ -380,10 +423,16 @@ void DividingWithExponents::CheckWithTwo() const {
   NewScreen();
   ProblemBanner();
   ShowAt(6, quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
-  Say(Text(R"(\yCheck:\z  With 2 in place of {}:)", quotient_.letter));
-  Show(FractionOfTexts(PowerOf(2, quotient_.above), PowerOf(2, quotient_.below)) + " = " +
-           FractionOfTexts(value(quotient_.above), value(quotient_.below)) + " = " +
-           (difference < 0 ? "1/" : "") + value(std::abs(difference)),
+  const bool other = !quotient_.other.empty();  // with the exponent 0
+  const std::string factor = " " + tutor::Times + " ";
+  Say(Text(R"(\yCheck:\z  With 2 for {}{}:)", quotient_.letter,
+           Words{other ? " and 3 for " + quotient_.other : ""}));
+  Show(FractionOfTexts(PowerOf(2, quotient_.above) + (other ? factor + "3^0^" : ""),
+                       PowerOf(2, quotient_.below)) +
+           " = " +
+           FractionOfTexts(value(quotient_.above) + (other ? factor + "1" : ""),
+                           value(quotient_.below)) +
+           " = " + (difference < 0 ? "1/" : "") + value(std::abs(difference)),
        kExpressionCol);
   const bool written = quotient_.form == QuotientForm::NegativeAnswer;
   const std::string right =

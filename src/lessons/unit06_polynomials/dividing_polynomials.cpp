@@ -135,17 +135,18 @@ void RuleAtWork() {
 
 void WrongWays() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Three students divide.  What did each of them do wrong?)");
+  SayAt(3, R"(\yTry it:\z  Four students divide.  What did each of them do wrong?)");
   Show(kDifference + " = 5x^4^ - 2x^2^", kExpressionCol);
   PageEnd();
-  PaperBox(
-      {R"(Ann:  \r5x^3^ - 2x^2^\z)", R"(Ben:  \r20x^6^ - 2x^2^\z)", R"(Carl: \r16x^4^ - 4x^2^\z)"});
+  PaperBox({R"(Ann:  \r5x^3^ - 2x^2^\z)", R"(Ben:  \r20x^6^ - 2x^2^\z)",
+            R"(Carl: \r16x^4^ - 4x^2^\z)", R"(Dora: \r5x^4^ + 2x^2^\z)"});
   PageEnd();
-  Say("Ann divides the exponents.  Ben divides only the second term.  Carl subtracts the numbers.");
+  Say("Ann divides the exponents.  Ben divides only the second term.  Carl subtracts the numbers.  "
+      "Dora loses the minus sign.");
   PageEnd();
   Say(R"(\yWatch out:\z  These are wrong, too:)");
   PaperBox({R"(\r5x^8^ - 2x^6^:\z    exponents added)", R"(\r5x^6^ - 2x^4^:\z    exponents kept)",
-            R"(\r20x^4^ - 8x^2^:\z   numbers kept)", R"(\r5x^4^ + 2x^2^:\z    minus sign lost)"});
+            R"(\r20x^4^ - 8x^2^:\z   numbers kept)"});
   PageEnd();
 }
 

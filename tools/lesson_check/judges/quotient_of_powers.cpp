@@ -55,8 +55,8 @@ Polynomial PowerOf(char letter, int exponent) {
 class Mistakes {
  public:
   Mistakes(Reading& reading, const Rational& number) : reading_(reading), number_(number) {}
-  void Add(const char* name, const Polynomial& powers) { AddWhole(name, number_ * powers); }
-  void AddWhole(const char* name, const Polynomial& value) {
+  void Add(const std::string& name, const Polynomial& powers) { AddWhole(name, number_ * powers); }
+  void AddWhole(const std::string& name, const Polynomial& value) {
     reading_.mistakes[name].push_back(value.Text());
   }
 
@@ -67,6 +67,11 @@ class Mistakes {
 
 Polynomial Times(const Rational& number, char letter, int exponent) {
   return Polynomial(number) * PowerOf(letter, exponent);
+}
+
+// The power of a letter with the exponent 0 taken for something else.
+std::string TakesZeroFor(char letter, const std::string& other) {
+  return std::string("takes ") + letter + "^0^ for " + other;
 }
 
 // The quotient of x^m and x^n, with numbers in front.
@@ -93,8 +98,8 @@ void AddMistakesOfOneLetter(const Quotient& quotient, char x, int m, int n, Mist
       mistakes.Add("subtracts the exponents, but then multiplies the result by the base",
                    Polynomial(Rational(1)) / Times(d, x, 1));
   } else {
-    mistakes.AddWhole("takes the exponent 0 for the value 0", Polynomial());
-    mistakes.Add("takes the exponent 0 for an exponent of 1", PowerOf(x, 1));
+    mistakes.AddWhole(TakesZeroFor(x, "0"), Polynomial());
+    mistakes.Add(TakesZeroFor(x, {x}), PowerOf(x, 1));
   }
   const Rational difference = quotient.above.number - quotient.below.number;
   if (difference == 0) return;
@@ -132,13 +137,12 @@ void AddMistakesOfZero(const Quotient& quotient, char x, char zero, Mistakes& mi
   const int m = quotient.above.exponents.at(x);
   const int n = quotient.below.exponents.at(x);
   const Polynomial y = Polynomial::Letter(zero);
-  mistakes.AddWhole("takes the exponent 0 for the value 0", Polynomial());
-  mistakes.Add("takes the exponent 0 for an exponent of 1", PowerOf(x, m - n) * y);
+  const std::string takesForOne = TakesZeroFor(zero, {zero});
+  mistakes.AddWhole(TakesZeroFor(zero, "0"), Polynomial());
+  mistakes.Add(takesForOne, PowerOf(x, m - n) * y);
   mistakes.Add("adds the exponents", PowerOf(x, m + n));
-  mistakes.Add("keeps the first exponent and takes the exponent 0 for an exponent of 1",
-               PowerOf(x, m) * y);
-  mistakes.Add("adds the exponents and takes the exponent 0 for an exponent of 1",
-               PowerOf(x, m + n) * y);
+  mistakes.Add("keeps the first exponent and " + takesForOne, PowerOf(x, m) * y);
+  mistakes.Add("adds the exponents and " + takesForOne, PowerOf(x, m + n) * y);
 }
 
 // The kind of the question, and what it leads to by mistake.

@@ -19,8 +19,8 @@ namespace {
 constexpr double kHalf = 0.8;  // rows from the numerator to the bar, and from there on; 20 pixels
 
 void Strike(double row, double col) {
-  constexpr double kRows = 0.34;
-  constexpr double kCols = 0.45;
+  constexpr double kRows = 0.26;
+  constexpr double kCols = 0.7;
   isDrawDiagonalLineWithColor(row + kRows, col - kCols, row - kRows, col + kCols, 2,
                               platform::colour::Yellow);
 }

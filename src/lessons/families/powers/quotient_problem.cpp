@@ -124,8 +124,8 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfMoreBelow() const {
 }
 
 std::vector<QuotientMistake> QuotientProblem::MistakesOfAsMany() const {
-  return {{"takes the exponent 0 for the value 0", "0"},
-          {"takes the exponent 0 for an exponent of 1", letter},
+  return {{"takes " + letter + "^0^ for 0", "0"},
+          {"takes " + letter + "^0^ for " + letter, letter},
           {kAdds, Quotient(above + below)},
           {"keeps the exponent above the bar", Quotient(above)}};
 }
@@ -166,14 +166,13 @@ std::vector<QuotientMistake> QuotientProblem::MistakesOfZeroExponent(RandomStrea
   const auto withOther = [&](int exponent) {
     return QuotientText(1, {{letter, exponent}, {other, 1}});
   };
-  return {{"takes the exponent 0 for the value 0", "0"},
-          {"takes the exponent 0 for an exponent of 1", withOther(Difference())},
-          random.Rand(1, 2) == 1 ? QuotientMistake{kAdds, Quotient(above + below)}
-                                 : QuotientMistake{"keeps the first exponent and takes the "
-                                                   "exponent 0 for an exponent of 1",
-                                                   withOther(above)},
-          {"adds the exponents and takes the exponent 0 for an exponent of 1",
-           withOther(above + below)}};
+  const std::string takesForOne = "takes " + other + "^0^ for " + other;
+  return {{"takes " + other + "^0^ for 0", "0"},
+          {takesForOne, withOther(Difference())},
+          random.Rand(1, 2) == 1
+              ? QuotientMistake{kAdds, Quotient(above + below)}
+              : QuotientMistake{"keeps the first exponent and " + takesForOne, withOther(above)},
+          {"adds the exponents and " + takesForOne, withOther(above + below)}};
 }
 
 // Now the minus sign in front stands before a power, now before a multiple.

@@ -21,7 +21,7 @@ enum class QuotientForm {
 };
 
 struct QuotientMistake {
-  const char* name;
+  std::string name;
   std::string quotient;
 };
 
