@@ -24,7 +24,7 @@ std::string Difference(int m, int n) {
 
 void FactorsCancel() {
   NewScreen();
-  SayAt(3, R"(In  b^5^  the \cbase\z is b and the \cexponent\z is 5:  b is a \cfactor\z 5 times.)");
+  SayAt(3, R"(In b^5^ the \cbase\z is b and the \cexponent\z is 5:  b is a \cfactor\z 5 times.)");
   PageEnd();
   SayAt(6, "A fraction bar means division:");
   ShowAt(8.5, "b^5^/b^2^ =", kExpressionCol);
@@ -33,9 +33,7 @@ void FactorsCancel() {
   PageEnd();
   fraction.Cancel();
   fraction.ShowBehind(R"(= \yb^3^\z)");
-  SayAt(10.8, R"(b/b is 1, so a factor above and a factor below \ccancel\z:  we strike them out.)");
-  AddLine("5 - 2 = 3 factors are left above.");
-  PageEnd();
+  SayAt(10.8, R"(b/b is 1, so 2 factors b above and below \ccancel\z.  5 - 2 = 3 are left above.)");
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "c^7^ " + tutor::Divided + " c^3^"));
   PageEnd();
   Say(Text(R"(3 of the 7 factors c cancel, and {} are left:  \y{}\z)", "7 - 3 = 4", "c^4^"));
@@ -126,8 +124,8 @@ void TwoLettersApart() {
 
 void TwoLettersTried() {
   constexpr double kFirstRow = 5.5;
-  constexpr double kSecondRow = 8.5;
-  constexpr double kBelow = 11.5;
+  constexpr double kSecondRow = 9;
+  constexpr double kBelow = 12;
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Simplify these fractions:)");
   ShowAt(kFirstRow, "p^2^q^7^/(p^6^q^4^)", kExpressionCol);
@@ -137,7 +135,7 @@ void TwoLettersTried() {
   SayAt(kBelow, "6 - 2 = 4 factors p are left below, and 7 - 4 = 3 factors q above.");
   PaperBox({"q^3^ " + tutor::Divided + " p^4^,  \\rnot p^4^ " + tutor::Divided + " q^3^\\z"});
   PageEnd();
-  ShowAt(kSecondRow, R"(= \y1\z/\y(a^2^b^5^)\z)", kExpressionCol + 5);
+  ShowAt(kSecondRow, R"(= \y1\z/(\ya^2^b^5^\z))", kExpressionCol + 5);
   GoBelow();
   Say("4 - 2 = 2 factors a and 8 - 3 = 5 factors b are left below.  Nothing is left above but 1.");
   PageEnd();
@@ -158,13 +156,10 @@ void ExponentZero() {
   Say(R"(A number divided by itself is 1.  So  \y)" +
       Text(R"({}\z  for every x except 0.)", "x^0^ = 1"));
   Say(Text(R"(\yWatch out:\z  {} is not 0, and not x.)", "x^0^"));
+  Say(R"(\yTry it:\z  What is  )" + Text("{}?", "a^5^b^0^ " + tutor::Divided + " a^2^"));
   PageEnd();
-
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Simplify this fraction:)");
-  ShowAt(5.5, "a^5^b^0^/a^2^", kExpressionCol);
-  PageEnd();
-  ShowAt(5.5, R"(= a^5^/a^2^ = \ya^3^\z)", kExpressionCol + 5);
+  ShowAt(4, R"(a^5^b^0^/a^2^ = a^5^/a^2^ = \ya^3^\z)", kExpressionCol);
   GoBelow();
   Say(Text("{} is 1, and a factor 1 changes nothing.", "b^0^"));
   PageEnd();
@@ -410,7 +405,7 @@ void DividingWithExponents::CheckByRule() const {
            RuleText(quotient_.other, quotient_.otherAbove, quotient_.otherBelow),
        kExpressionCol);
   if (quotient_.above < quotient_.below || quotient_.otherAbove < quotient_.otherBelow)
-    AddLine("A negative exponent means:  below the bar.");
+    AddLine("Negative exponents:  below the bar.");
   PageEnd();
 }
 
@@ -424,14 +419,13 @@ void DividingWithExponents::CheckWithTwo() const {
   ProblemBanner();
   ShowAt(6, quotient_.Expression() + " = " + RightText(problem), kExpressionCol);
   const bool other = !quotient_.other.empty();  // with the exponent 0
-  const std::string factor = " " + tutor::Times + " ";
   Say(Text(R"(\yCheck:\z  With 2 for {}{}:)", quotient_.letter,
            Words{other ? " and 3 for " + quotient_.other : ""}));
-  Show(FractionOfTexts(PowerOf(2, quotient_.above) + (other ? factor + "3^0^" : ""),
-                       PowerOf(2, quotient_.below)) +
-           " = " +
-           FractionOfTexts(value(quotient_.above) + (other ? factor + "1" : ""),
-                           value(quotient_.below)) +
+  const auto above = [&](const std::string& power, const std::string& zero) {
+    return other ? "(" + power + " " + tutor::Times + " " + zero + ")" : power;
+  };
+  Show(FractionOfTexts(above(PowerOf(2, quotient_.above), "3^0^"), PowerOf(2, quotient_.below)) +
+           " = " + FractionOfTexts(above(value(quotient_.above), "1"), value(quotient_.below)) +
            " = " + (difference < 0 ? "1/" : "") + value(std::abs(difference)),
        kExpressionCol);
   const bool written = quotient_.form == QuotientForm::NegativeAnswer;

@@ -20,7 +20,7 @@ constexpr double kHalf = 0.8;  // rows from the numerator to the bar, and from t
 
 void Strike(double row, double col) {
   constexpr double kRows = 0.26;
-  constexpr double kCols = 0.7;
+  constexpr double kCols = 0.62;
   isDrawDiagonalLineWithColor(row + kRows, col - kCols, row - kRows, col + kCols, 2,
                               platform::colour::Yellow);
 }
