@@ -194,7 +194,7 @@ void NegativeExponents() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(Exponent -3:  3 factors \ybelow\z the bar.)");
+  SayAt(3, R"(2^-3^ has 3 factors \ybelow\z the bar.)");
   AddLine("It does not make a negative number:");
   PaperBox({"2^-3^ = 1 " + tutor::Divided + " 2^3^ = 1 " + tutor::Divided + " 8,",
             R"(\rnot -8,  not 2 )" + tutor::Times + R"( (-3) = -6\z)"});
@@ -401,11 +401,12 @@ std::string RuleText(const std::string& letter, int above, int below) {
 
 void DividingWithExponents::CheckByRule() const {
   Say(R"(\yCheck:\z  We subtract the exponents of each letter by itself:)");
-  Show(RuleText(quotient_.letter, quotient_.above, quotient_.below) + "      " +
-           RuleText(quotient_.other, quotient_.otherAbove, quotient_.otherBelow),
-       kExpressionCol);
+  ShowAt(NextRow() + 0.3,
+         RuleText(quotient_.letter, quotient_.above, quotient_.below) + "      " +
+             RuleText(quotient_.other, quotient_.otherAbove, quotient_.otherBelow),
+         kExpressionCol);
   if (quotient_.above < quotient_.below || quotient_.otherAbove < quotient_.otherBelow)
-    AddLine("Negative exponents:  below the bar.");
+    Say("Negative exponents:  below the bar.");
   PageEnd();
 }
 
