@@ -96,7 +96,7 @@ void OneTermOverAMonomial() {
   PageEnd();
   fraction.ShowBehind("= x^3^");
   GoBelow();
-  Say(R"(5 - 2 = 3 of them are left.  The exponents are \ysubtracted\z:)");
+  Say(R"(5 - 2 = 3 factors are left.  The exponents are \ysubtracted\z:)");
   Show(R"(15x^5^/(3x^2^) = \y5x^3^\z)", kExpressionCol);
   PageEnd();
 }

@@ -27,9 +27,9 @@ void RectangleOfFourParts() {
   SayAt(3, R"(A \cbinomial\z has two terms.  In t + 3 the terms are t and 3.)");
   PageEnd();
   CutRectangle rectangle({"t", "3"}, {"u", "2"}, 7.2);
-  SayAt(kBelow, Text("A rectangle with sides {} and {}:", "t + 3", "u + 2"));
+  SayAt(kBelow, Text("Here the sides are {} and {}.", "t + 3", "u + 2"));
   PageEnd();
-  AddLine(Text("Its area is {}.", "(t + 3)(u + 2)"));
+  AddLine(Text("The area is {}.", "(t + 3)(u + 2)"));
   Say(R"(\yTry it:\z  What is the area of each part?)");
   PageEnd();
   rectangle.MoveApart();
