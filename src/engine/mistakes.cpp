@@ -98,9 +98,11 @@ std::vector<NamedMistake> NamedMistakes(const Problem& problem, const std::vecto
   std::vector<NamedMistake> mistakes;
   for (int box = 1; box <= ChoiceCountOf(problem.kind); ++box) {
     const int choice = order.at(static_cast<std::size_t>(box));
-    const std::string name = MistakeOf(problem, choice);
+    std::string name = MistakeOf(problem, choice);
     if (choice == problem.correct || name.empty() || name == kFiller) continue;
-    mistakes.push_back({name, ChoiceText(problem, choice), box == studentsBox});
+    const bool rounded = name.ends_with(kRounded);
+    if (rounded) name.resize(name.size() - kRounded.size());
+    mistakes.push_back({name, ChoiceText(problem, choice), box == studentsBox, rounded});
   }
   std::ranges::stable_partition(mistakes, &NamedMistake::own);
   return mistakes;

@@ -2,16 +2,21 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/problem.h"
 
 namespace course {
 
+// Behind the name of a mistake whose choice is a rounded value: "halves the distance, rounded".
+inline constexpr std::string_view kRounded = ", rounded";
+
 struct NamedMistake {
-  std::string name;  // "forgets the parentheses"
-  std::string text;  // of the choice to which it leads
-  bool own = false;  // the student has chosen it
+  std::string name;      // "forgets the parentheses"
+  std::string text;      // of the choice to which it leads
+  bool own = false;      // the student has chosen it
+  bool rounded = false;  // it leads to about this choice
 };
 
 // Those that stand in the boxes of the order, by box; the one in the student's box, 1 to 5 or 0 for

@@ -128,10 +128,12 @@ class MistakesPage {
   void Add(const NamedMistake& mistake) {
     const std::string value =
         choicesAreWords_ ? "~" + mistake.text + "~" : ExponentCharsToCarets(mistake.text);
-    const std::string verb = choicesAreWords_ ? " chooses" : " gets";
+    const std::string about = mistake.rounded ? " about" : "";
+    const std::string verb = choicesAreWords_ ? " chooses" : " gets" + about;
     if (mistake.own)
       told_.push_back(
-          {"You chose", value, "That is what we get when we " + InOurWords(mistake.name) + "."});
+          {"You chose", value,
+           "That is" + about + " what we get when we " + InOurWords(mistake.name) + "."});
     else
       told_.push_back({"Someone who " + mistake.name + verb, value, ""});
   }

@@ -49,15 +49,16 @@ TEST(MistakesTest, TheStudentsOwnComesFirstThenTheBoxesInTheirOrder) {
   const auto told = [&](int box) {
     std::string text;
     for (const NamedMistake& mistake : NamedMistakes(problem, order, box))
-      text += (mistake.own ? "own " : "") + mistake.name + " " + mistake.text + "; ";
+      text += (mistake.own ? "own " : "") + mistake.name + (mistake.rounded ? " about " : " ") +
+              mistake.text + "; ";
     return text;
   };
   EXPECT_EQ(told(0), "subtracts 4; adds 2; ");
   EXPECT_EQ(told(4), "own adds 2; subtracts 4; ");
   for (const int box : {2, 3, 5}) EXPECT_EQ(told(box), told(0)) << "a filler, the right one, none";
   problem.Right(5, "1");
-  problem.Wrong(1, "halves", "6");
-  EXPECT_EQ(told(0), "subtracts 4; halves 6; adds 2; ");
+  problem.Wrong(1, "halves, rounded", "6");
+  EXPECT_EQ(told(0), "subtracts 4; halves about 6; adds 2; ");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/choices.h"
+#include "engine/mistakes.h"
 #include "lesson_check/exact/notation.h"
 #include "mathkit/tutor_codes.h"
 
@@ -73,22 +74,27 @@ std::string FaultOfMistakesPage(const PageText& page,
                                 bool choicesAreWords) {
   const course::Problem& problem = drawn.problem;
   const std::string printed = Printed(page);
-  const std::string verb = choicesAreWords ? " chooses" : " gets";
   std::size_t others = 0;
   std::size_t own = 0;
+  std::string reason = "That is what we get when we ";
   for (int box = 1; box <= course::ChoiceCountOf(problem.kind); ++box) {
     const int choice = drawn.order.at(static_cast<std::size_t>(box));
-    const std::string mistake = course::MistakeOf(problem, choice);
+    std::string mistake = course::MistakeOf(problem, choice);
     if (choice == problem.correct || mistake.empty() || mistake == course::kFiller) continue;
     const bool isOwn = box == pickedBox;
     ++(isOwn ? own : others);
+    std::string verb = choicesAreWords ? " chooses" : " gets";
+    if (mistake.ends_with(course::kRounded)) {
+      mistake.resize(mistake.size() - course::kRounded.size());
+      verb += " about";
+      if (isOwn) reason = "That is about what we get when we ";
+    }
     const std::string words = isOwn ? std::string(kOwn) : std::string(kOthers) + mistake + verb;
     const std::string text = ChoiceText(problem, choice);
     const std::string value = choicesAreWords ? '"' + text + '"' : text;
     if (!Tells(printed, words, value)) return "it does not tell \"" + words + " " + value + "\"";
   }
-  const std::string reason = Bare("That is what we get when we ");
-  if (CountOf(printed, reason) != own) return "it does not give the reason of the box picked";
+  if (CountOf(printed, Bare(reason)) != own) return "it does not give the reason of the box picked";
   if (CountOf(printed, Bare(std::string(kOthers))) != others)
     return "it tells of a mistake that no box has";
   return "";
