@@ -27,7 +27,6 @@ void OppositeDirections() {
   SayAt(2,
         "Two trains leave Northton at the same time in opposite directions.  A goes at 40 mph and "
         R"(B at 60 mph.  The distance between them is the \cgap\z.)");
-  PageEnd();
   TwoRoads roads(8, RoadsGo::OppositeWays, 120, 180);
   roads.Draw("Northton");
   SayAt(12, "How large is the gap after 1 hour?");
@@ -60,7 +59,7 @@ void DistanceApart() {
   FillJourney(Journey::A, "", "2 1/4", "", Blue);
   FillJourney(Journey::B, "", "2 1/4", "", Blue);
   Say("15 minutes are 15/60 = 1/4 of an hour.");
-  Say(R"(\yWatch out:\z  They are not .15 hours.)");
+  Say(R"(\yWatch out:\z  They are not 0.15 hours.  And do not drop them or count 3 hours.)");
   Say("How fast does the gap grow?");
   PageEnd();
   ClearBelow(13.5);
@@ -71,34 +70,55 @@ void DistanceApart() {
   PageEnd();
   FillJourney(Journey::A, "", "", "78 3/4", Blue);
   FillJourney(Journey::B, "", "", "101 1/4", Blue);
-  ClearBelow(19.1);
-  SayAt(19.3,
-        Text("{} and {}.", "35" + kTimes + "2 1/4 = 78 3/4", "45" + kTimes + "2 1/4 = 101 1/4"));
-  AddLine(Text("Both ways together make the gap:  {}", "78 3/4 + 101 1/4 = 180."));
+  ClearBelow(13.5);
+  ShowAt(14.3, "35" + kTimes + "9/4 = 315/4 = 78 3/4");
+  Show("45" + kTimes + "9/4 = 405/4 = 101 1/4");
+  Say("The two distances add up to the gap:  it is 180 miles.");
   PageEnd();
 }
 
 void TimeApart() {
   NewScreen();
   SayAt(2,
-        "Two planes leave Eastville at the same time in opposite directions.  One goes at 200 mph "
-        "and the other at 300 mph.  When will they be 1250 miles apart?");
+        "Two planes leave Eastville in opposite directions, at 200 mph and 300 mph.  When will "
+        "they be 1,250 miles apart?");
+  SayAt(6, "How fast does the gap grow?");
   PageEnd();
+  ClearBelow(5.5);
   PaperBox(
-      {"Kim:  1250" + kDivided + "100 = 12 1/2 hours",
-       "Lee:  1250" + kDivided + "200 = 6 1/4 hours", "Max:  1250" + kDivided + "250 = 5 hours"},
-      6.5);
+      {"Kim:  1,250" + kDivided + "100 = 12 1/2 hours",
+       "Lee:  1,250" + kDivided + "200 = 6 1/4 hours", "Max:  1,250" + kDivided + "250 = 5 hours"},
+      5.5);
   Say("Who is right?");
   PageEnd();
-  ClearBelow(10);
-  SayAt(10.5,
+  ClearBelow(9.5);
+  SayAt(9.5,
         "Nobody.  Kim subtracts the rates.  Lee counts one plane only, and Max takes the mean of "
         "the rates.");
   Say(R"(\yTry it:\z  What should we divide by?)");
   PageEnd();
-  Say(Text("By {}.  The gap grows by 500 miles in each hour:", "200 + 300 = 500"));
-  Show("t = d/r = 1250/500 = 5/2 = 2 1/2");
+  ClearBelow(5.5);
+  SayAt(6, Text("By {}, the sum.", "200 + 300 = 500"));
+  Say(Text("We divide both sides of {} by r:", WithoutBreaks("d = r " + tutor::Dot + " t")));
+  Show("t = d/r = (1,250)/500 = 5/2 = 2 1/2");
   Say("It takes 2 hours & 30 minutes.");
+  PageEnd();
+  Say(R"(\yWatch out:\z  It is not 300 + 300.  Each plane keeps its own rate.)");
+  Say("And do not halve the 1,250 miles:  the 500 mph count both planes already.");
+  PageEnd();
+}
+
+void TimeApartWithFraction() {
+  NewScreen();
+  SayAt(2,
+        R"(\yTry it:\z  Two cars go at 40 mph and 50 mph in opposite directions.  When are they )"
+        "202 1/2 miles apart?");
+  SayAt(6, Text("Here r is {}.  What is t?", "40 + 50 = 90"));
+  PageEnd();
+  Say("To divide by 90, we multiply by 1/90:");
+  Show("t = 202 1/2" + kDivided + "90 = 405/2" + kTimes + "1/90");
+  Show("  = 405/180 = 9/4 = 2 1/4");
+  Say("We reduce by 45:  2 hours & 15 minutes.");
   PageEnd();
 }
 
@@ -106,13 +126,15 @@ void SameRate() {
   NewScreen();
   SayAt(2,
         "Car A left Westville 2 hours ago.  Its rate is 40 mph.  Now car B leaves and follows it "
-        R"(at the same rate.  How large is A's \chead start\z?)");
-  PageEnd();
-  TwoRoads roads(6.5, RoadsGo::SameWay, 200, 200);
+        R"(at the same rate.  A has a \chead start\z of 2 hours.)");
+  TwoRoads roads(7.5, RoadsGo::SameWay, 200, 200);
   roads.Draw("");
   roads.Place(80, 0);
+  roads.ShowGap("?");
+  SayAt(12, "How large is the gap?");
+  PageEnd();
   roads.ShowGap("80 miles");
-  SayAt(11, Text("The gap is {}.  And in 3 hours?", "40" + kTimes + "2 = 80"));
+  Say(Text("It is {} miles.  How large is it 3 hours from now?", "40" + kTimes + "2 = 80"));
   PageEnd();
   roads.GoTo(200, 120);
   roads.ShowGap("80 miles");
@@ -120,14 +142,14 @@ void SameRate() {
   Say(Text(R"(\yWatch out:\z  The gap is not {}.)", "40" + kTimes + "5 = 200"));
   AddLine("A is 200 miles from Westville, B is 120.");
   PageEnd();
-  ClearBelow(11);
+  ClearBelow(12);
   SayAt(
-      11,
+      12,
       R"(\yTry it:\z  A train at 60 mph left 1 hour & 30 minutes ago.  Another one follows at 60 )"
-      "mph.  How far apart are they in 4 hours?");
+      "mph.  How far apart are they 4 hours from now?");
   PageEnd();
   Show("60" + kTimes + "1 1/2 = 60" + kTimes + "3/2 = 90");
-  Say("They are 90 miles apart, now and in 4 hours.  Only the head start counts.");
+  Say("They are 90 miles apart, now and then.  The gap from the head start stays.");
   PageEnd();
 }
 
@@ -136,17 +158,16 @@ void CatchingUp() {
   SayAt(2,
         "Train A left Northton 2 hours ago.  Its rate is 40 mph.  Now train B leaves and follows "
         "it at 60 mph.");
-  PageEnd();
   TwoRoads roads(6.5, RoadsGo::SameWay, 240, 240);
   roads.Draw("");
   roads.Place(80, 0);
   roads.ShowGap("80 miles");
-  SayAt(11, "How large is the gap in 1 hour?");
+  SayAt(11, "How large is the gap 1 hour from now?");
   PageEnd();
   roads.GoTo(120, 60);
   roads.ShowGap("60 miles");
-  Say(Text(R"(B gains 20 miles in each hour.  We \ysubtract the rates\z:  {})",
-           "60 - 40 = 20 mph."));
+  Say(Text(R"(It is {} miles.  B gains {} miles in each hour:  we \ysubtract the rates\z.)",
+           "120 - 60 = 60", "60 - 40 = 20"));
   Say(R"(\yTry it:\z  When does B catch up with A?)");
   PageEnd();
   roads.GoTo(160, 120);
@@ -154,28 +175,34 @@ void CatchingUp() {
   Delay(kLook);
   roads.GoTo(240, 240);
   roads.ShowGap("no gap");
-  Say(Text("The gap is 80 miles, and 20 less in each hour.  It is gone after {} hours.",
+  Say(Text("The gap is 80 miles now, and 20 less in each hour.  It is gone after {} hours.",
            "80" + kDivided + "20 = 4"));
   PageEnd();
 }
 
 void CheckCatchingUp() {
   NewScreen();
-  SayAt(
-      2,
-      "Check:  B goes at 60 mph for 4 hours.  How long is A on its way, and how far does each one "
-      "go?");
+  SayAt(2,
+        "Check:  B goes at 60 mph for 4 hours.  How long does A travel, and how far does each one "
+        "go?");
   ShowJourneyTable(5.3, "Train");
   FillJourney(Journey::A, "40", "", "");
   FillJourney(Journey::B, "60", "4", "");
   PageEnd();
   FillJourney(Journey::A, "", "6", "240", Blue);
   FillJourney(Journey::B, "", "", "240", Blue);
-  SayAt(12.8, "A goes for 2 hours more.  Both go 240 miles.  There B catches up.");
-  Say(R"(\yTry it:\z  Kim divides 80 miles by 100, and Lee by 60.  What is wrong?)");
-  PageEnd();
-  Say("Kim adds the rates.  Lee forgets that A goes on, too.");
+  SayAt(12.8, "A travels 2 hours longer.  Both go 240 miles.  There B catches up.");
   Say(R"(\yWatch out:\z  The answer is 4 hours, not 6.  It counts from now, when B leaves.)");
+  PageEnd();
+  ClearBelow(12.8);
+  PaperBox({"Kim:  80" + kDivided + "100", "Lee:  80" + kDivided + "60",
+            "Max:  40" + kDivided + "20 = 2 hours"},
+           13);
+  Say(R"(\yTry it:\z  What is wrong?)");
+  PageEnd();
+  ClearBelow(17);
+  SayAt(17.5, "Kim adds the rates.  Lee forgets that A goes on, too.");
+  Say("Max forgets the head start of 2 hours:  40 miles are the gap after 1 hour.");
   PageEnd();
 }
 
@@ -197,18 +224,19 @@ void CatchingUpInMinutes() {
   ShowAt(7, "t = 60/25 = 2 2/5 = 2.4");
   Show("2/5" + kTimes + "60 = 24");
   Say("It takes 2 hours & 24 minutes.");
-  Say(R"(\yWatch out:\z  .4 hours are not 40 minutes.)");
+  Say(R"(\yWatch out:\z  0.4 hour is not 40 minutes.)");
   PageEnd();
 }
 
-// Below the last problem.
 void AddOrSubtract() {
+  NewScreen();
   RuleBox("How Fast Does the Gap Change?",
-          {"Opposite directions:  add the rates.", "One follows:  subtract the rates."});
-  GoBelow();
-  AddLine(R"(\yTry it:\z  What if the rates are equal?)");
+          {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
+          {.row = 3});
+  Say(R"(\yTry it:\z  Both go at 70 mph.  How does the gap change?)");
   PageEnd();
-  AddLine(Text("One follows:  {}, so it stays.", "70 - 70 = 0"));
+  Say(Text("Opposite directions:  it grows by {} miles in each hour.", "70 + 70 = 140"));
+  Say(Text("One follows:  {}.  The gap stays the same.", "70 - 70 = 0"));
   PageEnd();
 }
 
@@ -220,8 +248,8 @@ class AdvancedDistanceRateTimeProblems final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{OppositeDirections, DistanceApart, TimeApart, SameRate, CatchingUp, CheckCatchingUp,
-             CatchingUpInMinutes, AddOrSubtract}};
+    return {{OppositeDirections, DistanceApart, TimeApart, TimeApartWithFraction, SameRate,
+             CatchingUp, CheckCatchingUp, CatchingUpInMinutes, AddOrSubtract}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;

@@ -11,7 +11,8 @@ namespace lesson_check {
 namespace {
 
 const std::string kTime = R"((?:(\d+) hours?)?(?: & )?(?:(\d+) minutes?)?)";
-const std::string kMiles = R"(([\d/ ]+) miles?)";
+// With commas from 1,000 on.
+const std::string kMiles = R"(((?:\d{1,3}(?:,\d{3})*)?(?: ?\d/\d)?) miles?)";
 const std::string kTown = "(?:Northton|Southton|Eastville|Westville)";
 
 bool Matches(const std::string& text, const std::string& pattern, std::smatch& match) {
@@ -49,7 +50,7 @@ struct Story {
 
 void CheckRates(const Story& story, Reading& reading) {
   static const std::map<std::string, std::pair<long, long>> kRates = {
-      {"plane", {150, 550}}, {"train", {20, 125}}, {"car", {20, 75}}};
+      {"plane", {150, 550}}, {"train", {40, 125}}, {"car", {40, 75}}};
   const auto range = kRates.find(story.vehicle);
   if (range == kRates.end()) throw Unreadable("nobody takes a " + story.vehicle);
   for (const Rational& rate : {story.slower, story.faster}) {
@@ -65,13 +66,20 @@ void CheckTime(const Rational& minutes, Reading& reading) {
   if (quarters.get_den() != 1) reading.faults.push_back("a time is no quarter hour");
 }
 
+// "1,383 3/4", as kMiles has it.
+Rational MilesIn(std::string text) {
+  std::erase(text, ',');
+  return NumberIn(text);
+}
+
 // --- Mistakes --------------------------------------------------------------------
 
 void AddMiles(Reading& reading, const std::string& name, const Rational& miles) {
   reading.mistakes[name] = {miles.get_str() + " miles"};
 }
 
-// A time that is not as round as the right one is rounded to its roundness, and the name tells it.
+// A time with parts of a minute is rounded to the roundness of the right one, and the name tells
+// it.
 class TimeMistakes {
  public:
   TimeMistakes(const Rational& answer, Reading& reading) : reading_(reading) {
@@ -82,12 +90,13 @@ class TimeMistakes {
   }
   void Add(const std::string& name, const Rational& minutes) {
     const Rational steps = minutes / step_;
-    if (steps.get_den() == 1)
-      AddAsItIs(name, minutes);
+    if (minutes.get_den() == 1)
+      AddWhole(name, minutes);
     else
-      AddAsItIs(name + " and rounds", Rational(Floor(steps + Rational(1, 2))) * step_);
+      AddWhole(name + ", rounded", Rational(Floor(steps + Rational(1, 2))) * step_);
   }
-  void AddAsItIs(const std::string& name, const Rational& minutes) {
+  // Of what is read off, there is nothing to round.
+  void AddWhole(const std::string& name, const Rational& minutes) {
     reading_.mistakes[name] = {minutes.get_str() + " minutes"};
   }
 
@@ -101,11 +110,20 @@ struct Misread {
   explicit Misread(const Rational& minutes)
       : full(Floor(minutes / 60)), rest(minutes - full * 60) {}
   std::vector<std::pair<std::string, Rational>> Readings() const {
-    if (rest == 0)
-      return {{"counts one hour too many", full + 1}, {"counts one hour too few", full - 1}};
+    if (rest == 0) return {};
     return {{"reads the minutes as hundredths of an hour", full + rest / 100},
             {"leaves the minutes out", full},
             {"counts the minutes as a full hour", full + 1}};
+  }
+  // Full hours of both, or of the head start.
+  std::vector<std::pair<std::string, Rational>> OtherHours() const {
+    if (rest != 0) return {};
+    return {{"counts one hour too many", full + 1}, {"counts one hour too few", full - 1}};
+  }
+  std::vector<std::pair<std::string, Rational>> OtherHeadStarts() const {
+    if (rest != 0) return {};
+    return {{"makes the head start one hour too long", full + 1},
+            {"makes the head start one hour too short", full - 1}};
   }
   // 2.4 hours as 2 hours and 40 minutes.
   Rational DecimalsAsMinutes() const { return full * 60 + rest * 100 / 60; }
@@ -124,10 +142,11 @@ Rational CatchUp(const Story& s, Reading& reading) {
   mistakes.Add("adds the head start to the time", answer + s.time);
   mistakes.Add("counts the head start twice", 2 * gap / closing);
   mistakes.Add("takes the head start for the answer", s.time);
-  for (const auto& [name, hours] : Misread(s.time).Readings())
-    mistakes.Add(name, 60 * hours * s.slower / closing);
-  mistakes.AddAsItIs("reads the decimal part of the hours as minutes",
-                     Misread(answer).DecimalsAsMinutes());
+  const Misread misread(s.time);
+  for (const auto& readings : {misread.Readings(), misread.OtherHeadStarts()})
+    for (const auto& [name, hours] : readings) mistakes.Add(name, 60 * hours * s.slower / closing);
+  mistakes.AddWhole("reads the decimal part of the hours as minutes",
+                    Misread(answer).DecimalsAsMinutes());
   return answer;
 }
 
@@ -145,11 +164,9 @@ Rational TimeApart(const Story& s, Reading& reading) {
   if (misread.rest != 0) {
     mistakes.Add("leaves the part of an hour out", 60 * misread.full);
     mistakes.Add("rounds up to a full hour", 60 * (misread.full + 1));
-  } else {
-    mistakes.Add("counts one hour too many", answer + 60);
-    mistakes.Add("counts one hour too few", answer - 60);
   }
-  mistakes.AddAsItIs("reads the decimal part of the hours as minutes", misread.DecimalsAsMinutes());
+  for (const auto& [name, hours] : misread.OtherHours()) mistakes.Add(name, 60 * hours);
+  mistakes.AddWhole("reads the decimal part of the hours as minutes", misread.DecimalsAsMinutes());
   return answer;
 }
 
@@ -162,10 +179,11 @@ Rational DistanceApart(const Story& s, Reading& reading) {
   AddMiles(reading, "takes the mean of the rates", sum / 2 * hours);
   AddMiles(reading, "lets both go at the faster rate", 2 * s.faster * hours);
   AddMiles(reading, "lets both go at the slower rate", 2 * s.slower * hours);
-  AddMiles(reading, "counts both ways twice", 2 * sum * hours);
+  AddMiles(reading, "doubles the gap", 2 * sum * hours);
   AddMiles(reading, "forgets to multiply by the time", sum);
-  for (const auto& [name, misread] : Misread(s.time).Readings())
-    AddMiles(reading, name, sum * misread);
+  const Misread misread(s.time);
+  for (const auto& readings : {misread.Readings(), misread.OtherHours()})
+    for (const auto& [name, misreadHours] : readings) AddMiles(reading, name, sum * misreadHours);
   return sum * hours;
 }
 
@@ -177,8 +195,10 @@ Rational SameRate(const Story& s, Reading& reading) {
   AddMiles(reading, "forgets the head start", s.slower * later);
   AddMiles(reading, "subtracts the two times", s.slower * abs(hours - later));
   AddMiles(reading, "lets them go in opposite directions", s.slower * (hours + 2 * later));
-  for (const auto& [name, misread] : Misread(s.time).Readings())
-    AddMiles(reading, name, s.slower * misread);
+  const Misread misread(s.time);
+  for (const auto& readings : {misread.Readings(), misread.OtherHeadStarts()})
+    for (const auto& [name, misreadHours] : readings)
+      AddMiles(reading, name, s.slower * misreadHours);
   return s.slower * hours;
 }
 
@@ -245,7 +265,7 @@ bool ReadOpposite(const std::string& text, Reading& reading) {
   if (story.faster <= story.slower) throw Unreadable("the second one is not faster: " + text);
   CheckRates(story, reading);
   if (asksTime) {
-    story.miles = NumberIn(match[4].str());
+    story.miles = MilesIn(match[4].str());
     const Rational minutes = TimeApart(story, reading);
     CheckTime(minutes, reading);
     reading.answer = Minutes(minutes, reading);
@@ -262,7 +282,7 @@ bool ReadOpposite(const std::string& text, Reading& reading) {
 std::string ValueOfChoice(const std::string& choice) {
   const std::string text = Trimmed(choice);
   std::smatch match;
-  if (Matches(text, kMiles, match)) return NumberIn(match[1].str()).get_str() + " miles";
+  if (Matches(text, kMiles, match)) return MilesIn(match[1].str()).get_str() + " miles";
   if (!Matches(text, kTime, match)) throw Unreadable("\"" + text + "\" is no time or distance");
   return MinutesIn(match, 1).get_str() + " minutes";
 }
@@ -273,6 +293,7 @@ Reading ReadTwoVehicles(const course::Problem& problem) {
     text += (text.empty() ? "" : "  ") + Trimmed(sentence);
   Reading reading;
   reading.value = ValueOfChoice;
+  reading.excused = {"a number that begins with 0"};  // "1,050"
   if (!ReadFollowing(text, reading) && !ReadOpposite(text, reading))
     throw Unreadable("no story of two vehicles: " + text);
   return reading;

@@ -2,8 +2,11 @@
 
 #include <iterator>
 
+#include "lessons/families/percents/percent_number.h"
 #include "lessons/families/stories/durations.h"
 #include "lessons/families/stories/word_table.h"
+#include "mathkit/expressions.h"
+#include "mathkit/tutor_codes.h"
 
 namespace course::stories {
 namespace {
@@ -23,14 +26,21 @@ struct RateRange {
   int least;
   int most;
 };
-constexpr RateRange kBelievable[] = {{150, 550}, {20, 125}, {20, 75}};
+constexpr RateRange kBelievable[] = {{150, 550}, {40, 125}, {40, 75}};
 
 constexpr int kRateStep = 5;
 constexpr int kFasterSteps = 10;
 constexpr int kQuarterHour = 15;  // minutes
 constexpr int kMinutesOfHour = 60;
 
-// Accepted: 71 in 100 draws for planes, 80 for trains; for cars 26, or 48 at the same rate.
+// A rate that is twice the other one: their difference would be the slower rate, and a student's
+// number could come from either mistake.
+bool CanBeRates(const TwoVehicles& vehicles, const RateRange& range) {
+  return vehicles.firstRate >= range.least && vehicles.secondRate <= range.most &&
+         vehicles.secondRate != 2 * vehicles.firstRate;
+}
+
+// Accepted: 71 in 100 draws for planes, 51 for trains; for cars 11, or 32 at the same rate.
 void DrawRates(int row, int steps, RandomStream& random, TwoVehicles& vehicles) {
   const RateRange range = kBelievable[row - 1];
   do {
@@ -38,7 +48,7 @@ void DrawRates(int row, int steps, RandomStream& random, TwoVehicles& vehicles) 
     vehicles.secondRate = vehicles.firstRate;
     if (vehicles.kind != TwoVehiclesKind::SameRate)
       vehicles.secondRate += kRateStep * random.Rand(1, kFasterSteps);
-  } while (vehicles.firstRate < range.least || vehicles.secondRate > range.most);
+  } while (!CanBeRates(vehicles, range));
 }
 
 // Quarter hours below ten hours, but not none: 39 of 40 draws are accepted.
@@ -103,7 +113,7 @@ Fraction TwoVehicles::Hours() const {
   return HoursOf(minutes);
 }
 
-Fraction TwoVehicles::HeadStart() const {
+Fraction TwoVehicles::GapAtStart() const {
   return Fraction{firstRate, 1} * Hours();
 }
 
@@ -116,6 +126,24 @@ Motion TwoVehicles::Relative() const {
   const bool asksTime = kind == TwoVehiclesKind::CatchUp || kind == TwoVehiclesKind::TimeApart;
   motion.asked = asksTime ? MotionPart::Time : MotionPart::Distance;
   return motion;
+}
+
+std::string MilesNumber(const Fraction& miles) {
+  const int whole = miles.num / miles.den;
+  if (whole == 0) return MixedText(miles);
+  const Fraction rest = miles - Fraction{whole, 1};
+  return percents::DecimalOf(whole) + (rest.num == 0 ? "" : tutor::Gap + ValueText(rest));
+}
+
+std::string MilesText(const Fraction& miles) {
+  return MilesNumber(miles) + tutor::Gap + "mile" + (Fraction{1, 1} < miles ? "s" : "");
+}
+
+std::string MilesQuotient(int numerator, int denominator) {
+  const std::string above = percents::DecimalOf(numerator);
+  if (denominator == 1) return above;
+  const bool hasComma = above.find(',') != std::string::npos;  // which would end the numerator
+  return (hasComma ? "(" + above + ")" : above) + "/" + NumStr(denominator);
 }
 
 std::vector<std::string> TwoVehicles::Question() const {
@@ -133,8 +161,7 @@ std::vector<std::string> TwoVehicles::Question() const {
               "In how many hours will the second " + noun + " catch up with the first?"};
     case TwoVehiclesKind::TimeApart:
       return {apart, bothRates,
-              "After how much time will they be " + QuantityText(Relative().Distance(), "mile") +
-                  " apart?"};
+              "After how much time will they be " + MilesText(Relative().Distance()) + " apart?"};
     case TwoVehiclesKind::DistanceApart:
       return {apart, bothRates, "How far apart will they be after " + DurationText(minutes) + "?"};
     case TwoVehiclesKind::SameRate:

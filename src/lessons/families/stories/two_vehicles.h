@@ -37,7 +37,7 @@ struct TwoVehicles {
   bool Follows() const;
   Fraction Hours() const;
   // How far the first one is when the second one leaves, for those that follow.
-  Fraction HeadStart() const;
+  Fraction GapAtStart() const;
   // One motion in place of two: how fast the distance between them changes, how long, and how far
   // that is.  At the same rate it is the way of the head start, after which nothing changes.
   Motion Relative() const;
@@ -45,6 +45,13 @@ struct TwoVehicles {
   // Sentences, the last one asks.
   std::vector<std::string> Question() const;
 };
+
+// "1,383 3/4 miles", "1 mile".
+std::string MilesText(const Fraction& miles);
+// A fraction that is not mixed, for built-up lines: "(5,535)/4", "9/4", "1,250".
+std::string MilesQuotient(int numerator, int denominator);
+// The number of miles without a unit, with a comma from 1,000 on: "1,383 3/4".
+std::string MilesNumber(const Fraction& miles);
 
 // The right one and the mistakes, five shuffled boxes.
 void FillChoices(const TwoVehicles& vehicles, Problem& problem, RandomStream& random);

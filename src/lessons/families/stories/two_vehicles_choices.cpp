@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "engine/choices.h"
+#include "engine/mistakes.h"
 #include "lessons/families/stories/durations.h"
 #include "lessons/families/stories/motion_choices.h"
 #include "lessons/families/stories/two_vehicles.h"
@@ -36,7 +37,7 @@ bool HasMinutes(int minutes) {
   return minutes % kMinutesOfHour != 0;
 }
 
-// What a time that is read wrongly gives at a rate: miles, or hours for a number of hours.
+// What minutes that are read wrongly give at a rate: miles, or hours for a number of hours.
 void AddReadings(int minutes, const Fraction& rate, Mistakes& mistakes) {
   const Fraction full = FullHours(minutes);
   if (HasMinutes(minutes)) {
@@ -44,10 +45,21 @@ void AddReadings(int minutes, const Fraction& rate, Mistakes& mistakes) {
         {"reads the minutes as hundredths of an hour", rate * AsHundredths(minutes)});
     mistakes.push_back({"leaves the minutes out", rate * full});
     mistakes.push_back({"counts the minutes as a full hour", rate * (full + Whole(1))});
-  } else {
-    mistakes.push_back({"counts one hour too many", rate * (full + Whole(1))});
-    mistakes.push_back({"counts one hour too few", rate * (full - Whole(1))});
   }
+}
+
+// A full hour too many or too few in the time of both of them, or in the head start alone.
+void AddOtherHours(int minutes, const Fraction& rate, Mistakes& mistakes) {
+  if (HasMinutes(minutes)) return;
+  mistakes.push_back({"counts one hour too many", rate * (FullHours(minutes) + Whole(1))});
+  mistakes.push_back({"counts one hour too few", rate * (FullHours(minutes) - Whole(1))});
+}
+void AddOtherHeadStarts(int minutes, const Fraction& rate, Mistakes& mistakes) {
+  if (HasMinutes(minutes)) return;
+  mistakes.push_back(
+      {"makes the head start one hour too long", rate * (FullHours(minutes) + Whole(1))});
+  mistakes.push_back(
+      {"makes the head start one hour too short", rate * (FullHours(minutes) - Whole(1))});
 }
 
 // 2.4 hours read as 2 hours and 40 minutes.
@@ -58,7 +70,7 @@ void AddDecimalsAsMinutes(int minutes, Mistakes& mistakes) {
 }
 
 Mistakes MistakesAtCatchUp(const TwoVehicles& v) {
-  const Fraction gap = v.HeadStart();
+  const Fraction gap = v.GapAtStart();
   const Fraction closing = Whole(v.secondRate - v.firstRate);
   const int minutes = v.Relative().minutes;
   Mistakes mistakes = {
@@ -69,6 +81,9 @@ Mistakes MistakesAtCatchUp(const TwoVehicles& v) {
       {"counts the head start twice", HoursOf(2 * minutes)},
       {"takes the head start for the answer", v.Hours()}};
   AddReadings(v.minutes, Whole(v.firstRate) / closing, mistakes);
+  AddOtherHeadStarts(v.minutes, Whole(v.firstRate) / closing, mistakes);
+  // A head start of 1 hour in place of 2 is not multiplied by at all.
+  if (v.minutes == 2 * kMinutesOfHour) mistakes.pop_back();
   AddDecimalsAsMinutes(minutes, mistakes);
   return mistakes;
 }
@@ -86,10 +101,8 @@ Mistakes MistakesAtTimeApart(const TwoVehicles& v) {
   if (HasMinutes(v.minutes)) {
     mistakes.push_back({"leaves the part of an hour out", FullHours(v.minutes)});
     mistakes.push_back({"rounds up to a full hour", FullHours(v.minutes) + Whole(1)});
-  } else {
-    mistakes.push_back({"counts one hour too many", v.Hours() + Whole(1)});
-    mistakes.push_back({"counts one hour too few", v.Hours() - Whole(1)});
   }
+  AddOtherHours(v.minutes, Whole(1), mistakes);
   AddDecimalsAsMinutes(v.minutes, mistakes);
   return mistakes;
 }
@@ -103,9 +116,10 @@ Mistakes MistakesAtDistanceApart(const TwoVehicles& v) {
                        {"takes the mean of the rates", Reduced(sum, 2) * v.Hours()},
                        {"lets both go at the faster rate", Whole(2 * v.secondRate) * v.Hours()},
                        {"lets both go at the slower rate", Whole(2 * v.firstRate) * v.Hours()},
-                       {"counts both ways twice", Whole(2 * sum) * v.Hours()},
+                       {"doubles the gap", Whole(2 * sum) * v.Hours()},
                        {"forgets to multiply by the time", Whole(sum)}};
   AddReadings(v.minutes, Whole(sum), mistakes);
+  AddOtherHours(v.minutes, Whole(sum), mistakes);
   return mistakes;
 }
 
@@ -118,6 +132,7 @@ Mistakes MistakesAtSameRate(const TwoVehicles& v) {
       {"subtracts the two times", rate * HoursOf(std::abs(v.minutes - v.laterMinutes))},
       {"lets them go in opposite directions", rate * (v.Hours() + later + later)}};
   AddReadings(v.minutes, rate, mistakes);
+  AddOtherHeadStarts(v.minutes, rate, mistakes);
   return mistakes;
 }
 
@@ -135,7 +150,7 @@ Mistakes MistakesAt(const TwoVehicles& v) {
   return {};
 }
 
-// How round the right time is, in minutes: wrong ones are as round, or it would stand out.
+// How round the right time is, in minutes: wrong ones that have to be rounded are as round.
 int Roundness(int minutes) {
   for (const int step : {15, 5})
     if (minutes % step == 0) return step;
@@ -153,8 +168,9 @@ class TwoVehiclesChoices {
   TwoVehiclesChoices(const TwoVehicles& vehicles, Problem& problem)
       : vehicles_(vehicles),
         motion_(vehicles.Relative()),
-        choices_(problem, choice_kind::FiveShuffled,
-                 [this](const Fraction& value) { return motion_.ValueText(value); }) {}
+        choices_(problem, choice_kind::FiveShuffled, [this](const Fraction& value) {
+          return AsksTime() ? motion_.ValueText(value) : MilesText(value);
+        }) {}
   void Fill(RandomStream& random);
 
  private:
@@ -170,12 +186,11 @@ class TwoVehiclesChoices {
   std::vector<Fraction> offered_;  // values
 };
 
-// Times are as round as the right one; one that is rounded for this tells it in its name.
+// Times with parts of a minute are rounded, and the name tells it.
 MotionMistake TwoVehiclesChoices::AsChoice(const MotionMistake& mistake) const {
-  const bool isReadOff = mistake.name == kDecimalsAsMinutes;  // no arithmetic to round
-  if (!AsksTime() || isReadOff) return mistake;
-  const Fraction rounded = Rounded(mistake.value, Roundness(motion_.minutes));
-  return {rounded == mistake.value ? mistake.name : mistake.name + " and rounds", rounded};
+  const bool wholeMinutes = kMinutesOfHour % mistake.value.den == 0;
+  if (!AsksTime() || wholeMinutes) return mistake;
+  return {mistake.name + std::string(kRounded), Rounded(mistake.value, Roundness(motion_.minutes))};
 }
 
 // Distances are quarter miles.

@@ -1,8 +1,8 @@
 #include "lessons/families/stories/two_vehicles_explanation.h"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
-#include <vector>
 
 #include "display/animation.h"
 #include "display/print_cells.h"
@@ -32,12 +32,13 @@ constexpr int kMinutesOfHour = 60;
 
 // Rows: the problem, the figure, the table or the working in its place, the box with words.
 constexpr double kProblemRow = 4;
-constexpr double kFigureRow = 9.2;
-constexpr double kTableRow = 13;
-constexpr double kRateRow = 12.6;
-constexpr double kWorkRow = 14.8;
-constexpr double kSecondWorkRow = 18.3;
-constexpr double kPlainWorkRow = 16.3;  // under a line without fractions
+constexpr double kFigureRow = 9.5;
+constexpr double kTableRow = 13.2;
+constexpr double kRateRow = 12.9;
+constexpr double kFormulaRow = 14.8;
+constexpr double kWorkRow = 14.3;
+constexpr double kSecondWorkRow = 17.6;
+constexpr double kPlainWorkRow = 16;  // under a line without fractions
 constexpr double kBoxRow = 20.7;
 constexpr double kWorkCol = 2;
 constexpr double kLastCol = 41;
@@ -48,11 +49,31 @@ double MilesOf(const Fraction& distance) {
   return static_cast<double>(distance.num) / distance.den;
 }
 
-// "= 375/2 = 187 1/2", the lines of working from one of them on.
-std::string EqualTo(const std::vector<std::string>& lines, std::size_t first) {
-  std::string chain;
-  for (std::size_t i = first; i < lines.size(); ++i) chain += (i > first ? " = " : "= ") + lines[i];
-  return chain;
+const std::string kTimes = " " + tutor::Times + " ";
+const std::string kDivided = " " + tutor::Divided + " ";
+
+// What stands behind "d =" first, and under it.
+struct Working {
+  std::string first;
+  std::string rest;
+};
+
+Working DistanceWorking(const Motion& motion) {
+  const std::string rate = NumStr(motion.rate);
+  const Fraction hours = motion.Hours();
+  const Fraction miles = motion.Distance();
+  Working working = {rate + kTimes + MixedText(hours), ""};
+  if (hours.den > 1 && hours.num > hours.den)
+    working.rest += "= " + rate + kTimes + ValueText(hours) + " ";
+  if (miles.den > 1) working.rest += "= " + MilesQuotient(miles.num, miles.den) + " ";
+  if (miles.den == 1 || miles.num > miles.den) working.rest += "= " + MilesNumber(miles);
+  return working;
+}
+
+// "9/4 = 2 1/4", "3/4" or "2".
+std::string ImproperAndMixed(const Fraction& hours) {
+  const bool isMixed = hours.den > 1 && hours.num > hours.den;
+  return ValueText(hours) + (isMixed ? " = " + MixedText(hours) : "");
 }
 
 class TwoVehiclesExplanation {
@@ -63,7 +84,7 @@ class TwoVehiclesExplanation {
  private:
   void ShowFacts();
   void ExplainHours();
-  void ExplainHeadStart();
+  void ExplainGapAtStart();
   void ExplainGapThatStays();
   void ExplainGapThatChanges();
   void ExplainFormula();
@@ -71,19 +92,22 @@ class TwoVehiclesExplanation {
   void Check();
   void TellAnswer();
 
-  void StartStep(const std::string& words);
+  void StartStep(const std::string& words, double top = kRateRow);
   void HideTable();
-  void ShowWorking(const Motion& motion);
+  void ShowNumbers(const std::string& letter, const std::string& numbers);
+  void ShowResult(const std::string& numbers, const std::string& rest);
+  void FindDistance(const Motion& motion);
+  void FindTime();
+  void FindTimeOfFraction();
   std::string CheckWords() const;
 
   bool AsksTime() const { return gap_.asked == MotionPart::Time; }
   bool IsSameRate() const { return vehicles_.kind == TwoVehiclesKind::SameRate; }
-  std::string Miles(const Fraction& distance) const { return QuantityText(distance, "mile"); }
 
   const TwoVehicles vehicles_;
   const Problem& problem_;
   const Motion gap_;
-  // How long each of them is on its way in the end, and how far it goes.
+  // How long each of them travels to the end, and how far.
   Fraction firstHours_;
   Fraction secondHours_;
   Fraction firstMiles_;
@@ -118,7 +142,7 @@ void TwoVehiclesExplanation::Explain() {
   PageEnd();
   ShowFacts();
   ExplainHours();
-  if (vehicles_.Follows()) ExplainHeadStart();
+  if (vehicles_.Follows()) ExplainGapAtStart();
   if (IsSameRate()) {
     ExplainGapThatStays();
   } else {
@@ -130,10 +154,9 @@ void TwoVehiclesExplanation::Explain() {
   TellAnswer();
 }
 
-// Words below, and room for new working above them.
-void TwoVehiclesExplanation::StartStep(const std::string& words) {
-  constexpr double kTop = kWorkRow - 1.2;  // above the numerators
-  ClearRows(kTop, kBoxRow - kTop);
+// Words below, and room for new working above them, from a row on.
+void TwoVehiclesExplanation::StartStep(const std::string& words, double top) {
+  ClearRows(top, kBoxRow - top);
   SayInBoxAnew(words);
 }
 
@@ -153,17 +176,17 @@ void TwoVehiclesExplanation::ShowFacts() {
                            : isWhole ? MixedText(vehicles_.Hours())
                                      : "";
   FillJourney(Journey::A, NumStr(vehicles_.firstRate), time, "");
-  FillJourney(Journey::B, NumStr(vehicles_.secondRate), follows ? "0" : time, "");
+  FillJourney(Journey::B, NumStr(vehicles_.secondRate), follows ? "" : time, "");
   SayInBox("Let's summarize what we know.");
   if (follows) {
-    roads_.GoTo(MilesOf(vehicles_.HeadStart()), 0);
-    SayInBox("B leaves now.  A has a head start.");
+    roads_.GoTo(MilesOf(vehicles_.GapAtStart()), 0);
+    SayInBox(Text("B leaves now.  A has a head start of {}.", DurationText(vehicles_.minutes)));
   } else {
     roads_.GoTo(MilesOf(firstMiles_), MilesOf(secondMiles_));
     if (AsksTime()) SayInBox("Both go for the same time t.");
     if (!AsksTime()) SayInBox("Both go for the same time.");
   }
-  roads_.ShowGap(vehicles_.kind == TwoVehiclesKind::TimeApart ? Miles(gap_.Distance()) : "?");
+  roads_.ShowGap(vehicles_.kind == TwoVehiclesKind::TimeApart ? MilesText(gap_.Distance()) : "?");
   PageEnd();
 }
 
@@ -180,22 +203,70 @@ void TwoVehiclesExplanation::ExplainHours() {
   PageEnd();
 }
 
-// The numbers of its formula, and under them what they give.
-void TwoVehiclesExplanation::ShowWorking(const Motion& motion) {
-  const std::vector<std::string> lines = WorkingLines(motion);
+void TwoVehiclesExplanation::ShowNumbers(const std::string& letter, const std::string& numbers) {
   StartStep("We put in the numbers.");
-  ShowAt(kWorkRow, LetterOf(motion.asked) + " = " + lines.front(), kWorkCol);
+  ShowAt(kWorkRow, letter + " = " + numbers, kWorkCol);
   PageEnd();
-  SayInBoxAnew("Simplify the expression to find the " + NameOf(motion.asked) + ".");
-  std::string rest = EqualTo(lines, 1);
-  if (StackedTextWidth(rest) > kLastCol - kWorkCol) rest = EqualTo(lines, 2);
+}
+
+// Under the numbers, in the place of what stood there before.
+void TwoVehiclesExplanation::ShowResult(const std::string& numbers, const std::string& rest) {
+  constexpr double kTop = kSecondWorkRow - 1.4;
+  ClearRows(kTop, kBoxRow - kTop);
   const double underSign = kWorkCol + 2;
-  const bool isBuiltUp = (lines.front() + rest).find('/') != std::string::npos;
+  const bool isBuiltUp = (numbers + rest).find('/') != std::string::npos;
   ShowAt(isBuiltUp ? kSecondWorkRow : kPlainWorkRow, rest,
          std::min(underSign, kLastCol - StackedTextWidth(rest)));
 }
 
-void TwoVehiclesExplanation::ExplainHeadStart() {
+void TwoVehiclesExplanation::FindDistance(const Motion& motion) {
+  const Working working = DistanceWorking(motion);
+  ShowNumbers("d", working.first);
+  SayInBoxAnew("Simplify the expression to find the distance.");
+  ShowResult(working.first, working.rest);
+}
+
+void TwoVehiclesExplanation::FindTime() {
+  const Fraction miles = gap_.Distance();
+  const Fraction hours = gap_.Hours();
+  const std::string numbers = MilesNumber(miles) + kDivided + NumStr(gap_.rate);
+  ShowNumbers("t", numbers);
+  if (miles.den > 1) return FindTimeOfFraction();
+  SayInBoxAnew("Simplify the expression to find the time.");
+  if (hours.den == 1) return ShowResult(numbers, "= " + NumStr(hours.num));
+  const int common = std::gcd(miles.num, gap_.rate);
+  if (common > 1) SayInBox(Text("We reduce by {}.", common));
+  const std::string quotient = common > 1 ? MilesQuotient(miles.num, gap_.rate) + " = " : "";
+  ShowResult(numbers, "= " + quotient + ImproperAndMixed(hours));
+}
+
+// A fraction of miles is divided in two steps.
+void TwoVehiclesExplanation::FindTimeOfFraction() {
+  const Fraction miles = gap_.Distance();
+  const std::string rate = NumStr(gap_.rate);
+  const std::string quotient = MilesQuotient(miles.num, miles.den);
+  const std::string product = "= " + quotient + kTimes + "1/" + rate;
+  SayInBoxAnew(
+      Text("Simplify the expression to find the time.  We divide by {}, so we multiply by 1/{}.",
+           rate, rate));
+  ShowResult("", "= " + quotient + kDivided + rate + " " + product);
+  PageEnd();
+  const int common = std::gcd(miles.num, gap_.rate);
+  const int above = miles.num / common;
+  const int below = gap_.rate / common;
+  std::string result = product + " = ";
+  if (below > 1) result += Text("{}/({}{}{}) = ", above, miles.den, kTimes, below);
+  if (common == 1) {
+    SayInBoxAnew("We multiply.");
+  } else {
+    SayInBoxAnew(Text("{} = {}", MilesQuotient(miles.num, 1) + kDivided + NumStr(common), above) +
+                 (below > 1 ? Text(" and {} = {}", rate + kDivided + NumStr(common), below) : "") +
+                 Text(", so we reduce by {}.", common));
+  }
+  ShowResult("", result + ImproperAndMixed(gap_.Hours()));
+}
+
+void TwoVehiclesExplanation::ExplainGapAtStart() {
   Motion headStart;
   headStart.rate = vehicles_.firstRate;
   headStart.minutes = vehicles_.minutes;
@@ -203,8 +274,8 @@ void TwoVehiclesExplanation::ExplainHeadStart() {
                R"(\z.)");
   PageEnd();
   HideTable();
-  ShowWorking(headStart);
-  roads_.ShowGap(Miles(vehicles_.HeadStart()));
+  FindDistance(headStart);
+  roads_.ShowGap(MilesText(vehicles_.GapAtStart()));
   PageEnd();
 }
 
@@ -212,27 +283,28 @@ void TwoVehiclesExplanation::ExplainGapThatStays() {
   StartStep(
       Text("The gap is {} when B leaves.  Does it grow, shrink or stay when B follows at the "
            "same rate?",
-           Miles(vehicles_.HeadStart())));
+           MilesText(vehicles_.GapAtStart())));
   PageEnd();
   roads_.GoTo(MilesOf(firstMiles_), MilesOf(secondMiles_));
-  roads_.ShowGap(Miles(vehicles_.HeadStart()));
+  roads_.ShowGap(MilesText(vehicles_.GapAtStart()));
   SayInBoxAnew(Text("In each hour both go {}.  So the gap stays, also after {}.",
-                    Miles({vehicles_.firstRate, 1}), DurationText(vehicles_.laterMinutes)));
+                    MilesText({vehicles_.firstRate, 1}), DurationText(vehicles_.laterMinutes)));
   PageEnd();
 }
 
 void TwoVehiclesExplanation::ExplainGapThatChanges() {
   const bool grows = !vehicles_.Follows();
   StartStep(Text("In each hour A goes {}, and B {}.  How does the gap change?",
-                 Miles({vehicles_.firstRate, 1}), Miles({vehicles_.secondRate, 1})));
+                 MilesText({vehicles_.firstRate, 1}), MilesText({vehicles_.secondRate, 1})));
   PageEnd();
   if (grows) HideTable();
   const int larger = grows ? vehicles_.firstRate : vehicles_.secondRate;
   const int other = grows ? vehicles_.secondRate : vehicles_.firstRate;
   SayInBoxAnew(
-      grows ? "They go in opposite directions, so it grows.  We add the rates.  This is r, and the "
-              "gap is d."
-            : "B is faster, so it shrinks.  We subtract the rates.  This is r, and the gap is d.");
+      grows ? "They go in opposite directions, so the gap grows.  We add the rates.  Let r be the "
+              "sum and d the gap."
+            : "B is faster, so the gap shrinks.  We subtract the rates.  Now r is the difference, "
+              "and d is the gap.");
   ShowAt(kRateRow, Text("r = {} {} {} = {}", larger, grows ? "+" : "-", other, gap_.rate),
          kWorkCol);
   PageEnd();
@@ -242,15 +314,17 @@ void TwoVehiclesExplanation::ExplainFormula() {
   const std::string wanted = "Since we want to find the " + NameOf(gap_.asked);
   const std::string formula = R"(the formula \r)" + kFormula + R"(\z)";
   if (AsksTime()) {
-    StartStep(wanted + ", we should rewrite " + formula + ".");
+    StartStep(wanted + ", we should rewrite " + formula + ".", kFormulaRow);
     SayInBox("We divide both sides by r.");
-    ShowAt(kWorkRow, WithoutBreaks("t = d " + tutor::Divided + " r"), kWorkCol);
+    ShowAt(kFormulaRow, WithoutBreaks("t = d " + tutor::Divided + " r"), kWorkCol);
+    PageEnd();
+    FindTime();
   } else {
-    StartStep(wanted + ", we use " + formula + ".");
-    ShowAt(kWorkRow, kFormula, kWorkCol);
+    StartStep(wanted + ", we use " + formula + ".", kFormulaRow);
+    ShowAt(kFormulaRow, kFormula, kWorkCol);
+    PageEnd();
+    FindDistance(gap_);
   }
-  PageEnd();
-  ShowWorking(gap_);
   PageEnd();
 }
 
@@ -264,35 +338,34 @@ void TwoVehiclesExplanation::ExplainMinutes() {
   PageEnd();
 }
 
-// The whole table: who was how long on the way, and how far did it come?
+// The whole table: how long did each of them travel, and how far?
 void TwoVehiclesExplanation::Check() {
-  ClearRows(kRateRow - 0.3, kBoxRow - kRateRow + 0.3);
+  ClearRows(kRateRow, kBoxRow - kRateRow);
   ShowJourneyTable(kTableRow, vehicles_.name);
   FillJourney(Journey::A, NumStr(vehicles_.firstRate), MixedText(firstHours_),
-              MixedText(firstMiles_), Blue);
+              MilesNumber(firstMiles_), Blue);
   FillJourney(Journey::B, NumStr(vehicles_.secondRate), MixedText(secondHours_),
-              MixedText(secondMiles_), Blue);
+              MilesNumber(secondMiles_), Blue);
   if (vehicles_.kind == TwoVehiclesKind::CatchUp)
     roads_.GoTo(MilesOf(firstMiles_), MilesOf(secondMiles_));
-  if (vehicles_.kind == TwoVehiclesKind::DistanceApart) roads_.ShowGap(Miles(gap_.Distance()));
+  if (vehicles_.kind == TwoVehiclesKind::DistanceApart) roads_.ShowGap(MilesText(gap_.Distance()));
   SayInBoxAnew(CheckWords());
   PageEnd();
 }
 
 std::string TwoVehiclesExplanation::CheckWords() const {
-  const std::string first = MixedText(firstMiles_);
-  const std::string second = MixedText(secondMiles_);
-  const std::string gap = MixedText(gap_.Distance());
+  const std::string first = MilesNumber(firstMiles_);
+  const std::string second = MilesNumber(secondMiles_);
+  const std::string gap = MilesNumber(gap_.Distance());
   switch (vehicles_.kind) {
     case TwoVehiclesKind::CatchUp:
-      return Text(
-          "Check:  A goes longer, by its head start.  Both are {} from {}.  The gap is gone.",
-          Miles(firstMiles_), vehicles_.town);
+      return Text("Check:  A travels {} longer.  Both are {} from {}.  The gap is gone.",
+                  DurationText(vehicles_.minutes), MilesText(firstMiles_), vehicles_.town);
     case TwoVehiclesKind::SameRate:
-      return Text("Check:  A goes {} longer than B.  The gap is {}.",
+      return Text("Check:  A travels {} longer than B.  The gap is {}.",
                   DurationText(vehicles_.minutes), first + " - " + second + " = " + gap);
     default:
-      return Text("Check:  both ways together are the gap.  {}.",
+      return Text("Check:  the two distances add up to the gap.  {}.",
                   first + " + " + second + " = " + gap);
   }
 }
