@@ -27,6 +27,7 @@ void OppositeDirections() {
   SayAt(2,
         "Two trains leave Northton at the same time in opposite directions.  A goes at 40 mph and "
         R"(B at 60 mph.  The distance between them is the \cgap\z.)");
+  PageEnd();
   TwoRoads roads(8, RoadsGo::OppositeWays, 120, 180);
   roads.Draw("Northton");
   SayAt(12, "How large is the gap after 1 hour?");
@@ -125,16 +126,15 @@ void TimeApartWithFraction() {
 void SameRate() {
   NewScreen();
   SayAt(2,
-        "Car A left Westville 2 hours ago.  Its rate is 40 mph.  Now car B leaves and follows it "
-        R"(at the same rate.  A has a \chead start\z of 2 hours.)");
-  TwoRoads roads(7.5, RoadsGo::SameWay, 200, 200);
+        "Car A left Westville 2 hours ago at 40 mph.  Now car B follows it at 40 mph, too.  "
+        R"(A has a \chead start\z of 2 hours.)");
+  Say("How large is the gap?");
+  PageEnd();
+  TwoRoads roads(8, RoadsGo::SameWay, 200, 200);
   roads.Draw("");
   roads.Place(80, 0);
-  roads.ShowGap("?");
-  SayAt(12, "How large is the gap?");
-  PageEnd();
   roads.ShowGap("80 miles");
-  Say(Text("It is {} miles.  How large is it 3 hours from now?", "40" + kTimes + "2 = 80"));
+  SayAt(12, Text("{}.  And 3 hours from now?", "40" + kTimes + "2 = 80"));
   PageEnd();
   roads.GoTo(200, 120);
   roads.ShowGap("80 miles");
@@ -158,16 +158,18 @@ void CatchingUp() {
   SayAt(2,
         "Train A left Northton 2 hours ago.  Its rate is 40 mph.  Now train B leaves and follows "
         "it at 60 mph.");
-  TwoRoads roads(6.5, RoadsGo::SameWay, 240, 240);
+  Say("How large is the gap now?");
+  PageEnd();
+  TwoRoads roads(8, RoadsGo::SameWay, 240, 240);
   roads.Draw("");
   roads.Place(80, 0);
   roads.ShowGap("80 miles");
-  SayAt(11, "How large is the gap 1 hour from now?");
+  SayAt(12, "How large is it 1 hour from now?");
   PageEnd();
   roads.GoTo(120, 60);
   roads.ShowGap("60 miles");
-  Say(Text(R"(It is {} miles.  B gains {} miles in each hour:  we \ysubtract the rates\z.)",
-           "120 - 60 = 60", "60 - 40 = 20"));
+  Say(Text(R"(60 miles:  B gains {} miles in each hour.  We \ysubtract the rates\z.)",
+           "60 - 40 = 20"));
   Say(R"(\yTry it:\z  When does B catch up with A?)");
   PageEnd();
   roads.GoTo(160, 120);
@@ -182,27 +184,15 @@ void CatchingUp() {
 
 void CheckCatchingUp() {
   NewScreen();
-  SayAt(2,
-        "Check:  B goes at 60 mph for 4 hours.  How long does A travel, and how far does each one "
-        "go?");
-  ShowJourneyTable(5.3, "Train");
-  FillJourney(Journey::A, "40", "", "");
-  FillJourney(Journey::B, "60", "4", "");
+  SayAt(2, "Check:  B travels 4 hours, A 2 hours longer.  Both go 240 miles.");
+  ShowJourneyTable(4.5, "Train");
+  FillJourney(Journey::A, "40", "6", "240");
+  FillJourney(Journey::B, "60", "4", "240");
+  SayAt(12.5, R"(\yTry it:\z  Kim divides 80 by 100, Lee 80 by 60, Max 40 by 20.  What is wrong?)");
   PageEnd();
-  FillJourney(Journey::A, "", "6", "240", Blue);
-  FillJourney(Journey::B, "", "", "240", Blue);
-  SayAt(12.8, "A travels 2 hours longer.  Both go 240 miles.  There B catches up.");
-  Say(R"(\yWatch out:\z  The answer is 4 hours, not 6.  It counts from now, when B leaves.)");
-  PageEnd();
-  ClearBelow(12.8);
-  PaperBox({"Kim:  80" + kDivided + "100", "Lee:  80" + kDivided + "60",
-            "Max:  40" + kDivided + "20 = 2 hours"},
-           13);
-  Say(R"(\yTry it:\z  What is wrong?)");
-  PageEnd();
-  ClearBelow(17);
-  SayAt(17.5, "Kim adds the rates.  Lee forgets that A goes on, too.");
-  Say("Max forgets the head start of 2 hours:  40 miles are the gap after 1 hour.");
+  Say("Kim adds the rates.  Lee forgets that A goes on, and Max the head start:  40 miles are the "
+      "gap after 1 hour.");
+  Say(R"(\yWatch out:\z  It takes 4 hours, not 6.)");
   PageEnd();
 }
 
@@ -233,7 +223,7 @@ void AddOrSubtract() {
   RuleBox("How Fast Does the Gap Change?",
           {"Opposite directions:  add the rates.", "One follows:  subtract the rates."},
           {.row = 3});
-  Say(R"(\yTry it:\z  Both go at 70 mph.  How does the gap change?)");
+  Say(R"(\yTry it:\z  And if both go at 70 mph?)");
   PageEnd();
   Say(Text("Opposite directions:  it grows by {} miles in each hour.", "70 + 70 = 140"));
   Say(Text("One follows:  {}.  The gap stays the same.", "70 - 70 = 0"));
