@@ -52,8 +52,9 @@ void WordsForAddition() {
   Say(R"(\yTry it:\z  What do we write for this?)");
   Show("the quantity B more than 7", 5);
   PageEnd();
-  Say(R"(B + 7 is an \calgebraic expression\z, with symbols in place of words.)");
-  Say("In a sum, 7 + B is the same number.  Where does the order matter?");
+  Say(R"(It is 7 + B, or B + 7.  This \calgebraic expression\z is \cequivalent\z to the words:  )"
+      "it means the same number.");
+  Say("Where does the order matter?");
   PageEnd();
 }
 
@@ -91,7 +92,7 @@ void WordsForSubtraction() {
   PaperBox({"the difference of A and 3", "the quantity A minus 3", "the quantity A decreased by 3"},
            4.5);
   PageEnd();
-  SayAt(9.5, "Like ~less than~, these words turn the order of a difference:");
+  SayAt(9.5, "Like ~less than~, these words reverse the order of a difference:");
   ShowAt(13, "the quantity B subtracted from 9", 3);
   SayAt(15, R"(\yTry it:\z  What is the expression?)");
   PageEnd();
@@ -131,11 +132,12 @@ void FactorAtTheRightSide() {
   FillPair(2, "2", "12");
   FillPair(3, "10", "60");
   FillPair(4, "T", "6" + kDot + "T");
-  Say("The 6 stands beside the smaller number.");
+  Say("60 = 6 " + tutor::Times + " 10:  the 6 stands beside T.");
   PaperBox({"S = 6" + kDot + "T,  \\rnot 6" + kDot + "S = T\\z"});
   Say(R"(\yTry it:\z  Bill has B books.  Jill has 5 times as many.  How many is that?)");
   PageEnd();
-  Say(Text(R"(Jill has more.  The 5 stands beside B:  \y{}\z.)", "5" + kDot + "B"));
+  Say(Text(R"(Jill has more.  So the 5 stands beside B, the smaller number:  \y{}\z.)",
+           "5" + kDot + "B"));
   PageEnd();
 }
 
@@ -188,7 +190,7 @@ void PartOfTheWords() {
 
 void PartInAPart() {
   NewScreen();
-  SayAt(3, R"(Each ~the~ opens a new part.  A part ends when it has its \ytwo numbers\z.)");
+  SayAt(3, R"(Each ~the~ opens a part.  It ends at its \ysecond number\z, after ~and~ or ~to~.)");
   SayAt(6, R"(\yTry it:\z  Which is the innermost part?)");
   ShowAt(8, "the quantity D minus the sum of A and B", 1);
   PageEnd();
@@ -201,7 +203,7 @@ void PartInAPart() {
   SayAt(15, "Now the ratio of the quantity D minus the sum of A and B to 4:");
   SayAt(17.5, "What is divided by 4?");
   PageEnd();
-  SayAt(17.5, R"(All of \yD - (A + B)\z.  We put brackets there:)");
+  SayAt(17.5, R"(All of \yD - (A + B)\z:  ~to 4~ ends the ratio.  We put brackets there:)");
   ShowAt(20, "the ratio of [D - (A + B)] to 4", 1);
   ShowAt(22, R"(\y[D - (A + B)])" + kDivide + R"(4\z)", 12);
   PageEnd();
@@ -213,19 +215,23 @@ void FromSymbolsToWords() {
   NewScreen();
   SayAt(3, "Now the other way.  How do we say this in English?");
   ShowAt(5.5, "C - (A" + kDot + "B)", 13);
-  SayAt(7, "Where do we begin?");
+  SayAt(7, R"(\yTry it:\z  Which part comes first?)");
   PageEnd();
   ShowAt(5.5, Text(R"(C - \y{}\z)", "(A" + kDot + "B)"), 13);
   SayAt(7, "We begin inside the parentheses, and take that product from C:");
-  ShowAt(10, R"(\ythe difference of C and\z)", 4);
-  ShowAt(11, "the product of A and B", 8);
+  ShowAt(10, "the difference of C and", 4);
+  ShowAt(11, R"(\ythe product of A and B\z)", 8);
   PageEnd();
-  SayAt(13, R"(\yWatch out:\z  With ~less than~, what is taken away is named first.)");
-  PaperBox({Text(R"(\rnot  the quantity C less than {}\z)", "(A" + kDot + "B)")});
+  SayAt(13, R"(\yWatch out:\z  ~less than~ reverses this.)");
+  const std::string product = "(A" + kDot + "B)";
+  PaperBox({Text("the quantity {} less than C,", product),
+            Text(R"(\rnot the quantity C less than {}\z)", product)});
   Say(R"(\yTry it:\z  Say (A - 5))" + kDivide + "B in English.");
   PageEnd();
+  ClearBelow(13);
+  SayAt(13, R"(\yTry it:\z  Say (A - 5))" + kDivide + "B in English.");
   Say("the quotient of the difference of A and 5 and B", {.col = 3});
-  Say("Check:  it is something divided by B.");
+  Say("One ~and~ belongs to the difference, the last one to the quotient.");
   PageEnd();
 }
 
@@ -262,6 +268,7 @@ class TranslatingWordsIntoExpressions final : public LessonScript {
   std::string NameInWords(const NestSlip& slip) const;
 
   Nest nest_;
+  std::vector<Nest> wrong_;
   bool toAlgebra_ = true;  // the words are given
 };
 
@@ -296,14 +303,14 @@ bool TranslatingWordsIntoExpressions::FillChoices(RandomStream& random) {
   const std::vector<NestSlip> slips = DrawSlips(nest_, random);
   int slot = random.Rand(1, 5);
   if (slot == 5) slot = 1;
-  std::vector<Nest> nests = {nest_};
+  wrong_.clear();
   problem.kind = choice_kind::FiveShuffled;
   problem.Right(slot, ChoiceTextOf(nest_));
   for (int i = 1; const NestSlip& slip : slips) {
     if (slip.nest.BeginsTwice()) return false;
-    if (std::ranges::any_of(nests, [&](const Nest& n) { return n.SameValue(slip.nest); }))
-      return false;
-    nests.push_back(slip.nest);
+    const auto sameValue = [&](const Nest& nest) { return nest.SameValue(slip.nest); };
+    if (sameValue(nest_) || std::ranges::any_of(wrong_, sameValue)) return false;
+    wrong_.push_back(slip.nest);
     const std::string name = NameInWords(slip);
     if (std::ranges::count(problem.choices, name, &Choice::mistake) != 0) return false;
     if (i == slot) ++i;
@@ -334,9 +341,9 @@ void TranslatingWordsIntoExpressions::ShowProblem() {
 void TranslatingWordsIntoExpressions::ExplainProblem() {
   ProblemBanner();
   if (toAlgebra_)
-    ExplainWords(nest_);
+    ExplainWords(nest_, wrong_);
   else
-    ExplainSymbols(nest_);
+    ExplainSymbols(nest_, wrong_);
   if (toAlgebra_) return SayInBoxAnew(ConclusionText(problem, 'b'));
   SayInBoxAnew("The answer is:");
   SayInBox(R"(\b)" + RightText(problem) + R"(\z)");

@@ -28,18 +28,20 @@ constexpr double kBoxRows = 9;
 
 class NestSteps {
  public:
-  explicit NestSteps(const Nest& nest) : nest_(nest) {}
+  NestSteps(const Nest& nest, const std::vector<Nest>& wrong) : nest_(nest), wrong_(wrong) {}
 
   void ExplainWords();
   void ExplainSymbols();
 
  private:
   void ShowWork(const std::string& text) const;
+  void ShowSymbols(const std::string& part) const;
   void ExplainLevelOfWords(std::size_t level);
   void ExplainLevelOfSymbols(std::size_t level);
   void CheckWithNumbers();
 
   const Nest& nest_;
+  const std::vector<Nest>& wrong_;  // the check shows that they are other numbers
 };
 
 // In the place of what stood there before.
@@ -113,14 +115,17 @@ void NestSteps::ExplainLevelOfWords(std::size_t level) {
   PageEnd();
 }
 
+// With a part in yellow, as its words are.
+void NestSteps::ShowSymbols(const std::string& part) const {
+  std::string symbols = nest_.Symbols();
+  symbols.replace(symbols.find(part), part.size(), InYellow(part));
+  ShowAt(kQuestionRow, symbols, kMathCol);
+}
+
 void NestSteps::ExplainSymbols() {
   ShowAt(kQuestionRow, nest_.Symbols(), kMathCol);
   PageEnd();
-  std::string highlighted = nest_.Symbols();
-  const std::string innermost = nest_.InsideOf(1);
-  if (nest_.levels.size() > 1)
-    highlighted.replace(highlighted.find(innermost), innermost.size(), InYellow(innermost));
-  ShowAt(kQuestionRow, highlighted, kMathCol);
+  ShowSymbols(nest_.levels.size() > 1 ? nest_.InsideOf(1) : nest_.Symbols());
   WhiteBox({.row = kBoxRow, .rows = kBoxRows});
   SayInBox(nest_.levels.size() > 1 ? "We begin inside the parentheses.  Which operation is it?"
                                    : "Which operation is it?");
@@ -132,6 +137,10 @@ void NestSteps::ExplainSymbols() {
 void NestSteps::ExplainLevelOfSymbols(std::size_t level) {
   const Phrase& phrase = nest_.levels[level].phrase;
   const auto [first, second] = OperandsOf(nest_, level);
+  if (level > 1) {
+    ShowSymbols(nest_.InsideOf(level));
+    ShowWork(InYellow(nest_.Words(level)));
+  }
   SayInBoxAnew(
       Text("It is {}.  We say ~{}~.", Words{NameOf(phrase.operation)}, Words{phrase.KeyWords()}));
   if (phrase.TurnsOrder())
@@ -139,12 +148,13 @@ void NestSteps::ExplainLevelOfSymbols(std::size_t level) {
   else if (OrderMatters(phrase.operation))
     SayInBox(Text("{} comes first, so it is named first.", first));
   PageEnd();
-  // The new words in yellow, around those that stood there.
+  // The part that is yellow in the symbols, with the new words around it.
   const Nest::Level& at = nest_.levels[level];
-  const std::string inside = R"(\z)" + nest_.Words(level) + R"(\y)";
-  ShowWork(level == 0 ? InYellow(nest_.Words(1))
-                      : InYellow(at.insideFirst ? phrase.Text(inside, at.operand)
-                                                : phrase.Text(at.operand, inside)));
+  const std::string inside = InYellow(nest_.Words(level));
+  if (level == 0)
+    ShowWork(InYellow(nest_.Words(1)));
+  else
+    ShowWork(at.insideFirst ? phrase.Text(inside, at.operand) : phrase.Text(at.operand, inside));
   if (level + 1 < nest_.levels.size())
     SayInBoxAnew(
         Text("What is done with {} in {}?", nest_.InsideOf(level + 1), nest_.Symbols(level + 2)));
@@ -170,14 +180,29 @@ std::string SymbolsWorkedOut(const ValuedNest& valued) {
   return text;
 }
 
+// "but 2 / 6 is not 3" of 6 / 2: the order matters, or else the operation does.
+std::string OtherWorkedOut(const ValuedNest& valued) {
+  Nest other = valued.nest;
+  Nest::Level& level = other.levels[0];
+  if (OrderMatters(level.phrase.operation))
+    level.insideFirst = !level.insideFirst;
+  else
+    level.phrase.operation =
+        level.phrase.operation == Operation::Add ? Operation::Multiply : Operation::Add;
+  std::string text =
+      WithoutBreaks(other.Symbols()) + " is not" + tutor::Gap + ValueText(valued.values[0]);
+  std::ranges::replace(text, tutor::Dot[0], tutor::Times[0]);
+  return "but " + text;
+}
+
 // Numbers in place of the letters: the words and the symbols must give the same value.
 void NestSteps::CheckWithNumbers() {
-  const ValuedNest valued = WithNumbers(nest_);
+  const ValuedNest valued = WithNumbers(nest_, wrong_);
   SayInBoxAnew("Check:  Let us say that " + valued.LettersText() + ".");
   if (nest_.levels.size() == 1) {
     const std::string value = ValueText(valued.values[0]);
-    SayInBox(Text("{} is {},  and {}.", Words{AtStart(valued.nest.Words())}, value,
-                  SymbolsWorkedOut(valued)));
+    SayInBox(Text("{} is {}.  And {}, {}.", Words{AtStart(valued.nest.Words())}, value,
+                  SymbolsWorkedOut(valued), Words{OtherWorkedOut(valued)}));
     return PageEnd();
   }
   SayInBox("What do the words give?  And what do the symbols give?");
@@ -190,12 +215,12 @@ void NestSteps::CheckWithNumbers() {
 
 }  // namespace
 
-void ExplainWords(const Nest& nest) {
-  NestSteps(nest).ExplainWords();
+void ExplainWords(const Nest& nest, const std::vector<Nest>& wrong) {
+  NestSteps(nest, wrong).ExplainWords();
 }
 
-void ExplainSymbols(const Nest& nest) {
-  NestSteps(nest).ExplainSymbols();
+void ExplainSymbols(const Nest& nest, const std::vector<Nest>& wrong) {
+  NestSteps(nest, wrong).ExplainSymbols();
 }
 
 }  // namespace course::stories

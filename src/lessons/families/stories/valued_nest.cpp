@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 #include <limits>
+#include <map>
+#include <optional>
 
 #include "mathkit/expressions.h"
 #include "mathkit/tutor_codes.h"
@@ -44,13 +46,29 @@ int BurdenOf(const Fraction& value) {
   return value.num > kLarge ? value.num / kLarge : 0;
 }
 
+using Numbers = std::map<std::string, int>;  // of each operand
+
+// Nothing where something would be divided by 0.
+std::optional<Fraction> ValueWith(const Numbers& numbers, const Nest& nest) {
+  Fraction value = {numbers.at(nest.start), 1};
+  for (const Nest::Level& level : nest.levels) {
+    const Fraction operand = {numbers.at(level.operand), 1};
+    const Fraction& second = level.insideFirst ? operand : value;
+    if (level.phrase.operation == Operation::Divide && second.num == 0) return {};
+    value = Result(level.phrase.operation, level.insideFirst ? value : operand, second);
+  }
+  return value;
+}
+
 // Tries numbers for the letters, from the inside out, and keeps the lightest burden.
 class NumberSearch {
  public:
-  explicit NumberSearch(const Nest& nest) : nest_(nest), tried_{nest, {}, {}} {
+  NumberSearch(const Nest& nest, const std::vector<Nest>& rivals)
+      : nest_(nest), rivals_(rivals), tried_{nest, {}, {}} {
     ForEachNumber(nest.start, {}, [&](int number) {
       tried_.nest.start = NumStr(number);
-      Try(0, {number, 1}, number == 1 ? 1 : 0);
+      numbers_[nest_.start] = number;
+      Try(0, {number, 1}, BurdenOfLetter(nest_.start, number));
     });
   }
 
@@ -81,9 +99,25 @@ class NumberSearch {
            std::ranges::any_of(nest_.levels, isIt, &Nest::Level::operand);
   }
 
+  // Where 1 stands, a factor and a divisor do the same.
+  static int BurdenOfLetter(const std::string& operand, int number) {
+    constexpr int kLetterOfOne = 40;
+    return number == 1 && !IsNumber(operand) ? kLetterOfOne : 0;
+  }
+
+  // The check proves nothing against a rival with the same value.
+  int BurdenOfRivals(const Fraction& value) const {
+    constexpr int kSameValue = 1000;
+    return kSameValue * static_cast<int>(std::ranges::count_if(rivals_, [&](const Nest& rival) {
+             return ValueWith(numbers_, rival) == value;
+           }));
+  }
+
   void Try(std::size_t level, const Fraction& inside, int burden) {
     if (burden >= least_) return;
     if (level == nest_.levels.size()) {
+      burden += BurdenOfRivals(inside);
+      if (burden >= least_) return;
       least_ = burden;
       best_ = tried_;
       return;
@@ -97,13 +131,17 @@ class NumberSearch {
       // 4 - 2 and 4 divided by 2 are both 2.
       const bool repeats = value == inside || value == operand;
       tried_.nest.levels[level].operand = NumStr(number);
+      numbers_[at.operand] = number;
       tried_.values.push_back(value);
-      Try(level + 1, value, burden + BurdenOf(value) + (number == 1 ? 1 : 0) + (repeats ? 1 : 0));
+      Try(level + 1, value,
+          burden + BurdenOf(value) + BurdenOfLetter(at.operand, number) + (repeats ? 1 : 0));
       tried_.values.pop_back();
     });
   }
 
   const Nest& nest_;
+  const std::vector<Nest>& rivals_;
+  Numbers numbers_;
   ValuedNest tried_;
   ValuedNest best_;
   std::vector<int> used_;
@@ -131,8 +169,8 @@ Nest ValuedNest::From(std::size_t level) const {
   return rest;
 }
 
-ValuedNest WithNumbers(const Nest& nest) {
-  ValuedNest valued = NumberSearch(nest).Best();
+ValuedNest WithNumbers(const Nest& nest, const std::vector<Nest>& rivals) {
+  ValuedNest valued = NumberSearch(nest, rivals).Best();
   const std::string symbols = nest.Symbols();
   const auto add = [&](const std::string& operand, const std::string& number) {
     if (!IsNumber(operand)) valued.made.emplace_back(operand, number);

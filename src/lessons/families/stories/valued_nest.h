@@ -22,8 +22,8 @@ struct ValuedNest {
   Nest From(std::size_t level) const;
 };
 
-// Small numbers, all different, with which every operation gives a positive whole number where that
-// is possible.
-ValuedNest WithNumbers(const Nest& nest);
+// Small numbers, all different, with which no rival of the same operands has the value of the nest,
+// and every operation gives a positive whole number, where that is possible.
+ValuedNest WithNumbers(const Nest& nest, const std::vector<Nest>& rivals);
 
 }  // namespace course::stories
