@@ -35,7 +35,8 @@ void OlderByYears() {
   Say(R"(\yTry it:\z  How old is Suzy if Bill is x years old?)");
   PageEnd();
   FillPair(4, "x", "x + 3");
-  Say(R"(She is \yx + 3\z years old.  The letter x stands for Bill's age, whatever it is.)");
+  Say(R"(She is \yx + 3\z years old.  We call x + 3 an \cexpression\z.)");
+  AddLine("The letter stands for Bill's age.  It may be k or m, too.");
   PageEnd();
 }
 
@@ -43,15 +44,15 @@ void TheOtherOne() {
   NewScreen();
   SayAt(3, "Suzy is 3 years older than Bill.  Now we know Suzy's age.  It is 20.");
   ShowPairedRows("Bill", "Suzy", kUnder, 1);
-  FillPair(1, "?", "20", 1);
+  FillPair(1, "?", "20", 1, WorkedOut::Nothing);
   Say("Who of them is younger?  How old is Bill?");
   PageEnd();
-  FillPair(1, "17", "20", 1);
+  FillPair(1, "17", "20", 1, WorkedOut::Above);
   Say(R"(Bill is younger.  So we \ysubtract\z:)");
   Show("20 - 3 = 17", 14);
   PageEnd();
   Say(R"(\yWatch out:\z  The word ~older~ does not always tell us to add.  We ask:)");
-  PaperBox({"Who is older?", "Whose age do we look for?"});
+  PaperBox({"1.  Who is older?", "2.  Whose age do we look for?"});
   PageEnd();
 }
 
@@ -59,7 +60,7 @@ void TheOtherLetter() {
   NewScreen();
   SayAt(3, "Dave is 4 years younger than Mary.  Dave is x years old.");
   ShowPairedRows("Dave", "Mary", kUnder, 1);
-  FillPair(1, "x", "?", 1);
+  FillPair(1, "x", "?", 1, WorkedOut::Nothing);
   Say(R"(\yTry it:\z  How old is Mary?)");
   PageEnd();
   FillPair(1, "x", "x + 4", 1);
@@ -68,10 +69,10 @@ void TheOtherLetter() {
   NewScreen();
   SayAt(3, "Dave is 4 years younger than Mary.  Now Mary is x years old.");
   ShowPairedRows("Dave", "Mary", kUnder, 1);
-  FillPair(1, "?", "x", 1);
+  FillPair(1, "?", "x", 1, WorkedOut::Nothing);
   Say(R"(\yTry it:\z  How old is Dave?)");
   PageEnd();
-  FillPair(1, "x - 4", "x", 1);
+  FillPair(1, "x - 4", "x", 1, WorkedOut::Above);
   Say(R"(Dave is younger, and we look for his age.  We subtract:  \yx - 4\z.)");
   PaperBox({R"(4 years less than x is x - 4,  \rnot 4 - x\z)"});
   PageEnd();
@@ -79,7 +80,8 @@ void TheOtherLetter() {
 
 void OlderByTimes() {
   NewScreen();
-  SayAt(3, R"(If Paul is 3 times older than Jill, his age is \y3 times\z her age.)");
+  SayAt(3, R"(Paul is 3 times older than Jill.  In this lesson it means:  his age is \y3 times\z )"
+           "her age.");
   ShowPairedRows("Jill", "Paul");
   FillPair(1, "2", "6");
   FillPair(2, "5", "15");
@@ -103,15 +105,18 @@ void YoungerByTimes() {
   ShowPairedRows("Bill", "Mary");
   FillPair(1, "2", "8");
   FillPair(2, "5", "20");
-  FillPair(3, "", "40");
-  FillPair(4, "", "x");
+  FillPair(3, "", "40", kPairs, WorkedOut::Nothing);
+  FillPair(4, "", "x", kPairs, WorkedOut::Nothing);
   Say("How old is Bill if Mary is 40?");
   PageEnd();
-  FillPair(3, "10", "40");
-  FillPair(4, "x" + kDivide + "4", "x");
-  Say(R"(Bill is younger, so we \ydivide\z:)");
+  FillPair(3, "10", "40", kPairs, WorkedOut::Above);
+  Say(R"(~4 times younger~ means:  we \ydivide by 4\z.)");
   Show("40" + kDivide + "4 = 10", 14);
-  Say("If Mary is x years old, Bill's age is:");
+  Say("And if Mary is x years old?");
+  PageEnd();
+  FillPair(4, "x" + kDivide + "4", "x", kPairs, WorkedOut::Above);
+  ClearBelow(13.5);
+  SayAt(14, "If Mary is x years old, Bill's age is:");
   Show("x" + kDivide + "4 = x/4", 14);
   PageEnd();
 }
@@ -128,22 +133,28 @@ void FactorAtTheYounger() {
   PageEnd();
   SayAt(8.5, "Let us put in Mary's 40 years and Bill's 10 years:");
   ShowAt(11, "40 = 4" + kTimes + "10", kFirstCol);
-  ShowAt(11, "4" + kTimes + "40 = 160,", kSecondCol);
-  ShowAt(12, "not 10", kSecondCol);
+  ShowAt(11, "4" + kTimes + "40 = 10", kSecondCol);
+  ShowAt(12, "true", kFirstCol);
+  ShowAt(12, "false", kSecondCol);
   PageEnd();
   SayAt(13.5, R"(The 4 stands beside B, the \yyounger\z one.)");
   PaperBox({R"(M = 4B,  \rnot 4M = B\z)"});
-  Say(R"(\yTry it:\z  Jill is 5 times younger than Dave.  Jill is x.  How old is Dave?)");
   PageEnd();
+  NewScreen();
+  SayAt(3, "Jill is 5 times younger than Dave.  Jill is x years old.");
+  ShowPairedRows("Jill", "Dave", kUnder, 1);
+  FillPair(1, "x", "?", 1, WorkedOut::Nothing);
+  Say(R"(\yTry it:\z  How old is Dave?)");
+  PageEnd();
+  FillPair(1, "x", "5x", 1);
   Say(R"(Dave is older.  His age is 5 times hers:  \y5x\z.)");
+  PaperBox({R"(5 times as old is 5x,  \rnot x/5 and not x + 5\z)"});
   PageEnd();
 }
 
 void OneTable() {
   NewScreen();
-  SayAt(3,
-        R"(Two questions:  \yDo we look for the older one's age or the younger one's?  Does the )"
-        R"(story say years or times?\z)");
+  PaperBox({"1.  Who is older?", "2.  Whose age do we look for?", "3.  Years or times?"}, 3);
   PrintCellTable table;
   table.heightPixels = 150;
   for (const double top : {34.0, 67.0})
@@ -162,15 +173,18 @@ void OneTable() {
   Say("The younger one's age, and the story says times:  we divide.");
   PageEnd();
   NewScreen();
-  SayAt(3, "Suzy is 6 years younger than Paul.  Paul is 15 years old.");
+  SayAt(3, "Suzy is 6 times older than Paul.  Suzy is k years old.");
   ShowPairedRows("Suzy", "Paul", kUnder, 1);
-  FillPair(1, "?", "15", 1);
-  Say(R"(\yTry it:\z  Answer the two questions.  How old is Suzy?)");
+  FillPair(1, "k", "?", 1, WorkedOut::Nothing);
+  Say(R"(\yTry it:\z  Answer the three questions.  How old is Paul?)");
   PageEnd();
-  FillPair(1, "9", "15", 1);
-  Say("We look for the younger one's age, and the story says years.  So we subtract:");
-  Show("15 - 6 = 9", 14);
-  Say("Check:  9 is 6 less than 15.");
+  FillPair(1, "k", "k" + kDivide + "6", 1);
+  Say("Suzy is older.  We look for the younger one's age, and the story says times.  So we "
+      "divide:");
+  Show("k" + kDivide + "6 = k/6", 14);
+  PageEnd();
+  Say("We always work out the answer first.  If it is not among the choices, the right one is "
+      "~None of the above~.");
   PageEnd();
 }
 
@@ -233,9 +247,9 @@ void SimpleWordProblems::ExplainProblem() {
 
 void SimpleWordProblems::FillAges(const std::string& asked) {
   if (ages_.asksForNumber)
-    FillPair(1, asked, ages_.KnownAge(), 1);
+    FillPair(1, asked, ages_.KnownAge(), 1, WorkedOut::Above);
   else
-    FillPair(1, ages_.KnownAge(), asked, 1);
+    FillPair(1, ages_.KnownAge(), asked, 1, WorkedOut::Below);
 }
 
 void SimpleWordProblems::ExplainMeaning() {
@@ -298,7 +312,7 @@ void SimpleWordProblems::Check() {
     SayInBoxAnew(
         Text("Check:  Let {} be {}.  Then {} is {} years old.", ages_.letter, known, ages_.Asked(),
              WorkingText(ages_.RightOperation(), NumStr(known), number) + " = " + NumStr(other)));
-  SayInBox(Text("{} is {} {} {}, as the story tells.", std::max(known, other), number,
+  SayInBox(Text("{} is {} {} {}, as the story says.", std::max(known, other), number,
                 Words{ages_.inTimes ? "times" : "more than"}, std::min(known, other)));
   PageEnd();
 }

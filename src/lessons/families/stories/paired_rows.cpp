@@ -19,11 +19,15 @@ void ShowPairedRows(const std::string& above, const std::string& below, double r
   page::CellTable(table, row);
 }
 
-void FillPair(int column, const std::string& above, const std::string& below, int pairs) {
+void FillPair(int column, const std::string& above, const std::string& below, int pairs,
+              WorkedOut workedOut) {
+  const auto colour = [&](WorkedOut place) {
+    return workedOut == place ? platform::colour::Blue : platform::colour::Black;
+  };
   picPrintCellCls(column);
   picPrintCellCls(pairs + column);
-  picPrintCellPrint(column, above, platform::colour::Black, kCellSize);
-  picPrintCellPrint(pairs + column, below, platform::colour::Blue, kCellSize);
+  picPrintCellPrint(column, above, colour(WorkedOut::Above), kCellSize);
+  picPrintCellPrint(pairs + column, below, colour(WorkedOut::Below), kCellSize);
 }
 
 }  // namespace course::stories

@@ -84,6 +84,8 @@ class NumberSearch {
     if (inside.den == 1 && inside.num > 1)
       for (const int number : {2 * inside.num, 3 * inside.num, inside.num + 2, inside.num + 5})
         numbers.push_back(number);
+    const bool isStart = inside.num == 0;
+    if (isStart) numbers.insert(numbers.end(), {15, 16, 18, 20, 24, 30});  // to divide twice
     numbers.push_back(1);
     for (const int number : numbers) {
       if (IsTaken(number)) continue;
