@@ -149,7 +149,7 @@ void SameRate() {
       "mph.  How far apart are they 4 hours from now?");
   PageEnd();
   Show("60" + kTimes + "1 1/2 = 60" + kTimes + "3/2 = 90");
-  Say("They are 90 miles apart, now and then.  The gap from the head start stays.");
+  Say("The gap from the head start stays:  they are 90 miles apart.");
   PageEnd();
 }
 
@@ -192,7 +192,7 @@ void CheckCatchingUp() {
   PageEnd();
   Say("Kim adds the rates.  Lee forgets that A goes on, and Max the head start:  40 miles are the "
       "gap after 1 hour.");
-  Say(R"(\yWatch out:\z  It takes 4 hours, not 6.)");
+  Say(R"(\yWatch out:\z  It is 4 hours, not 6 or 2.)");
   PageEnd();
 }
 

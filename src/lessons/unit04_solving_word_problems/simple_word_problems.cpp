@@ -80,8 +80,7 @@ void TheOtherLetter() {
 
 void OlderByTimes() {
   NewScreen();
-  SayAt(3, R"(Paul is 3 times older than Jill.  In this lesson it means:  his age is \y3 times\z )"
-           "her age.");
+  SayAt(3, R"(Paul is 3 times older than Jill.  In this lesson it means \y3 times her age\z.)");
   ShowPairedRows("Jill", "Paul");
   FillPair(1, "2", "6");
   FillPair(2, "5", "15");
@@ -110,7 +109,7 @@ void YoungerByTimes() {
   Say("How old is Bill if Mary is 40?");
   PageEnd();
   FillPair(3, "10", "40", kPairs, WorkedOut::Above);
-  Say(R"(~4 times younger~ means:  we \ydivide by 4\z.)");
+  Say(R"(~4 times younger~ means \ydivided by 4\z:)");
   Show("40" + kDivide + "4 = 10", 14);
   Say("And if Mary is x years old?");
   PageEnd();
