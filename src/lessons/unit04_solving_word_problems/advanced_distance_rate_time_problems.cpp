@@ -99,7 +99,7 @@ void TimeApart() {
   Say(R"(\yTry it:\z  What should we divide by?)");
   PageEnd();
   ClearBelow(5.5);
-  SayAt(6, Text("By {}, the sum.", "200 + 300 = 500"));
+  SayAt(6, Text("We divide by {}, the sum.", "200 + 300 = 500"));
   Say(Text("We divide both sides of {} by r:", WithoutBreaks("d = r " + tutor::Dot + " t")));
   Show("t = d/r = (1,250)/500 = 5/2 = 2 1/2");
   Say("It takes 2 hours & 30 minutes.");
