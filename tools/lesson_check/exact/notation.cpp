@@ -325,8 +325,10 @@ std::string Comparable(const std::string& text) {
   std::string result;
   for (const char c : course::ExponentCharsToCarets(text)) {
     const char plain = c == kGap ? ' ' : c;
-    if (plain != ' ' || (!result.empty() && result.back() != ' ')) result += plain;
-    if (result.ends_with("^^")) result.erase(result.size() - 2);
+    if (plain == '^' && result.ends_with('^'))
+      result.pop_back();
+    else if (plain != ' ' || (!result.empty() && result.back() != ' '))
+      result += plain;
   }
   if (result.ends_with(' ')) result.pop_back();
   return result;

@@ -145,11 +145,12 @@ std::vector<std::string> FreshOverprints(const StandingText& text) {
   std::map<long, OverlappedRow> overlapped;
   for (const Glyph& glyph : text.Glyphs()) {
     const long row = std::lround(glyph.row);
-    for (const auto& [near, inked] : rows) {
-      if (!text.IsFresh(glyph) || !inked.Meets(glyph.ink)) continue;
-      for (const Glyph* earlier : inked.glyphs)
-        if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
-    }
+    if (text.IsFresh(glyph))
+      for (const auto& [near, inked] : rows) {
+        if (!inked.Meets(glyph.ink)) continue;
+        for (const Glyph* earlier : inked.glyphs)
+          if (Overlap(earlier->ink, glyph.ink)) overlapped[row].Add(*earlier, glyph);
+      }
     rows[row].Add(glyph);
   }
   for (const auto& [row, overlap] : overlapped)
