@@ -4,6 +4,8 @@
 // Half of the problems ask for the percent saved on something large, a quarter each for the
 // discount and the sale price of something small.
 #include <algorithm>
+#include <cstdlib>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -31,7 +33,7 @@ void PercentOfANumber() {
   bar.NameLeft("60% = ?");
   SayAt(10, R"(\yTry it:\z  What is missing: the whole, the part or the percent?)");
   PageEnd();
-  Say(R"(The 25 games are the whole.  The wins are the \ypart\z, so we multiply:)");
+  Say(R"(The 25 games are the whole.  The games it wins are the \ypart\z, so we multiply:)");
   Show("0.6" + kTimes + "25 = 15");
   bar.NameLeft("60% = 15 games");
   PageEnd();
@@ -42,26 +44,30 @@ void PercentOfANumber() {
 
 void OtherPercentStories() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  18 of the 24 students of a class have a pet.  What percent is that?)");
+  SayAt(3, R"(\yTry it:\z  18 of the 24 students in a class have a pet.  What percent is that?)");
+  PercentBar students(6, "24 students = 100%");
+  students.FillLeft(75);
+  students.NameLeft("18 students = ?");
   PageEnd();
   Say(R"(Now the \ypercent\z is missing.  We divide the part by the whole:)");
   Show("18/24 = 3/4 = 0.75 = 75%");
+  students.NameLeft("18 students = 75%");
   PageEnd();
-  Say(R"(\yTry it:\z  Karen has read 45 pages.  That is 30% of her book.  What is missing?)");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Karen has read 45 pages.  That is 30% of her book.  What is missing?)");
+  PercentBar pages(6, "? = 100%");
+  pages.FillLeft(30);
+  pages.NameLeft("45 pages = 30%");
   PageEnd();
   Say(R"(All the pages, the \ywhole\z.  We divide the part by the percent:)");
   AddLine("  45" + kOver + "0.3 = 450" + kOver + "3 = 150");
   PageEnd();
-
-  NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Someone multiplies in every story:)");
+  Say(R"(\yWatch out:\z  Someone multiplies again:)");
   PaperBox({R"(\r0.3)" + kTimes + R"(45 = 13.5 pages\z)"});
   Say("Could this be the whole book?");
   PageEnd();
-  PercentBar bar(9.5, "150 pages = 100%");
-  bar.FillLeft(30);
-  bar.NameLeft("45 pages = 30%");
-  SayAt(13.5, "No, she has read 45 pages already.  The whole is more than its part.");
+  Say("No, she has read 45 pages already.  The whole is more than its part.");
   PageEnd();
 }
 
@@ -82,12 +88,17 @@ void TheDiscount() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  A jacket is usually priced at $48.60.  Jose gets a discount of 5%.  )"
            "How much does he save?");
+  PercentBar jacket(7, "$48.60 = 100%");
+  jacket.FillRight(5);
+  jacket.NameRight("discount = 5%");
   PageEnd();
-  Say("5% is 0.05, not 0.5:");
+  SayAt(11, "5% is 0.05, not 0.5.  In cents:");
+  Show("5" + kTimes + "4,860 = 24,300");
+  AddLine("A hundredth of that is 243 cents:");
   Show("0.05" + kTimes + "$48.60 = $2.43");
-  Say(Text("In cents, {}.  A hundredth of that is 243 cents.", "5" + kTimes + "4,860 = 24,300"));
   PageEnd();
   Say(R"(\yCheck:\z  10% of $48.60 is $4.86.  5% is half of that, $2.43.)");
+  Say(R"(\yWatch out:\z  Do not round the price first.  5% of $49.00 is $2.45.)");
   PageEnd();
 }
 
@@ -100,7 +111,7 @@ void TheSalePrice() {
   PageEnd();
   bar.DropRight();
   bar.NameLeft("sale price = ?");
-  SayAt(12, "The discount is taken off:");
+  SayAt(12, "We cut the discount off the price:");
   Show("$40.00 - $10.00 = $30.00");
   PageEnd();
   Say("There is a second way.  What percent of the price is left to pay?");
@@ -120,9 +131,13 @@ void TheSalePrice() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
            "much does he pay?");
+  PercentBar hat(7, "$30.00 = 100%");
+  hat.FillRight(40);
+  hat.NameRight("discount = 40%");
   PageEnd();
-  GoBelow();
-  Show("discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
+  hat.NameLeft("$18.00 = 60%");
+  hat.NameRight("$12.00 = 40%");
+  ShowAt(11, "discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
   Show("sale price = $30.00 - $12.00 = $18.00", 2);
   Say(R"(\yCheck:\z  60% is left to pay.)");
   Show("0.6" + kTimes + "$30.00 = $18.00");
@@ -145,7 +160,7 @@ void ThePercentSaved() {
   Show("$160.00 - $120.00 = $40.00");
   Say("$40.00 is the part.  Which is the whole, $120.00 or $160.00?");
   PageEnd();
-  Say(R"(The \ynormal price\z, $160.00, because it is the 100%.  So we divide by it:)");
+  Say(R"(The \yusual\z (normal) price, $160.00, because it is the 100%.  So we divide by it:)");
   Show("40/160 = 1/4 = 0.25 = 25%");
   bar.NameRight("$40.00 = 25%");
   PageEnd();
@@ -162,16 +177,26 @@ void DollarsAndCents() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  A stereo normally costs $124.00.  Andrei pays $105.40.  What percent )"
            "does he save?");
+  PercentBar bar(7, "$124.00 = 100%");
+  bar.FillRight(15);
+  bar.NameLeft("$105.40");
+  bar.NameRight("?");
   PageEnd();
-  Say("He saves $18.60 of $124.00.  In cents, both are whole numbers:");
-  Show("(18.60)/(124.00) = (1,860)/(12,400)");
+  bar.NameRight("$18.60 = ?");
+  SayAt(11,
+        "He saves $18.60 of $124.00.  Long division is hard here.  What is 10% of $124.00, and "
+        "what is 5% of it?");
   PageEnd();
-  Say("12,400 does not go into 1,860, so we write 0 and the point.  We add a zero:  it goes once "
-      "into 18,600, and 6,200 is left.");
+  Say("10% is $12.40, and half of that, 5%, is $6.20.");
+  Show("$12.40 + $6.20 = $18.60");
+  bar.NameRight("$18.60 = 15%");
+  AddLine(R"(So he saves 10% + 5% = \y15%\z.)");
   PageEnd();
-  Say(R"(We add a zero again:  it goes 5 times into 62,000.  So we get 0.15, and that is )"
-      R"(\y15%\z.)");
-  Say(Text(R"(\yCheck:\z  {})", "0.15" + kTimes + "$124.00 = $18.60"));
+
+  ClearBelow(11);
+  SayAt(11, R"(\yWatch out:\z  Mistakes with the stereo:)");
+  PaperBox({R"(\r10%\z:  the last 5% is left out)", R"(\r19%\z:  that is the dollars saved)",
+            R"(\r0.1 = 1%\z:  0.1 is 10%)"});
   PageEnd();
 }
 
@@ -198,13 +223,14 @@ class WordProblemsInvolvingPercent final : public LessonScript {
     int value;  // cents, or percent
   };
   std::vector<Mistake> Mistakes() const;
+  std::vector<Mistake> MistakesAtPercentSaved() const;
   void FillChoices(RandomStream& random);
 
   void ShowFacts() const;
   void ExplainDiscount() const;
   void ExplainSalePrice(PercentBar& bar) const;
   void ExplainPercentSaved() const;
-  std::string LongDivision() const;
+  void CheckByParts() const;
   std::string InWords() const;
   std::string Rate() const { return DecimalOf(story_.percent / double{kHundred}); }
   std::string PaidRate() const { return DecimalOf((kHundred - story_.percent) / double{kHundred}); }
@@ -227,26 +253,51 @@ int RoundedQuotient(int a, int b) {
 }
 
 std::vector<WordProblemsInvolvingPercent::Mistake> WordProblemsInvolvingPercent::Mistakes() const {
+  if (story_.asked == StoryAsked::PercentSaved) return MistakesAtPercentSaved();
   const int discount = story_.Discount();
   const int salePrice = story_.SalePrice();
   const int percentAsDollars = story_.percent * kHundred;
+  const int roundedPrice = RoundedQuotient(story_.price, kHundred) * kHundred;
+  const int roundedDiscount = roundedPrice / kHundred * story_.percent;
+  // 0.5 for 5%, but 0.015 for 15%: nobody believes in a discount above the price.
+  const bool isTenths = story_.percent < 10;
+  const int misread = isTenths ? discount * 10 : RoundedQuotient(discount, 10);
+  const std::string misreads =
+      Text("takes {} for {}", DecimalOf(story_.percent / (isTenths ? 10.0 : 1000.0)),
+           PercentName()) +
+      (isTenths || discount % 10 == 0 ? "" : " and rounds");
   if (story_.asked == StoryAsked::Discount)
     return {{"gives the sale price in place of the discount", salePrice},
             {"takes the percent for dollars", percentAsDollars},
-            {"moves the point one place only", discount * 10}};
-  if (story_.asked == StoryAsked::SalePrice)
-    return {{"gives the discount in place of the sale price", discount},
-            {"adds the discount", story_.price + discount},
-            {"subtracts the percent as dollars", story_.price - percentAsDollars}};
-  return {{"gives the percent that is paid", kHundred - story_.percent},
-          {"divides by the sale price", RoundedQuotient(discount * kHundred, salePrice)},
-          {discount % kHundred == 0 ? "takes the dollars saved for the percent"
-                                    : "rounds the dollars saved and takes them for the percent",
-           RoundedQuotient(discount, kHundred)}};
+            {misreads, misread},
+            {"rounds the price to whole dollars", roundedDiscount}};
+  return {{"gives the discount in place of the sale price", discount},
+          {"adds the discount", story_.price + discount},
+          {"subtracts the percent as dollars", story_.price - percentAsDollars},
+          {misreads, story_.price - misread},
+          {"rounds the price to whole dollars", roundedPrice - roundedDiscount}};
 }
 
-// The first mistake and one of the two others; the rest lies within a quarter of the right one, or
-// within 4 percent, and may be a mistake by chance.
+std::vector<WordProblemsInvolvingPercent::Mistake>
+WordProblemsInvolvingPercent::MistakesAtPercentSaved() const {
+  const int percent = story_.percent;
+  const int saved = story_.Discount() * kHundred;
+  const std::string rounds = saved % story_.SalePrice() == 0 ? "" : " and rounds";
+  std::vector<Mistake> mistakes = {
+      {"gives the percent that is paid", kHundred - percent},
+      {"divides by the sale price" + rounds, RoundedQuotient(saved, story_.SalePrice())},
+      {"takes the dollars saved for the percent", RoundedQuotient(story_.Discount(), kHundred)}};
+  if (percent % 10 == 0)
+    mistakes.push_back({Text("writes {} as {}%", Rate(), percent / 10), percent / 10});
+  else if (percent < 10)
+    mistakes.push_back({Text("writes {} as {}%", Rate(), percent * 10), percent * 10});
+  else
+    mistakes.push_back({"leaves out the last 5%", percent - 5});
+  return mistakes;
+}
+
+// The first mistake, two others, then those that lie within a quarter of the right one, or within 4
+// percent.  What is still free is drawn from there.
 void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
   const bool isPercent = story_.asked == StoryAsked::PercentSaved;
   const int one = isPercent ? 1 : kHundred;  // a percent or a dollar
@@ -256,23 +307,32 @@ void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
     return isPercent ? NumStr(value) + "%" : MoneyOf(value);
   });
   choices.Right(right);
-  const std::vector<Mistake> mistakes = Mistakes();
-  const Mistake& second = mistakes[static_cast<std::size_t>(random.Rand(1, 2))];
-  choices.Wrong(mistakes[0].name, mistakes[0].value);
-  if (second.value >= one) choices.Wrong(second.name, second.value);
+  std::vector<Mistake> mistakes = Mistakes();
+  std::erase_if(mistakes, [&](const Mistake& mistake) {
+    return mistake.value < one || mistake.value == right;
+  });
+  const int others = static_cast<int>(mistakes.size()) - 1;
+  const std::vector<int> order = random.RandSeq(others, others);
+  const auto offer = [&](int i) {
+    const Mistake& mistake = mistakes[static_cast<std::size_t>(i)];
+    choices.Wrong(mistake.name, mistake.value);
+  };
+  offer(0);
+  for (const int i : order | std::views::take(2)) offer(i);
+  for (const int i : order)
+    if (std::abs(mistakes[static_cast<std::size_t>(i)].value - right) <= reach) offer(i);
   const auto near = [&](double shift) {
     int value = 0;
     do value = static_cast<int>(RoundWhole(right + random.Rnd() * 2 * reach + shift - reach));
     while (value < one);
     return value;
   };
-  const auto offer = [&](int value) {
+  const auto offerNumber = [&](int value) {
     const auto named = std::ranges::find(mistakes, value, &Mistake::value);
     choices.Wrong(named == mistakes.end() ? kFiller : named->name, value);
   };
-  offer(near(0));
-  offer(near(0));
-  while (!choices.Full()) offer(near(one));
+  offerNumber(near(0));
+  while (!choices.Full()) offerNumber(near(one));
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -320,7 +380,7 @@ void WordProblemsInvolvingPercent::ShowFacts() const {
   };
   const std::string asked = R"(\y?\z)";
   if (story_.asked == StoryAsked::PercentSaved) {
-    add("Normal price", MoneyOf(story_.price));
+    add("Usual price", MoneyOf(story_.price));
     add("Sale price", MoneyOf(story_.SalePrice()));
     add("Percent saved", asked);
   } else {
@@ -341,39 +401,36 @@ void WordProblemsInvolvingPercent::ExplainDiscount() const {
   PageEnd();
   SayInBoxAnew(Text("As a decimal number {} is {}.", PercentName(), Rate()));
   SayInBox(Text("discount = {}", Rate() + kTimes + MoneyOf(story_.price)));
+  SayInBox("Simplify the expression to find the discount.");
   PageEnd();
   const int hundredths = story_.percent * story_.price;
+  const std::string discount = MoneyOf(story_.Discount());
   SayInBoxAnew(Text(
       "In cents, {}.  A hundredth of that is {} cents.",
       NumStr(story_.percent) + kTimes + DecimalOf(story_.price) + " = " + DecimalOf(hundredths),
       DecimalOf(story_.Discount())));
+  SayInBox(Text("That is {}, the discount.", discount));
+  bar.NameRight(discount + " = " + PercentName());
   PageEnd();
-  SayInBox(Text("Simplify the expression to find the discount:  {}", MoneyOf(story_.Discount())));
-  bar.NameRight(MoneyOf(story_.Discount()) + " = " + PercentName());
-  PageEnd();
-  if (story_.asked == StoryAsked::SalePrice) {
-    ExplainSalePrice(bar);
-    return;
-  }
-  SayInBoxAnew(Text("Check:  {} is left to pay.", PaidName()));
-  SayInBox(PaidRate() + kTimes + MoneyOf(story_.price) + " = " + MoneyOf(story_.SalePrice()));
-  SayInBox(Text("{}, the usual price.", MoneyOf(story_.Discount()) + " + " +
-                                            MoneyOf(story_.SalePrice()) + " = " +
-                                            MoneyOf(story_.price)));
-  PageEnd();
+  if (story_.asked == StoryAsked::SalePrice) ExplainSalePrice(bar);
+  CheckByParts();
 }
 
 void WordProblemsInvolvingPercent::ExplainSalePrice(PercentBar& bar) const {
   SayInBoxAnew(
-      Text("{} does not pay the discount.  We take it off the usual price:", Words{story_.buyer}));
+      Text("{} does not pay the discount.  We cut it off the usual price:", Words{story_.buyer}));
   bar.DropRight();
   bar.NameLeft(MoneyOf(story_.SalePrice()) + " = " + PaidName());
   SayInBox(MoneyOf(story_.price) + " - " + MoneyOf(story_.Discount()) + " = " +
            MoneyOf(story_.SalePrice()));
   PageEnd();
-  SayInBoxAnew(
-      Text("Check:  {} is left to pay.", Text("100% - {} = {}", PercentName(), PaidName())));
-  SayInBox(PaidRate() + kTimes + MoneyOf(story_.price) + " = " + MoneyOf(story_.SalePrice()));
+}
+
+// The discount once more, without its decimal number.
+void WordProblemsInvolvingPercent::CheckByParts() const {
+  const EasyParts parts = EasyPartsOf(story_);
+  SayInBoxAnew("Check:  " + parts.found);
+  if (!parts.sum.empty()) SayInBox(parts.sum);
   PageEnd();
 }
 
@@ -388,46 +445,24 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   SayInBox(MoneyOf(story_.price) + " - " + MoneyOf(story_.SalePrice()) + " = " + saved);
   PageEnd();
   bar.NameRight(saved + " = ?");
-  SayInBoxAnew(R"(The whole is the \bnormal price\z.)");
+  SayInBoxAnew(R"(The whole is the \busual price\z.)");
   SayInBox("percent = part" + kOver + "whole");
   PageEnd();
-  const std::string inCents = DecimalOf(story_.Discount()) + kOver + DecimalOf(story_.price);
   SayInBoxAnew(Text("percent = {}", saved + kOver + MoneyOf(story_.price)));
-  SayInBox(Text("In cents, both times 100:  {}", inCents));
+  SayInBox(
+      "Simplify the expression to find the percent.  We look for parts of the price that are "
+      "easy to find.");
   PageEnd();
-  SayInBoxAnew(inCents);
-  SayInBox(Text("{} does not go into {}.  So we write 0 and the point, and add a zero.",
-                DecimalOf(story_.price), DecimalOf(story_.Discount())));
+  const EasyParts parts = EasyPartsOf(story_);
+  SayInBoxAnew(parts.found);
   PageEnd();
-  SayInBoxAnew(inCents);
-  SayInBox(LongDivision());
-  PageEnd();
-  SayInBoxAnew(
-      Text("Simplify the expression to find the percent:  {}", Rate() + " = " + PercentName()));
+  if (!parts.sum.empty()) SayInBox(parts.sum);
+  SayInBox(parts.percent.empty() ? "So 5% is saved." : parts.percent);
   bar.NameRight(saved + " = " + PercentName());
   PageEnd();
-  SayInBox(Text("Check:  {}", Rate() + kTimes + MoneyOf(story_.price) + " = " + saved));
+  SayInBoxAnew(Text("Check:  As a decimal number {} is {}.", PercentName(), Rate()));
+  SayInBox(Rate() + kTimes + MoneyOf(story_.price) + " = " + saved);
   PageEnd();
-}
-
-// Discount divided by price, both in cents: the tenths, then the hundredths.
-std::string WordProblemsInvolvingPercent::LongDivision() const {
-  const auto times = [](int count) {
-    return Words{count == 1 ? std::string("once") : Text("{} times", count)};
-  };
-  const int tenths = story_.percent / 10;
-  const int hundredths = story_.percent % 10;
-  const int afterTenths = story_.Discount() * 10 - tenths * story_.price;
-  const std::string price = DecimalOf(story_.price);
-  const std::string tenTimesSaved = DecimalOf(story_.Discount() * 10);
-  std::string text =
-      tenths == 0 ? Text("{} does not go into {}, so we write one more 0", price, tenTimesSaved)
-                  : Text("{} goes {} into {}", price, times(tenths), tenTimesSaved);
-  if (tenths > 0 && hundredths > 0) text += Text(", and {} is left", DecimalOf(afterTenths));
-  if (hundredths > 0)
-    text += Text(".  We add a zero again:  it goes {} into {}", times(hundredths),
-                 DecimalOf(afterTenths * 10));
-  return text + Text(".  So we get {}.", Rate());
 }
 
 const LessonRegistration<WordProblemsInvolvingPercent> kRegistration(

@@ -46,25 +46,55 @@ struct Purchase {
   Rational Saved() const { return price - paid; }
 };
 
-void AddMistakes(const Purchase& bought, const std::string& kind, Reading& reading) {
-  const auto add = [&](const char* name, const Rational& value) {
+// A percent that is a multiple of 5, with its digits one place too far to the left or right:
+// "0.5" for 5, "0.015" for 15.
+std::string MisreadPercent(long percent) {
+  if (percent < 10) return "0." + std::to_string(percent);
+  return "0.0" + std::to_string(percent % 10 == 0 ? percent / 10 : percent);
+}
+
+void AddMistakesAtPercentSaved(const Purchase& bought, Reading& reading) {
+  const auto add = [&](const std::string& name, const Rational& value) {
     reading.mistakes[name] = {value.get_str()};
   };
+  const long percent = bought.percent.get_num().get_si();
+  const Rational byPaid = 100 * bought.Saved() / bought.paid;
+  add("gives the percent that is paid", 100 - bought.percent);
+  add(byPaid.get_den() == 1 ? "divides by the sale price" : "divides by the sale price and rounds",
+      RoundedTo(1, byPaid));
+  add("takes the dollars saved for the percent", RoundedTo(1, bought.Saved()));
+  const std::string digits = std::to_string(percent % 10 == 0 ? percent / 10 : percent);
+  if (percent % 10 == 0)
+    add("writes 0." + digits + " as " + digits + "%", percent / 10);
+  else if (percent < 10)
+    add("writes 0.0" + digits + " as " + digits + "0%", percent * 10);
+  else
+    add("leaves out the last 5%", percent - 5);
+}
+
+void AddMistakes(const Purchase& bought, const std::string& kind, Reading& reading) {
+  if (kind == "the percent saved") return AddMistakesAtPercentSaved(bought, reading);
+  const auto add = [&](const std::string& name, const Rational& value) {
+    reading.mistakes[name] = {value.get_str()};
+  };
+  const long percent = bought.percent.get_num().get_si();
+  const Rational misread = bought.Saved() * (percent < 10 ? Rational(10) : Rational(1, 10));
+  const Rational rounded = RoundedTo(Rational(1, 100), misread);
+  const std::string misreads = "takes " + MisreadPercent(percent) + " for " +
+                               std::to_string(percent) + "%" +
+                               (rounded == misread ? "" : " and rounds");
+  const Rational ofRoundedPrice = RoundedTo(1, bought.price) * bought.percent / 100;
   if (kind == "the discount") {
     add("gives the sale price in place of the discount", bought.paid);
     add("takes the percent for dollars", bought.percent);
-    add("moves the point one place only", bought.Saved() * 10);
-  } else if (kind == "the sale price") {
+    add(misreads, rounded);
+    add("rounds the price to whole dollars", ofRoundedPrice);
+  } else {
     add("gives the discount in place of the sale price", bought.Saved());
     add("adds the discount", bought.price + bought.Saved());
     add("subtracts the percent as dollars", bought.price - bought.percent);
-  } else {
-    add("gives the percent that is paid", 100 - bought.percent);
-    add("divides by the sale price", RoundedTo(1, 100 * bought.Saved() / bought.paid));
-    const Rational rounded = RoundedTo(1, bought.Saved());
-    add(rounded == bought.Saved() ? "takes the dollars saved for the percent"
-                                  : "rounds the dollars saved and takes them for the percent",
-        rounded);
+    add(misreads, bought.price - rounded);
+    add("rounds the price to whole dollars", RoundedTo(1, bought.price) - ofRoundedPrice);
   }
 }
 

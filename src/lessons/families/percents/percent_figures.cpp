@@ -12,6 +12,7 @@
 namespace course::percents {
 
 using namespace page;
+using platform::colour::Cyan;
 using platform::colour::White;
 using platform::colour::Yellow;
 
@@ -32,8 +33,8 @@ double ColumnAt(int percent) {
 double ColumnOfText(const std::string& text, double end) {
   return end - static_cast<double>(text.size());
 }
-std::string Coloured(const std::string& text, bool isFilled) {
-  return isFilled ? R"(\y)" + text + R"(\z)" : text;
+std::string Coloured(const std::string& text, bool isFilled, const char* code = R"(\y)") {
+  return isFilled ? code + text + R"(\z)" : text;
 }
 
 }  // namespace
@@ -81,12 +82,13 @@ void PercentBar::Paint(int from, int to) const {
 
 void PercentBar::NameLeft(const std::string& text) const {
   ClearCells(row_ + kNameDrop, kBarCol, kHalf, 1);
-  ShowAt(row_ + kNameDrop, Coloured(text, !rightIsFilled_), kBarCol);
+  ShowAt(row_ + kNameDrop,
+         rightIsDropped_ ? Coloured(text, true, R"(\c)") : Coloured(text, !rightIsFilled_),
+         kBarCol);
   GoBelow();
 }
 
-void PercentBar::NameRight(const std::string& text) {
-  rightText_ = text;
+void PercentBar::NameRight(const std::string& text) const {
   ClearCells(row_ + kNameDrop, kBarCol + kHalf, kHalf, 1);
   ShowAt(row_ + kNameDrop, Coloured(text, rightIsFilled_), ColumnOfText(text, kBarCol + kBarWidth));
   GoBelow();
@@ -98,12 +100,14 @@ void PercentBar::DropRight() {
   const double row = row_ + kBarDrop;
   const double col = ColumnAt(leftPercent_);
   const double end = kBarCol + kBarWidth;
-  FillLeft(leftPercent_);
-  NameRight(rightText_);
+  isDrawBoxFilled(row, kBarCol, row, col - 1, Cyan);
+  for (double left = kBarCol; left < col; left += kBarWidth / kTenths)
+    isDrawBox(row, left, row, std::min(left + kBarWidth / kTenths, col) - 1, White, 2);
   isDrawBox(row, col, row, end - 1, White, 2);
   SlideDown({row_ + kNameDrop, kBarCol + kHalf, kHalf}, kDrop);
   SlideDown({row - 0.25, col - kEdge, end - col + kEdge, 1.3}, kDrop);
   isDrawBox(row, kBarCol, row, col - 1, White, 2);
+  rightIsDropped_ = true;
 }
 
 }  // namespace course::percents

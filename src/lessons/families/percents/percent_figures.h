@@ -25,17 +25,18 @@ class PercentBar {
   // The next Say goes on below.  The texts of the two parts, in place of earlier ones; up to 18
   // letters.
   void NameLeft(const std::string& text) const;
-  void NameRight(const std::string& text);
-  // The right part and its text slide down by a little more than a row; the left one is filled.
+  void NameRight(const std::string& text) const;
+  // The right part and its text slide down by a little more than a row and keep their colour; what
+  // is left of the bar, and its text from now on, turn cyan.
   void DropRight();
 
  private:
   void Paint(int from, int to) const;
 
   double row_;
-  std::string rightText_;
   int leftPercent_ = 0;
   bool rightIsFilled_ = false;
+  bool rightIsDropped_ = false;
 };
 
 }  // namespace course::percents

@@ -6,6 +6,7 @@
 #include "lessons/page/say.h"
 #include "mathkit/expressions.h"
 #include "mathkit/integers.h"
+#include "mathkit/tutor_codes.h"
 
 namespace course::percents {
 
@@ -72,6 +73,52 @@ std::vector<std::string> PercentStory::Question() const {
 int PercentStory::Answer() const {
   if (asked == StoryAsked::Discount) return Discount();
   return asked == StoryAsked::SalePrice ? SalePrice() : percent;
+}
+
+namespace {
+
+struct UnitFraction {
+  int percent;
+  std::string_view name;
+};
+constexpr UnitFraction kUnitFractions[] = {
+    {50, "half"}, {25, "quarter"}, {20, "fifth"}, {10, "tenth"}};
+
+EasyParts OnePart(const PercentStory& story, const std::string& name) {
+  const bool isHalf = name == "half";
+  return {Text("{} of {} is {}.", Words{(isHalf ? "Half" : "A ") + (isHalf ? "" : name)},
+               MoneyOf(story.price), MoneyOf(story.Discount())),
+          "", Text("A {} is {}%.", name, story.percent)};
+}
+
+// "3 x ", or nothing for once.
+std::string Times(int count) {
+  return count == 1 ? "" : NumStr(count) + " " + tutor::Times + " ";
+}
+
+}  // namespace
+
+EasyParts EasyPartsOf(const PercentStory& story) {
+  for (const auto& [percent, name] : kUnitFractions)
+    if (story.percent == percent) return OnePart(story, std::string(name));
+
+  constexpr int kHalfStep = 5;
+  const int step = story.percent == 40 ? 20 : 10;  // a tenth may end with a part of a cent there
+  const int count = story.percent / step;
+  const std::string large = MoneyOf(story.price * step / kHundred);
+  const std::string small = MoneyOf(story.price * kHalfStep / kHundred);
+  const std::string known = Text("{}% of {} is {}", step, MoneyOf(story.price), large);
+  if (count == 0) return {Text("{}.  5% is half of that, {}.", Words{known}, small), "", ""};
+
+  EasyParts parts = {known + ".", Times(count) + large, Times(count) + NumStr(step) + "%"};
+  if (story.percent % step != 0) {
+    parts.found = Text("{}, and half of that, 5%, is {}.", Words{known}, small);
+    parts.sum += " + " + small;
+    parts.percent += " + 5%";
+  }
+  parts.sum += " = " + MoneyOf(story.Discount());
+  parts.percent += Text(" = {}%", story.percent);
+  return parts;
 }
 
 }  // namespace course::percents

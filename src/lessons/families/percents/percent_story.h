@@ -32,4 +32,13 @@ struct PercentStory {
 // "$12.50".
 std::string MoneyOf(int cents);
 
+// The discount by parts of the price that are easily found: a half, a quarter, or tenths and a
+// twentieth.  All of them are in whole cents.
+struct EasyParts {
+  std::string found;    // "10% of $41.80 is $4.18, and half of that, 5%, is $2.09."
+  std::string sum;      // "$4.18 + $2.09 = $6.27"; "" when one part is all
+  std::string percent;  // "10% + 5% = 15%", or "A quarter is 25%."
+};
+EasyParts EasyPartsOf(const PercentStory& story);
+
 }  // namespace course::percents
