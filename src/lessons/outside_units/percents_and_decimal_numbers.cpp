@@ -22,12 +22,9 @@ void OutOfAHundred() {
   constexpr double kBeside = 16;  // columns
   NewScreen();
   DrawHundredSquares(3, 3, 45);
-  SayAt(3,
-        R"(Here are 100 squares, and 45 of them are yellow.  The word \cpercent\z means )"
-        R"("out of 100".)",
+  SayAt(3, R"(45 of the 100 squares are yellow.  We say 45 \cpercent\z and write 45%.)",
         {.col = kBeside});
-  PageEnd();
-  SayAt(8, R"(So \y45 percent\z are yellow.  We write 45%.)", {.col = kBeside});
+  SayAt(7, R"(Percent means "out of 100".)", {.col = kBeside});
   PageEnd();
   ShowAt(12, "45% = 45/100");
   SayAt(14.5, R"(\yTry it:\z  How do we write 45 hundredths as a decimal number?)");
@@ -41,14 +38,15 @@ void OutOfAHundred() {
 void PointMovesRight() {
   NewScreen();
   SayAt(3, "Let's go from 0.45 to 45%.  How far must the point move?");
-  PercentPoint point = PercentPoint::ToPercent(6, {"45", 0});
+  PercentPoint point = PercentPoint::ToPercent(5.5, {"45", 0});
   PageEnd();
   point.Move();
-  Say(Text("It moves {}:  {}", Words{R"(\ytwo places to the right\z)"}, "0.45 = 45%"));
+  SayAt(10, R"(It moves \ytwo places to the right\z.)");
+  AddLine("We leave out a point at the end:  45%.");
   PageEnd();
   Say(
-      Text("Why two?  Percent means hundredths, and 1 whole is 100 hundredths.  So we multiply by "
-           "100.  That is {}, and each 10 moves the point one place.",
+      Text("Why two?  Percent means hundredths, so we multiply by 100.  That is {}, and each 10 "
+           "moves the point one place.",
            "10" + kTimes + "10"));
   PageEnd();
   Say(R"(\yWatch out:\z  Do not just write the sign after the number.)");
@@ -60,17 +58,17 @@ void PointMovesRight() {
 void ZerosFillThePlaces() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Write 0.6 as a percent.)");
-  PercentPoint point = PercentPoint::ToPercent(5, {"6", 0});
+  PercentPoint point = PercentPoint::ToPercent(4.5, {"6", 0});
   PageEnd();
   point.Move();
-  Say(Text(R"(A {} fills the empty place:  {})", R"(\yzero\z)", "0.6 = 0.60 = 60%"));
+  SayAt(9, Text(R"(A {} fills the empty place:  {})", R"(\yzero\z)", "0.6 = 0.60 = 60%"));
   PageEnd();
   PaperBox({R"(0.6 = 60%,  \rnot 6%\z)"});
-  Say("6 tenths are 60 hundredths.  6% is only 6 of the 100 squares.");
-  DrawHundredSquares(15, 7, 60);
-  DrawHundredSquares(15, 24, 6);
-  SayAt(22, "60%", {.col = 10});
-  SayAt(22, "6%", {.col = 28});
+  Say("6% is only 6 of the 100 squares:");
+  DrawHundredSquares(15.5, 7, 60);
+  DrawHundredSquares(15.5, 24, 6);
+  SayAt(22.5, "60%", {.col = 10});
+  SayAt(22.5, "6%", {.col = 28});
   PageEnd();
 }
 
@@ -78,15 +76,17 @@ void ZerosInFrontAreDropped() {
   constexpr double kBeside = 16;  // columns
   NewScreen();
   DrawHundredSquares(3, 3, 4);
-  SayAt(3, "4 of the 100 squares show the number 0.04.", {.col = kBeside});
-  SayAt(6, R"(\yTry it:\z  What percent?)", {.col = kBeside});
+  SayAt(3, "4 of the 100 squares are yellow.  As a number this is 0.04.", {.col = kBeside});
+  SayAt(7, R"(\yTry it:\z  What percent?)", {.col = kBeside});
   PercentPoint four = PercentPoint::ToPercent(10.5, {"4", -1});
   PageEnd();
   four.Move();
   Say(Text("004 is just 4, so we drop the zeros in front:  {}", "0.04 = 4%"));
   PageEnd();
-  SayAt(17, R"(\yTry it:\z  What is 0.0625?)");
-  PercentPoint more = PercentPoint::ToPercent(18.5, {"625", -1});
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  What percent is 0.0625?)");
+  PercentPoint more = PercentPoint::ToPercent(5, {"625", -1});
   PageEnd();
   more.Move();
   Say(Text("The point stops after the 6, not at the end:  {}", "0.0625 = 6.25%"));
@@ -98,10 +98,9 @@ void MoreThanAWhole() {
   NewScreen();
   DrawHundredSquares(3, 3, 100);
   DrawHundredSquares(3, 15, 25);
-  SayAt(3, "125 squares are yellow.", {.col = kBeside});
-  SayAt(6, R"(One whole is \y100%\z.)", {.col = kBeside});
+  SayAt(3, R"(Each figure is one whole, \y100%\z.)", {.col = kBeside});
   PageEnd();
-  SayAt(11, R"(\yTry it:\z  The figures show the number 1.25.  What percent is this?)");
+  SayAt(11, R"(\yTry it:\z  125 squares are yellow.  They show 1.25.  What percent is this?)");
   PageEnd();
   PercentPoint::ToPercent(14.5, {"125", 1}).Move();
   Say("1.25 = 125%.  A number greater than 1 is more than 100%.");
@@ -121,27 +120,33 @@ void PointMovesLeft() {
   SayAt(3, "Now we write 32% as a decimal number.");
   AddLine("A whole number's point is at its end.");
   PercentPoint point = PercentPoint::ToDecimal(6.5, {"32", 0});
-  SayAt(9.5, R"(\yTry it:\z  Which way must the point move?)");
+  SayAt(11, R"(\yTry it:\z  Which way must the point move?)");
   PageEnd();
   point.Move();
-  SayAt(11.5, Text("It moves {}, and we drop the percent sign:  {}",
-                   Words{R"(\ytwo places to the left\z)"}, "32% = 0.32"));
+  SayAt(13, Text("It moves {}, and we drop the percent sign:  {}",
+                 Words{R"(\ytwo places to the left\z)"}, "32% = 0.32"));
   PageEnd();
   Say("Why?  32% means 32 out of 100.  We divide by 100, that is by 10 twice:");
   Show("32% = 32/100 = 0.32");
   PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Do not just drop the sign, and do not go the wrong way:)");
+  PaperBox({R"(32% = 0.32,  \rnot 32, not 3,200\z)"});
+  Say("The percent shows the bigger number: 32.");
+  PageEnd();
 }
 
 void SmallPercents() {
-  NewScreen();
-  SayAt(3, R"(\yTry it:\z  Write 8% as a decimal number.)");
-  PercentPoint point = PercentPoint::ToDecimal(5, {"8", -1});
+  SayAt(10, R"(\yTry it:\z  Write 8% as a decimal number.)");
+  PercentPoint point = PercentPoint::ToDecimal(12, {"8", -1});
   PageEnd();
   point.Move();
   Say(Text("There is only one digit, so a {} fills the other place:  {}", R"(\yzero\z)",
            "8% = 0.08"));
   PageEnd();
-  ClearBelow(3);
+
+  NewScreen();
   DrawHundredSquares(3, 3, 8);
   DrawHundredSquares(3, 22, 80);
   SayAt(10, "8% = 0.08", {.col = 3});
@@ -153,7 +158,7 @@ void SmallPercents() {
 
 void OtherPercents() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  What is 4.5%?)");
+  SayAt(3, R"(\yTry it:\z  Write 4.5% as a decimal number.)");
   PercentPoint point = PercentPoint::ToDecimal(5, {"45", -1});
   PageEnd();
   point.Move();
@@ -162,16 +167,19 @@ void OtherPercents() {
   Say(Text(R"(\yCheck:\z  We go back and multiply by 100:  {})", "0.045" + kTimes + "100 = 4.5"));
   Say(R"(\yTry it:\z  And 250%?  Is it more or less than 1?)");
   PageEnd();
-  PercentPoint::ToDecimal(17, {"25", 1}).Move();
-  Say(Text("It is more than 1, because it is more than 100%:  {}", "250% = 2.50 = 2.5"));
+
+  NewScreen();
+  SayAt(3, "250% is more than 100%, so it is more than 1.");
+  PercentPoint::ToDecimal(6, {"25", 1}).Move();
+  Say("250% = 2.50 = 2.5");
   PageEnd();
 
   NewScreen();
   RuleBox("To a Decimal Number", {"Move the point 2 places left, drop the %.", "37.5% = 0.375"});
-  Say(R"(\yTry it:\z  Write 12.5% and 6% as decimals.)");
+  Say(R"(\yTry it:\z  Write 47.85% and 6% as decimals.)");
   PageEnd();
-  Say("12.5% = 0.125");
-  AddLine(R"(\yCheck:\z  0.125)" + kTimes + "100 = 12.5");
+  Say("47.85% = 0.4785");
+  AddLine(R"(\yCheck:\z  0.4785)" + kTimes + "100 = 47.85");
   Say("6% = 0.06");
   AddLine(R"(\yCheck:\z  0.06)" + kTimes + "100 = 6");
   PageEnd();
@@ -199,7 +207,7 @@ class PercentsAndDecimalNumbers final : public LessonScript {
   void ExplainMove() const;
   std::string Equation() const;
   // A whole number does not show its point.
-  std::string WhereTheMoveBegins() const;
+  std::string WhereThePointStands() const;
   // What happens to the zeros and to the sign.
   std::string AboutPercent() const;
   std::string AboutDecimal() const;
@@ -289,11 +297,10 @@ void PercentsAndDecimalNumbers::ExplainProblem() {
 
 void PercentsAndDecimalNumbers::ExplainMove() const {
   constexpr double kMovingRow = 13.5;
-  Say(toPercent_ ? R"(Percent means hundredths.  So we multiply by 100: the point moves two )"
-                   R"(places to the \yright\z.)"
-                 : Text(R"(Percent means out of 100.  So we divide by 100: {} two places to the )"
-                        R"(\yleft\z.)",
-                        Words{WhereTheMoveBegins()}));
+  SayAt(kReasonRow, toPercent_ ? "Percent means hundredths.  So we multiply by 100."
+                               : "Percent means out of 100.  So we divide by 100.");
+  AddLine(WhereThePointStands() +
+          Text(R"( moves two places to the \y{}\z.)", toPercent_ ? "right" : "left"));
   PercentPoint point = toPercent_ ? PercentPoint::ToPercent(kMovingRow, number_)
                                   : PercentPoint::ToDecimal(kMovingRow, number_);
   PageEnd();
@@ -308,12 +315,10 @@ std::string PercentsAndDecimalNumbers::Equation() const {
                     : number_.PercentText() + " = " + number_.DecimalText();
 }
 
-std::string PercentsAndDecimalNumbers::WhereTheMoveBegins() const {
-  std::string percent = number_.PercentText();
-  percent.pop_back();
-  return percent.find('.') == std::string::npos
-             ? Text("from the end of {} the point moves", percent)
-             : "the point moves";
+std::string PercentsAndDecimalNumbers::WhereThePointStands() const {
+  const std::string shown = problem.question[1].substr(0, problem.question[1].find('%'));
+  if (shown.find('.') != std::string::npos) return "The point";
+  return Text("The point of {} is at its end.  It", shown);
 }
 
 std::string PercentsAndDecimalNumbers::AboutPercent() const {

@@ -12,6 +12,7 @@
 #include "lessons/families/percents/percent_figures.h"
 #include "lessons/families/percents/percent_number.h"
 #include "lessons/families/percents/percent_story.h"
+#include "lessons/families/percents/percent_story_mistakes.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -86,13 +87,12 @@ void TheDiscount() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  A jacket is usually priced at $48.60.  Jose gets a discount of 5%.  )"
-           "How much does he save?");
-  PercentBar jacket(7, "$48.60 = 100%");
+  SayAt(3, R"(\yTry it:\z  A jacket for $48.60 has a 5% discount.  How much does Jose save?)");
+  PercentBar jacket(6, "$48.60 = 100%");
   jacket.FillRight(5);
   jacket.NameRight("discount = 5%");
   PageEnd();
-  SayAt(11, "5% is 0.05, not 0.5.  In cents:");
+  SayAt(10, "5% is 0.05, not 0.5.  In cents:");
   Show("5" + kTimes + "4,860 = 24,300");
   AddLine("A hundredth of that is 243 cents:");
   Show("0.05" + kTimes + "$48.60 = $2.43");
@@ -129,15 +129,14 @@ void TheSalePrice() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  A hat is usually priced at $30.00.  Jose gets a discount of 40%.  How )"
-           "much does he pay?");
-  PercentBar hat(7, "$30.00 = 100%");
+  SayAt(3, R"(\yTry it:\z  A hat for $30.00 has a 40% discount.  How much does Jose pay?)");
+  PercentBar hat(6, "$30.00 = 100%");
   hat.FillRight(40);
   hat.NameRight("discount = 40%");
   PageEnd();
   hat.NameLeft("$18.00 = 60%");
   hat.NameRight("$12.00 = 40%");
-  ShowAt(11, "discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
+  ShowAt(10, "discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
   Show("sale price = $30.00 - $12.00 = $18.00", 2);
   Say(R"(\yCheck:\z  60% is left to pay.)");
   Show("0.6" + kTimes + "$30.00 = $18.00");
@@ -160,7 +159,7 @@ void ThePercentSaved() {
   Show("$160.00 - $120.00 = $40.00");
   Say("$40.00 is the part.  Which is the whole, $120.00 or $160.00?");
   PageEnd();
-  Say(R"(The \yusual\z (normal) price, $160.00, because it is the 100%.  So we divide by it:)");
+  Say(R"(The \yusual\z (normal) price, $160.00, is the 100%.  So we divide by it:)");
   Show("40/160 = 1/4 = 0.25 = 25%");
   bar.NameRight("$40.00 = 25%");
   PageEnd();
@@ -218,12 +217,6 @@ class WordProblemsInvolvingPercent final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  struct Mistake {
-    std::string name;
-    int value;  // cents, or percent
-  };
-  std::vector<Mistake> Mistakes() const;
-  std::vector<Mistake> MistakesAtPercentSaved() const;
   void FillChoices(RandomStream& random);
 
   void ShowFacts() const;
@@ -248,54 +241,6 @@ void WordProblemsInvolvingPercent::DrawProblem(RandomStream& random) {
   FillChoices(random);
 }
 
-int RoundedQuotient(int a, int b) {
-  return (2 * a + b) / (2 * b);
-}
-
-std::vector<WordProblemsInvolvingPercent::Mistake> WordProblemsInvolvingPercent::Mistakes() const {
-  if (story_.asked == StoryAsked::PercentSaved) return MistakesAtPercentSaved();
-  const int discount = story_.Discount();
-  const int salePrice = story_.SalePrice();
-  const int percentAsDollars = story_.percent * kHundred;
-  const int roundedPrice = RoundedQuotient(story_.price, kHundred) * kHundred;
-  const int roundedDiscount = roundedPrice / kHundred * story_.percent;
-  // 0.5 for 5%, but 0.015 for 15%: nobody believes in a discount above the price.
-  const bool isTenths = story_.percent < 10;
-  const int misread = isTenths ? discount * 10 : RoundedQuotient(discount, 10);
-  const std::string misreads =
-      Text("takes {} for {}", DecimalOf(story_.percent / (isTenths ? 10.0 : 1000.0)),
-           PercentName()) +
-      (isTenths || discount % 10 == 0 ? "" : " and rounds");
-  if (story_.asked == StoryAsked::Discount)
-    return {{"gives the sale price in place of the discount", salePrice},
-            {"takes the percent for dollars", percentAsDollars},
-            {misreads, misread},
-            {"rounds the price to whole dollars", roundedDiscount}};
-  return {{"gives the discount in place of the sale price", discount},
-          {"adds the discount", story_.price + discount},
-          {"subtracts the percent as dollars", story_.price - percentAsDollars},
-          {misreads, story_.price - misread},
-          {"rounds the price to whole dollars", roundedPrice - roundedDiscount}};
-}
-
-std::vector<WordProblemsInvolvingPercent::Mistake>
-WordProblemsInvolvingPercent::MistakesAtPercentSaved() const {
-  const int percent = story_.percent;
-  const int saved = story_.Discount() * kHundred;
-  const std::string rounds = saved % story_.SalePrice() == 0 ? "" : " and rounds";
-  std::vector<Mistake> mistakes = {
-      {"gives the percent that is paid", kHundred - percent},
-      {"divides by the sale price" + rounds, RoundedQuotient(saved, story_.SalePrice())},
-      {"takes the dollars saved for the percent", RoundedQuotient(story_.Discount(), kHundred)}};
-  if (percent % 10 == 0)
-    mistakes.push_back({Text("writes {} as {}%", Rate(), percent / 10), percent / 10});
-  else if (percent < 10)
-    mistakes.push_back({Text("writes {} as {}%", Rate(), percent * 10), percent * 10});
-  else
-    mistakes.push_back({"leaves out the last 5%", percent - 5});
-  return mistakes;
-}
-
 // The first mistake, two others, then those that lie within a quarter of the right one, or within 4
 // percent.  What is still free is drawn from there.
 void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
@@ -307,14 +252,14 @@ void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
     return isPercent ? NumStr(value) + "%" : MoneyOf(value);
   });
   choices.Right(right);
-  std::vector<Mistake> mistakes = Mistakes();
-  std::erase_if(mistakes, [&](const Mistake& mistake) {
+  std::vector<StoryMistake> mistakes = MistakesOf(story_);
+  std::erase_if(mistakes, [&](const StoryMistake& mistake) {
     return mistake.value < one || mistake.value == right;
   });
   const int others = static_cast<int>(mistakes.size()) - 1;
   const std::vector<int> order = random.RandSeq(others, others);
   const auto offer = [&](int i) {
-    const Mistake& mistake = mistakes[static_cast<std::size_t>(i)];
+    const StoryMistake& mistake = mistakes[static_cast<std::size_t>(i)];
     choices.Wrong(mistake.name, mistake.value);
   };
   offer(0);
@@ -328,7 +273,7 @@ void WordProblemsInvolvingPercent::FillChoices(RandomStream& random) {
     return value;
   };
   const auto offerNumber = [&](int value) {
-    const auto named = std::ranges::find(mistakes, value, &Mistake::value);
+    const auto named = std::ranges::find(mistakes, value, &StoryMistake::value);
     choices.Wrong(named == mistakes.end() ? kFiller : named->name, value);
   };
   offerNumber(near(0));

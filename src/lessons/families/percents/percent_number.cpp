@@ -5,6 +5,7 @@
 #include "display/grid.h"
 #include "lessons/page/page_lines.h"
 #include "lessons/page/show.h"
+#include "lessons/page/slides.h"
 #include "mathkit/expressions.h"
 
 namespace course::percents {
@@ -55,30 +56,39 @@ PercentPoint PercentPoint::ToDecimal(double row, const PercentNumber& number) {
 }
 
 PercentPoint::PercentPoint(double row, const std::string& digits, int before, int places)
-    : row_(row),
-      digits_(static_cast<int>(digits.size())),
-      before_(before),
-      places_(places),
-      zerosInFront_(ZerosInFront(digits, before + places)),
-      point_(powers::MovingPoint::ByPlaces(row, digits, before, places)) {
-  if (places < 0) PrintSign();
+    : row_(row), digits_(digits), before_(before), places_(places) {
+  ShowNumber(row_);
 }
 
-void PercentPoint::PrintSign() const {
-  const int shown = places_ > 0 ? std::max(digits_, before_ + places_) : digits_;
-  ShowAt(row_, R"(\y%\z)", point_.ColumnOfDigit(shown));
+// As it is before the movement.
+powers::MovingPoint PercentPoint::ShowNumber(double row) const {
+  const auto point = powers::MovingPoint::ByPlaces(row, digits_, before_, places_);
+  if (places_ < 0) PrintSign(row, point, static_cast<int>(digits_.size()));
+  return point;
+}
+
+// Behind so many digits.
+void PercentPoint::PrintSign(double row, const powers::MovingPoint& point, int digits) {
+  ShowAt(row, "%", point.ColumnOfDigit(digits));
 }
 
 void PercentPoint::Move() {
-  point_.Move();
+  constexpr double kDown = 1.3;  // rows to the copy in which the point moves
+  const double row = row_ + kDown;
+  const int digits = static_cast<int>(digits_.size());
+  SlideDown(WholeRows(row_, 1), kDown, Leaving::Copy, Pace::Brisk);
+  ClearRows(row, 1);
+  powers::MovingPoint point = ShowNumber(row);
+  point.Move();
   if (places_ > 0) {
-    const double col = point_.ColumnOfDigit(0);
-    ClearCells(row_, col, point_.ColumnOfDigit(zerosInFront_) - col - 1, 1);
-    PrintSign();
+    const double col = point.ColumnOfDigit(0);
+    const int zeros = ZerosInFront(digits_, before_ + places_);
+    ClearCells(row, col, point.ColumnOfDigit(zeros) - col - 1, 1);
+    PrintSign(row, point, std::max(digits, before_ + places_));
   } else {
-    ClearCells(row_, point_.ColumnOfDigit(digits_), 1, 1);
+    ClearCells(row, point.ColumnOfDigit(digits), 1, 1);
   }
-  Locate(row_ + 2, 1);
+  Locate(row + 2, 1);
 }
 
 }  // namespace course::percents

@@ -21,27 +21,27 @@ struct PercentNumber {
 // 1,000 on.
 std::string DecimalOf(double x);
 
-// The digits in a row of the lesson screen, and the point that moves two places: two rows from the
-// row on.  A percent sign stands behind them before the movement or after it.
+// The digits in a row of the lesson screen, and below them once more when the point has moved two
+// places: four rows from the row on.  A percent sign stands behind the digits before the movement
+// or after it.
 class PercentPoint {
  public:
   static PercentPoint ToPercent(double row, const PercentNumber& number);
   static PercentPoint ToDecimal(double row, const PercentNumber& number);
 
-  // Zeros come up where the point finds no digit, and go where they are not needed any more.  The
-  // next Say goes on below.
+  // In the lower row zeros come up where the point finds no digit, and go where they are not needed
+  // any more.  The next Say goes on below.
   void Move();
 
  private:
   PercentPoint(double row, const std::string& digits, int before, int places);
-  void PrintSign() const;
+  powers::MovingPoint ShowNumber(double row) const;
+  static void PrintSign(double row, const powers::MovingPoint& point, int digits);
 
   double row_;
-  int digits_;
+  std::string digits_;
   int before_;
   int places_;
-  int zerosInFront_;  // that go when the point has moved
-  powers::MovingPoint point_;
 };
 
 }  // namespace course::percents
