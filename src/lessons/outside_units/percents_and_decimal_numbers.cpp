@@ -22,9 +22,8 @@ void OutOfAHundred() {
   constexpr double kBeside = 16;  // columns
   NewScreen();
   DrawHundredSquares(3, 3, 45);
-  SayAt(3, R"(45 of the 100 squares are yellow.  We say 45 \cpercent\z and write 45%.)",
+  SayAt(3, R"(Of 100 squares, 45 are yellow.  45 \cpercent\z means 45 out of 100.  We write 45%.)",
         {.col = kBeside});
-  SayAt(7, R"(Percent means "out of 100".)", {.col = kBeside});
   PageEnd();
   ShowAt(12, "45% = 45/100");
   SayAt(14.5, R"(\yTry it:\z  How do we write 45 hundredths as a decimal number?)");
@@ -299,6 +298,7 @@ void PercentsAndDecimalNumbers::ExplainMove() const {
   constexpr double kMovingRow = 13.5;
   SayAt(kReasonRow, toPercent_ ? "Percent means hundredths.  So we multiply by 100."
                                : "Percent means out of 100.  So we divide by 100.");
+  PageEnd();
   AddLine(WhereThePointStands() +
           Text(R"( moves two places to the \y{}\z.)", toPercent_ ? "right" : "left"));
   PercentPoint point = toPercent_ ? PercentPoint::ToPercent(kMovingRow, number_)

@@ -134,8 +134,6 @@ void TheSalePrice() {
   hat.FillRight(40);
   hat.NameRight("discount = 40%");
   PageEnd();
-  hat.NameLeft("$18.00 = 60%");
-  hat.NameRight("$12.00 = 40%");
   ShowAt(10, "discount   = 0.4" + kTimes + "$30.00 = $12.00", 2);
   Show("sale price = $30.00 - $12.00 = $18.00", 2);
   Say(R"(\yCheck:\z  60% is left to pay.)");
