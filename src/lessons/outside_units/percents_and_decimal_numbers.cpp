@@ -75,7 +75,7 @@ void ZerosInFrontAreDropped() {
   constexpr double kBeside = 16;  // columns
   NewScreen();
   DrawHundredSquares(3, 3, 4);
-  SayAt(3, "4 of the 100 squares are yellow.  As a number this is 0.04.", {.col = kBeside});
+  SayAt(3, "4 of the 100 squares are yellow.  This is 0.04.", {.col = kBeside});
   SayAt(7, R"(\yTry it:\z  What percent?)", {.col = kBeside});
   PercentPoint four = PercentPoint::ToPercent(10.5, {"4", -1});
   PageEnd();

@@ -13,6 +13,7 @@ namespace {
 using namespace percents;
 
 const std::string kTimes = " " + tutor::Times + " ";
+const std::string kOver = " " + tutor::Divided + " ";
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -47,23 +48,24 @@ void ThePercentEquation() {
                 "0.25" + kTimes + "20"));
   RuleBox("The Percent Equation", {"part = percent" + kTimes + "whole"});
   PageEnd();
-  Say(R"(\yWatch out:\z  25% is the decimal number 0.25, not 25.  Someone takes 25:)");
+  Say(R"(\yWatch out:\z  25% is 0.25, not 25.  Look what happens with 25:)");
   PaperBox({R"(\r25)" + kTimes + R"(20 = 500 students\z)"});
   Say("How can you see that this is wrong?");
   PageEnd();
   Say("25% is less than 100%, so the part is less than the whole.  But 500 is more than 20.");
+  AddLine("Nor do we divide:  20" + kOver + "0.25 = 80.");
   PageEnd();
 }
 
 void FindThePart() {
   const PercentQuestion question = {Asked::Part, 15, 60};
   NewScreen();
-  const SentenceFigure sentence(4, question);
-  SayAt(8, R"(\yTry it:\z  Say this as an equation.  Let n be the number that we look for.)");
+  const SentenceFigure sentence(3, question);
+  SayAt(7, R"(\yTry it:\z  Say this as an equation.  Let n be the number that we look for.)");
   PageEnd();
-  ClearBelow(8);
+  ClearBelow(7);
   sentence.Translate();
-  SayAt(8, R"("What number" is the letter, "is" is the equal sign, and "of" is times.)");
+  SayAt(7, R"("What number" is the letter, "is" is the equal sign, and "of" is times.)");
   PageEnd();
   Say("0.15 is 15 hundredths.  15" + kTimes + "60 = 900, so we have 900 hundredths:");
   Show(question.Equation() + " = 900/100 = 9");
@@ -78,12 +80,12 @@ void FindThePart() {
 void FindThePercent() {
   const PercentQuestion question = {Asked::Percent, 25, 48};
   NewScreen();
-  const SentenceFigure sentence(4, question);
-  SayAt(8, R"(\yTry it:\z  Which is the whole, 12 or 48?)");
+  const SentenceFigure sentence(3, question);
+  SayAt(7, R"(\yTry it:\z  Which is the whole, 12 or 48?)");
   PageEnd();
-  ClearBelow(8);
+  ClearBelow(7);
   sentence.Translate();
-  SayAt(8, R"(The whole stands after "of": it is \y48\z.  p is the percent.)");
+  SayAt(7, R"(The whole stands after "of": it is \y48\z.  p is the percent, as a decimal number.)");
   PageEnd();
   Say("p is multiplied by 48.  We divide both sides by 48:");
   Show("p = 12/48 = 1/4 = 0.25");
@@ -94,29 +96,30 @@ void FindThePercent() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Someone divides the other way around:)");
-  PaperBox({R"(\r48/12 = 4 = 400%\z)"});
-  Say("What is wrong with 400%?");
+  SayAt(3, R"(\yWatch out:\z  Mistakes with 12 and 48:)");
+  PaperBox({R"(\r48/12 = 4 = 400%\z)", R"(\r12%\z:  the part as the percent)"});
+  Say("Can 12 be 400% of 48?");
   PageEnd();
   PercentBar bar(10, "48 = 100%");
   bar.FillLeft(25);
   bar.NameLeft("12 = 25%");
-  SayAt(14, R"(12 is less than 48, so it is \yless than 100%\z.  We divide part by whole.)");
+  SayAt(14, R"(No, 12 is less than 48, so it is \yless than 100%\z.  We divide part by whole.)");
   PageEnd();
 }
 
 void FindTheWhole() {
   const PercentQuestion question = {Asked::Whole, 30, 60};
   NewScreen();
-  const SentenceFigure sentence(4, question);
-  SayAt(8, R"(\yTry it:\z  Now which of the three are we looking for?)");
+  const SentenceFigure sentence(3, question);
+  SayAt(7, R"(\yTry it:\z  Now which of the three is missing?)");
   PageEnd();
-  ClearBelow(8);
+  ClearBelow(7);
   sentence.Translate();
-  SayAt(8, R"(n stands after "of".  We are looking for the \ywhole\z.)");
+  SayAt(7, R"(n stands after "of".  The \ywhole\z is missing.)");
   PageEnd();
   Say("n is multiplied by 0.3.  We divide both sides by 0.3:");
   Show("n = 18/(0.3)");
+  Say("The bar means divide:  18" + kOver + "0.3");
   PageEnd();
   Say("We want to divide by a whole number.  So we multiply top and bottom by 10.  10/10 is 1, so "
       "the value stays the same:");
@@ -134,24 +137,28 @@ void FindTheWhole() {
   Say("Can 5.4 be the whole when 18 is a part of it?");
   PageEnd();
   Say("No.  18 is only 30% of the whole, so the whole is more than 18.");
+  Say("18 + 5.4 = 23.4 is wrong too:  30% of 23.4 is only 7.02.");
   PageEnd();
 }
 
 void WhichIsAsked() {
-  const std::string over = " " + tutor::Divided + " ";
   NewScreen();
   SayAt(3, "This is how we find each of the three:");
-  PaperBox({"part    = percent" + kTimes + "whole", "percent = part" + over + "whole",
-            "whole   = part" + over + "percent"});
+  PaperBox({"part    = percent" + kTimes + "whole", "percent = part" + kOver + "whole",
+            "whole   = part" + kOver + "percent"});
   PageEnd();
-  Say(R"(\yTry it:\z  6 is what percent of 40?)");
+  Say(R"(\yTry it:\z  1.8 is what percent of 4?)");
   PageEnd();
-  Say(R"(The \ypercent\z is missing:)");
-  Show("p = 6/40 = 0.15 = 15%");
-  Say(R"(\yTry it:\z  7 is 35% of what number?)");
+  Say(Text(R"(The \ypercent\z is missing.  1.8 is 180 hundredths, and {}:)",
+           "180" + kOver + "4 = 45"));
+  Show("p = (1.8)/4 = 0.45 = 45%");
   PageEnd();
-  Say(R"(The \ywhole\z is missing.  0.35 has two places after the point, so we multiply top and bottom by 100:)");
-  Show("n = 7/(0.35) = 700/35 = 20");
+  ClearBelow(8);
+  SayAt(9, R"(\yTry it:\z  8.4 is 35% of what number?)");
+  PageEnd();
+  Say(R"(The \ywhole\z is missing.  0.35 has two places after the point.  So we multiply )"
+      "by 100/100, which is 1:");
+  Show("n = (8.4)/(0.35) = 840/35 = 24");
   PageEnd();
 }
 
@@ -179,9 +186,11 @@ class UsingThePercentEquation final : public LessonScript {
   std::vector<Mistake> MistakesAtPart() const;
   std::vector<Mistake> MistakesAtPercent() const;
   std::vector<Mistake> MistakesAtWhole() const;
+  static Mistake Rounded(const std::string& name, int a, int b);
   int Answer() const;
 
   void ExplainSolution() const;
+  void ExplainHundredths(const std::string& quotient) const;
   void ExplainQuotient(const std::string& quotient) const;
   void Check() const;
   void CheckByTens() const;
@@ -193,12 +202,6 @@ class UsingThePercentEquation final : public LessonScript {
 
 constexpr int kUnit = 10000;  // 1 in ten-thousandths
 constexpr int kHundredth = 100;
-
-// Halves upward; a and b are positive, a in ten-thousandths.
-int RoundedQuotient(int a, int b) {
-  const int step = b * kHundredth;
-  return (2 * a + step) / (2 * step) * kHundredth;
-}
 
 // 98 % of the draws are accepted.
 void UsingThePercentEquation::DrawProblem(RandomStream& random) {
@@ -226,28 +229,35 @@ int UsingThePercentEquation::Answer() const {
   return kUnit * (question_.asked == Asked::Percent ? question_.percent : question_.whole);
 }
 
-// The first one is always offered.  What does not end with the hundredths is rounded to them.
+// The first one is always offered.
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::Mistakes() const {
   if (question_.asked == Asked::Part) return MistakesAtPart();
   return question_.asked == Asked::Percent ? MistakesAtPercent() : MistakesAtWhole();
 }
 
+// The quotient is rounded to hundredths where it does not end with them; halves upward.  a and b
+// are positive, a in ten-thousandths.
+UsingThePercentEquation::Mistake UsingThePercentEquation::Rounded(const std::string& name, int a,
+                                                                  int b) {
+  const int step = b * kHundredth;
+  return {name + (a % step == 0 ? "" : " and rounds"), (2 * a + step) / (2 * step) * kHundredth};
+}
+
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtPart() const {
   const int whole = question_.whole * kUnit;
-  return {{"divides by the percent in place of multiplying",
-           RoundedQuotient(whole * kHundred, question_.percent)},
+  return {Rounded("divides by the percent in place of multiplying", whole * kHundred,
+                  question_.percent),
           {"gives what is left of the whole", whole - Answer()},
-          {"moves the point of the percent one place only", Answer() * 10},
-          {"moves the point of the percent three places", Answer() / 10},
-          {"multiplies by the percent without moving the point", Answer() * kHundred}};
+          {"reads the percent as tenths", Answer() * 10},
+          {"reads the percent as thousandths", Answer() / 10},
+          {"uses the percent as a whole number", Answer() * kHundred}};
 }
 
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtPercent() const {
   const int part = question_.PartInHundredths() * kHundredth;
   return {
-      {"multiplies in place of dividing and only writes the percent sign", part * question_.whole},
-      {"switches the part and the whole",
-       RoundedQuotient(kHundred * kHundred * kUnit, question_.percent)},
+      {"multiplies the part by the whole", part * question_.whole},
+      Rounded("switches the part and the whole", kHundred * kHundred * kUnit, question_.percent),
       {"gives the percent that is left", kHundred * kUnit - Answer()},
       {"moves the point of the decimal number one place only", Answer() / 10},
       {"moves the point of the decimal number three places", Answer() * 10},
@@ -257,13 +267,12 @@ std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesA
 
 std::vector<UsingThePercentEquation::Mistake> UsingThePercentEquation::MistakesAtWhole() const {
   const int part = question_.PartInHundredths() * kHundredth;
-  const int percentOfPart = RoundedQuotient(part * question_.percent, kHundred);
-  return {{"multiplies in place of dividing", percentOfPart},
-          {"moves the point of the percent one place only", Answer() / 10},
-          {"moves the point of the percent three places", Answer() * 10},
-          {"divides by the percent without moving the point", Answer() / kHundred},
-          {"adds the percent of the part to the part",
-           RoundedQuotient(part * (kHundred + question_.percent), kHundred)}};
+  return {Rounded("multiplies in place of dividing", part * question_.percent, kHundred),
+          {"reads the percent as tenths", Answer() / 10},
+          {"reads the percent as thousandths", Answer() * 10},
+          {"uses the percent as a whole number", Answer() / kHundred},
+          Rounded("adds the percent of the part to the part", part * (kHundred + question_.percent),
+                  kHundred)};
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -276,17 +285,18 @@ void UsingThePercentEquation::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 constexpr double kWordsRow = 11.5;
+constexpr double kQuotientRow = 14;
 constexpr double kSolutionRow = 16.5;
 
 void UsingThePercentEquation::ExplainProblem() {
   ProblemBanner();
   const SentenceFigure sentence(4, question_);
   ShowPartPercentWhole(8);
-  SayAt(kWordsRow, R"(The whole stands after "of".  Which of the three are we looking for?)");
+  SayAt(kWordsRow, R"(The whole stands after "of".  Which of the three is missing?)");
   PageEnd();
   const char* names[] = {"part", "percent", "whole"};
   ClearRows(kWordsRow, 2);
-  SayAt(kWordsRow, Text(R"(We are looking for the \y{}\z.  We write the sentence as an equation.)",
+  SayAt(kWordsRow, Text(R"(The \y{}\z is missing.  We write the sentence as an equation.)",
                         names[static_cast<int>(question_.asked) - 1]));
   FillKnown(question_);
   sentence.Translate();
@@ -313,33 +323,42 @@ void UsingThePercentEquation::ExplainSolution() const {
   const std::string divisor = isPercent ? question_.WholeText() : question_.DecimalText();
   const std::string quotient =
       question_.Letter() + " = (" + question_.PartText() + ")/(" + divisor + ")";
-  SayAt(kSolutionRow - 2.5, Text("We divide both sides by {}:", divisor));
-  ShowAt(kSolutionRow, quotient);
+  ClearRows(kWordsRow, 2);
+  SayAt(kWordsRow, Text("We divide both sides by {}:", divisor));
+  ShowAt(kQuotientRow, quotient);
+  GoBelow();
   PageEnd();
   if (isPercent) {
-    ShowAt(kSolutionRow, quotient + " = " + question_.DecimalText());
-    GoBelow();
-    AddLine(
-        Text(R"(As a percent, {} is \y{}\z.)", question_.DecimalText(), question_.PercentText()));
+    ExplainHundredths(quotient);
   } else {
     ExplainQuotient(quotient);
   }
+}
+
+// A whole number of hundredths divided by the whole gives the percent itself.
+void UsingThePercentEquation::ExplainHundredths(const std::string& quotient) const {
+  const std::string hundredths = DecimalOf(question_.PartInHundredths());
+  Say(Text("{} is {} hundredths, and {}.  So we get {} hundredths:", question_.PartText(),
+           hundredths,
+           hundredths + kOver + question_.WholeText() + " = " + NumStr(question_.percent),
+           question_.percent));
+  Show(quotient + " = " + question_.DecimalText());
+  PageEnd();
+  AddLine(Text(R"(As a percent, {} is \y{}\z.)", question_.DecimalText(), question_.PercentText()));
 }
 
 void UsingThePercentEquation::ExplainQuotient(const std::string& quotient) const {
   const bool endsWithTenths = question_.percent % 10 == 0;
   const int factor = endsWithTenths ? 10 : kHundred;
   const double part = question_.PartInHundredths() * factor / double{kHundred};
-  GoBelow();
-  AddLine(
+  Say(
       Text("{} has {} after the point.  So we multiply top and bottom by {}.  {}/{} is 1, so "
            "the value stays the same.",
            question_.DecimalText(), Words{endsWithTenths ? "one place" : "two places"}, factor,
            factor, factor));
   PageEnd();
-  ShowAt(kSolutionRow, quotient + " = (" + DecimalOf(part) + ")/" +
-                           NumStr(question_.percent * factor / kHundred) + " = " +
-                           question_.WholeText());
+  Show(quotient + " = (" + DecimalOf(part) + ")/" + NumStr(question_.percent * factor / kHundred) +
+       " = " + question_.WholeText());
 }
 
 void UsingThePercentEquation::Check() const {

@@ -176,9 +176,8 @@ void DollarsAndCents() {
            "does he save?");
   PercentBar bar(7, "$124.00 = 100%");
   bar.FillRight(15);
-  bar.NameLeft("$105.40");
-  bar.NameRight("?");
   PageEnd();
+  bar.NameLeft("$105.40");
   bar.NameRight("$18.60 = ?");
   SayAt(11,
         "He saves $18.60 of $124.00.  Long division is hard here.  What is 10% of $124.00, and "

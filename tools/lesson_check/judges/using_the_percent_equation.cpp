@@ -29,10 +29,6 @@ std::string FlawOf(const std::string& number) {
   return FlawOfDecimal(number);
 }
 
-Rational ToHundredths(const Rational& value) {
-  return RoundedTo(Rational(1, 100), value);
-}
-
 class PercentEquation {
  public:
   explicit PercentEquation(const std::string& sentence) {
@@ -86,19 +82,22 @@ class PercentEquation {
   static void Add(Reading& reading, const char* name, const Rational& value) {
     reading.mistakes[name] = {value.get_str()};
   }
+  // To hundredths, which its name tells where it changes the number.
+  static void AddRounded(Reading& reading, const std::string& name, const Rational& value) {
+    const Rational rounded = RoundedTo(Rational(1, 100), value);
+    reading.mistakes[name + (rounded == value ? "" : " and rounds")] = {rounded.get_str()};
+  }
 
   void AddMistakesAtPart(Reading& reading) const {
-    Add(reading, "divides by the percent in place of multiplying",
-        ToHundredths(100 * whole_ / percent_));
+    AddRounded(reading, "divides by the percent in place of multiplying", 100 * whole_ / percent_);
     Add(reading, "gives what is left of the whole", whole_ - part_);
-    Add(reading, "moves the point of the percent one place only", part_ * 10);
-    Add(reading, "moves the point of the percent three places", part_ / 10);
-    Add(reading, "multiplies by the percent without moving the point", percent_ * whole_);
+    Add(reading, "reads the percent as tenths", part_ * 10);
+    Add(reading, "reads the percent as thousandths", part_ / 10);
+    Add(reading, "uses the percent as a whole number", percent_ * whole_);
   }
   void AddMistakesAtPercent(Reading& reading) const {
-    Add(reading, "multiplies in place of dividing and only writes the percent sign",
-        part_ * whole_);
-    Add(reading, "switches the part and the whole", ToHundredths(100 * whole_ / part_));
+    Add(reading, "multiplies the part by the whole", part_ * whole_);
+    AddRounded(reading, "switches the part and the whole", 100 * whole_ / part_);
     Add(reading, "gives the percent that is left", 100 - percent_);
     Add(reading, "moves the point of the decimal number one place only", percent_ / 10);
     Add(reading, "moves the point of the decimal number three places", percent_ * 10);
@@ -106,12 +105,11 @@ class PercentEquation {
     Add(reading, "takes the part for the percent", part_);
   }
   void AddMistakesAtWhole(Reading& reading) const {
-    Add(reading, "multiplies in place of dividing", ToHundredths(percent_ * part_ / 100));
-    Add(reading, "moves the point of the percent one place only", 10 * part_ / percent_);
-    Add(reading, "moves the point of the percent three places", 1000 * part_ / percent_);
-    Add(reading, "divides by the percent without moving the point", part_ / percent_);
-    Add(reading, "adds the percent of the part to the part",
-        ToHundredths(part_ + percent_ * part_ / 100));
+    AddRounded(reading, "multiplies in place of dividing", percent_ * part_ / 100);
+    Add(reading, "reads the percent as tenths", 10 * part_ / percent_);
+    Add(reading, "reads the percent as thousandths", 1000 * part_ / percent_);
+    Add(reading, "uses the percent as a whole number", part_ / percent_);
+    AddRounded(reading, "adds the percent of the part to the part", part_ + percent_ * part_ / 100);
   }
 
   std::string kind_;
