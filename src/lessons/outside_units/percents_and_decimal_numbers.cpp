@@ -100,8 +100,9 @@ void MoreThanAWhole() {
   SayAt(3, R"(Each figure is one whole, \y100%\z.)", {.col = kBeside});
   PageEnd();
   SayAt(11, R"(\yTry it:\z  125 squares are yellow.  They show 1.25.  What percent is this?)");
+  PercentPoint point = PercentPoint::ToPercent(14.5, {"125", 1});
   PageEnd();
-  PercentPoint::ToPercent(14.5, {"125", 1}).Move();
+  point.Move();
   Say("1.25 = 125%.  A number greater than 1 is more than 100%.");
   PageEnd();
 
@@ -168,14 +169,13 @@ void OtherPercents() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, "250% is more than 100%, so it is more than 1.");
-  PercentPoint::ToDecimal(6, {"25", 1}).Move();
-  Say("250% = 2.50 = 2.5");
+  PercentPoint::ToDecimal(3, {"25", 1}).Move();
+  Say("250% = 2.50 = 2.5, which is more than 1.");
   PageEnd();
 
   NewScreen();
   RuleBox("To a Decimal Number", {"Move the point 2 places left, drop the %.", "37.5% = 0.375"});
-  Say(R"(\yTry it:\z  Write 47.85% and 6% as decimals.)");
+  Say(R"(\yTry it:\z  Write 47.85% and 6% this way.)");
   PageEnd();
   Say("47.85% = 0.4785");
   AddLine(R"(\yCheck:\z  0.4785)" + kTimes + "100 = 47.85");

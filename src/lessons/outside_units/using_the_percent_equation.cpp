@@ -119,10 +119,9 @@ void FindTheWhole() {
   PageEnd();
   Say("n is multiplied by 0.3.  We divide both sides by 0.3:");
   Show("n = 18/(0.3)");
-  Say("The bar means divide:  18" + kOver + "0.3");
+  AddLine("The bar means divide:  18" + kOver + "0.3");
   PageEnd();
-  Say("We want to divide by a whole number.  So we multiply top and bottom by 10.  10/10 is 1, so "
-      "the value stays the same:");
+  Say("We want to divide by a whole number.  So we multiply by 10/10, which is 1:");
   Show("n = 18/(0.3) = 180/3 = 60");
   PageEnd();
 
@@ -338,10 +337,8 @@ void UsingThePercentEquation::ExplainSolution() const {
 // A whole number of hundredths divided by the whole gives the percent itself.
 void UsingThePercentEquation::ExplainHundredths(const std::string& quotient) const {
   const std::string hundredths = DecimalOf(question_.PartInHundredths());
-  Say(Text("{} is {} hundredths, and {}.  So we get {} hundredths:", question_.PartText(),
-           hundredths,
-           hundredths + kOver + question_.WholeText() + " = " + NumStr(question_.percent),
-           question_.percent));
+  Say(Text("{} is {} hundredths.  So we get {} hundredths:", question_.PartText(), hundredths,
+           hundredths + kOver + question_.WholeText() + " = " + NumStr(question_.percent)));
   Show(quotient + " = " + question_.DecimalText());
   PageEnd();
   AddLine(Text(R"(As a percent, {} is \y{}\z.)", question_.DecimalText(), question_.PercentText()));

@@ -183,7 +183,7 @@ void DollarsAndCents() {
         "He saves $18.60 of $124.00.  Long division is hard here.  What is 10% of $124.00, and "
         "what is 5% of it?");
   PageEnd();
-  Say("10% is $12.40, and half of that, 5%, is $6.20.");
+  Say("10% is $12.40, and 5% is half, $6.20.");
   Show("$12.40 + $6.20 = $18.60");
   bar.NameRight("$18.60 = 15%");
   AddLine(R"(So he saves 10% + 5% = \y15%\z.)");
