@@ -372,7 +372,8 @@ void WordProblemsInvolvingPercent::ExplainSalePrice(PercentBar& bar) const {
 void WordProblemsInvolvingPercent::CheckByParts() const {
   const EasyParts parts = EasyPartsOf(story_);
   SayInBoxAnew("Check:  " + parts.found);
-  if (!parts.sum.empty()) SayInBox(parts.sum);
+  const std::string& rest = parts.sum.empty() ? parts.percent : parts.sum;
+  if (!rest.empty()) SayInBox(rest);
   PageEnd();
 }
 
@@ -392,8 +393,8 @@ void WordProblemsInvolvingPercent::ExplainPercentSaved() const {
   PageEnd();
   SayInBoxAnew(Text("percent = {}", saved + kOver + MoneyOf(story_.price)));
   SayInBox(
-      "Simplify the expression to find the percent.  We look for parts of the price that are "
-      "easy to find.");
+      "Simplify the expression to find the percent.  We try easy parts: a half, a quarter, a "
+      "fifth, 10% and 5%.");
   PageEnd();
   const EasyParts parts = EasyPartsOf(story_);
   SayInBoxAnew(parts.found);

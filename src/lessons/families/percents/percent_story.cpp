@@ -85,9 +85,10 @@ constexpr UnitFraction kUnitFractions[] = {
     {50, "half"}, {25, "quarter"}, {20, "fifth"}, {10, "tenth"}};
 
 EasyParts OnePart(const PercentStory& story, const std::string& name) {
-  const bool isHalf = name == "half";
-  return {Text("{} of {} is {}.", Words{(isHalf ? "Half" : "A ") + (isHalf ? "" : name)},
-               MoneyOf(story.price), MoneyOf(story.Discount())),
+  const std::string over = " " + tutor::Divided + " ";
+  return {Text("A {} of {} is {}.", name, MoneyOf(story.price),
+               MoneyOf(story.price) + over + NumStr(kHundred / story.percent) + " = " +
+                   MoneyOf(story.Discount())),
           "", Text("A {} is {}%.", name, story.percent)};
 }
 

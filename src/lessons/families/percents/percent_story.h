@@ -37,7 +37,7 @@ std::string MoneyOf(int cents);
 struct EasyParts {
   std::string found;    // "10% of $41.80 is $4.18, and half of that, 5%, is $2.09."
   std::string sum;      // "$4.18 + $2.09 = $6.27"; "" when one part is all
-  std::string percent;  // "10% + 5% = 15%", or "A quarter is 25%."
+  std::string percent;  // "10% + 5% = 15%", or "A quarter is 25%."; "" for 5%
 };
 EasyParts EasyPartsOf(const PercentStory& story);
 
