@@ -1,6 +1,8 @@
 #include "engine/lesson_script.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include "display/grid.h"
 #include "display/lesson_window.h"
@@ -64,6 +66,25 @@ LessonScript::DrawnProblem LessonScript::DrawFrom(RandomStream& random) {
   return {problem, ChoiceOrder(problem.kind, random), draws};
 }
 
+// A problem of the last one's type is thrown away with its seed, so that the seed that stays gives
+// the same problem to everyone who draws from it.
+LessonScript::DrawnProblem LessonScript::DrawForRun() {
+  DrawnProblem drawn = DrawFrom(ProblemStream());
+  while (session.gSeedIsNew == 1 && RepeatsType()) {
+    NewProblemSeed();
+    ReseedProblem(session.gProblemSeed);
+    drawn = DrawFrom(ProblemStream());
+  }
+  return drawn;
+}
+
+// Remembers the type of a problem that does not.
+bool LessonScript::RepeatsType() {
+  if (TypeOfProblem() == 0) return false;
+  const std::string type = title_ + " " + std::to_string(TypeOfProblem());
+  return std::exchange(session.gLastType, type) == type;
+}
+
 void LessonScript::Run() {
   while (frmPR->ready == 0) platform::WaitEvents("frmPR");
   SetDefaults();
@@ -125,7 +146,7 @@ void LessonScript::ExampleEntry() {
   try {
     NewScreen();
     Locate(2, 1);
-    const DrawnProblem drawn = DrawFrom(ProblemStream());
+    const DrawnProblem drawn = DrawForRun();
     ExplainProblem();
     FinishPages();
     ExplainMistakes(drawn);
@@ -174,7 +195,7 @@ void LessonScript::ProblemEntry() {
   NewScreen();
   Locate(2, 1);
   ProblemBanner();
-  const DrawnProblem drawn = DrawFrom(ProblemStream());
+  const DrawnProblem drawn = DrawForRun();
   ShowProblem();
   AskProblem(drawn);
   AfterProblem();

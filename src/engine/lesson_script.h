@@ -69,6 +69,9 @@ class LessonScript {
   virtual void ExplainProblem() = 0;
   // The figure that stays in view where the mistakes are told.
   virtual MistakesFigure FigureOfMistakes() { return {}; }
+  // The type of the drawn problem, from 1, where no two new problems running, in practice or among
+  // examples, may be of one type; 0 where they may.
+  virtual int TypeOfProblem() const { return 0; }
   // Whether practice offers a picture of the rules.
   virtual bool OffersRules() const { return false; }
 
@@ -88,6 +91,8 @@ class LessonScript {
   void AfterExample();
   void ProblemEntry();
   DrawnProblem DrawFrom(RandomStream& random);
+  DrawnProblem DrawForRun();
+  bool RepeatsType();
   void AskProblem(const DrawnProblem& drawn);
   void AfterProblem();
   void AfterPractice();

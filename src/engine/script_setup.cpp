@@ -44,9 +44,14 @@ void ShowTestProblemNumber(int number) {
   frmPR->lblTestProbNo2.SetVisible(true);
 }
 
+void TakeNewSeed() {
+  NewProblemSeed();
+  session.gSeedIsNew = 1;
+}
+
 void EnterExample() {
   session.gMode = mode::Example;
-  if (session.gRepeatExample != 1) NewProblemSeed();
+  if (session.gRepeatExample != 1) TakeNewSeed();
   ReseedProblem(session.gProblemSeed);
   session.gRepeatExample = 0;
 }
@@ -60,7 +65,7 @@ void EnterPractice() {
     session.gMode = mode::Explanation;
     frmPR->lblPracticeResults.SetVisible(false);
   } else {
-    NewProblemSeed();
+    TakeNewSeed();
     session.gMode = mode::NewProblem;
   }
   ReseedProblem(session.gProblemSeed);
@@ -151,6 +156,7 @@ void SetUpScriptRun() {
     SaveThenExitIfLeft(SavePracticeRecord);
   ShowTabs();
   ShowStatusLabels();
+  session.gSeedIsNew = 0;
   session.gLastActivity = std::to_string(session.gActivity);
   EnterActivity();
 }

@@ -91,6 +91,8 @@ struct Session {
   Bool gBeginExplanation = kFalse;
   Bool gBeginTestExplanation = kFalse;
   int gProblemSeed = 0;       // 0 to 32766: the problem in hand can be drawn again from it
+  int gSeedIsNew = 0;         // flag: this run is the first one to draw from gProblemSeed
+  std::string gLastType;      // title and type of the last new problem of a lesson that has types
   int gRepeatExample = 0;     // flag: the next example run keeps gProblemSeed
   int gRepeatProblem = 0;     // flag: the next practice run is the same problem again
   int gExplainProblem = 0;    // flag: the next practice run explains the problem

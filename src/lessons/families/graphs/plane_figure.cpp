@@ -93,9 +93,7 @@ void DrawPointItem(int index, const FigureItem& point, platform::Colour colour) 
   const bool isNamed = HasLabel(index, point);
   picGraph2DPlotPoint(index, place.x, place.y, colour);
   if (point.label.empty() || isNamed) return;
-  const std::string label = InPlainFace(point.label);
-  const LabelSize size = SizeOf(frmPR->picGraph2D[index], label);
-  PrintLabel(index, label, GroundOf(index).PlaceAtPoint(place, size), colour);
+  LabelPlace(index, place.x, place.y, point.label, colour);
 }
 
 // A step goes round a corner, guides go to both axes.
@@ -172,6 +170,12 @@ void ShowPlane(int index, double row, double col, int square, PlaneHeight height
 
 void ShowPlaneAtRight(double row, PlaneHeight height) {
   ShowPlane(1, row, kColAtRight, kSquareAtRight, height);
+}
+
+void LabelPlace(int index, double x, double y, const std::string& text, platform::Colour colour) {
+  const std::string label = InPlainFace(text);
+  const LabelSize size = SizeOf(frmPR->picGraph2D[index], label);
+  PrintLabel(index, label, GroundOf(index).PlaceAtPoint({x, y}, size), colour);
 }
 
 void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items) {

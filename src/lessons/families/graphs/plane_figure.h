@@ -44,4 +44,8 @@ void DrawArrows(int index, const FigureItem& step, platform::Colour colour);
 // Labels keep clear of what later pages are going to draw.
 void KeepLabelsClearOf(int index, const std::vector<FigureItem>& items);
 
+// A text beside a place, as the label of a point would stand there: the length of a step, say.
+void LabelPlace(int index, double x, double y, const std::string& text,
+                platform::Colour colour = platform::colour::Black);
+
 }  // namespace course::graphs
