@@ -238,8 +238,8 @@ constexpr double kWorkRow = 14.4;
 void GraphingLinearEquations::GraphSlopeForm() const {
   const GraphingSheet sheet(equation_);
   const int slope = sheet.Slope();
-  const GraphPoint first = {0, sheet.Intercept()};
-  const GraphPoint second = {1, sheet.Intercept() + slope};
+  const GridPoint first = {0, sheet.Intercept()};
+  const GridPoint second = {1, sheet.Intercept() + slope};
   sheet.ShowEmptyPlane(kPlaneRow);
   PageEnd();
   SayAt(8.6,

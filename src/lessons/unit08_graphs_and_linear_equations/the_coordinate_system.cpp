@@ -12,7 +12,7 @@ using namespace graphs;
 constexpr int kPlane = 1;
 constexpr double kBelowPlane = 14;  // row, on a teaching screen
 
-FigureItem PointOf(PlanePoint point, const std::string& label) {
+FigureItem PointOf(GridPoint point, const std::string& label) {
   return PointItem(point.x, point.y, label);
 }
 
@@ -28,17 +28,17 @@ Words Upward(int y) {
 void WalkAcross(int x) {
   DrawArrows(kPlane, StepItem(0, 0, x, 0), platform::colour::Blue);
 }
-void WalkUp(PlanePoint to) {
+void WalkUp(GridPoint to) {
   DrawArrows(kPlane, StepItem(to.x, 0, 0, to.y), platform::colour::Blue);
 }
 // The point at the end of the way.
-void Arrive(PlanePoint at, const std::string& label) {
+void Arrive(GridPoint at, const std::string& label) {
   DrawOnPlane(kPlane, {PointOf(at, label)}, platform::colour::Blue);
 }
 
 // Room for the labels of what comes on later pages.
-void Expect(const std::vector<PlanePoint>& points) {
-  for (const PlanePoint& point : points)
+void Expect(const std::vector<GridPoint>& points) {
+  for (const GridPoint& point : points)
     KeepLabelsClearOf(kPlane, {StepItem(0, 0, point.x, 0), StepItem(point.x, 0, 0, point.y),
                                PointItem(point.x, point.y)});
 }
@@ -62,7 +62,7 @@ void TwoAxes() {
 }
 
 void TwoCoordinates() {
-  constexpr PlanePoint kFirst = {4, 2};
+  constexpr GridPoint kFirst = {4, 2};
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst});
@@ -80,8 +80,8 @@ void TwoCoordinates() {
 }
 
 void NegativeCoordinates() {
-  constexpr PlanePoint kFirst = {-3, 1};
-  constexpr PlanePoint kExchanged = {1, -3};
+  constexpr GridPoint kFirst = {-3, 1};
+  constexpr GridPoint kExchanged = {1, -3};
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst, kExchanged});
@@ -93,36 +93,36 @@ void NegativeCoordinates() {
   WalkUp(kFirst);
   SayAt(kBelowPlane, Text(R"(3 left, then 1 up:  L has the coordinates \y{}\z.  The minus of a )"
                           "coordinate stands a little higher.",
-                          CoordinatesText(kFirst)));
+                          GraphPointText(kFirst)));
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kExchanged, "M")});
   Say(R"(\yTry it:\z  And the coordinates of M?)");
   PageEnd();
   WalkAcross(kExchanged.x);
   WalkUp(kExchanged);
-  Say(Text(R"(1 right, then 3 down:  \y{}\z.)", CoordinatesText(kExchanged)));
-  PaperBox({Text(R"(L is {}, \rnot {}\z)", CoordinatesText(kFirst), CoordinatesText(kExchanged)),
+  Say(Text(R"(1 right, then 3 down:  \y{}\z.)", GraphPointText(kExchanged)));
+  PaperBox({Text(R"(L is {}, \rnot {}\z)", GraphPointText(kFirst), GraphPointText(kExchanged)),
             "The same numbers in another order:  another point."});
   PageEnd();
 }
 
 void Plotting() {
-  constexpr PlanePoint kFirst = {-2, -4};
-  constexpr PlanePoint kSecond = {5, -3};
+  constexpr GridPoint kFirst = {-2, -4};
+  constexpr GridPoint kSecond = {5, -3};
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst, kSecond});
   Say(R"(To \cplot\z a point means to draw it.)", kBesidePlane);
-  Say(Text(R"(\yTry it:\z  Plot {}.  Which way do we go?)", CoordinatesText(kFirst)), kBesidePlane);
+  Say(Text(R"(\yTry it:\z  Plot {}.  Which way do we go?)", GraphPointText(kFirst)), kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
-  SayAt(kBelowPlane, Text("x is {}.  So we go 2 to the left.", CoordinateText(kFirst.x)));
+  SayAt(kBelowPlane, Text("x is {}.  So we go 2 to the left.", RaisedNumberText(kFirst.x)));
   PageEnd();
   WalkUp(kFirst);
   Arrive(kFirst, "P");
-  Say(Text("y is {}.  So we go 4 down.  There is the point, P.", CoordinateText(kFirst.y)));
+  Say(Text("y is {}.  So we go 4 down.  There is the point, P.", RaisedNumberText(kFirst.y)));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Put your finger on {}.)", CoordinatesText(kSecond)));
+  Say(Text(R"(\yTry it:\z  Put your finger on {}.)", GraphPointText(kSecond)));
   PageEnd();
   WalkAcross(kSecond.x);
   WalkUp(kSecond);
@@ -132,31 +132,31 @@ void Plotting() {
 }
 
 void PointsOnTheAxes() {
-  constexpr PlanePoint kOnX = {3, 0};
-  constexpr PlanePoint kOnY = {0, -4};
-  constexpr PlanePoint kAsked = {-5, 0};
+  constexpr GridPoint kOnX = {3, 0};
+  constexpr GridPoint kOnY = {0, -4};
+  constexpr GridPoint kAsked = {-5, 0};
   NewScreen();
   ShowPlaneAtRight();
   Expect({kOnX, kOnY, kAsked});
   Say("A coordinate can be 0.", kBesidePlane);
-  Say(Text(R"(\yTry it:\z  Where are {} and {}?)", CoordinatesText(kOnX), CoordinatesText(kOnY)),
+  Say(Text(R"(\yTry it:\z  Where are {} and {}?)", GraphPointText(kOnX), GraphPointText(kOnY)),
       kBesidePlane);
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kOnX, "R"), PointOf(kOnY, "S")});
   SayAt(kBelowPlane, Text("{} is R, on the x axis:  3 right, and y is 0, so no way up or down.",
-                          CoordinatesText(kOnX)));
-  Say(Text("{} is S, on the y axis:  4 down from the origin.", CoordinatesText(kOnY)));
+                          GraphPointText(kOnX)));
+  Say(Text("{} is S, on the y axis:  4 down from the origin.", GraphPointText(kOnY)));
   PageEnd();
   DrawOnPlane(kPlane, {PointOf(kAsked, "T")});
-  Say(Text(R"(\yTry it:\z  Is T {} or {}?)", CoordinatesText(kAsked), CoordinatesText({0, -5})));
+  Say(Text(R"(\yTry it:\z  Is T {} or {}?)", GraphPointText(kAsked), GraphPointText({0, -5})));
   PageEnd();
-  Say(Text(R"(T is \y{}\z:  5 left, so x is {}.)", CoordinatesText(kAsked), CoordinateText(-5)));
+  Say(Text(R"(T is \y{}\z:  5 left, so x is {}.)", GraphPointText(kAsked), RaisedNumberText(-5)));
   PageEnd();
 }
 
 // In the middle of each quadrant, counted from I on.
 void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
-  constexpr std::array<PlanePoint, 4> kMiddles = {{{3, 3}, {-3, 3}, {-3, -3}, {3, -3}}};
+  constexpr std::array<GridPoint, 4> kMiddles = {{{3, 3}, {-3, 3}, {-3, -3}, {3, -3}}};
   constexpr double kSize = 16;      // points
   constexpr double kLetter = 0.27;  // half of the usual width of one, in squares
   for (std::size_t i = 0; i < texts.size(); ++i) {
@@ -182,25 +182,25 @@ void Quadrants() {
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane,
-        Text(R"(\yTry it:\z  Which quadrants hold {}, {} and {}?)", CoordinatesText({4, -1}),
-             CoordinatesText({-1, 4}), CoordinatesText({0, 3})));
+        Text(R"(\yTry it:\z  Which quadrants hold {}, {} and {}?)", GraphPointText({4, -1}),
+             GraphPointText({-1, 4}), GraphPointText({0, 3})));
   PageEnd();
   Say(
       Text("{} is in IV and {} in II.  {} is on the y axis, and a point on an axis is in no "
            "quadrant.",
-           CoordinatesText({4, -1}), CoordinatesText({-1, 4}), CoordinatesText({0, 3})));
+           GraphPointText({4, -1}), GraphPointText({-1, 4}), GraphPointText({0, 3})));
   PageEnd();
 }
 
 // Five points of which one is looked for, on the lower plane.
 void WhichOfFive() {
-  constexpr PlanePoint kAsked = {-3, 2};
+  constexpr GridPoint kAsked = {-3, 2};
   NewScreen();
   ShowPlaneAtRight(3.2, PlaneHeight::Low);
   Expect({kAsked});
   DrawOnPlane(kPlane, {PointItem(3, 2, "F"), PointItem(2, -3, "G"), PointItem(3, -2, "H"),
                        PointOf(kAsked, "J"), PointItem(-3, -2, "K")});
-  Say(Text("Which point has the coordinates {}?", CoordinatesText(kAsked)), kBesidePlane);
+  Say(Text("Which point has the coordinates {}?", GraphPointText(kAsked)), kBesidePlane);
   Say(R"(\yTry it:\z  In which quadrant is it?)", kBesidePlane);
   PageEnd();
   constexpr double kBelow = 11.2;
@@ -260,7 +260,7 @@ void TheCoordinateSystem::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 // The signs fit the place.
-void CheckQuadrant(PlanePoint point, const std::string& letter) {
+void CheckQuadrant(GridPoint point, const std::string& letter) {
   const std::string quadrant =
       point.y > 0 ? (point.x > 0 ? "I" : "II") : (point.x < 0 ? "III" : "IV");
   const bool sameSign = (point.x > 0) == (point.y > 0);
@@ -293,24 +293,25 @@ void TheCoordinateSystem::ExplainProblem() {
 }
 
 void TheCoordinateSystem::ExplainReading() const {
-  const PlanePoint point = question_.Point();
+  const GridPoint point = question_.Point();
   const std::string& letter = question_.Letter();
   Say(Text("x comes first.  Is {} right or left of the y axis, and how far?", letter),
       kBesidePlane);
   PageEnd();
   WalkAcross(point.x);
-  Say(Text(R"({}, so the x coordinate is \y{}\z.)", Across(point.x), CoordinateText(point.x)),
+  Say(Text(R"({}, so the x coordinate is \y{}\z.)", Across(point.x), RaisedNumberText(point.x)),
       kBesidePlane);
   PageEnd();
   WalkUp(point);
-  Say(Text(R"(Then {}, so the y coordinate is \y{}\z.)", Upward(point.y), CoordinateText(point.y)),
+  Say(Text(R"(Then {}, so the y coordinate is \y{}\z.)", Upward(point.y),
+           RaisedNumberText(point.y)),
       kBesidePlane);
   PageEnd();
 }
 
 void TheCoordinateSystem::ExplainPlotting() const {
-  const PlanePoint point = question_.Point();
-  Say(Text("The first number, {}, is x.  Which way do we go?", CoordinateText(point.x)),
+  const GridPoint point = question_.Point();
+  Say(Text("The first number, {}, is x.  Which way do we go?", RaisedNumberText(point.x)),
       kBesidePlane);
   PageEnd();
   WalkAcross(point.x);
@@ -319,7 +320,7 @@ void TheCoordinateSystem::ExplainPlotting() const {
       kBesidePlane);
   PageEnd();
   WalkUp(point);
-  Say(Text("The second number, {}, is y.  So we go {}, to {}.", CoordinateText(point.y),
+  Say(Text("The second number, {}, is y.  So we go {}, to {}.", RaisedNumberText(point.y),
            Upward(point.y), question_.Letter()),
       kBesidePlane);
   PageEnd();

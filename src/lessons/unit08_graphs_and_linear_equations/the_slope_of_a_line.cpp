@@ -217,8 +217,8 @@ class TheSlopeOfALine final : public LessonScript {
   void ExplainMissingCoordinate() const;
 
   Kind kind_ = Kind::DrawnLine;
-  GraphPoint first_;
-  GraphPoint second_;
+  GridPoint first_;
+  GridPoint second_;
   int missing_ = 0;  // of x1, y1, x2, y2: 1 to 4
 };
 
@@ -267,7 +267,7 @@ void TheSlopeOfALine::AskForSlope(RandomStream& random) {
   const SlopeStep step = {first_, second_};
   const Fraction slope = Reduced(step.Rise(), step.Run());
   const Fraction counted = Reduced(random.Rand(1, 5), slope.den);
-  const auto comesFrom = [&](const GraphPoint& point) {
+  const auto comesFrom = [&](const GridPoint& point) {
     return counted == Reduced(std::abs(point.y - point.x), std::abs(step.Run()));
   };
 

@@ -15,7 +15,7 @@ std::string GraphPointText(const std::string& x, const std::string& y) {
   return "(" + x + "," + y + ")";
 }
 
-std::string GraphPointText(const GraphPoint& point) {
+std::string GraphPointText(const GridPoint& point) {
   return GraphPointText(RaisedNumberText(point.x), RaisedNumberText(point.y));
 }
 

@@ -6,15 +6,15 @@
 
 namespace course::graphs {
 
-struct GraphPoint {
+struct GridPoint {
   int x = 0;
   int y = 0;
-  bool operator==(const GraphPoint&) const = default;
+  bool operator==(const GridPoint&) const = default;
 };
 
 // "-3" with a raised minus.
 std::string RaisedNumberText(int number);
-std::string GraphPointText(const GraphPoint& point);
+std::string GraphPointText(const GridPoint& point);
 // The same with coordinates that are written already, such as a letter.
 std::string GraphPointText(const std::string& x, const std::string& y);
 

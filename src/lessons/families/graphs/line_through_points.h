@@ -4,16 +4,12 @@
 
 #include <string>
 
+#include "lessons/families/graphs/coordinates.h"
 #include "mathkit/fraction.h"
 
 namespace course::graphs {
 
-struct GridPoint {
-  int x = 0;
-  int y = 0;
-  bool operator==(const GridPoint&) const = default;
-};
-// "(3,-2)".
+// "(3,-2)", with the minus sign of equations.
 std::string PointText(const GridPoint& point);
 
 // y = slope x + constant, or x = constant.

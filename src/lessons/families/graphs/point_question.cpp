@@ -22,22 +22,13 @@ int Farther(int coordinate) {
 }
 
 // From a place to one beside it: on a line of the grid, in the same quadrant.
-bool IsOneSquareFarther(PlanePoint place, PlanePoint from) {
-  return place == PlanePoint{Farther(from.x), from.y} ||
-         place == PlanePoint{from.x, Farther(from.y)};
+bool IsOneSquareFarther(GridPoint place, GridPoint from) {
+  return place == GridPoint{Farther(from.x), from.y} || place == GridPoint{from.x, Farther(from.y)};
 }
 
 }  // namespace
 
-std::string CoordinateText(int coordinate) {
-  return (coordinate < 0 ? tutor::RaisedMinus : "") + NumStr(std::abs(coordinate));
-}
-
-std::string CoordinatesText(PlanePoint point) {
-  return "(" + CoordinateText(point.x) + "," + CoordinateText(point.y) + ")";
-}
-
-bool PointQuestion::HasRoomAt(PlanePoint place) const {
+bool PointQuestion::HasRoomAt(GridPoint place) const {
   const auto [x, y] = place;
   if (std::abs(x) < 2 || std::abs(y) < 2) return false;  // on an axis or next to it
   if (std::abs(y) > SquaresUp()) return false;           // beyond the grid
@@ -46,22 +37,22 @@ bool PointQuestion::HasRoomAt(PlanePoint place) const {
   return !(y == -1 && x < 0) && !((x == -1 || x == -2) && y == below);
 }
 
-bool PointQuestion::IsTaken(PlanePoint place) const {
+bool PointQuestion::IsTaken(GridPoint place) const {
   return std::ranges::any_of(points_, [&](const LetteredPoint& p) { return p.place == place; });
 }
 
-std::string PointQuestion::MistakeOfSignAt(PlanePoint place) const {
+std::string PointQuestion::MistakeOfSignAt(GridPoint place) const {
   const auto [x, y] = Point();
-  if (place == PlanePoint{-x, y}) return "takes the wrong sign for x";
-  if (place == PlanePoint{x, -y}) return "takes the wrong sign for y";
-  if (place == PlanePoint{-x, -y}) return "takes the wrong sign for both";
+  if (place == GridPoint{-x, y}) return "takes the wrong sign for x";
+  if (place == GridPoint{x, -y}) return "takes the wrong sign for y";
+  if (place == GridPoint{-x, -y}) return "takes the wrong sign for both";
   return "";
 }
 
-std::string PointQuestion::OtherMistakeAt(PlanePoint place) const {
+std::string PointQuestion::OtherMistakeAt(GridPoint place) const {
   const auto [x, y] = Point();
   if (HasRoomAt({y, x}))
-    return place == PlanePoint{-y, x} || place == PlanePoint{y, -x}
+    return place == GridPoint{-y, x} || place == GridPoint{y, -x}
                ? "exchanges the coordinates and takes a wrong sign"
                : "";
   if (IsOneSquareFarther(place, Point())) return "counts one square too many";
@@ -70,8 +61,8 @@ std::string PointQuestion::OtherMistakeAt(PlanePoint place) const {
 }
 
 // What takes the place for the first point's; "" where the place is of no use.
-std::string PointQuestion::MistakeAt(PlanePoint place) const {
-  const PlanePoint exchanged = {Point().y, Point().x};
+std::string PointQuestion::MistakeAt(GridPoint place) const {
+  const GridPoint exchanged = {Point().y, Point().x};
   if (place == exchanged) return "exchanges the coordinates";
   if (HasRoomAt(exchanged) && points_.size() == 1) return "";  // it comes first
   const std::string ofSign = MistakeOfSignAt(place);
@@ -83,9 +74,9 @@ std::string PointQuestion::MistakeAt(PlanePoint place) const {
   return hasOther ? "" : OtherMistakeAt(place);
 }
 
-PlanePoint PointQuestion::DrawPlace(RandomStream& random) const {
+GridPoint PointQuestion::DrawPlace(RandomStream& random) const {
   const int farthest = plane_ == PlaneHeight::Low ? 3 : 6;
-  PlanePoint place;
+  GridPoint place;
   do {
     place.x = random.Rand(-kSquaresAside, kSquaresAside);
     place.y = random.Rand(-farthest, farthest);
@@ -97,7 +88,7 @@ PlanePoint PointQuestion::DrawPlace(RandomStream& random) const {
 void PointQuestion::DrawPoints(RandomStream& random) {
   points_.clear();
   while (points_.size() < kPoints) {
-    const PlanePoint place = DrawPlace(random);
+    const GridPoint place = DrawPlace(random);
     if (points_.empty()) {
       // Exchanged, it would be the same point, or the one with other signs.
       if (std::abs(place.x) != std::abs(place.y)) points_.push_back({place, "", ""});
@@ -126,13 +117,13 @@ void PointQuestion::Draw(RandomStream& random, Problem& problem) {
 
   problem.kind = choice_kind::FiveShuffled;
   problem.question = {asksForPoint_
-                          ? "Which point has the coordinates " + CoordinatesText(Point()) + "?"
+                          ? "Which point has the coordinates " + GraphPointText(Point()) + "?"
                           : "The coordinates of " + Letter() + " are:"};
   problem.figure.clear();
   for (std::size_t i = 0; i < kPoints; ++i) {
     const auto& [place, mistake, letter] = points_[i];
     problem.figure.push_back(PointItem(place.x, place.y, letter));
-    const std::string text = asksForPoint_ ? letter : CoordinatesText(place);
+    const std::string text = asksForPoint_ ? letter : GraphPointText(place);
     if (i == 0)
       problem.Right(1, text);
     else

@@ -70,7 +70,7 @@ void GraphingSheet::PlotIntercept() const {
 }
 
 void GraphingSheet::DrawStep() const {
-  const GraphPoint second = {1, Intercept() + Slope()};
+  const GridPoint second = {1, Intercept() + Slope()};
   DrawOnPlane(kPlane, {StepItem(0, Intercept(), 1, Slope())}, kStep);
   DrawOnPlane(kPlane, {PointItem(0, Intercept(), GraphPointText({0, Intercept()})),
                        PointItem(second.x, second.y, GraphPointText(second))});

@@ -69,7 +69,7 @@ void KeepClearOf(const SlopeStep& step) {
   if (step.Run() != 0) KeepLabelsClearOf(kPlane, {LineOf(step)});
 }
 
-void PlotNamed(const GraphPoint& point) {
+void PlotNamed(const GridPoint& point) {
   DrawOnPlane(kPlane, {PointItem(point.x, point.y, GraphPointText(point))});
 }
 

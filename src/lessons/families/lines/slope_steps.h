@@ -9,13 +9,13 @@
 
 namespace course::lines {
 
-using graphs::GraphPoint;
+using graphs::GridPoint;
 
 // The way from one point to another: the run to the right and the rise up, or below 0 the other
 // way.
 struct SlopeStep {
-  GraphPoint from;
-  GraphPoint to;
+  GridPoint from;
+  GridPoint to;
 
   int Run() const { return to.x - from.x; }
   int Rise() const { return to.y - from.y; }
@@ -44,7 +44,7 @@ inline constexpr platform::Colour kSlopedLine = platform::Rgb(200, 0, 0);
 
 // Labels keep clear of points, line and steps that later pages draw.
 void KeepClearOf(const SlopeStep& step);
-void PlotNamed(const GraphPoint& point);
+void PlotNamed(const GridPoint& point);
 void DrawLineOf(const SlopeStep& step);
 // With their lengths beside them.
 void DrawRun(const SlopeStep& step);
