@@ -18,10 +18,14 @@ bool IsDigit(char c) {
   return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
+bool IsLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
 // What a fraction's part without parentheses may consist of.
 bool IsPartCharacter(char c) {
-  return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '\\' || c == '^' ||
-         c == tutor::SquareRoot[0] || c == tutor::Dot[0];
+  return IsDigit(c) || IsLetter(c) || c == '\\' || c == '^' || c == tutor::SquareRoot[0] ||
+         c == tutor::Dot[0];
 }
 
 // First character of the part that ends before the slash.
@@ -69,17 +73,30 @@ std::string WithoutParentheses(const std::string& part) {
   return part.front() == '(' ? part.substr(1, part.size() - 2) : part;
 }
 
+// The place behind the radicand that begins there: digits, one letter, or what stands in
+// parentheses.
+std::size_t EndOfRadicand(const std::string& s, std::size_t start) {
+  if (start < s.size() && s[start] == '(') return EndOfPart(s, start);
+  std::size_t end = start;
+  while (end < s.size() && IsDigit(s[end])) ++end;
+  return end == start && end < s.size() && IsLetter(s[end]) ? end + 1 : end;
+}
+
 }  // namespace
 
 std::string RadicalsMarked(const std::string& s) {
   std::string marked;
-  bool under = false;
-  for (const char c : s) {
-    if (under && !IsDigit(c)) marked += '`';
-    under = c == tutor::SquareRoot[0] || (under && IsDigit(c));
-    marked += c == tutor::SquareRoot[0] ? '`' : c;
+  for (std::size_t at = 0; at < s.size();) {
+    if (s[at] != tutor::SquareRoot[0]) {
+      marked += s[at++];
+      continue;
+    }
+    const std::size_t end = EndOfRadicand(s, at + 1);
+    const std::string radicand = s.substr(at + 1, end - at - 1);
+    marked += '`' + (radicand.empty() ? radicand : WithoutParentheses(radicand)) + '`';
+    at = end;
   }
-  return under ? marked + '`' : marked;
+  return marked;
 }
 
 std::vector<StackedPiece> CutAtFractions(const std::string& s) {

@@ -4,7 +4,8 @@
 //
 // A part of a fraction is what stands without a blank beside the "/" (letters, digits, radicals,
 // points, exponents, colour codes), or what stands in parentheses there, which are then not
-// printed.  A radical reaches over the digits behind its sign; longer radicands stand between
+// printed.  A radical reaches over the digits or the one letter behind its sign, or over what
+// stands in parentheses there, which are not printed either; radicands may also stand between
 // backquotes, as for isPrintRadicalText.  The transcript holds each fraction as it is typed here.
 #pragma once
 
@@ -26,7 +27,7 @@ struct StackedPiece {
   std::string typed;  // of a fraction: as it stands in the line, without colour codes
 };
 std::vector<StackedPiece> CutAtFractions(const std::string& s);
-// Every radical sign with its digits becomes a radicand between backquotes.
+// Every radical sign with what it reaches over becomes a radicand between backquotes.
 std::string RadicalsMarked(const std::string& s);
 // Columns that the line takes when it is printed.
 int StackedTextWidth(const std::string& s);

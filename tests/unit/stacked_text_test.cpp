@@ -34,6 +34,7 @@ TEST_F(StackedTextTest, RadicalSignsReachOverTheirDigits) {
   const std::string& root = tutor::SquareRoot;
   EXPECT_EQ(RadicalsMarked("2" + root + "10 + " + root + "7"), "2`10` + `7`");
   EXPECT_EQ(RadicalsMarked(root + "5" + root + "6"), "`5``6`");
+  EXPECT_EQ(RadicalsMarked("2x" + root + "(10x^3^)" + root + "xy"), "2x`10x^3^``x`y");
   // (-3 + v17)/4: the numerator is the longer part, the sign takes one cell.
   EXPECT_EQ(StackedTextWidth("x = (-3 + " + root + "17)/4"), 4 + 8);
   EXPECT_EQ(StackedTextWidth(R"(\y1\z/24)"), 2);
