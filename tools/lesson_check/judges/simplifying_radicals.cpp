@@ -1,6 +1,7 @@
 // The square root of a number or of a term with letters, simplified.  Two roots are the same answer
 // when they are written alike: twice the root of 18 is six times the root of 2, and not simplified.
 #include <map>
+#include <utility>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
@@ -96,27 +97,19 @@ class Mistakes {
   Mistakes(const WrittenRoot& right, Reading& reading) : right_(right), reading_(reading) {}
 
   void WithSquare() {
-    for (const auto& [name, count] : right_.outside) {
-      if (count == 0) continue;
-      Add("leaves a square factor under the radical", right_.With(name, -1, 2));
-      Add("brings a square out without taking its root", right_.With(name, 1, 0));
-      Add("leaves one factor of a pair under the radical", right_.With(name, 0, 1));
+    AddOutside();
+    AddInside();
+    for (const auto& [outside, changed] : outside_) {
+      Add(outside, {changed, right_.inside});
+      for (const auto& [inside, kept] : inside_) Add(outside + " and " + inside, {changed, kept});
     }
-    for (const auto& [name, count] : right_.inside) {
-      if (count == 0) continue;
-      Add("brings out a factor that has no pair", right_.With(name, 1, -1));
-      Add("loses a factor that has no pair", right_.With(name, 0, -1));
-    }
+    for (const auto& [inside, kept] : inside_) Add(inside, {right_.outside, kept});
+    for (const auto& [name, count] : right_.outside)
+      if (count > 0) Add("leaves a square factor under the radical", right_.With(name, -1, 2));
+    for (const auto& [name, count] : right_.inside)
+      if (count > 0) Add("brings out a factor that has no pair", right_.With(name, 1, -1));
     if (IsOne(right_.inside))
       Add("takes the root and keeps the radical sign", {{}, right_.outside});
-    // A half of n^2 is n/2 times n.
-    if (const auto two = right_.outside.find("2"); two != right_.outside.end() && two->second > 0) {
-      WrittenRoot halved = right_;
-      for (auto& [name, count] : halved.outside)
-        if (IsNumberName(name)) count *= 2;
-      Add("halves the square factor instead of taking its root", halved.With("2", -1, 0));
-    }
-    AddSum();
   }
 
   void WithoutSquare(const mpz_class& number) {
@@ -125,8 +118,7 @@ class Mistakes {
     for (const auto& [name, count] : right_.inside)
       if (count > 0 && mpz_class(name, 10) != number)
         Add("brings out a factor that has no pair", right_.With(name, 1, -1));
-    if (number % 2 == 0)
-      AddRoot("takes half of the number instead of its root", number / 2, 1);
+    if (number % 2 == 0) AddRoot("takes half of the number instead of its root", number / 2, 1);
     AddRoot("leaves out the radical sign", number, 1);
   }
 
@@ -140,23 +132,53 @@ class Mistakes {
     AddPrimes(inside, root.inside);
     Add(name, root);
   }
+  void AddOutside() {
+    for (const auto& [name, count] : right_.outside)
+      if (count > 0)
+        outside_.emplace_back("brings a square out without taking its root",
+                              right_.With(name, 1, 0).outside);
+    // A half of n^2 is n/2 times n.
+    if (const auto two = right_.outside.find("2"); two != right_.outside.end() && two->second > 0) {
+      Factors halved = right_.outside;
+      for (auto& [name, count] : halved)
+        if (IsNumberName(name)) count *= 2;
+      --halved["2"];
+      outside_.emplace_back("halves the square factor instead of taking its root", halved);
+    }
+    AddSum();
+  }
+
   void AddSum() {
     mpz_class sum = 0;
     int terms = 0;
-    WrittenRoot added = right_;
-    for (auto& [name, count] : added.outside) {
+    Factors added = right_.outside;
+    for (auto& [name, count] : added) {
       if (!IsNumberName(name)) continue;
       sum += mpz_class(name, 10) * count;
       terms += count;
       count = 0;
     }
     if (terms < 2) return;
-    AddPrimes(sum, added.outside);
-    Add("adds the factors that come out instead of multiplying", added);
+    AddPrimes(sum, added);
+    outside_.emplace_back("adds the factors that come out instead of multiplying", added);
   }
+
+  void AddInside() {
+    for (const auto& [name, count] : right_.outside)
+      if (count > 0)
+        inside_.emplace_back("leaves one factor of a pair under the radical",
+                             right_.With(name, 0, 1).inside);
+    for (const auto& [name, count] : right_.inside)
+      if (count > 0)
+        inside_.emplace_back("loses a factor that has no pair", right_.With(name, 0, -1).inside);
+  }
+
+  using Changed = std::vector<std::pair<std::string, Factors>>;  // by a mistake
 
   WrittenRoot right_;
   Reading& reading_;
+  Changed outside_;
+  Changed inside_;
 };
 
 // --- Question and choices ------------------------------------------------------------------------
@@ -172,15 +194,14 @@ void CheckRadicand(const Polynomial& radicand, Reading& reading) {
   reading.Within("the number under the radical", CoefficientOf(radicand), letters.empty() ? 2 : 32,
                  9999);
   reading.Within("the count of letters", static_cast<long>(letters.size()), 0, 2);
-  for (const char letter : letters)
-    reading.Within("an exponent", radicand.Degree(letter), 2, 5);
+  for (const char letter : letters) reading.Within("an exponent", radicand.Degree(letter), 2, 5);
 }
 
 std::string KindOf(const Polynomial& radicand, const WrittenRoot& root) {
   const std::size_t letters = radicand.Letters().size();
-  const std::string size =
-      letters > 0 ? std::to_string(letters) + (letters > 1 ? " letters" : " letter")
-                  : (radicand.Number() > 201 ? "larger number" : "number");
+  const std::string size = letters > 0
+                               ? std::to_string(letters) + (letters > 1 ? " letters" : " letter")
+                               : (radicand.Number() > 201 ? "larger number" : "number");
   if (IsOne(root.outside)) return size + ", simple already";
   return size + (IsOne(root.inside) ? ", a perfect square" : "");
 }

@@ -25,74 +25,110 @@ std::vector<Term> FactorsOf(const Term& term) {
   return factors;
 }
 
-Term Square(const Term& term) {
-  return Product(term, term);
-}
-
 // --- A square under the radical ------------------------------------------------------------------
+//
+// A slip changes what stands outside, or what stands inside.  One of each and both together make
+// four choices with the right one, of which none looks most like the others.
 
-// What becomes of one pair; the factor is one of it.
-void AddSlipsWithPair(const RootTerm& root, const Term& factor, Slips& slips) {
-  const Term others = Quotient(root.outside, factor);
-  slips.push_back({"leaves a square factor under the radical",
-                   {others, Product(root.inside, Square(factor))}});
-  slips.push_back(
-      {"brings a square out without taking its root", {Product(root.outside, factor), root.inside}});
-  slips.push_back({"leaves one factor of a pair under the radical",
-                   {root.outside, Product(root.inside, factor)}});
-}
+struct Part {
+  std::string mistake;
+  Term term;
+};
 
-void AddSlipsWithNumber(const RootTerm& root, Slips& slips) {
-  const int number = root.outside.coef;
-  const std::string& letters = root.outside.letters;
-  if (number % 2 == 0 && number > 2)
-    slips.push_back({"halves the square factor instead of taking its root",
-                     {{number * number / 2, letters}, root.inside}});
-  const std::vector<int> primes = PrimesOf(number);
-  const int sum = std::accumulate(primes.begin(), primes.end(), 0);
-  if (primes.size() > 1 && sum != number)
-    slips.push_back({"adds the factors that come out instead of multiplying",
-                     {{sum, letters}, root.inside}});
-}
-
-// What becomes of a factor without a pair.
-void AddSlipsWithRest(const RootTerm& root, const Term& factor, Slips& slips) {
-  const Term rest = Quotient(root.inside, factor);
-  slips.push_back({"brings out a factor that has no pair", {Product(root.outside, factor), rest}});
-  slips.push_back({"loses a factor that has no pair", {root.outside, rest}});
-}
-
-Slips SlipsWithSquare(const RootTerm& root, RandomStream& random) {
-  Slips slips;
-  const std::vector<Term> pairs = FactorsOf(root.outside);
-  const int pair = random.Index(static_cast<int>(pairs.size()));
-  AddSlipsWithPair(root, pairs[static_cast<std::size_t>(pair) - 1], slips);
-  AddSlipsWithNumber(root, slips);
-  const std::vector<Term> rests = FactorsOf(root.inside);
-  if (rests.empty()) {
-    slips.push_back({"takes the root and keeps the radical sign", {{1, ""}, root.outside}});
-  } else {
-    const int rest = random.Index(static_cast<int>(rests.size()));
-    AddSlipsWithRest(root, rests[static_cast<std::size_t>(rest) - 1], slips);
+class SquareSlips {
+ public:
+  SquareSlips(const RootTerm& root, RandomStream& random) : root_(root), random_(random) {
+    pair_ = OneOf(FactorsOf(root.outside));
+    if (root.inside != Term{1, ""}) rest_ = OneOf(FactorsOf(root.inside));
+    AddOutside();
+    AddInside();
   }
-  return slips;
-}
+
+  Slips Drawn() {
+    const int outside = random_.Index(static_cast<int>(outside_.size()));
+    const int inside = random_.Index(static_cast<int>(inside_.size()));
+    const int last = random_.Index(4);
+    const Part& changed = outside_[static_cast<std::size_t>(outside) - 1];
+    const Part& kept = inside_[static_cast<std::size_t>(inside) - 1];
+    Slips slips = {{changed.mistake, {changed.term, root_.inside}},
+                   {kept.mistake, {root_.outside, kept.term}},
+                   Both(changed, kept)};
+    if (last == 3) slips.push_back(WithoutPair());
+    if (last == 4)
+      for (const Part& other : outside_) slips.push_back(Both(other, kept));
+    slips.push_back(SquareLeft());
+    slips.push_back(WithoutPair());
+    return slips;
+  }
+
+ private:
+  Term OneOf(const std::vector<Term>& factors) {
+    return factors[static_cast<std::size_t>(random_.Index(static_cast<int>(factors.size()))) - 1];
+  }
+
+  void AddOutside() {
+    const int number = root_.outside.coef;
+    const std::string& letters = root_.outside.letters;
+    outside_.push_back(
+        {"brings a square out without taking its root", Product(root_.outside, pair_)});
+    if (number % 2 == 0 && number > 2)
+      outside_.push_back(
+          {"halves the square factor instead of taking its root", {number * number / 2, letters}});
+    const std::vector<int> primes = PrimesOf(number);
+    const int sum = std::accumulate(primes.begin(), primes.end(), 0);
+    if (primes.size() > 1 && sum != number)
+      outside_.push_back({"adds the factors that come out instead of multiplying", {sum, letters}});
+  }
+
+  void AddInside() {
+    inside_.push_back(
+        {"leaves one factor of a pair under the radical", Product(root_.inside, pair_)});
+    if (rest_ != Term{})
+      inside_.push_back({"loses a factor that has no pair", Quotient(root_.inside, rest_)});
+  }
+
+  static Slip Both(const Part& outside, const Part& inside) {
+    return {outside.mistake + " and " + inside.mistake, {outside.term, inside.term}};
+  }
+  Slip SquareLeft() const {
+    return {"leaves a square factor under the radical",
+            {Quotient(root_.outside, pair_), Product(root_.inside, Product(pair_, pair_))}};
+  }
+  Slip WithoutPair() const {
+    if (rest_ == Term{})
+      return {"takes the root and keeps the radical sign", {{1, ""}, root_.outside}};
+    return {"brings out a factor that has no pair",
+            {Product(root_.outside, rest_), Quotient(root_.inside, rest_)}};
+  }
+
+  RootTerm root_;
+  RandomStream& random_;
+  Term pair_;  // one factor of a pair
+  Term rest_;  // a factor that has none; no term when there is none
+  std::vector<Part> outside_;
+  std::vector<Part> inside_;
+};
 
 // --- A number that is simple already -------------------------------------------------------------
 
 Slips SlipsWithoutSquare(int number, RandomStream& random) {
   Slips slips;
   for (int root = 2; root * root + 2 <= number; ++root)
-    slips.push_back({"takes the root of one part of a sum", {{root, ""}, {number - root * root, ""}}});
+    slips.push_back(
+        {"takes the root of one part of a sum", {{root, ""}, {number - root * root, ""}}});
   const std::vector<int> primes = PrimesOf(number);
-  if (primes.size() > 1) {
-    const int prime = primes[static_cast<std::size_t>(random.Index(static_cast<int>(primes.size()))) - 1];
-    slips.push_back({"brings out a factor that has no pair", {{prime, ""}, {number / prime, ""}}});
-  }
+  for (const int prime : primes)
+    if (prime != number)
+      slips.push_back(
+          {"brings out a factor that has no pair", {{prime, ""}, {number / prime, ""}}});
   if (number % 2 == 0)
     slips.push_back({"takes half of the number instead of its root", {{number / 2, ""}, {1, ""}}});
   slips.push_back({"leaves out the radical sign", {{number, ""}, {1, ""}}});
-  return slips;
+  Slips shuffled;
+  const int count = static_cast<int>(slips.size());
+  for (const int place : random.RandSeq(count, count))
+    shuffled.push_back(slips[static_cast<std::size_t>(place) - 1]);
+  return shuffled;
 }
 
 }  // namespace
@@ -100,14 +136,10 @@ Slips SlipsWithoutSquare(int number, RandomStream& random) {
 void OfferRoots(Problem& problem, const Term& radicand, RandomStream& random) {
   const RootTerm root = Simplified(radicand);
   const Slips slips = IsSimple(radicand) ? SlipsWithoutSquare(radicand.coef, random)
-                                         : SlipsWithSquare(root, random);
+                                         : SquareSlips(root, random).Drawn();
   Choices choices(problem, choice_kind::FiveShuffled, RootTermText);
   choices.Right(root);
-  const int count = static_cast<int>(slips.size());
-  for (const int place : random.RandSeq(count, count)) {
-    const Slip& slip = slips[static_cast<std::size_t>(place) - 1];
-    choices.Wrong(slip.mistake, slip.root);
-  }
+  for (const Slip& slip : slips) choices.Wrong(slip.mistake, slip.root);
   choices.Fill([&] {
     const int outside = random.Rand(2, 6);
     const int inside = random.Rand(2, 7);
