@@ -54,7 +54,18 @@ void ShowAt(double row, const std::string& math, double col) {
 }
 
 void Conclude(const Problem& problem) {
-  Say(ConclusionText(problem));
+  // A sentence prints a radical without its bar.
+  const std::string answer = RightText(problem);
+  if (!HasRadical(answer) || IsBuiltUp(answer) || EndsAtNone(problem))
+    return Say(ConclusionText(problem));
+  const std::string words = "The answer is ";
+  const double row = NextRow() + 1;
+  const double col = 1 + static_cast<double>(words.size());
+  ShowAt(row, words, 1);
+  SetColor(platform::colour::Yellow);
+  ShowAt(row, answer, col);
+  SetColor(platform::colour::White);
+  ShowAt(row, ".", col + StackedTextWidth(answer));
 }
 
 void ConcludeAt(double row, const Problem& problem) {

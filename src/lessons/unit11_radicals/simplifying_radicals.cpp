@@ -4,6 +4,7 @@
 //
 // A quarter of the problems each: a number up to 201, most of which are simple already; a product
 // of small primes; the same with one letter, and with two.
+#include "lessons/families/polynomials/area_tiles.h"
 #include "lessons/families/radicals/pairs_figure.h"
 #include "lessons/families/radicals/root_choices.h"
 #include "lessons/families/radicals/root_term.h"
@@ -14,14 +15,249 @@ namespace {
 
 using namespace radicals;
 
+const std::string kTimes = " " + tutor::Times + " ";
+const std::string kRoot = tutor::SquareRoot;
+
 constexpr std::string_view kPairsOfLetters[] = {"ab", "cd", "mn", "pq", "xy"};
 constexpr int kPrimes[] = {2, 2, 3, 3, 5};  // five or more of them hold a pair
 
 // --- Teaching screens --------------------------------------------------------
 
-void Screen1() {
+// --- Screen 1: square roots --------------------------------------------------
+
+// A square of little squares with its side and area.
+void DrawSquare(double row, double col, int side) {
+  constexpr double kTileColumns = static_cast<double>(gCellHeight) / gCellWidth;
+  for (int i = 0; i < side; ++i)
+    for (int j = 0; j < side; ++j) polynomials::DrawUnitTile(row + i, col + j * kTileColumns);
+}
+
+void OppositeOfSquaring() {
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, R"(The opposite of squaring a number is finding the \cSQUARE ROOT\z.  )");
+  DrawSquare(6, 4, 3);
+  SayAt(6, Text("The side is 3.  Squaring gives the area:  {}.", "3^2^ = 9"), {.col = 14});
+  PageEnd();
+  SayAt(8.5, "The area is 9.  The square root gives the side:", {.col = 14});
+  ShowAt(11, kRoot + "9 = 3", 14);
+  PageEnd();
+  SayAt(13,
+        Text(R"({} is the \cradical sign\z.  The number under it is the \cradicand\z.)", kRoot));
+  Say(R"(\yTry it:\z  What is the square root of 49?)");
+  PageEnd();
+  Show(kRoot + "49 = 7,  because 7^2^ = 49");
+  PageEnd();
+}
+
+void NoHalf() {
+  NewScreen();
+  SayAt(3, "Ann and Ben look for the square root of 16:");
+  PaperBox({"Ann:  4" + kTimes + "4 = 16,  so it is 4", R"(Ben:  \r16 / 2 = 8,  so it is 8\z)"});
+  Say("Who is right?");
+  PageEnd();
+  Say(Text("Ann is right.  Ben takes half of 16.  But {} is 64, not 16.", "8" + kTimes + "8"));
+  Say("-4 times -4 is 16, too.  The radical sign stands for the root that is not negative, so:");
+  Show(kRoot + "16 = 4");
+  Say(R"(\yTry it:\z  What is the square root of 36?)");
+  PageEnd();
+  Show(kRoot + "36 = 6,  because 6^2^ = 36");
+  PageEnd();
+}
+
+// --- Screen 2: perfect squares -----------------------------------------------
+
+PrintCellTable TableOfSquares() {
+  constexpr int kColumns = 6;
+  PrintCellTable table;
+  table.heightPixels = 76;
+  for (int row = 0; row < 2; ++row)
+    for (int i = 0; i < kColumns; ++i)
+      table.cells.push_back({20 + i * 13.2, 4 + row * 49.0, 12, 42});
+  table.labels.push_back({2, 12, 17, 40, "Number", 12});
+  table.labels.push_back({2, 62, 17, 36, "Square", 12});
+  return table;
+}
+
+void PerfectSquares() {
+  NewScreen();
+  SayAt(3, R"(A whole number squared is a \cperfect square\z:)");
+  CellTable(TableOfSquares(), 5);
+  for (int i = 0; i < 6; ++i) {
+    picPrintCellPrint(i + 1, NumStr(i + 2), platform::colour::Black, 14);
+    picPrintCellPrint(i + 7, NumStr((i + 2) * (i + 2)), platform::colour::Blue, 14);
+  }
+  SayAt(9.5, "Then come 64, 81, 100, 121 and 144.  1 is a perfect square, too.");
+  PageEnd();
+  Say(R"(The square root of a perfect square is a whole number.)");
+  Show(kRoot + "64 = 8     " + kRoot + "100 = 10");
+  Say(R"(\yTry it:\z  Which ones are perfect squares?)");
+  PaperBox({"81     50     8     121"});
+  PageEnd();
+  Say(Text("81 is {} and 121 is {}.  50 stands between 49 and 64, and 8 between 4 and 9.", "9^2^",
+           "11^2^"));
+  PageEnd();
+}
+
+void RootsBetween() {
+  NewScreen();
+  SayAt(3, "10 is no perfect square.  It stands between 9 and 16:");
+  Show(kRoot + "9 = 3     " + kRoot + "10     " + kRoot + "16 = 4");
+  Say("So the square root of 10 is between 3 and 4.  No fraction and no decimal that ends is "
+      "exactly right.  We leave it as it is:");
+  Show(kRoot + "10");
+  PageEnd();
+  Say(R"(\yTry it:\z  Between which whole numbers is the square root of 30?)");
+  PageEnd();
+  Say("Between 5 and 6, since 30 stands between 25 and 36.");
+  PageEnd();
+}
+
+// --- Screen 3: products under the radical -----------------------------------
+
+void RootOfProduct() {
+  NewScreen();
+  SayAt(3, "36 is 4 times 9.  We take the root in two ways:");
+  Show(kRoot + "(4" + kTimes + "9) = " + kRoot + "36 = 6");
+  Show(kRoot + "4" + kTimes + kRoot + "9 = 2" + kTimes + "3 = 6");
+  PageEnd();
+  Say("Both give 6.  The root of a product is the product of the roots.");
+  Say(R"(\yTry it:\z  Is the root of a sum the sum of the roots?  Look at 9 + 16.)");
+  PageEnd();
+  Show(kRoot + "(9 + 16) = " + kRoot + "25 = 5");
+  Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7");
+  Say(R"(\yWatch out:\z  5 is not 7.  We cut a radicand into \yfactors\z, never into a sum.)");
+  PageEnd();
+}
+
+void SquareComesOut() {
+  NewScreen();
+  SayAt(3, "12 has the factor 4, a perfect square:");
+  Show(kRoot + "12 = " + kRoot + "(4" + kTimes + "3) = " + kRoot + "4" + kTimes + kRoot + "3");
+  Show("    = 2" + kRoot + "3");
+  Say(Text("{} means 2 times the square root of 3.  The 4 goes in, and its root 2 comes out.",
+           "2" + kRoot + "3"));
+  PageEnd();
+  Say(R"(A radical is \csimplified\z when no perfect square but 1 is a factor of the radicand.)");
+  Say(R"(\yTry it:\z  Simplify the square root of 50.)");
+  PageEnd();
+  Show(kRoot + "50 = " + kRoot + "(25" + kTimes + "2) = 5" + kRoot + "2");
+  Say(R"(\yWatch out:\z  The root of 25 comes out, not 25 itself, and not half of it.)");
+  PageEnd();
+}
+
+// --- Screen 4: until nothing is left ----------------------------------------
+
+void NotYetSimple() {
+  NewScreen();
+  SayAt(3, "72 is 4 times 18, so a 2 comes out:");
+  Show(kRoot + "72 = " + kRoot + "(4" + kTimes + "18) = 2" + kRoot + "18");
+  Say(R"(\yTry it:\z  Is this simplified?)");
+  PageEnd();
+  Say("No.  18 is 9 times 2, so a 3 comes out, too:");
+  Show("2" + kRoot + "18 = 2" + kTimes + "3" + kRoot + "2 = 6" + kRoot + "2");
+  PageEnd();
+  Say(R"(\yWatch out:\z  The 2 and the 3 are factors.  We multiply them to 6.  We do not add them )"
+      "to 5.");
+  Say("With 36, the largest square factor, one step is enough:");
+  Show(kRoot + "72 = " + kRoot + "(36" + kTimes + "2) = 6" + kRoot + "2");
+  PageEnd();
+}
+
+void SimpleAlready() {
+  NewScreen();
+  SayAt(3, "What about the square root of 30?  We test the perfect squares up to 30:");
+  PaperBox({"4, 9, 16 and 25 are no factors of 30"});
+  Say("So nothing comes out.  The radical is simplified already:");
+  Show(kRoot + "30");
+  PageEnd();
+  Say("5 is a factor of 30, but 5 is no perfect square.  It stays inside.");
+  Say(R"(\yTry it:\z  Which one is simplified already?)");
+  Show(kRoot + "35     " + kRoot + "45     " + kRoot + "48");
+  PageEnd();
+  Say("The first one.  45 has the factor 9, and 48 has the factor 16:");
+  Show(kRoot + "45 = 3" + kRoot + "5     " + kRoot + "48 = 4" + kRoot + "3");
+  PageEnd();
+}
+
+// --- Screen 5: pairs of factors ---------------------------------------------
+
+void PairsOfPrimes() {
+  NewScreen();
+  SayAt(3, "For a large number we write the radicand as a product of primes:");
+  const PairsFigure figure = PairsFigure::OfNumber(360, 6.5);
+  SayAt(12, Text("Two equal factors are a square:  {} is 2.", kRoot + "(2" + kTimes + "2)"));
+  PageEnd();
+  figure.BringPairsOut();
+  ClearBelow(12);
+  SayAt(12, R"(Of each \ypair\z one factor comes out.)");
+  SayAt(14, R"(\yTry it:\z  What stays inside?)");
+  PageEnd();
+  ClearBelow(14);
+  figure.KeepRest();
+  SayAt(14, "The third 2 and the 5 have no pair.  They stay inside.  We multiply:");
+  Show(kRoot + "360 = 2" + kTimes + "3" + kTimes + kRoot + "(2" + kTimes + "5) = 6" + kRoot + "10");
+  Say(Text(R"(\yCheck:\z  {})", "6^2^" + kTimes + "10 = 36" + kTimes + "10 = 360"));
+  PageEnd();
+}
+
+void TryPairs() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Simplify the square root of 200.)");
+  const PairsFigure figure = PairsFigure::OfNumber(200, 6);
+  PageEnd();
+  figure.BringPairsOut();
+  figure.KeepRest();
+  SayAt(11, "One 2 and one 5 come out.  The third 2 stays inside:");
+  Show(kRoot + "200 = 2" + kTimes + "5" + kRoot + "2 = 10" + kRoot + "2");
+  PageEnd();
+  PaperBox(
+      {R"(\rA pair sends out one factor, not two\z)", R"(\rWhat has no pair never comes out\z)"});
+  PageEnd();
+}
+
+// --- Screen 6: letters ------------------------------------------------------
+
+void LettersInPairs() {
+  NewScreen();
+  SayAt(3, "A letter stands for a positive number here.  Equal letters make pairs, too:");
+  const PairsFigure figure = PairsFigure::OfLetters("xxxxx", 6.5);
+  SayAt(12, R"(\yTry it:\z  What comes out, and what stays?)");
+  PageEnd();
+  ClearBelow(12);
+  figure.BringPairsOut();
+  figure.KeepRest();
+  SayAt(12, "Two pairs send out x times x.  One x has no pair:");
+  Show(kRoot + "(x^5^) = x^2^" + kRoot + "x");
+  PageEnd();
+  Say("An exponent of 5 makes 2 pairs, and 1 is left.  An exponent of 16 makes 8 pairs:");
+  Show(kRoot + "(x^16^) = x^8^");
+  Say(R"(\yWatch out:\z  It is not x^4^.  The pairs are counted, so the exponent is halved.)");
+  PageEnd();
+}
+
+void NumbersAndLetters() {
+  NewScreen();
+  SayAt(3, "With numbers and letters, each one by itself:");
+  ShowAt(5, kRoot + "(72x^2^y^3^)", 7);
+  const PairsFigure number = PairsFigure::OfNumber(72, 7.5);
+  number.BringPairsOut();
+  number.KeepRest();
+  PageEnd();
+  const PairsFigure letters = PairsFigure::OfLetters("xxyyy", 13);
+  letters.BringPairsOut();
+  letters.KeepRest();
+  PageEnd();
+  SayAt(18, "6, x and y come out.  2 and y stay:");
+  Show(kRoot + "(72x^2^y^3^) = 6xy" + kRoot + "(2y)");
+  SayAt(22, Text(R"(\yTry it:\z  Simplify {}.)", kRoot + "(12a^3^)"));
+  PageEnd();
+  NewScreen();
+  SayAt(3, Text("12 is {}, and {} is {}:", "4" + kTimes + "3", "a^3^", "a^2^" + kTimes + "a"));
+  Show(kRoot + "(12a^3^) = 2a" + kRoot + "(3a)");
+  Say(Text(R"(\yCheck:\z  {})", "(2a)^2^" + kTimes + "3a = 4a^2^" + kTimes + "3a = 12a^3^"));
+  RuleBox("Simplifying a Radical",
+          {"Factor the radicand.", "Each pair sends one factor out.",
+           "The rest stays under the radical.", "Multiply outside, and inside."});
   PageEnd();
 }
 
@@ -33,11 +269,18 @@ class SimplifyingRadicals final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{Screen1}, {Screen1}, {Screen1}, {Screen1}, {Screen1}, {Screen1}};
+    return {{OppositeOfSquaring, NoHalf},    {PerfectSquares, RootsBetween},
+            {RootOfProduct, SquareComesOut}, {NotYetSimple, SimpleAlready},
+            {PairsOfPrimes, TryPairs},       {LettersInPairs, NumbersAndLetters}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
+
+  void ShowQuestion() const;
+  void ExplainSimple() const;
+  void PairUp() const;
+  void MultiplyAndCheck() const;
 
   Term radicand_;
 };
@@ -91,10 +334,108 @@ void SimplifyingRadicals::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void SimplifyingRadicals::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
-  PageEnd();
+  ShowQuestion();
+  if (IsSimple(radicand_)) {
+    ExplainSimple();
+  } else {
+    PairUp();
+    MultiplyAndCheck();
+  }
   Conclude(problem);
+}
+
+void SimplifyingRadicals::ShowQuestion() const {
+  ProblemBanner();
+  SayAt(4.5, problem.question[0]);
+  ShowAt(6, problem.question.back(), 7);
+}
+
+void SimplifyingRadicals::ExplainSimple() const {
+  const int number = radicand_.coef;
+  const bool prime = PrimesOf(number).size() == 1;
+  SayAt(8, "We look for a pair of equal factors, or for a perfect square that is a factor.");
+  PageEnd();
+  if (prime) {
+    Say(Text("{} is a prime number.  It has no factor but 1 and itself.", number));
+  } else {
+    const PairsFigure figure = PairsFigure::OfNumber(number, NextRow() + 1.5);
+    PageEnd();
+    Say("No prime stands there twice, so there is no pair.");
+  }
+  PageEnd();
+  Say("Nothing can come out.  The radical is simplified already.");
+  PageEnd();
+}
+
+void SimplifyingRadicals::PairUp() const {
+  const bool letters = !radicand_.letters.empty();
+  SayAt(7.5, "We factor the number into primes:");
+  const PairsFigure numbers = PairsFigure::OfNumber(radicand_.coef, 9);
+  PageEnd();
+  constexpr double kTextRow = 14;
+  SayAt(kTextRow, R"(Of each pair one factor comes out.)");
+  if (numbers.HasPair()) numbers.BringPairsOut();
+  PageEnd();
+  ClearBelow(kTextRow);
+  if (numbers.HasRest()) {
+    numbers.KeepRest();
+    SayAt(kTextRow, "What has no pair stays inside.");
+  } else {
+    SayAt(kTextRow, "Every factor has a pair, so nothing stays inside.");
+  }
+  PageEnd();
+  if (!letters) return;
+  ClearBelow(kTextRow);
+  SayAt(kTextRow, "The letters make pairs in the same way:");
+  const PairsFigure figure = PairsFigure::OfLetters(radicand_.letters, kTextRow + 1.5);
+  PageEnd();
+  figure.BringPairsOut();
+  if (figure.HasRest())
+    figure.KeepRest();
+  else
+    SayAt(kTextRow + 5.5, "No letter stays inside.");
+  PageEnd();
+}
+
+// "2 x 3 x x^2^" for 6x^2^.
+std::string InFactors(const Term& term) {
+  std::string text;
+  for (const int prime : PrimesOf(term.coef)) text += (text.empty() ? "" : kTimes) + NumStr(prime);
+  if (!term.letters.empty())
+    text += (text.empty() ? "" : kTimes) + polynomials::LettersText(term.letters);
+  return text;
+}
+
+// One side of the radical: its factors, and their product where there are several.
+void TellProduct(const std::string& where, const Term& term) {
+  const std::string factors = InFactors(term);
+  const std::string product = polynomials::TermText(term);
+  AddLine(Text("{}{}", Words{where}, factors == product ? product : factors + " = " + product));
+}
+
+void SimplifyingRadicals::MultiplyAndCheck() const {
+  const RootTerm root = Simplified(radicand_);
+  const bool whole = root.inside == Term{1, ""};
+  NewScreen();
+  ShowQuestion();
+  SayAt(8,
+        whole ? "We multiply what has come out:" : "We multiply outside, and we multiply inside:");
+  TellProduct("   Outside:  ", root.outside);
+  if (!whole) TellProduct("   Inside:   ", root.inside);
+  Show(RadicalOf(radicand_) + " = " + RootTermText(root), 7);
+  PageEnd();
+  const Term square = polynomials::Product(root.outside, root.outside);
+  const std::string outside = polynomials::TermText(root.outside);
+  const std::string base = root.outside.letters.empty() ? outside : "(" + outside + ")";
+  const std::string rest = whole ? "" : kTimes + polynomials::TermText(root.inside);
+  Say(R"(\yCheck:\z  The square of what is outside, times what is inside, is the radicand.)");
+  if (whole) {
+    Show(base + "^2^ = " + polynomials::TermText(square), 7);
+  } else {
+    Show(base + "^2^" + rest + " = " + polynomials::TermText(square) + rest, 7);
+    Show(std::string(base.size(), ' ') + "  = " + polynomials::TermText(radicand_), 7);
+  }
+  PageEnd();
 }
 
 const LessonRegistration<SimplifyingRadicals> kRegistration("Simplifying Radicals");
