@@ -38,29 +38,24 @@ void OppositeOfSquaring() {
   DrawSquare(6, 4, 3);
   SayAt(6, Text("The side is 3.  Squaring gives the area:  {}.", "3^2^ = 9"), {.col = 14});
   PageEnd();
-  SayAt(8.5, "The area is 9.  The square root gives the side:", {.col = 14});
-  ShowAt(11, kRoot + "9 = 3", 14);
-  PageEnd();
-  SayAt(13,
+  ShowAt(8.5, kRoot + "9 = 3 leads back.", 14);
+  SayAt(10.5,
         Text(R"({} is the \cradical sign\z.  The number under it is the \cradicand\z.)", kRoot));
   Say(R"(\yTry it:\z  What is the square root of 49?)");
   PageEnd();
   Show(kRoot + "49 = 7,  because 7^2^ = 49");
+  Say("Ben says that the square root of 16 is 8, the half of 16.  Is he right?");
   PageEnd();
 }
 
 void NoHalf() {
   NewScreen();
-  SayAt(3, "Ann and Ben look for the square root of 16:");
-  PaperBox({"Ann:  4" + kTimes + "4 = 16,  so it is 4", R"(Ben:  \r16 / 2 = 8,  so it is 8\z)"});
-  Say("Who is right?");
-  PageEnd();
-  Say(Text("Ann is right.  Ben takes half of 16.  But {} is 64, not 16.", "8" + kTimes + "8"));
-  Say("-4 times -4 is 16, too.  The radical sign stands for the root that is not negative, so:");
+  SayAt(3, Text("No.  {} is 64, not 16.  But {} is 16:", "8" + kTimes + "8", "4" + kTimes + "4"));
   Show(kRoot + "16 = 4");
-  Say(R"(\yTry it:\z  What is the square root of 36?)");
+  PaperBox({Text(R"({} = 4,  \rnot 8\z)", kRoot + "16")});
+  Say(R"(\yTry it:\z  -4 times -4 is 16, too.  Is -4 also the answer?)");
   PageEnd();
-  Show(kRoot + "36 = 6,  because 6^2^ = 36");
+  Say("No.  The radical sign stands for the root that is not negative.");
   PageEnd();
 }
 
@@ -88,8 +83,7 @@ void PerfectSquares() {
   }
   SayAt(9.5, "Then come 64, 81, 100, 121 and 144.  1 is a perfect square, too.");
   PageEnd();
-  Say(R"(The square root of a perfect square is a whole number.)");
-  Show(kRoot + "64 = 8     " + kRoot + "100 = 10");
+  Show(kRoot + "64 = 8     " + kRoot + "100 = 10     " + kRoot + "144 = 12");
   Say(R"(\yTry it:\z  Which ones are perfect squares?)");
   PaperBox({"81     50     8     121"});
   PageEnd();
@@ -100,15 +94,13 @@ void PerfectSquares() {
 
 void RootsBetween() {
   NewScreen();
-  SayAt(3, "10 is no perfect square.  It stands between 9 and 16:");
+  SayAt(3, "10 is no perfect square.  It stands between 9 and 16, so its root is between 3 and 4:");
   Show(kRoot + "9 = 3     " + kRoot + "10     " + kRoot + "16 = 4");
-  Say("So the square root of 10 is between 3 and 4.  No fraction and no decimal that ends is "
-      "exactly right.  We leave it as it is:");
-  Show(kRoot + "10");
+  Say(R"(\yTry it:\z  What about the root of 30?)");
   PageEnd();
-  Say(R"(\yTry it:\z  Between which whole numbers is the square root of 30?)");
-  PageEnd();
-  Say("Between 5 and 6, since 30 stands between 25 and 36.");
+  Say("It is between 5 and 6.  No fraction is exactly right, and no decimal that ends.  So we "
+      "leave it as it is:");
+  Show(kRoot + "30");
   PageEnd();
 }
 
@@ -116,12 +108,10 @@ void RootsBetween() {
 
 void RootOfProduct() {
   NewScreen();
-  SayAt(3, "36 is 4 times 9.  We take the root in two ways:");
+  SayAt(3, "36 is 4 times 9.  Both lines give 6:");
   Show(kRoot + "(4" + kTimes + "9) = " + kRoot + "36 = 6");
   Show(kRoot + "4" + kTimes + kRoot + "9 = 2" + kTimes + "3 = 6");
-  PageEnd();
-  Say("Both give 6.  The root of a product is the product of the roots.");
-  Say(R"(\yTry it:\z  Is the root of a sum the sum of the roots?  Look at 9 + 16.)");
+  Say(R"(\yTry it:\z  Does this work for 9 + 16, too?)");
   PageEnd();
   Show(kRoot + "(9 + 16) = " + kRoot + "25 = 5");
   Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7");
@@ -153,28 +143,24 @@ void NotYetSimple() {
   Show(kRoot + "72 = " + kRoot + "(4" + kTimes + "18) = 2" + kRoot + "18");
   Say(R"(\yTry it:\z  Is this simplified?)");
   PageEnd();
-  Say("No.  18 is 9 times 2, so a 3 comes out, too:");
+  Say("No.  18 is 9 times 2, so a 3 comes out:");
   Show("2" + kRoot + "18 = 2" + kTimes + "3" + kRoot + "2 = 6" + kRoot + "2");
-  PageEnd();
-  Say(R"(\yWatch out:\z  The 2 and the 3 are factors.  We multiply them to 6.  We do not add them )"
-      "to 5.");
-  Say("With 36, the largest square factor, one step is enough:");
-  Show(kRoot + "72 = " + kRoot + "(36" + kTimes + "2) = 6" + kRoot + "2");
+  Say(R"(\yWatch out:\z  We multiply the factors 2 and 3.  We do not add them.)");
   PageEnd();
 }
 
 void SimpleAlready() {
   NewScreen();
-  SayAt(3, "What about the square root of 30?  We test the perfect squares up to 30:");
-  PaperBox({"4, 9, 16 and 25 are no factors of 30"});
-  Say("So nothing comes out.  The radical is simplified already:");
+  SayAt(3, "We test the perfect squares up to 30:");
   Show(kRoot + "30");
+  PaperBox({"4, 9, 16 and 25 are no factors of 30"});
+  Say("So the radical is simplified already.");
   PageEnd();
   Say("5 is a factor of 30, but 5 is no perfect square.  It stays inside.");
-  Say(R"(\yTry it:\z  Which one is simplified already?)");
+  Say(R"(\yTry it:\z  Which one is simple already?)");
   Show(kRoot + "35     " + kRoot + "45     " + kRoot + "48");
   PageEnd();
-  Say("The first one.  45 has the factor 9, and 48 has the factor 16:");
+  Say("The first one.  45 has the factor 9, and 48 has 4 and 16.  We take 16, the larger one:");
   Show(kRoot + "45 = 3" + kRoot + "5     " + kRoot + "48 = 4" + kRoot + "3");
   PageEnd();
 }
@@ -194,7 +180,7 @@ void PairsOfPrimes() {
   PageEnd();
   ClearBelow(14);
   figure.KeepRest();
-  SayAt(14, "The third 2 and the 5 have no pair.  They stay inside.  We multiply:");
+  SayAt(14, "2 and 5 have no pair.  We multiply:");
   Show(kRoot + "360 = 2" + kTimes + "3" + kTimes + kRoot + "(2" + kTimes + "5) = 6" + kRoot + "10");
   Say(Text(R"(\yCheck:\z  {})", "6^2^" + kTimes + "10 = 36" + kTimes + "10 = 360"));
   PageEnd();

@@ -115,11 +115,21 @@ class Mistakes {
   void WithoutSquare(const mpz_class& number) {
     for (mpz_class root = 2; root * root + 2 <= number; ++root)
       AddRoot("takes the root of one part of a sum", root, number - root * root);
-    for (const auto& [name, count] : right_.inside)
-      if (count > 0 && mpz_class(name, 10) != number)
-        Add("brings out a factor that has no pair", right_.With(name, 1, -1));
+    for (const auto& [name, count] : right_.inside) {
+      if (count == 0) continue;
+      const mpz_class factor(name, 10);
+      AddRoot("brings out a factor and leaves it inside, too", factor, number);
+      if (factor == number) continue;
+      AddRoot("brings out a factor that has no pair", factor, number / factor);
+      AddRoot("loses a factor that has no pair", 1, number / factor);
+    }
+    const mpz_class below = sqrt(number);
+    const bool nearer = number - below * below < (below + 1) * (below + 1) - number;
+    AddRoot("takes the root of the nearest perfect square", nearer ? below : mpz_class(below + 1),
+            1);
     if (number % 2 == 0) AddRoot("takes half of the number instead of its root", number / 2, 1);
     AddRoot("leaves out the radical sign", number, 1);
+    AddRoot("squares the number instead of taking its root", number * number, 1);
   }
 
  private:

@@ -1,6 +1,7 @@
 #include "lessons/families/radicals/root_choices.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 #include "engine/choices.h"
@@ -111,24 +112,44 @@ class SquareSlips {
 
 // --- A number that is simple already -------------------------------------------------------------
 
-Slips SlipsWithoutSquare(int number, RandomStream& random) {
-  Slips slips;
-  for (int root = 2; root * root + 2 <= number; ++root)
-    slips.push_back(
-        {"takes the root of one part of a sum", {{root, ""}, {number - root * root, ""}}});
-  const std::vector<int> primes = PrimesOf(number);
-  for (const int prime : primes)
-    if (prime != number)
-      slips.push_back(
-          {"brings out a factor that has no pair", {{prime, ""}, {number / prime, ""}}});
-  if (number % 2 == 0)
-    slips.push_back({"takes half of the number instead of its root", {{number / 2, ""}, {1, ""}}});
-  slips.push_back({"leaves out the radical sign", {{number, ""}, {1, ""}}});
+Slip Whole(const std::string& mistake, int number) {
+  return {mistake, {{number, ""}, {1, ""}}};
+}
+
+Slips Shuffled(const Slips& slips, RandomStream& random) {
   Slips shuffled;
   const int count = static_cast<int>(slips.size());
   for (const int place : random.RandSeq(count, count))
     shuffled.push_back(slips[static_cast<std::size_t>(place) - 1]);
   return shuffled;
+}
+
+Slips SlipsWithoutSquare(int number, RandomStream& random) {
+  constexpr int kLargestSquared = 15;
+  const std::vector<int> primes = PrimesOf(number);
+  const int prime =
+      primes[static_cast<std::size_t>(random.Index(static_cast<int>(primes.size()))) - 1];
+  const int largest = static_cast<int>(std::sqrt(number));
+  const int root = random.Rand(std::min(2, largest), largest);
+  const int rest = number - root * root;
+  const bool nearer = number - largest * largest < (largest + 1) * (largest + 1) - number;
+  Slips slips = {
+      Whole("leaves out the radical sign", number),
+      Whole("takes the root of the nearest perfect square", nearer ? largest : largest + 1),
+      {"brings out a factor and leaves it inside, too", {{prime, ""}, {number, ""}}}};
+  if (root > 1 && rest > 1)
+    slips.push_back({"takes the root of one part of a sum", {{root, ""}, {rest, ""}}});
+  if (number % 2 == 0)
+    slips.push_back(Whole("takes half of the number instead of its root", number / 2));
+  if (number <= kLargestSquared)
+    slips.push_back(Whole("squares the number instead of taking its root", number * number));
+  slips = Shuffled(slips, random);
+  if (prime == number) return slips;
+  // The only root without a number in front would give the right one away.
+  slips.insert(slips.begin(),
+               {{"loses a factor that has no pair", {{1, ""}, {number / prime, ""}}},
+                {"brings out a factor that has no pair", {{prime, ""}, {number / prime, ""}}}});
+  return slips;
 }
 
 }  // namespace
