@@ -44,18 +44,12 @@ void OppositeOfSquaring() {
   Say(R"(\yTry it:\z  What is the square root of 49?)");
   PageEnd();
   Show(kRoot + "49 = 7,  because 7^2^ = 49");
-  Say("Ben says that the square root of 16 is 8, the half of 16.  Is he right?");
+  Say(R"(\yTry it:\z  Ben takes half of 16 and says that its square root is 8.  Is he right?)");
   PageEnd();
-}
-
-void NoHalf() {
   NewScreen();
-  SayAt(3, Text("No.  {} is 64, not 16.  But {} is 16:", "8" + kTimes + "8", "4" + kTimes + "4"));
+  SayAt(3, Text("No.  {} is 64, not 16.  We need {}:", "8" + kTimes + "8", "4" + kTimes + "4"));
   Show(kRoot + "16 = 4");
-  PaperBox({Text(R"({} = 4,  \rnot 8\z)", kRoot + "16")});
-  Say(R"(\yTry it:\z  -4 times -4 is 16, too.  Is -4 also the answer?)");
-  PageEnd();
-  Say("No.  The radical sign stands for the root that is not negative.");
+  Say("-4 times -4 is 16, too, but the sign stands for the root that is not negative.");
   PageEnd();
 }
 
@@ -87,20 +81,14 @@ void PerfectSquares() {
   Say(R"(\yTry it:\z  Which ones are perfect squares?)");
   PaperBox({"81     50     8     121"});
   PageEnd();
-  Say(Text("81 is {} and 121 is {}.  50 stands between 49 and 64, and 8 between 4 and 9.", "9^2^",
-           "11^2^"));
-  PageEnd();
-}
-
-void RootsBetween() {
-  NewScreen();
-  SayAt(3, "10 is no perfect square.  It stands between 9 and 16, so its root is between 3 and 4:");
-  Show(kRoot + "9 = 3     " + kRoot + "10     " + kRoot + "16 = 4");
+  Say(Text("81 is {} and 121 is {}.", "9^2^", "11^2^"));
+  AddLine("50 stands between 49 and 64, so its root is between 7 and 8.");
   Say(R"(\yTry it:\z  What about the root of 30?)");
   PageEnd();
-  Say("It is between 5 and 6.  No fraction is exactly right, and no decimal that ends.  So we "
-      "leave it as it is:");
-  Show(kRoot + "30");
+  NewScreen();
+  SayAt(3, "It is between 5 and 6:");
+  Show(kRoot + "25 = 5     " + kRoot + "30     " + kRoot + "36 = 6");
+  Say("No fraction is exactly right, and no decimal that ends.  We leave it as it is.");
   PageEnd();
 }
 
@@ -241,9 +229,6 @@ void NumbersAndLetters() {
   SayAt(3, Text("12 is {}, and {} is {}:", "4" + kTimes + "3", "a^3^", "a^2^" + kTimes + "a"));
   Show(kRoot + "(12a^3^) = 2a" + kRoot + "(3a)");
   Say(Text(R"(\yCheck:\z  {})", "(2a)^2^" + kTimes + "3a = 4a^2^" + kTimes + "3a = 12a^3^"));
-  RuleBox("Simplifying a Radical",
-          {"Factor the radicand.", "Each pair sends one factor out.",
-           "The rest stays under the radical.", "Multiply outside, and inside."});
   PageEnd();
 }
 
@@ -255,9 +240,12 @@ class SimplifyingRadicals final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{OppositeOfSquaring, NoHalf},    {PerfectSquares, RootsBetween},
-            {RootOfProduct, SquareComesOut}, {NotYetSimple, SimpleAlready},
-            {PairsOfPrimes, TryPairs},       {LettersInPairs, NumbersAndLetters}};
+    return {{OppositeOfSquaring},
+            {PerfectSquares},
+            {RootOfProduct, SquareComesOut},
+            {NotYetSimple, SimpleAlready},
+            {PairsOfPrimes, TryPairs},
+            {LettersInPairs, NumbersAndLetters}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
