@@ -43,9 +43,9 @@ int WidthBeside(const std::string& text) {
   return StackedTextWidth(text) + (signs ? 1 : 0);
 }
 
-// Between a built-up line and the text before or behind it.
+// Between a built-up line, or the bar of a radical, and the text before or behind it.
 double AirAt(const std::string& text) {
-  return text.find('/') != std::string::npos ? 0.5 : 0;
+  return IsBuiltUp(text) ? 0.5 : 0;
 }
 
 // "There are no solutions.", as against "5 or 7": it begins with a capital and has a second word.
