@@ -47,9 +47,9 @@ void OppositeOfSquaring() {
   Say(R"(\yTry it:\z  Ben takes half of 16 and says that its square root is 8.  Is he right?)");
   PageEnd();
   NewScreen();
-  SayAt(3, Text("No.  {} is 64, not 16.  We need {}:", "8" + kTimes + "8", "4" + kTimes + "4"));
+  SayAt(3, Text("No:  {} is 64.  {} is 16:", "8" + kTimes + "8", "4" + kTimes + "4"));
   Show(kRoot + "16 = 4");
-  Say("-4 times -4 is 16, too, but the sign stands for the root that is not negative.");
+  Say("-4 times -4 is 16, too.  But the sign stands for the root that is \\ynot negative\\z.");
   PageEnd();
 }
 
@@ -403,12 +403,9 @@ void SimplifyingRadicals::MultiplyAndCheck() const {
   const std::string base = root.outside.letters.empty() ? outside : "(" + outside + ")";
   const std::string rest = whole ? "" : kTimes + polynomials::TermText(root.inside);
   Say(R"(\yCheck:\z  The square of what is outside, times what is inside, is the radicand.)");
-  if (whole) {
-    Show(base + "^2^ = " + polynomials::TermText(square), 7);
-  } else {
-    Show(base + "^2^" + rest + " = " + polynomials::TermText(square) + rest, 7);
-    Show(std::string(base.size(), ' ') + "  = " + polynomials::TermText(radicand_), 7);
-  }
+  const std::string line = base + "^2^" + rest;
+  Show(line + " = " + polynomials::TermText(square) + rest, 7);
+  if (!whole) Show("= " + polynomials::TermText(radicand_), 7 + StackedTextWidth(line) + 1);
   PageEnd();
 }
 

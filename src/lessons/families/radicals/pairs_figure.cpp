@@ -74,6 +74,7 @@ void PairsFigure::Drop(const std::vector<Factor>& factors, const std::string& wo
   page::ShowAt(row, words, kWordCol);
   for (const Factor& factor : factors)
     factoring::SlideFactorDown(row_, row, factor.col, static_cast<double>(factor.text.size()));
+  for (const Factor& factor : factors) factoring::ShowOverSlid(row, factor.col, factor.text);
   FramePairs();
 }
 
