@@ -49,7 +49,7 @@ void OppositeOfSquaring() {
   NewScreen();
   SayAt(3, Text("No:  {} is 64.  {} is 16:", "8" + kTimes + "8", "4" + kTimes + "4"));
   Show(kRoot + "16 = 4");
-  Say("-4 times -4 is 16, too.  But the sign stands for the root that is \\ynot negative\\z.");
+  Say(R"((-4)(-4) is 16, too.  The radical sign stands for the \ypositive\z root.)");
   PageEnd();
 }
 
@@ -176,7 +176,7 @@ void PairsOfPrimes() {
 
 void TryPairs() {
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Simplify the square root of 200.)");
+  SayAt(3, R"(\yTry it:\z  Simplify this radical:)");
   const PairsFigure figure = PairsFigure::OfNumber(200, 6);
   PageEnd();
   figure.BringPairsOut();
@@ -200,7 +200,7 @@ void LettersInPairs() {
   ClearBelow(12);
   figure.BringPairsOut();
   figure.KeepRest();
-  SayAt(12, "Two pairs send out x times x.  One x has no pair:");
+  SayAt(12, "Two pairs go out.  One x stays:");
   Show(kRoot + "(x^5^) = x^2^" + kRoot + "x");
   PageEnd();
   Say("An exponent of 5 makes 2 pairs, and 1 is left.  An exponent of 16 makes 8 pairs:");
@@ -212,8 +212,8 @@ void LettersInPairs() {
 void NumbersAndLetters() {
   NewScreen();
   SayAt(3, "With numbers and letters, each one by itself:");
-  ShowAt(5, kRoot + "(72x^2^y^3^)", 7);
-  const PairsFigure number = PairsFigure::OfNumber(72, 7.5);
+  ShowAt(5.5, kRoot + "(72x^2^y^3^)", 7);
+  const PairsFigure number = PairsFigure::OfNumber(72, 7.75);
   number.BringPairsOut();
   number.KeepRest();
   PageEnd();
@@ -223,7 +223,8 @@ void NumbersAndLetters() {
   PageEnd();
   SayAt(18, "6, x and y come out.  2 and y stay:");
   Show(kRoot + "(72x^2^y^3^) = 6xy" + kRoot + "(2y)");
-  SayAt(22, Text(R"(\yTry it:\z  Simplify {}.)", kRoot + "(12a^3^)"));
+  SayAt(22, R"(\yTry it:\z  Simplify)");
+  ShowAt(22, kRoot + "(12a^3^)", 20);
   PageEnd();
   NewScreen();
   SayAt(3, Text("12 is {}, and {} is {}:", "4" + kTimes + "3", "a^3^", "a^2^" + kTimes + "a"));
