@@ -53,11 +53,11 @@ RootTerm Root(int front, int inside) {
 void LikeRadicals() {
   NewScreen();
   SayAt(3, R"(\cLike radicals\z have the same number under the radical sign:)");
-  Show("5" + kRoot + "3  and  -2" + kRoot + "3", kCol);
-  Say("These two are not like:");
-  Show("5" + kRoot + "3  and  5" + kRoot + "2", kCol);
+  Show("5" + kRoot + "3 and -2" + kRoot + "3 are like", kCol);
+  Show("5" + kRoot + "3 and 5" + kRoot + "2 are not like", kCol);
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Which one is like {}7?)", "4" + kRoot));
+  Say(R"(\yTry it:\z  Which one is like)");
+  ShowAt(NextRow() - 1, "4" + kRoot + "7?", 28);
   Show("7" + kRoot + "4     " + kRoot + "7     4" + kRoot + "5", kCol);
   PageEnd();
   Say("The second one.  Only the number under the sign counts.  When no number stands in front, "
@@ -67,7 +67,7 @@ void LikeRadicals() {
 
 void CountRadicals() {
   NewScreen();
-  SayAt(3, "Like radicals are added as like terms are:");
+  SayAt(3, "We add like radicals as like terms:");
   polynomials::ShowHeadedCells(4.5, {"Letters", "Radicals"}, 2);
   polynomials::PrintCells(1, {"3x + 4x", "3" + kRoot + "5 + 4" + kRoot + "5"});
   polynomials::PrintCells(3, {"7x", "7" + kRoot + "5"}, platform::colour::Blue);
@@ -87,7 +87,7 @@ void CountRadicals() {
 
 void UnlikeStayApart() {
   NewScreen();
-  SayAt(3, "Unlike radicals stay apart, just as 2x + 5y does:");
+  SayAt(3, Text("Unlike radicals stay apart, just as {} does:", "2x + 5y"));
   Show("2" + kRoot + "3 + 5" + kRoot + "2", kCol);
   PageEnd();
   Say(R"(\yWatch out:\z  Perfect squares show it.)");
@@ -109,10 +109,10 @@ void SimplifyFirst() {
   ShowTermTable(7.5, 2);
   FillLine(1, Root(1, 8));
   GoBelow();
-  SayAt(12, R"(\yTry it:\z  What belongs into the second line?)");
+  SayAt(12, R"(\yTry it:\z  What belongs in the last line?)");
   PageEnd();
   FillLine(2, Root(1, 18));
-  SayAt(14, "18 is 9 times 2.  Now the radicals are like:");
+  SayAt(14, "18 is 9 times 2.  Now they are like:");
   Show(kRoot + "8 + " + kRoot + "18 = 2" + kRoot + "2 + 3" + kRoot + "2 = 5" + kRoot + "2");
   PageEnd();
   NewScreen();
@@ -130,8 +130,8 @@ void ThreeRadicals() {
   NewScreen();
   const RootSum sum = {Root(2, 12), Root(-3, 5), Root(1, 27)};
   SayAt(3, R"(\yTry it:\z  Simplify each term.  Which ones are like?)");
-  ShowAt(5.25, RootSumText(sum), kCol);
-  ShowTermTable(7, 3);
+  ShowAt(5.75, RootSumText(sum), kCol);
+  ShowTermTable(7.5, 3);
   PageEnd();
   for (int line = 1; line <= 3; ++line) FillLine(line, sum[static_cast<std::size_t>(line) - 1]);
   SayAt(13, "The first and the last are like.  4 + 3 is 7.  The other one keeps its minus sign:");
@@ -241,7 +241,6 @@ void SimplifyingRadicalExpressions::SimplifyTerms() const {
     PageEnd();
     FillLine(++line, term);
   }
-  GoBelow();
 }
 
 void SimplifyingRadicalExpressions::AddLikeOnes() const {
@@ -251,9 +250,12 @@ void SimplifyingRadicalExpressions::AddLikeOnes() const {
   if (simple == sum_) {
     Say("All of them have the same number under the radical sign, so they are like radicals.");
   } else {
+    NewScreen();
+    ShowQuestion();
+    SayAt(8, "With the simplified terms:");
     Show(line, kCol);
-    AddLine(combined.size() == 1 ? "Now all radicals are like."
-                                 : "Two radicals are like.  The other one stays apart.");
+    Say(combined.size() == 1 ? "Now all radicals are like."
+                             : "Two radicals are like.  The other one stays apart.");
   }
   PageEnd();
   Say("We add the numbers in front and keep the radical:");

@@ -88,7 +88,7 @@ void PerfectSquares() {
   NewScreen();
   SayAt(3, "It is between 5 and 6:");
   Show(kRoot + "25 = 5     " + kRoot + "30     " + kRoot + "36 = 6");
-  Say("No fraction is exactly right, and no decimal that ends.  We leave it as it is.");
+  Say("No fraction is exactly right, so we leave it as it is.");
   PageEnd();
 }
 
@@ -103,7 +103,7 @@ void RootOfProduct() {
   PageEnd();
   Show(kRoot + "(9 + 16) = " + kRoot + "25 = 5");
   Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7");
-  Say(R"(\yWatch out:\z  5 is not 7.  We cut a radicand into \yfactors\z, never into a sum.)");
+  Say(R"(No.  We cut a radicand into \yfactors\z, never into a sum.)");
   PageEnd();
 }
 
@@ -211,20 +211,19 @@ void LettersInPairs() {
 
 void NumbersAndLetters() {
   NewScreen();
-  SayAt(3, "With numbers and letters, each one by itself:");
-  ShowAt(5.5, kRoot + "(72x^2^y^3^)", 7);
-  const PairsFigure number = PairsFigure::OfNumber(72, 7.75);
+  SayAt(3, "Numbers and letters, each by itself:");
+  ShowAt(4.75, kRoot + "(72x^2^y^3^)", 7);
+  const PairsFigure number = PairsFigure::OfNumber(72, 7);
+  PageEnd();
   number.BringPairsOut();
   number.KeepRest();
-  PageEnd();
   const PairsFigure letters = PairsFigure::OfLetters("xxyyy", 13);
+  PageEnd();
   letters.BringPairsOut();
   letters.KeepRest();
-  PageEnd();
-  SayAt(18, "6, x and y come out.  2 and y stay:");
-  Show(kRoot + "(72x^2^y^3^) = 6xy" + kRoot + "(2y)");
-  SayAt(22, R"(\yTry it:\z  Simplify)");
-  ShowAt(22, kRoot + "(12a^3^)", 20);
+  ShowAt(19, kRoot + "(72x^2^y^3^) = 6xy" + kRoot + "(2y)");
+  SayAt(21.5, R"(\yTry it:\z  Simplify)");
+  ShowAt(21.5, kRoot + "(12a^3^)", 20);
   PageEnd();
   NewScreen();
   SayAt(3, Text("12 is {}, and {} is {}:", "4" + kTimes + "3", "a^3^", "a^2^" + kTimes + "a"));
