@@ -70,14 +70,15 @@ PrintCellTable TableOfSquares() {
 void PerfectSquares() {
   NewScreen();
   SayAt(3, R"(A whole number squared is a \cperfect square\z:)");
-  CellTable(TableOfSquares(), 5);
+  CellTable(TableOfSquares(), 5.5);
   for (int i = 0; i < 6; ++i) {
     picPrintCellPrint(i + 1, NumStr(i + 2), platform::colour::Black, 14);
     picPrintCellPrint(i + 7, NumStr((i + 2) * (i + 2)), platform::colour::Blue, 14);
   }
-  SayAt(9.5, "Then come 64, 81, 100, 121 and 144.  1 is a perfect square, too.");
+  SayAt(10, "Then come 64, 81, 100, 121 and 144.  1 is a perfect square, too.");
   PageEnd();
   Show(kRoot + "64 = 8     " + kRoot + "100 = 10     " + kRoot + "144 = 12");
+  AddLine("The radical sign is gone then.");
   Say(R"(\yTry it:\z  Which ones are perfect squares?)");
   PaperBox({"81     50     8     121"});
   PageEnd();
@@ -88,7 +89,7 @@ void PerfectSquares() {
   NewScreen();
   SayAt(3, "It is between 5 and 6:");
   Show(kRoot + "25 = 5     " + kRoot + "30     " + kRoot + "36 = 6");
-  Say("No fraction is exactly right, so we leave it as it is.");
+  Say("No fraction is exactly right, so it stays, with its radical sign.");
   PageEnd();
 }
 
@@ -110,10 +111,9 @@ void RootOfProduct() {
 void SquareComesOut() {
   NewScreen();
   SayAt(3, "12 has the factor 4, a perfect square:");
-  Show(kRoot + "12 = " + kRoot + "(4" + kTimes + "3) = " + kRoot + "4" + kTimes + kRoot + "3");
-  Show("    = 2" + kRoot + "3");
-  Say(Text("{} means 2 times the square root of 3.  The 4 goes in, and its root 2 comes out.",
-           "2" + kRoot + "3"));
+  Show(kRoot + "12 = " + kRoot + "(4" + kTimes + "3) = " + kRoot + "4" + kTimes + kRoot + "3 = 2" +
+       kRoot + "3");
+  Say("This is 2 times the square root of 3.  Of the 4, only its root 2 comes out.");
   PageEnd();
   Say(R"(A radical is \csimplified\z when no perfect square but 1 is a factor of the radicand.)");
   Say(R"(\yTry it:\z  Simplify the square root of 50.)");
@@ -157,18 +157,19 @@ void SimpleAlready() {
 
 void PairsOfPrimes() {
   NewScreen();
-  SayAt(3, "For a large number we write the radicand as a product of primes:");
+  SayAt(3, "We factor a large number into primes:");
   const PairsFigure figure = PairsFigure::OfNumber(360, 6.5);
-  SayAt(12, Text("Two equal factors are a square:  {} is 2.", kRoot + "(2" + kTimes + "2)"));
+  SayAt(12, "Two equal factors are a square:");
+  Show(kRoot + "(2" + kTimes + "2) = 2");
   PageEnd();
   figure.BringPairsOut();
   ClearBelow(12);
-  SayAt(12, R"(Of each \ypair\z one factor comes out.)");
-  SayAt(14, R"(\yTry it:\z  What stays inside?)");
+  SayAt(12, R"(Of each \ypair\z one factor comes out, and none stays inside.)");
+  SayAt(15, R"(\yTry it:\z  What stays inside?)");
   PageEnd();
-  ClearBelow(14);
+  ClearBelow(14.9);
   figure.KeepRest();
-  SayAt(14, "2 and 5 have no pair.  We multiply:");
+  SayAt(15, "2 and 5 have no pair.  We multiply:");
   Show(kRoot + "360 = 2" + kTimes + "3" + kTimes + kRoot + "(2" + kTimes + "5) = 6" + kRoot + "10");
   Say(Text(R"(\yCheck:\z  {})", "6^2^" + kTimes + "10 = 36" + kTimes + "10 = 360"));
   PageEnd();
@@ -181,11 +182,8 @@ void TryPairs() {
   PageEnd();
   figure.BringPairsOut();
   figure.KeepRest();
-  SayAt(11, "One 2 and one 5 come out.  The third 2 stays inside:");
+  SayAt(11, "The third 2 stays inside:");
   Show(kRoot + "200 = 2" + kTimes + "5" + kRoot + "2 = 10" + kRoot + "2");
-  PageEnd();
-  PaperBox(
-      {R"(\rA pair sends out one factor, not two\z)", R"(\rWhat has no pair never comes out\z)"});
   PageEnd();
 }
 
@@ -203,7 +201,7 @@ void LettersInPairs() {
   SayAt(12, "Two pairs go out.  One x stays:");
   Show(kRoot + "(x^5^) = x^2^" + kRoot + "x");
   PageEnd();
-  Say("An exponent of 5 makes 2 pairs, and 1 is left.  An exponent of 16 makes 8 pairs:");
+  Say("An exponent of 16 makes 8 pairs:");
   Show(kRoot + "(x^16^) = x^8^");
   Say(R"(\yWatch out:\z  It is not x^4^.  The pairs are counted, so the exponent is halved.)");
   PageEnd();
