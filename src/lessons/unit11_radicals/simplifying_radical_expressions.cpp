@@ -82,7 +82,7 @@ void CountRadicals() {
   ShowAt(NextRow() - 1, "6" + kRoot + "3 - 8" + kRoot + "3", 20);
   PageEnd();
   Show("6" + kRoot + "3 - 8" + kRoot + R"(3 = -2)" + kRoot + "3,  since 6 - 8 = -2");
-  Say(R"(\yWatch out:\z  We do not multiply the numbers in front, and the radical sign stays.)");
+  AddLine("We do not multiply the numbers in front, and the radical sign stays.");
   PageEnd();
 }
 
