@@ -400,7 +400,9 @@ void SimplifyingRadicals::MultiplyAndCheck() const {
   const std::string outside = polynomials::TermText(root.outside);
   const std::string base = root.outside.letters.empty() ? outside : "(" + outside + ")";
   const std::string rest = whole ? "" : kTimes + polynomials::TermText(root.inside);
-  Say(R"(\yCheck:\z  The square of what is outside, times what is inside, is the radicand.)");
+  Say(whole
+          ? R"(\yCheck:\z  The square of the root is the radicand.)"
+          : R"(\yCheck:\z  The square of what is outside, times what is inside, is the radicand.)");
   const std::string line = base + "^2^" + rest;
   Show(line + " = " + polynomials::TermText(square) + rest, 7);
   if (!whole) Show("= " + polynomials::TermText(radicand_), 7 + StackedTextWidth(line) + 1);
