@@ -29,7 +29,7 @@ std::string RadicalOf(const Term& radicand);
 // "6xv(2x)", "-v5", "6".
 std::string RootTermText(const RootTerm& term);
 
-// The prime factors of a number from 2 to 9,999 in ascending order, with repetition.
+// The prime factors of a positive number in ascending order, with repetition; none for 1.
 std::vector<int> PrimesOf(int number);
 
 }  // namespace course::radicals
