@@ -15,13 +15,20 @@ using namespace powers;
 constexpr std::string_view kLetters = "abcdfghkmnpqrstuvwxyz";
 constexpr double kExpressionCol = 4;
 constexpr int kLargestCoefficient = 1000;  // that is worked out by hand
-constexpr int kLargestWrongExponent = 999;
+constexpr int kLargestWrongExponent = 99;  // nobody believes a longer one
 
 enum class Form { OneLetter = 1, TwoPowers, BareLetter };
 
 enum class CoefficientSlip { None, Kept, Multiplied };
 // The last two lead to larger exponents than the right one, the others to smaller ones.
-enum class LetterSlip { None, Added, OneKept, Raised, SharedProduct };
+enum class LetterSlip { None, Added, OneKept, Raised, LargerForBoth };
+
+// Line by line, and what comes of it.
+void ShowRaising(const PowerOfGroup& group) {
+  Locate(NextRow() + 0.5, 1);
+  for (const std::string& line : LinesOfRaising(group)) Show(line, kExpressionCol);
+  Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
+}
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -29,23 +36,21 @@ void WhatAMonomialIs() {
   NewScreen();
   SayAt(3, R"(A \cmonomial\z is a number, a power of a letter, or a product of these:)");
   Show("5x^2^      2c^3^d      ab^4^      7", kExpressionCol);
-  Say("Its exponents are not negative.");
+  Say("No exponent is negative or a fraction.");
   PageEnd();
   Say(R"(The number in front is its \ccoefficient\z.)");
   Say(R"(\yTry it:\z  Which of these are monomials?)");
   Show("6k^3^      a + 2b      x^2^y", kExpressionCol);
   PageEnd();
-  Say(
-      Text("{} and {} are.  {} is a sum.  In the last one, no number stands in front:  its "
-           "coefficient is 1.",
-           "6k^3^", "x^2^y", "a + 2b"));
+  Say(Text("{} and {} are monomials.  {} is a sum.", "6k^3^", "x^2^y", "a + 2b"));
+  Say(Text("No number stands in front of {}:  its coefficient is 1.", "x^2^y"));
   PageEnd();
 }
 
 void CoefficientIsRaised() {
   NewScreen();
   const PowerOfGroup group = {2, {{"x", 3}}, 4};
-  SayAt(3, R"(The \couter exponent\z 4, behind the parentheses, counts the groups:)");
+  SayAt(3, R"(The \couter exponent\z 4, after the parentheses, counts the groups:)");
   Show(GroupText(group) + " = " + GroupWrittenOut(group), kExpressionCol - 2);
   ShowGroupsTable(group);
   PageEnd();
@@ -54,9 +59,13 @@ void CoefficientIsRaised() {
   RaiseInTable(group, 1);
   Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(3k^2^)^3^"));
+
+  NewScreen();
+  const PowerOfGroup task = {3, {{"k", 2}}, 3};
+  SayAt(3, "The number is worked out.  Of the letter we only count the factors.");
+  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", GroupText(task)));
   PageEnd();
-  Say(Text(R"({}, and {}:  \y{}\z)", FactorsOf(3, 3) + " = 27", ExponentProduct(2, 3), "27k^6^"));
+  ShowRaising(task);
   PageEnd();
 }
 
@@ -69,10 +78,10 @@ void CoefficientMistakes() {
            FactorsOf(2, 4)));
   PaperBox({R"((2x^3^)^4^ = 16x^12^,  \rnot 8x^12^\z)"});
   PageEnd();
-  Say(R"(\yCheck:\z  With 1 in place of x:)");
+  Say(R"(\yCheck of the coefficient:\z  x = 1)");
   Show("(2 " + tutor::Times + " 1^3^)^4^ = 2^4^ = 16", kExpressionCol);
-  PageEnd();
-  Say(R"(\yTry it:\z  What is the coefficient of  )" + Text("{}?", "(5n^4^)^2^"));
+  Show("16 " + tutor::Times + " 1^12^ = 16", kExpressionCol);
+  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(5n^4^)^2^"));
   PageEnd();
   Say(Text(R"({}, not 10:  \y{}\z)", "5 " + tutor::Times + " 5 = 25", "(5n^4^)^2^ = 25n^8^"));
   PageEnd();
@@ -80,10 +89,9 @@ void CoefficientMistakes() {
 
 void TheRule() {
   NewScreen();
+  SayAt(3, R"(\cInner exponents\z belong to the letters.)");
   RuleBox("Rule For The Power Of A Monomial",
-          {"Raise the coefficient, and multiply", "each inner exponent by the outer one."},
-          {.row = 3});
-  Say(R"(\cInner exponents\z belong to the letters.)");
+          {"Raise the coefficient, and multiply", "each inner exponent by the outer one."});
   PageEnd();
   const PowerOfGroup group = {5, {{"a", 2}, {"b", 4}}, 3};
   Say(Text("In {} the outer exponent is 3:", GroupText(group)));
@@ -91,36 +99,39 @@ void TheRule() {
   PageEnd();
   Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  Exponents are neither added nor raised:)");
-  PaperBox({R"(\rnot 125a^5^b^7^,  not 125a^8^b^64^\z)"});
+  Say(Text(R"(\yWatch out:\z  We do not add ({}) or raise ({}) the exponents:)", "2 + 3 = 5",
+           "2^3^ = 8"));
+  PaperBox({"(5a^2^b^4^)^3^ = 125a^6^b^12^", R"(\rnot 125a^5^b^7^,  not 125a^8^b^64^\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(7m^3^n^2^)^2^"));
+
+  NewScreen();
+  const PowerOfGroup task = {7, {{"m", 3}, {"n", 2}}, 2};
+  SayAt(3, R"(\yTry it:\z  Simplify  )" + Text("{}.", GroupText(task)));
   PageEnd();
-  Say(Text(R"({}, and the exponents are doubled:  \y{}\z)", FactorsOf(7, 2) + " = 49",
-           "49m^6^n^4^"));
+  ShowRaising(task);
   PageEnd();
 }
 
 void BareLetters() {
   NewScreen();
   const PowerOfGroup group = {3, {{"c", 1}, {"d", 2}}, 4};
-  SayAt(3, Text("The letter c is bare.  It is a factor once, so its inner exponent is 1:"));
-  Show(GroupText(group), kExpressionCol);
+  ShowAt(3, GroupText(group), kExpressionCol);
+  Say("c has no exponent.  It is a factor once, so its inner exponent is 1.");
   PageEnd();
-  for (const std::string& line : LinesOfRaising(group)) Show(line, kExpressionCol);
-  Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
+  ShowRaising(group);
   PageEnd();
   Say(R"(\yWatch out:\z  No letter is left without the power:)");
-  PaperBox({R"((3cd^2^)^4^ = 81c^4^d^8^,  \rnot 81cd^8^\z)"});
+  PaperBox({"(3cd^2^)^4^ = 81c^4^d^8^", R"(\rnot 81cd^8^,  not 81c^4^d^2^\z)"});
   PageEnd();
-  Say("Each letter has its own exponent:");
-  PaperBox({R"((3cd^2^)^4^ = 81c^4^d^8^,  \rnot 81c^8^d^8^\z)"});
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Each letter has its own exponent:)");
+  PaperBox({R"((2x^3^y^2^)^4^ = 16x^12^y^8^,)", R"(\rnot 16x^12^y^12^\z)"});
   PageEnd();
   const PowerOfGroup task = {2, {{"p", 5}, {"q", 1}}, 3};
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", GroupText(task)));
   PageEnd();
-  Say(Text(R"({}, {}, and {}:  \y{}\z)", FactorsOf(2, 3) + " = 8", ExponentProduct(5, 3),
-           ExponentProduct(1, 3), "8p^15^q^3^"));
+  ShowRaising(task);
   PageEnd();
 }
 
@@ -139,9 +150,20 @@ void TwoStudents() {
   PageEnd();
 }
 
-void SumsAreNoMonomials() {
+void TwoMistakes() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  A sum is no monomial.  In a sum we add first:)");
+  SayAt(3, R"(\yTry it:\z  Which of these is )" + Text("{}?", "(4u^8^)^3^"));
+  Show("12u^24^      64u^11^      64u^24^", kExpressionCol);
+  PageEnd();
+  Say(Text(R"(It is \y{}\z.)", "64u^24^"));
+  for (const std::string& line : LinesOfRaising({4, {{"u", 8}}, 3})) Show(line, kExpressionCol);
+  Say(Text("12 is {}, and 11 is {}.", "4 " + tutor::Times + " 3", "8 + 3"));
+  PageEnd();
+}
+
+void SumsAreNotMonomials() {
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  A sum is not a monomial.  In a sum we add first:)");
   PaperBox({"(3 + 5)^2^ = 8^2^ = 64", R"(\r3^2^ + 5^2^ = 9 + 25 = 34\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  For which does the rule hold?)");
@@ -160,7 +182,7 @@ class PowerOfAMonomial final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{WhatAMonomialIs, CoefficientIsRaised, CoefficientMistakes},
-            {TheRule, BareLetters, TwoStudents, SumsAreNoMonomials}};
+            {TheRule, BareLetters, TwoStudents, SumsAreNotMonomials, TwoMistakes}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -179,7 +201,6 @@ class PowerOfAMonomial final : public LessonScript {
   std::string Product(CoefficientSlip slip, LetterSlip letterSlip) const;
   std::string NameOf(CoefficientSlip slip, LetterSlip letterSlip) const;
 
-  void ShowTask() const;
   void CheckCoefficient() const;
 
   PowerOfGroup group_;
@@ -217,15 +238,16 @@ void PowerOfAMonomial::DrawProblem(RandomStream& random) {
 // A mistake that leads to larger exponents comes first more often than one that leads to smaller
 // ones, so that the right one is not always the longest.
 PowerOfAMonomial::LetterSlips PowerOfAMonomial::DrawLetterSlips(RandomStream& random) {
-  const bool largerFirst = random.Rand(1, 4) > 1;
+  const bool largerFirst = random.Rand(1, 6) > 1;
   const bool adds = random.Rand(1, 2) == 1;
-  const bool shares = random.Rand(1, 2) == 1 && group_.powers.size() > 1;
+  const bool takesLarger = random.Rand(1, 2) == 1;
   kept_ = static_cast<std::size_t>(random.Rand(1, static_cast<int>(group_.powers.size())) - 1);
   const LetterSlip smaller = adds ? LetterSlip::Added : LetterSlip::OneKept;
-  LetterSlip larger = shares ? LetterSlip::SharedProduct : LetterSlip::Raised;
-  // Longer exponents would stand out.
-  if (LargestExponent(larger) > kLargestWrongExponent)
-    larger = adds ? LetterSlip::OneKept : LetterSlip::Added;
+  const LetterSlip otherSmaller = adds ? LetterSlip::OneKept : LetterSlip::Added;
+  const bool raises = LargestExponent(LetterSlip::Raised) <= kLargestWrongExponent;
+  const bool differ = group_.powers[0].exponent != group_.powers.back().exponent;
+  LetterSlip larger = raises ? LetterSlip::Raised : otherSmaller;
+  if (differ && (takesLarger || !raises)) larger = LetterSlip::LargerForBoth;
   return largerFirst ? LetterSlips{larger, smaller} : LetterSlips{smaller, larger};
 }
 
@@ -272,8 +294,7 @@ int PowerOfAMonomial::Coefficient(CoefficientSlip slip) const {
 
 int PowerOfAMonomial::Exponent(LetterSlip slip, std::size_t letter) const {
   const int inner = group_.powers[letter].exponent;
-  int product = group_.exponent;  // of all exponents
-  for (const Power& power : group_.powers) product *= power.exponent;
+  const int largest = std::ranges::max(group_.powers, {}, &Power::exponent).exponent;
   switch (slip) {
     case LetterSlip::Added:
       return AddedExponent(inner, group_.exponent);
@@ -281,8 +302,8 @@ int PowerOfAMonomial::Exponent(LetterSlip slip, std::size_t letter) const {
       return letter == kept_ ? inner : inner * group_.exponent;
     case LetterSlip::Raised:
       return static_cast<int>(ValueOfPower(inner, group_.exponent));
-    case LetterSlip::SharedProduct:
-      return product;
+    case LetterSlip::LargerForBoth:
+      return largest * group_.exponent;
     default:
       return inner * group_.exponent;
   }
@@ -310,67 +331,41 @@ std::string PowerOfAMonomial::NameOf(CoefficientSlip slip, LetterSlip letterSlip
   if (slip == CoefficientSlip::Kept) name = "leaves the coefficient as it is";
   if (slip == CoefficientSlip::Multiplied) name = "multiplies the coefficient by the exponent";
   if (slip != CoefficientSlip::None && letterSlip != LetterSlip::None) name += " and ";
-  if (letterSlip == LetterSlip::Added) name += "adds the exponents";
+  if (letterSlip == LetterSlip::Added) name += NameOfAdding(group_);
   if (letterSlip == LetterSlip::OneKept) name += "leaves " + kept + " as it is";
   if (letterSlip == LetterSlip::Raised) name += "raises the inner exponents";
-  if (letterSlip == LetterSlip::SharedProduct)
-    name += "gives the product of all exponents to both letters";
+  if (letterSlip == LetterSlip::LargerForBoth) name += "gives both letters the larger exponent";
   return name;
 }
 
 // --- Problem page ------------------------------------------------------------
 
 void PowerOfAMonomial::ShowProblem() {
-  SayAt(5, problem.question[0]);
-  ShowAt(7, GroupText(group_), kExpressionCol);
-  ShowAnswersInTwoColumns(problem);
+  ShowTaskAndAnswers(problem, group_);
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void PowerOfAMonomial::ExplainProblem() {
-  const int factors = static_cast<int>(group_.powers.size()) + 1;
-  ShowTask();
-  Say(Text("The outer exponent {} tells how many times the group is a factor:", group_.exponent));
-  Show("= " + GroupWrittenOut(group_), kExpressionCol);
-  PageEnd();
-  Say("Let's look at each factor of the group:");
-  ShowGroupsTable(group_);
-  PageEnd();
-  NewScreen();
-  ShowTask();
-  ShowGroupsTable(group_);
-  for (int factor = 0; factor < factors; ++factor) {
-    RaiseInTable(group_, factor);
-    PageEnd();
-  }
-  NewScreen();
-  ShowTask();
-  Say("All factors now have the power:");
-  Show(GroupText(group_) + " = " + RightText(problem), kExpressionCol);
-  PageEnd();
+  ExplainFactorByFactor(group_);
+  BeginCheck(group_);
   CheckCoefficient();
+  CheckExponents(group_);
   Conclude(problem);
-}
-
-void PowerOfAMonomial::ShowTask() const {
-  ProblemBanner();
-  ShowAt(5, GroupText(group_), kExpressionCol);
 }
 
 // With 1 in place of the letters only the coefficients are left of both sides.
 void PowerOfAMonomial::CheckCoefficient() const {
-  std::vector<std::string> letters;
+  std::string ones;
   const int raised = Coefficient(CoefficientSlip::None);
   std::vector<std::string> left = {NumStr(group_.number)};
   std::vector<std::string> right = {NumStr(raised)};
   for (const auto& [letter, exponent] : group_.powers) {
-    letters.push_back(letter);
+    ones += (ones.empty() ? "" : ", ") + letter + " = 1";
     left.push_back(PowerText({"1", exponent}));
     right.push_back(PowerText({"1", exponent * group_.exponent}));
   }
-  Say(Text(R"(\yCheck:\z  With 1 in place of {}:)",
-           letters.size() == 1 ? letters[0] : letters[0] + " and " + letters[1]));
+  Say(R"(\yCheck of the coefficient:\z  )" + Text("{}", ones));
   Show("(" + JoinedByTimes(left) + ")^" + NumStr(group_.exponent) +
            "^ = " + PowerOf(group_.number, group_.exponent) + " = " + NumStr(raised),
        kExpressionCol);

@@ -3,6 +3,7 @@
 //
 // A problem is a letter with an exponent, in parentheses with an exponent behind them; half of the
 // problems have another pair of parentheses around it.
+#include "lessons/families/powers/number_power.h"
 #include "lessons/families/powers/power_law.h"
 #include "lessons/lesson.h"
 
@@ -13,6 +14,7 @@ using namespace powers;
 
 constexpr std::string_view kLetters = "bcdfghkpqrstuvwxyz";
 constexpr double kExpressionCol = 4;
+const std::string kDot = " " + tutor::Dot + " ";
 // The answer is worked out by hand, and another outer exponent leads to another of two digits.
 constexpr int kLargestExponent = 99;
 constexpr int kLargestInnerProduct = kLargestExponent / 3;
@@ -35,14 +37,32 @@ void GroupsOfAPower() {
   PageEnd();
   Say(R"(\yTry it:\z  How many factors b are there?)");
   PageEnd();
-  Say("4 groups of 3 factors:  " + ExponentProduct(3, 4));
-  Show(R"((b^3^)^4^ = \yb^12^\z)", kExpressionCol);
+  Say("Each of the 4 groups has 3 factors b:");
+  Show(ExponentProduct(3, 4) + R"(,  so (b^3^)^4^ = \yb^12^\z)", kExpressionCol);
+  PageEnd();
+}
+
+void WhyMultiply() {
+  NewScreen();
+  SayAt(3, "Why do we multiply?  Where powers are multiplied, their exponents are added:");
+  Show("(b^3^)^4^ = b^3^" + kDot + "b^3^" + kDot + "b^3^" + kDot + "b^3^", kExpressionCol);
+  Show("3 + 3 + 3 + 3 = " + ExponentProduct(3, 4), kExpressionCol);
+  PageEnd();
+  Say(R"(\yWatch out:\z  We do not add 3 and 4.  With 2 in place of b:)");
+  PaperBox({"(2^3^)^4^ = 8^4^ = 4096", R"(2^12^ = 4096,  \rnot 2^7^ = 128\z)"});
+  PageEnd();
+  Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "(k^5^)^2^", "k^7^"));
+  PageEnd();
+  Say("No.  2 groups have 5 factors k each:");
+  Show(ExponentProduct(5, 2) + R"(,  so (k^5^)^2^ = \yk^10^\z)", kExpressionCol);
   PageEnd();
 }
 
 void TheRule() {
   NewScreen();
   ShowRule(3);
+  Say(Text("m and n stand for the exponents.  mn means {}.", "m " + tutor::Times + " n"));
+  PageEnd();
   Say("We keep the base and multiply the inner exponent by the outer one.");
   PageEnd();
   const PowerOfGroup group = {1, {{"c", 2}}, 5};
@@ -52,22 +72,8 @@ void TheRule() {
   PageEnd();
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(k^6^)^3^"));
   PageEnd();
-  Say(Text(R"(3 groups of 6 factors:  \y{}\z)", "(k^6^)^3^ = k^18^"));
-  PageEnd();
-}
-
-void WhyMultiply() {
-  NewScreen();
-  SayAt(3, "Why do we multiply?  The groups are equal, and their exponents are added:");
-  Show("(b^3^)^4^ = " + JoinedByDots({"b^3^", "b^3^", "b^3^", "b^3^"}), kExpressionCol);
-  Show("3 + 3 + 3 + 3 = " + ExponentProduct(3, 4), kExpressionCol);
-  PageEnd();
-  Say(R"(\yWatch out:\z  We do not add 3 and 4.  With 2 in place of b:)");
-  PaperBox({"(2^3^)^4^ = 8^4^ = 4096", R"(2^12^ = 4096,  \rnot 2^7^ = 128\z)"});
-  PageEnd();
-  Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "(k^5^)^2^", "k^7^"));
-  PageEnd();
-  Say(Text(R"(No.  2 groups of 5 factors are 10 factors:  \y{}\z)", "(k^5^)^2^ = k^10^"));
+  Say("Each of the 3 groups has 6 factors k:");
+  Show(ExponentProduct(6, 3) + R"(,  so (k^6^)^3^ = \yk^18^\z)", kExpressionCol);
   PageEnd();
 }
 
@@ -76,35 +82,40 @@ void AddOrMultiply() {
   SayAt(3, "When do we add the exponents, and when do we multiply them?");
   PageEnd();
   Say("3 factors and 4 more factors:  we add.");
-  Show("x^3^" + tutor::Dot + R"(x^4^ = \yx^7^\z)", kExpressionCol);
+  Show("x^3^" + kDot + R"(x^4^ = \yx^7^\z)", kExpressionCol);
   PageEnd();
   Say("4 groups of 3 factors:  we multiply.");
   Show(R"((x^3^)^4^ = \yx^12^\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yTry it:\z  Simplify both:)");
-  Show("a^5^" + tutor::Dot + "a^2^        (a^5^)^2^", kExpressionCol);
+  Show("a^5^" + kDot + "a^2^        (a^5^)^2^", kExpressionCol);
   PageEnd();
-  Say(Text("{} is 5 factors and 2 more.  {} is 2 groups of 5:", "a^5^" + tutor::Dot + "a^2^",
+  Say(Text("{} is 5 factors and 2 more.  {} is 2 groups of 5:", "a^5^" + kDot + "a^2^",
            "(a^5^)^2^"));
-  Show("a^5^" + tutor::Dot + R"(a^2^ = \ya^7^\z     (a^5^)^2^ = \ya^10^\z)", kExpressionCol);
+  Show("a^5^" + kDot + R"(a^2^ = \ya^7^\z     (a^5^)^2^ = \ya^10^\z)", kExpressionCol);
   PageEnd();
 }
 
 void BaseStays() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  The outer exponent counts groups.  It does not multiply the base:)");
-  PaperBox({R"((b^3^)^4^ = b^12^,  \rnot 4b^3^\z,  \rnot 4b^12^\z)"});
+  SayAt(3, R"(\yWatch out:\z  We neither leave out the outer exponent nor write it in front:)");
+  PaperBox({R"((b^3^)^4^ = b^12^,  \rnot b^3^\z,)", R"(\rnot 4b^3^\z,  \rnot 4b^12^\z)"});
   PageEnd();
   Say("With 2 in place of b:");
   Show("(2^3^)^4^ = 8^4^ = 4096", kExpressionCol);
   Show("4 " + tutor::Times + " 2^3^ = 4 " + tutor::Times + " 8 = 32", kExpressionCol);
+  Show("4 " + tutor::Times + " 2^12^ = 4 " + tutor::Times + " 4096 = 16384", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  It does not raise the inner exponent either:)");
+
+  NewScreen();
+  SayAt(3, Text(R"(\yWatch out:\z  The outer exponent does not raise the inner exponent.  {} is )"
+                "wrong here:",
+                "2^3^ = 8"));
   PaperBox({R"((b^2^)^3^ = b^6^,  \rnot b^8^\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(n^7^)^3^"));
+  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(n^7^)^8^"));
   PageEnd();
-  Say(Text(R"({}, and n stays:  \y{}\z)", ExponentProduct(7, 3), "n^21^"));
+  Say(Text(R"({}, and n stays:  \y{}\z)", ExponentProduct(7, 8), "n^56^"));
   PageEnd();
 }
 
@@ -119,13 +130,17 @@ void GroupsInGroups() {
   Say(Text("Now the group is {}, and it is a factor 4 times:", "c^6^"));
   Show(ExponentProduct(6, 4) + R"(,  so (c^6^)^4^ = \yc^24^\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  All exponents are multiplied, none is added:)");
+  Say(Text(R"(\yWatch out:\z  All exponents are multiplied.  {} and {} are wrong:)",
+           "2 + 3 + 4 = 9", "6 + 4 = 10"));
   PaperBox({R"(((c^2^)^3^)^4^ = c^24^,  \rnot c^9^\z,  \rnot c^10^\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "((y^3^)^2^)^5^"));
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Simplify  )" + Text("{}.", "((y^3^)^2^)^5^"));
   PageEnd();
-  Say(Text("{}, and {}:", ExponentProduct(3, 2), ExponentProduct(6, 5)));
-  Show(R"(((y^3^)^2^)^5^ = (y^6^)^5^ = \yy^30^\z)", kExpressionCol);
+  Say(ExponentProduct(3, 2) + ":");
+  Show("((y^3^)^2^)^5^ = (y^6^)^5^", kExpressionCol);
+  Say(ExponentProduct(6, 5) + ":");
+  Show(R"((y^6^)^5^ = \yy^30^\z)", kExpressionCol);
   PageEnd();
 }
 
@@ -137,7 +152,7 @@ class PowerOfAPower final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{GroupsOfAPower, TheRule, WhyMultiply}, {AddOrMultiply, BaseStays, GroupsInGroups}};
+    return {{GroupsOfAPower, WhyMultiply, TheRule}, {AddOrMultiply, BaseStays, GroupsInGroups}};
   }
   bool ChoicesAreLaidDown() const override { return true; }
   void DrawProblem(RandomStream& random) override;
@@ -150,6 +165,7 @@ class PowerOfAPower final : public LessonScript {
   PowerOfGroup InnerGroup() const { return {1, {{letter_, first_}}, second_}; }
   std::string Expression() const;
   std::string PowerOfLetter(int exponent, int number = 1) const;
+  std::string NameOfExponent(int wrong) const;
   void FillChoices(RandomStream& random);
 
   void ShowTask() const;
@@ -190,6 +206,14 @@ void PowerOfAPower::DrawProblem(RandomStream& random) {
   FillChoices(random);
 }
 
+// An exponent drawn at random may be that of a mistake.
+std::string PowerOfAPower::NameOfExponent(int wrong) const {
+  if (isNested_ && wrong == (first_ + second_) * outer_)
+    return "adds the inner exponents but multiplies by the outer one";
+  if (!isNested_ && wrong == ValueOfPower(first_, outer_)) return "raises the inner exponent";
+  return kFiller;
+}
+
 void PowerOfAPower::FillChoices(RandomStream& random) {
   const int inner = InnerProduct();
   // With the right exponent twice its box would always be the most like the others.
@@ -198,14 +222,15 @@ void PowerOfAPower::FillChoices(RandomStream& random) {
   problem.Right(1, PowerOfLetter(inner * outer_));
   problem.Wrong(2, "adds the exponents",
                 PowerOfLetter(first_ + (isNested_ ? second_ : 0) + outer_));
-  problem.Wrong(3, "multiplies the base by the outer exponent", PowerOfLetter(inner, outer_));
+  problem.Wrong(3, "writes the outer exponent in front instead of raising to it",
+                PowerOfLetter(inner, outer_));
   if (isNested_)
     problem.Wrong(4, "multiplies the inner exponents but adds the outer one",
                   PowerOfLetter(inner + outer_));
   else if (keepsExponent)
     problem.Wrong(4, "leaves out the outer exponent", PowerOfLetter(inner));
   else
-    problem.Wrong(4, "multiplies the base by the outer exponent too",
+    problem.Wrong(4, "multiplies the exponents and writes the outer one in front, too",
                   PowerOfLetter(inner * outer_, outer_));
   // Another exponent behind the parentheses.
   const auto drawAnew = [&](int slot) {
@@ -213,7 +238,7 @@ void PowerOfAPower::FillChoices(RandomStream& random) {
     do {
       exponent = random.Rand(2, 9);
     } while (inner * exponent > kLargestExponent);  // longer than the others
-    problem.Wrong(slot, kFiller, PowerOfLetter(inner * exponent));
+    problem.Wrong(slot, NameOfExponent(inner * exponent), PowerOfLetter(inner * exponent));
   };
   drawAnew(5);
   // 2 and 2 have the same sum and product.
@@ -274,10 +299,8 @@ void PowerOfAPower::CheckExponent() const {
     Show(ExponentProduct(second_, outer_) + ",  " + ExponentProduct(first_, second_ * outer_),
          kExpressionCol);
   } else {
-    std::string sum = NumStr(first_);
-    for (int i = 1; i < outer_; ++i) sum += " + " + NumStr(first_);
     Say(R"(\yCheck:\z  We add the inner exponents:)");
-    Show(sum + " = " + NumStr(first_ * outer_));
+    ShowWorking(SumOfExponents(first_, outer_));
   }
   PageEnd();
 }

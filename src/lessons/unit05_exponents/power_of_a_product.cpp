@@ -37,7 +37,7 @@ void GroupsOfFactors() {
   PageEnd();
   Say(R"(\yTry it:\z  What is  )" + Text("{}?", "(xy)^5^"));
   PageEnd();
-  Say(Text("5 groups have {} and {}:", "5 factors x", "5 factors y"));
+  Say("There are 5 factors x and 5 factors y:");
   Show(R"((xy)^5^ = \yx^5^y^5^\z)", kExpressionCol);
   PageEnd();
 }
@@ -45,7 +45,7 @@ void GroupsOfFactors() {
 void RuleForProducts() {
   NewScreen();
   ShowRule(3);
-  Say("Each factor in the parentheses gets the exponent behind them.");
+  Say("Each factor gets the exponent after the parentheses.  n is any exponent.");
   PageEnd();
   Say(Text(R"(\yCheck:\z  We put {} in place of {}:)", "2 and 5", "a and b"));
   Show("(2 " + tutor::Times + " 5)^3^ = 10^3^ = 1000", kExpressionCol);
@@ -53,22 +53,24 @@ void RuleForProducts() {
   PageEnd();
   Say(R"(\yTry it:\z  Is  )" + Text("{} equal to {}?", "(cd)^4^", "cd^4^"));
   PageEnd();
-  Say(Text(R"(No.  Both factors get the exponent:  \y{}\z)", "(cd)^4^ = c^4^d^4^"));
+  Say("No.  Both factors get the exponent:");
+  Show(R"((cd)^4^ = \yc^4^d^4^\z)", kExpressionCol);
   PageEnd();
 }
 
-void NoRuleForSums() {
+void NotForSums() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  A \ysum\z has no such rule:)");
-  RuleBox("No Rule For Sums", {R"((a + b)^2^  is not  \ra^2^ + b^2^\z)"}, {.width = 30});
+  SayAt(3, R"(\yWatch out:\z  The rule is for products, not for \ysums\z:)");
+  RuleBox("Not For Sums", {R"((a + b)^2^  is not  \ra^2^ + b^2^\z)"}, {.width = 30});
   PageEnd();
   Say("In a sum we add first, then we square:");
   PaperBox({"(3 + 4)^2^ = 7^2^ = 49", R"(\r3^2^ + 4^2^ = 9 + 16 = 25\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Which of these has a rule?)");
+  Say(R"(\yTry it:\z  For which does the rule hold?)");
   Show("(km)^2^        (k + m)^2^", kExpressionCol);
   PageEnd();
-  Say(Text("For the product of k and m:  {}", R"(\y(km)^2^ = k^2^m^2^\z)"));
+  Say("For the product of k and m:");
+  Show(R"(\y(km)^2^ = k^2^m^2^\z)", kExpressionCol);
   PageEnd();
 }
 
@@ -87,14 +89,14 @@ void PowersInside() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, Text("We count the factors of {}:", "(c^3^d)^2^"));
+  SayAt(3, Text("There are 6 factors c in {}:", "(c^3^d)^2^"));
   ShowGroupsTable(group);
   RaiseInTable(group, 0);
   PageEnd();
   RaiseInTable(group, 1);
   Show(R"((c^3^d)^2^ = \yc^6^d^2^\z)", kExpressionCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  The exponents are not added:)");
+  Say(R"(\yWatch out:\z  The exponents 3 and 2 are not added:)");
   PaperBox({R"((c^3^d)^2^ = c^6^d^2^,  \rnot c^5^d^2^\z)"});
   PageEnd();
 }
@@ -104,18 +106,19 @@ void BothInside() {
   const PowerOfGroup group = {1, {{"x", 2}, {"y", 4}}, 3};
   RuleBox("Inner And Outer Exponents", {"Multiply each inner exponent", "by the outer one."},
           {.row = 3, .width = 30});
-  PageEnd();
   Say(Text("Here the outer exponent is 3:  {}", GroupText(group)));
+  PageEnd();
   for (const std::string& line : LinesOfRaising(group)) Show(line, kExpressionCol);
   Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
   PageEnd();
   Say(R"(\yWatch out:\z  No factor is left without the power:)");
-  PaperBox({R"((x^2^y^4^)^3^ = x^6^y^12^,  \rnot x^2^y^12^\z)"});
+  PaperBox({R"((x^2^y^4^)^3^ = x^6^y^12^,)", R"(\rnot x^2^y^12^\z,  \rnot x^6^y^4^\z)"});
   PageEnd();
   Say(R"(\yTry it:\z  Simplify  )" + Text("{}.", "(p^5^q)^4^"));
   PageEnd();
   const PowerOfGroup task = {1, {{"p", 5}, {"q", 1}}, 4};
-  Say(Text("p:  {}     q:  {}", ExponentProduct(5, 4), ExponentProduct(1, 4)));
+  Say(Text("q means {}, so its inner exponent is 1:", "q^1^"));
+  for (const std::string& line : LinesOfRaising(task)) Show(line, kExpressionCol);
   Show(GroupText(task) + R"( = \y)" + RaisedText(task) + R"(\z)", kExpressionCol);
   PageEnd();
 }
@@ -128,7 +131,7 @@ class PowerOfAProduct final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{GroupsOfFactors, RuleForProducts, NoRuleForSums}, {PowersInside, BothInside}};
+    return {{GroupsOfFactors, RuleForProducts, NotForSums}, {PowersInside, BothInside}};
   }
   bool ChoicesAreLaidDown() const override { return true; }
   void DrawProblem(RandomStream& random) override;
@@ -138,7 +141,6 @@ class PowerOfAProduct final : public LessonScript {
   const Power& First() const { return group_.powers[0]; }
   const Power& Second() const { return group_.powers[1]; }
   std::string Product(int firstExponent, int secondExponent) const;
-  void ShowTask() const;
 
   PowerOfGroup group_;
 };
@@ -164,7 +166,7 @@ void PowerOfAProduct::DrawProblem(RandomStream& random) {
   problem.question = {"Simplify the following expression:", GroupText(group_)};
   problem.kind = choice_kind::FiveShuffled;
   problem.Right(1, RaisedText(group_));
-  problem.Wrong(2, "adds the exponents", Product(AddedExponent(m, n), AddedExponent(k, n)));
+  problem.Wrong(2, NameOfAdding(group_), Product(AddedExponent(m, n), AddedExponent(k, n)));
   problem.Wrong(3, "leaves the first factor without the power", Product(m, k * n));
   problem.Wrong(4, "leaves the second factor without the power", Product(m * n, k));
   // Another exponent behind the group, and for one factor alone.
@@ -180,37 +182,16 @@ void PowerOfAProduct::DrawProblem(RandomStream& random) {
 // --- Problem page ------------------------------------------------------------
 
 void PowerOfAProduct::ShowProblem() {
-  SayAt(5, problem.question[0]);
-  ShowAt(7, GroupText(group_), kExpressionCol);
-  ShowAnswersInTwoColumns(problem);
+  ShowTaskAndAnswers(problem, group_);
 }
 
 // --- Worked explanation ------------------------------------------------------
 
 void PowerOfAProduct::ExplainProblem() {
-  ShowTask();
-  Say(Text("The outer exponent {} tells how many times the group is a factor:", group_.exponent));
-  Show("= " + GroupWrittenOut(group_), kExpressionCol);
-  PageEnd();
-  Say("Let's look at each factor of the group:");
-  ShowGroupsTable(group_);
-  PageEnd();
-  NewScreen();
-  ShowTask();
-  ShowGroupsTable(group_);
-  for (const int factor : {0, 1}) {
-    RaiseInTable(group_, factor);
-    PageEnd();
-  }
-  Say("Both factors now have the power:");
-  Show(GroupText(group_) + " = " + RightText(problem), kExpressionCol);
-  PageEnd();
+  ExplainFactorByFactor(group_);
+  BeginCheck(group_);
+  CheckExponents(group_);
   Conclude(problem);
-}
-
-void PowerOfAProduct::ShowTask() const {
-  ProblemBanner();
-  ShowAt(5, GroupText(group_), kExpressionCol);
 }
 
 const LessonRegistration<PowerOfAProduct> kRegistration("Power of a Product");

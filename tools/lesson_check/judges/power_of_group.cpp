@@ -7,6 +7,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
+#include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
 namespace {
@@ -92,6 +93,16 @@ int Added(const Factor& factor, int exponent) {
   return factor.exponent == 1 ? exponent : factor.exponent + exponent;
 }
 
+// Whoever leaves the bare letter the exponent behind the parentheses adds that of the other one.
+std::string NameOfAdding(const Group& group) {
+  std::string name = "adds the exponents";
+  const std::vector<Factor>& letters = group.inside.letters;
+  if (std::ranges::count(letters, 1, &Factor::exponent) == 0) return name;
+  const int other = letters[letters[0].exponent == 1 ? 1 : 0].exponent;
+  const std::string gap = course::tutor::Gap;  // values of a problem are held together
+  return name + " " + std::to_string(other) + gap + "and" + gap + std::to_string(group.exponent);
+}
+
 // What becomes of the letters: right, or with a mistake that can be made with them.
 struct Letters {
   std::string mistake;  // "" when they are right
@@ -113,7 +124,7 @@ std::vector<Letters> LettersOf(const Group& group, const std::vector<std::string
   const auto raised = [&](std::size_t i) { return letters[i].exponent * group.exponent; };
   const auto added = [&](std::size_t i) { return Added(letters[i], group.exponent); };
   std::vector<Letters> ways = {{"", ProductOf(letters, raised)},
-                               {"adds the exponents", ProductOf(letters, added)}};
+                               {NameOfAdding(group), ProductOf(letters, added)}};
   for (std::size_t kept = 0; kept < letters.size(); ++kept)
     ways.push_back({keeping.at(kept), ProductOf(letters, [&](std::size_t i) {
                       return i == kept ? letters[i].exponent : raised(i);
@@ -121,9 +132,9 @@ std::vector<Letters> LettersOf(const Group& group, const std::vector<std::string
   return ways;
 }
 
-// Mistakes that are met where a number stands in front; no exponent has more than three digits.
+// Mistakes that are met where a number stands in front; no exponent has more than two digits.
 std::vector<Letters> MoreLettersOf(const Group& group) {
-  constexpr int kLargestExponent = 999;
+  constexpr int kLargestExponent = 99;
   const std::vector<Factor>& letters = group.inside.letters;
   const auto power = [&](std::size_t i) {
     int value = 1;
@@ -135,9 +146,9 @@ std::vector<Letters> MoreLettersOf(const Group& group) {
       power(0) <= kLargestExponent && power(letters.size() - 1) <= kLargestExponent;
   if (readable) ways.push_back({"raises the inner exponents", ProductOf(letters, power)});
   if (letters.size() != 2) return ways;
-  const int all = letters[0].exponent * letters[1].exponent * group.exponent;
-  ways.push_back({"gives the product of all exponents to both letters",
-                  ProductOf(letters, [&](std::size_t) { return all; })});
+  const int larger = std::max(letters[0].exponent, letters[1].exponent) * group.exponent;
+  ways.push_back({"gives both letters the larger exponent",
+                  ProductOf(letters, [&](std::size_t) { return larger; })});
   return ways;
 }
 
@@ -257,12 +268,17 @@ Reading ReadPowerOfPower(const course::Problem& problem) {
     reading.mistakes[name].push_back((Number(number) * PowerOf(letter, exponent)).Text());
   };
   add("adds the exponents", 1, sum);
-  add("multiplies the base by the outer exponent", last, before);
+  add("writes the outer exponent in front instead of raising to it", last, before);
   if (exponents.size() == 2) {
-    add("multiplies the base by the outer exponent too", last, product);
+    add("multiplies the exponents and writes the outer one in front, too", last, product);
     add("leaves out the outer exponent", 1, before);
+    int raised = 1;
+    for (int i = 0; i < last; ++i) raised *= before;
+    if (raised <= kLargestExponent) add("raises the inner exponent", 1, raised);
   } else {
     add("multiplies the inner exponents but adds the outer one", 1, before + last);
+    add("adds the inner exponents but multiplies by the outer one", 1,
+        (exponents[0] + exponents[1]) * last);
   }
   return reading;
 }

@@ -3,8 +3,12 @@
 #include <algorithm>
 
 #include "display/drawing.h"
+#include "display/stacked_text.h"
+#include "engine/header.h"
+#include "engine/page.h"
 #include "lessons/families/powers/number_power.h"
 #include "lessons/families/powers/power_figures.h"
+#include "lessons/page/answer_boxes.h"
 #include "lessons/page/boxes.h"
 #include "lessons/page/say.h"
 #include "lessons/page/show.h"
@@ -22,6 +26,7 @@ constexpr const char* kDots = "...";
 constexpr double kDotsWidth = 3;
 constexpr int kGroupsWrittenOut = 4;
 constexpr int kColumns = 40;
+constexpr double kExpressionCol = 4;
 
 // A factor of the group as it stands in the table: a number or a letter.
 struct Row {
@@ -43,9 +48,10 @@ std::vector<Row> RowsOf(const PowerOfGroup& group) {
   return rows;
 }
 
-// What stands in a row of the table before the last column; three rows leave room for three groups.
+// What stands in a row of the table before the last column.  Of the number and two letters three
+// groups are shown, since their products are wide; a row alone has room for five.
 std::vector<std::string> CellsOf(const std::string& factor, int groups, std::size_t rows) {
-  const int shown = rows > 2 ? 3 : kGroupsWrittenOut;
+  const int shown = rows > 2 ? 3 : rows == 1 ? kGroupsWrittenOut + 1 : kGroupsWrittenOut;
   if (groups <= shown) return std::vector<std::string>(static_cast<std::size_t>(groups), factor);
   if (rows > 2) return {factor, kDots, factor};
   return {factor, factor, kDots, factor};
@@ -55,9 +61,19 @@ int GroupColumns(const PowerOfGroup& group) {
   return static_cast<int>(CellsOf("", group.exponent, RowsOf(group).size()).size());
 }
 
+std::string ValueText(int base, int exponent) {
+  return NumStr(static_cast<double>(ValueOfPower(base, exponent)));
+}
+
+// "4 x 4 x 4 = 16 x 4 = 64": larger powers by way of their two halves.
 std::string NumberRaised(const PowerOfGroup& group) {
-  return FactorsOf(group.number, group.exponent) + " = " +
-         NumStr(static_cast<double>(ValueOfPower(group.number, group.exponent)));
+  constexpr int kKnownByHeart = 30;
+  const auto [number, letters, exponent] = group;
+  std::string text = FactorsOf(number, exponent);
+  const int half = exponent / 2;
+  if (exponent > 2 && ValueOfPower(number, exponent) > kKnownByHeart)
+    text += " = " + JoinedByTimes({ValueText(number, exponent - half), ValueText(number, half)});
+  return text + " = " + ValueText(number, exponent);
 }
 
 }  // namespace
@@ -88,12 +104,33 @@ int AddedExponent(int inner, int outer) {
   return inner == 1 ? outer : inner + outer;
 }
 
+std::string NameOfAdding(const PowerOfGroup& group) {
+  const auto isBare = [](const Power& power) { return power.exponent == 1; };
+  if (std::ranges::none_of(group.powers, isBare)) return "adds the exponents";
+  const auto raised = std::ranges::find_if_not(group.powers, isBare);
+  return Text("adds the exponents {}", NumStr(raised->exponent) + " and " + NumStr(group.exponent));
+}
+
 std::vector<std::string> LinesOfRaising(const PowerOfGroup& group) {
   std::vector<std::string> lines;
   if (group.number != 1) lines.push_back(NumStr(group.number) + ":  " + NumberRaised(group));
   for (const Power& power : group.powers)
     lines.push_back(power.base + ":  " + ExponentProduct(power.exponent, group.exponent));
   return lines;
+}
+
+std::string SumOfExponents(int inner, int groups) {
+  std::string sum = NumStr(inner);
+  for (int i = 1; i < groups; ++i) sum += " + " + NumStr(inner);
+  return sum + " = " + NumStr(inner * groups);
+}
+
+void ShowWorking(const std::string& math) {
+  const int width = StackedTextWidth(math);
+  const std::size_t equals = math.find(" = ");
+  if (width <= kColumns) return Show(math, std::min(kExpressionCol, kColumns + 1.0 - width));
+  ShowWorking(math.substr(0, equals));
+  Show(math.substr(equals + 1), kExpressionCol);
 }
 
 void PointAtExponents(const PowerOfGroup& group, double row) {
@@ -113,8 +150,9 @@ void PointAtExponents(const PowerOfGroup& group, double row) {
 }
 
 void CountGroups(const Power& group, int groups, double row) {
-  constexpr double kFirst = 6;  // column, behind the equal sign
-  constexpr double kSign = 3;   // columns of a dot between two blanks
+  constexpr double kSign = 3;  // columns of an equal sign or a dot between two blanks
+  const std::string raised = GroupText({1, {group}, groups});
+  const double first = kExpressionCol + StackedTextWidth(raised) + kSign;
   const double width = 1 + static_cast<double>(NumStr(group.exponent).size());
   const double step = width + kSign;
   const bool all = groups <= kGroupsWrittenOut;
@@ -122,9 +160,9 @@ void CountGroups(const Power& group, int groups, double row) {
   const int hidden = all ? places : places - 2;  // the place of the dots
   const auto columnOf = [&](int place) {
     const double widened = place > hidden ? kDotsWidth - width : 0;
-    return kFirst + place * step + widened;
+    return first + place * step + widened;
   };
-  ShowAt(row, "= " + PowerText(group), kFirst - 2);
+  ShowAt(row, raised + " = " + PowerText(group), kExpressionCol);
   for (int place = 1, last = 0; place < places; ++place) {
     if (place == hidden) continue;
     SlideRight({row, columnOf(last), width}, columnOf(place) - columnOf(last), Leaving::Copy,
@@ -158,18 +196,62 @@ void RaiseInTable(const PowerOfGroup& group, int row) {
   const Power factor = isNumber ? Power{NumStr(group.number), 1} : group.powers.at(letter);
   Say(Text("Each of the {} groups has {} factor{} {}:", group.exponent, factor.exponent,
            Words{PluralSuffix(factor.exponent)}, factor.base));
-  const std::string raised = isNumber
-                                 ? NumberRaised(group)
-                                 : ExponentProduct(factor.exponent, group.exponent) + ",  so " +
-                                       PowerText({factor.base, factor.exponent * group.exponent});
-  constexpr double kCol = 4;
-  Show(raised, std::min(kCol, kColumns + 1 - static_cast<double>(raised.size())));
+  ShowWorking(isNumber ? NumberRaised(group)
+                       : ExponentProduct(factor.exponent, group.exponent) + ",  so " +
+                             PowerText({factor.base, factor.exponent * group.exponent}));
   FillInTogether(group, row);
 }
 
 void FillInTogether(const PowerOfGroup& group, int row) {
   FillCells((GroupColumns(group) + 1) * (row + 1),
-            {RowsOf(group).at(static_cast<std::size_t>(row)).together}, platform::colour::Blue);
+            {"= " + RowsOf(group).at(static_cast<std::size_t>(row)).together},
+            platform::colour::Blue);
+}
+
+void ShowTaskAndAnswers(const Problem& problem, const PowerOfGroup& group) {
+  SayAt(5, problem.question[0]);
+  ShowAt(7, GroupText(group), kExpressionCol);
+  ShowAnswersInTwoColumns(problem);
+}
+
+void ShowTask(const PowerOfGroup& group) {
+  ProblemBanner();
+  ShowAt(5, GroupText(group), kExpressionCol);
+}
+
+void ExplainFactorByFactor(const PowerOfGroup& group) {
+  ShowTask(group);
+  Say(Text("The outer exponent {} tells how many times the group is a factor:", group.exponent));
+  Show("= " + GroupWrittenOut(group), kExpressionCol);
+  PageEnd();
+  Say("Let's look at each factor of the group:");
+  ShowGroupsTable(group);
+  PageEnd();
+  NewScreen();
+  ShowTask(group);
+  ShowGroupsTable(group);
+  const int rows = static_cast<int>(RowsOf(group).size());
+  for (int row = 0; row < rows; ++row) {
+    RaiseInTable(group, row);
+    if (row + 1 < rows) PageEnd();
+  }
+  Show(GroupText(group) + R"( = \y)" + RaisedText(group) + R"(\z)", kExpressionCol);
+  PageEnd();
+}
+
+void BeginCheck(const PowerOfGroup& group) {
+  NewScreen();
+  ShowTask(group);
+  AddLine("= " + RaisedText(group), {.col = kExpressionCol - 2});
+}
+
+void CheckExponents(const PowerOfGroup& group) {
+  std::string letters;
+  for (const Power& power : group.powers) letters += (letters.empty() ? "" : " and ") + power.base;
+  Say(R"(\yCheck:\z  We add the exponents of )" + Text("{}:", letters));
+  for (const Power& power : group.powers)
+    ShowWorking(SumOfExponents(power.exponent, group.exponent));
+  PageEnd();
 }
 
 }  // namespace course::powers

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/problem.h"
 #include "lessons/families/powers/power_text.h"
 
 namespace course::powers {
@@ -26,17 +27,24 @@ std::string RaisedText(const PowerOfGroup& group);
 std::string ExponentProduct(int inner, int outer);
 // The exponent of one who adds; to a bare letter he gives the outer exponent.
 int AddedExponent(int inner, int outer);
+// The name of his mistake, which tells what is added when one letter is bare.
+std::string NameOfAdding(const PowerOfGroup& group);
 
-// A line for the number and for each letter: "2:  2 x 2 x 2 = 8", "b:  3 x 3 = 9".
+// A line for the number and for each letter: "4:  4 x 4 x 4 = 16 x 4 = 64", "b:  3 x 3 = 9".
 std::vector<std::string> LinesOfRaising(const PowerOfGroup& group);
+// "3 + 3 + 3 = 9": the inner exponent of a letter, added once a group.
+std::string SumOfExponents(int inner, int groups);
+// From column 4 on, further left if it must be; what is too long goes on below behind an equal
+// sign.
+void ShowWorking(const std::string& math);
 
 // The group in the middle of the row, and notes at its first inner and its outer exponent: from two
 // rows above to three rows below.
 void PointAtExponents(const PowerOfGroup& group, double row);
 
-// "= b^3^ . b^3^ . b^3^" in the row, where one group after the other slides into its place, and
-// below each of them which one it is.  Of more than four groups the first two and the last.  The
-// cursor ends below.
+// "(b^3^)^3^ = b^3^ . b^3^ . b^3^" in the row, where one group after the other slides into its
+// place, and below each of them which one it is.  Of more than four groups the first two and the
+// last.  The cursor ends below.
 void CountGroups(const Power& group, int groups, double row);
 
 // A table of the factors of a group: a row a factor, a column a group, and what they make together
@@ -48,5 +56,16 @@ void ShowGroupsTable(const PowerOfGroup& group);
 void RaiseInTable(const PowerOfGroup& group, int row);
 // The last column alone.
 void FillInTogether(const PowerOfGroup& group, int row);
+
+// The problem's page: simplify the power of a group.
+void ShowTaskAndAnswers(const Problem& problem, const PowerOfGroup& group);
+// Banner and group, at the top of each screen of an explanation.
+void ShowTask(const PowerOfGroup& group);
+// How an explanation begins: the group written out, then factor by factor in the table.
+void ExplainFactorByFactor(const PowerOfGroup& group);
+// A screen with the answer under the group.
+void BeginCheck(const PowerOfGroup& group);
+// The inner exponents of each letter added.
+void CheckExponents(const PowerOfGroup& group);
 
 }  // namespace course::powers
