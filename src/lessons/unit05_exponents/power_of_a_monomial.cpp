@@ -15,7 +15,8 @@ using namespace powers;
 constexpr std::string_view kLetters = "abcdfghkmnpqrstuvwxyz";
 constexpr double kExpressionCol = 4;
 constexpr int kLargestCoefficient = 1000;  // that is worked out by hand
-constexpr int kLargestWrongExponent = 99;  // nobody believes a longer one
+constexpr int kLargestWrongExponent = 99;  // a longer one would stand out
+constexpr int kLargestLastExponent = 250;  // and may stand in one box at most
 
 enum class Form { OneLetter = 1, TwoPowers, BareLetter };
 
@@ -244,10 +245,13 @@ PowerOfAMonomial::LetterSlips PowerOfAMonomial::DrawLetterSlips(RandomStream& ra
   kept_ = static_cast<std::size_t>(random.Rand(1, static_cast<int>(group_.powers.size())) - 1);
   const LetterSlip smaller = adds ? LetterSlip::Added : LetterSlip::OneKept;
   const LetterSlip otherSmaller = adds ? LetterSlip::OneKept : LetterSlip::Added;
-  const bool raises = LargestExponent(LetterSlip::Raised) <= kLargestWrongExponent;
+  const int raised = LargestExponent(LetterSlip::Raised);
+  const bool raises = raised <= kLargestWrongExponent;
   const bool differ = group_.powers[0].exponent != group_.powers.back().exponent;
-  LetterSlip larger = raises ? LetterSlip::Raised : otherSmaller;
-  if (differ && (takesLarger || !raises)) larger = LetterSlip::LargerForBoth;
+  if (!raises && !differ)
+    return {smaller, raised <= kLargestLastExponent ? LetterSlip::Raised : otherSmaller};
+  const LetterSlip larger =
+      differ && (takesLarger || !raises) ? LetterSlip::LargerForBoth : LetterSlip::Raised;
   return largerFirst ? LetterSlips{larger, smaller} : LetterSlips{smaller, larger};
 }
 

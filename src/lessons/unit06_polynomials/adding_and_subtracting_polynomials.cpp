@@ -30,7 +30,7 @@ GatheringTable OpenedTable(const std::string& expression, const Sum& opened) {
 
 void AddAll(GatheringTable& table) {
   table.GatherAll();
-  for (int kind = 0; kind < table.Kinds(); ++kind) table.AddUp(kind);
+  table.AddUpAll();
 }
 
 // --- Teaching screens --------------------------------------------------------
@@ -46,32 +46,44 @@ void AddingInColumns() {
   PrintCells(7, {"5x^2^", "6x", "6"}, platform::colour::Blue);
   ClearBelow(12.5);
   SayAt(12.5, Text(R"(x means 1x, so {}.  The sum is \y{}\z.)", "5x + x = 6x", "5x^2^ + 6x + 6"));
+  PaperBox({R"(5x + x = 6x,  \rnot 5x\z)", R"(x^2^ + 3x^2^ = 4x^2^,  \rnot 3x^2^\z)"});
   PageEnd();
-  Say("Why?  Let's put 10 in place of x:");
-  Show("352 + 214 = 566", kExpressionCol);
-  Say("In numbers, too, hundreds, tens and ones are added in columns.");
+
+  NewScreen();
+  SayAt(3, "Why columns?  Let's put 10 in place of x:");
+  Show("3x^2^ + 5x + 2 = 352", kExpressionCol);
+  Show("2x^2^ + x + 4 = 214", kExpressionCol);
+  Show("5x^2^ + 6x + 6 = 566", kExpressionCol);
+  PageEnd();
+  Say("In 352 + 214 = 566, too, hundreds, tens and ones are added in columns.");
   PageEnd();
 }
 
 void PlusInFront() {
   const std::string asked = "(4x^2^ - 3x + 7) + (-2x^2^ - 5x - 1)";
   NewScreen();
-  SayAt(3, R"(Behind a \yplus\z sign every term in the parentheses is added just as it is:)");
+  SayAt(3, R"(After a \yplus\z sign every term in the parentheses is added just as it is:)");
   Show(asked, kExpressionCol);
   Note(NextRow() + 0.2, 20, "no sign changes");
   PageEnd();
   GoBelow();
-  AddLine("We remove the parentheses:");
+  AddLine(Text("We remove the parentheses.  {} is written {}:", "+ (-2x^2^)", "- 2x^2^"));
   Show("4x^2^ - 3x + 7 - 2x^2^ - 5x - 1", kExpressionCol);
   Say(R"(\yTry it:\z  Which terms are like, and what are the sums?)");
   PageEnd();
   GatheringTable table =
       OpenedTable(asked, {{4, "xx"}, {-3, "x"}, {7, ""}, {-2, "xx"}, {-5, "x"}, {-1, ""}});
   AddAll(table);
-  SayAt(table.RowBelow(), Text(R"(We get \y{}\z.)", "2x^2^ - 8x + 6"));
+  SayAt(table.RowBelow(), "4 + (-2) = 2,  -3 + (-5) = -8,  and 7 + (-1) = 6.");
+  AddLine(Text(R"(We get \y{}\z.)", "2x^2^ - 8x + 6"));
   PageEnd();
   Say(R"(\yWatch out:\z  The sum of two negative numbers is negative.  The exponent is kept.)");
   PaperBox({R"(-3x - 5x = -8x,  \rnot 8x\z, \rnot -8x^2^\z)"});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Each term takes its sign along, and unlike terms stay apart:)");
+  PaperBox({R"(7 - 1 = 6,  \rnot 8\z)", R"(2x^2^ - 8x + 6,  \rnot 2x^2^ - 2x\z)"});
   PageEnd();
 }
 
@@ -93,18 +105,20 @@ void TakingAwayASum() {
       "every sign in them.");
   PageEnd();
   NewScreen();
-  RuleBox("Removing Parentheses", {"Behind + every sign stays.", "Behind - every sign changes."},
+  RuleBox("Removing Parentheses", {"After + every sign stays.", "After - every sign changes."},
           {.row = 3, .width = 32});
-  PageEnd();
   Say(Text(R"(\yTry it:\z  What is {} without parentheses?)", "8 - (x - 6)"));
   PageEnd();
-  Say(Text(R"(Both signs change:  \y{}\z)", "8 - x + 6"));
+  Say("x has the sign +, which is not written.  Both signs change:");
+  Show(R"(\y8 - x + 6)", kExpressionCol);
   PageEnd();
 }
 
 void MinusInFront() {
   const std::string difference = "(5x^2^ + 2x - 3) - (3x^2^ - 4x + 1)";
-  Say(R"(A \yminus\z sign in front of the parentheses is the factor -1 for each term in them.)");
+  NewScreen();
+  SayAt(3,
+        R"(A \yminus\z sign in front of the parentheses is the factor -1 for each term in them.)");
   Show(difference, kExpressionCol);
   DistributingTable factors(-1, {{3, "xx"}, {-4, "x"}, {1, ""}});
   SayAt(factors.RowBelow(), R"(\yTry it:\z  What are the three products?)");
@@ -124,7 +138,12 @@ void MinusInFront() {
                                "-3 + (-1) = -4", "2x^2^ + 6x - 4"));
   PageEnd();
   Say(R"(\yWatch out:\z  The minus sign is not for the first term alone.)");
-  PaperBox({"not   5x^2^ + 2x - 3 - 3x^2^ \\r- 4x + 1\\z"});
+  PaperBox({"    5x^2^ + 2x - 3 - 3x^2^ + 4x - 1", R"(not 5x^2^ + 2x - 3 - 3x^2^ \r- 4x + 1\z)"});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  Look at the sign between the parentheses first.)");
+  PaperBox({"(3x^2^ + x) + (2x^2^ - 4x) = 5x^2^ - 3x", "(3x^2^ + x) - (2x^2^ - 4x) = x^2^ + 5x"});
   PageEnd();
 }
 
@@ -136,8 +155,7 @@ void OrderOfADifference() {
   ShowAt(8, "Ben:  4x + 2 - x - 7 = 3x - 5");
   PageEnd();
   Say("Ann is right.  The second polynomial is taken away from the first.  Ben did it the other "
-      "way "
-      "round, so both of his signs are wrong.");
+      "way around, so both of his signs are wrong.");
   PageEnd();
 }
 
@@ -149,16 +167,14 @@ void TermsThatVanish() {
   PageEnd();
   GatheringTable table =
       OpenedTable(difference, {{4, "yy"}, {5, "y"}, {-6, ""}, {-4, "yy"}, {-3, "y"}, {-2, ""}});
-  SayAt(table.RowBelow(), R"(Every sign behind the minus has changed.)");
+  SayAt(table.RowBelow(), R"(Every sign after the minus has changed.)");
   Say(R"(\yTry it:\z  What are the three sums?)");
   PageEnd();
   ClearBelow(table.RowBelow());
   AddAll(table);
-  SayAt(
-      table.RowBelow(),
-      Text(
-          R"(4y^2^ and -4y^2^ are opposites.  Their sum is 0, so no term with y^2^ is written.  We get \y{}\z.)",
-          "2y - 8"));
+  SayAt(table.RowBelow(),
+        "4y^2^ and -4y^2^ are opposites.  Their sum is 0, so no term with y^2^ is written.");
+  AddLine(Text(R"(We get \y{}\z.)", "2y - 8"));
   PageEnd();
   Say(R"(\yWatch out:\z  0y^2^ means 0 times y^2^.  That is 0.)");
   PaperBox({R"(4y^2^ - 4y^2^ = 0,  \rnot y^2^\z)"});
@@ -171,12 +187,16 @@ void OneMore() {
   SayAt(3, R"(\yTry it:\z  Subtract, and check with 2 in place of x.)");
   Show(difference, kExpressionCol);
   PageEnd();
+  Say(Text("{} and {} become {} and {}, and 8 becomes -8:", "-3x^2^", "-x", "3x^2^", "x"));
+  Show("x^2^ - 6x + 5 + 3x^2^ + x - 8", kExpressionCol);
+  PageEnd();
   GatheringTable table =
       OpenedTable(difference, {{1, "xx"}, {-6, "x"}, {5, ""}, {3, "xx"}, {1, "x"}, {-8, ""}});
   AddAll(table);
   SayAt(table.RowBelow(),
-        Text(R"(The minus sign makes 3x^2^ and x positive, and 8 negative.  We get \y{}\z.)",
-             "4x^2^ - 5x - 3"));
+        "1 + 3 = 4,  5 + (-8) = -3,  and -6 + 1 = -5, since -6 is farther from 0.");
+  AddLine(Text(R"(We get \y{}\z.)", "4x^2^ - 5x - 3"));
+  PaperBox({R"(-6x + x = -5x,  \rnot 5x\z)"});
   PageEnd();
   Say(R"(\yCheck:\z  Both have the same value.)");
   Show("(4 - 12 + 5) - (-12 - 2 + 8)", kExpressionCol);
@@ -233,7 +253,7 @@ void AddingAndSubtractingPolynomials::DrawProblem(RandomStream& random) {
 
   problem.question = {Subtracts() ? "Find the difference:" : "Find the sum:", SumText(expression_)};
   FillCombinedChoices(problem, terms, BracketSlips(expression_), random,
-                      {.termsMayVanish = true, .aboutUnlike = 8});
+                      {.termsMayVanish = true, .aboutUnlike = 8, .lastSignsDiffer = true});
 }
 
 // --- Problem page ------------------------------------------------------------
@@ -278,6 +298,9 @@ void AddingAndSubtractingPolynomials::RemoveParentheses() const {
     AddLine(
         "A plus sign stands in front of the second parentheses.  Each term in them is added as it "
         "is.");
+    if (second[0].coef < 0)
+      Say(Text("{} is written {}.", "+ (" + TermText(second[0]) + ")",
+               "- " + TermText({-second[0].coef, second[0].letters})));
   }
   PageEnd();
   Say("We remove the parentheses:");

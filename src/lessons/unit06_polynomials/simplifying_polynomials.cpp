@@ -33,9 +33,11 @@ void TermsOfAPolynomial() {
   SayAt(3, R"(An expression such as this one is called a \cpolynomial\z:)");
   ShowAt(kRow, "4x^3^ - 2x^2^ + 7x - 5", kCol);
   PageEnd();
-  SayAt(8,
-        R"(It is a sum of \cterms\z:  numbers, or numbers times powers.  The exponents are whole )"
-        "numbers, never negative.");
+  SayAt(
+      8,
+      Text(R"(It is a sum of \cterms\z:  numbers, or numbers times {} and so on.  No exponent is )"
+           "negative or a fraction.",
+           Words{"x, x^2^, x^3^"}));
   Say(R"(\yTry it:\z  What is the second term?)");
   PageEnd();
   SlideLeft({kRow, kCol, 3}, 6);
@@ -49,7 +51,17 @@ void TermsOfAPolynomial() {
   PageEnd();
 }
 
-void CoefficientsAndNames() {
+void ShortNames() {
+  NewScreen();
+  SayAt(3, "Short polynomials have their own names:");
+  ShowHeadedCells(4.5, {"Terms", "Name", "Example"}, 3);
+  PrintCells(1, {"one", "monomial", "-2x^2^"});
+  PrintCells(4, {"two", "binomial", "7x - 5"});
+  PrintCells(7, {"three", "trinomial", "x^2^ + 7x - 5"});
+  PageEnd();
+}
+
+void Coefficients() {
   NewScreen();
   SayAt(3, R"(The number in front of the letter is the \ccoefficient\z of the term.)");
   ShowHeadedCells(5.5, {"Term", "Coefficient", "Power"}, 3);
@@ -60,17 +72,6 @@ void CoefficientsAndNames() {
   PageEnd();
   PrintCells(8, {"-1"}, platform::colour::Blue);
   Say(Text("It is {}.  {} means {}, as {} means {}.", -1, "-x", "-1x", "x", "1x"));
-  PageEnd();
-
-  NewScreen();
-  SayAt(3, "Short polynomials have their own names:");
-  ShowHeadedCells(4.5, {"Terms", "Name", "Example"}, 3);
-  PrintCells(1, {"one", "monomial", "-2x^2^"});
-  PrintCells(4, {"two", "binomial", "7x - 5"});
-  PrintCells(7, {"three", "trinomial", "x^2^ + 7x - 5"});
-  SayAt(11, Text(R"(\yTry it:\z  What is {} called?)", "6 - x^2^"));
-  PageEnd();
-  Say(Text("It is a binomial.  Its two terms are {} and {}.", 6, "-x^2^"));
   PageEnd();
 }
 
@@ -93,7 +94,7 @@ void DegreeOfATerm() {
 void DegreeOfAPolynomial() {
   NewScreen();
   SayAt(3, R"(The \cdegree of a polynomial\z is the highest degree of its terms.)");
-  Show(R"(8 + 3x - \yx^2^\z  has degree 2)", kExpressionCol);
+  Show(R"(8 + 3x \y- x^2^\z  has degree 2)", kExpressionCol);
   Say(Text(R"(\yTry it:\z  Find the degree of {}.)", "5 - 2x^4^ + x"));
   PageEnd();
   Say(Text("It is 4:  {} has the highest degree.", "-2x^4^"));
@@ -162,15 +163,38 @@ void GatherAndAdd() {
   PageEnd();
   ClearBelow(table.RowBelow());
   table.GatherAll();
-  SayAt(table.RowBelow(), "Each term takes its sign along.");
+  SayAt(table.RowBelow(), "Each term takes its sign along.  We count:  all 5 terms are there.");
   Say(R"(\yTry it:\z  What are the sums?)");
   PageEnd();
   ClearBelow(table.RowBelow());
-  for (int kind = 0; kind < table.Kinds(); ++kind) table.AddUp(kind);
+  table.AddUpAll();
   SayAt(table.RowBelow(), Text("{}, since {} means {}.  {}.  2 has no like term.", "3 + (-1) = 2",
                                "-x^2^", "-1x^2^", "-5 + 8 = 3"));
-  Show(R"(-5x + 3x^2^ + 2 + 8x - x^2^ = \y2x^2^ + 3x + 2)", 2);
+  Say(R"(-5x + 3x^2^ + 2 + 8x - x^2^ = \y2x^2^ + 3x + 2)", {.col = 2});
   PageEnd();
+}
+
+void SignsAndSums() {
+  NewScreen();
+  SayAt(3, R"(\yWatch out:\z  The sign belongs to the term.)");
+  PaperBox({R"(-5x + 8x = 3x,  \rnot 13x\z)"});
+  Say(R"(\yTry it:\z  What is 7t - 6t?)");
+  PageEnd();
+  Say("7 + (-6) = 1, and 1t is written t:");
+  Show(R"(7t - 6t = \yt)", kExpressionCol);
+  Say(R"(\yTry it:\z  What is 3v - 6v + 8v?)");
+  PageEnd();
+  Say("We add from left to right:");
+  Show("3 + (-6) + 8 = -3 + 8 = 5", kExpressionCol);
+  Show(R"(3v - 6v + 8v = \y5v)", kExpressionCol);
+  PageEnd();
+}
+
+// Filled up with hard blanks to the length of the longest rule: lines of a box are centered.
+std::string AsWideAs(std::string rule) {
+  constexpr int kLongest = 38;
+  for (int i = static_cast<int>(rule.size()); i < kLongest; ++i) rule += tutor::Gap;
+  return rule;
 }
 
 void UnlikeTermsStayApart() {
@@ -184,13 +208,15 @@ void UnlikeTermsStayApart() {
   Say("Ann is right.  Unlike terms stay apart.");
   PageEnd();
   Say(R"(\yWatch out:\z  When like terms are added, the exponent is kept, and x^2^ counts as 1x^2^.)");
-  PaperBox({R"(3x^2^ - x^2^ = 2x^2^,  \rnot 2x^4^\z, \rnot 3x^2^\z)"});
+  PaperBox(
+      {R"(3x^2^ - x^2^ = 2x^2^,  \rnot 2x^4^\z, \rnot 3x^2^\z)", R"(7y - 1 stays,  \rnot 6y\z)"});
   PageEnd();
 
   NewScreen();
   RuleBox("Simplifying a Polynomial",
-          {"1. Gather like terms with their signs.", "2. Add the coefficients.",
-           "3. Write the sums in falling powers."},
+          {AsWideAs("1. Gather like terms with their signs."),
+           AsWideAs("2. Add coefficients, and add numbers."),
+           AsWideAs("3. Write the sums in falling powers.")},
           {.row = 3, .width = 36});
   PageEnd();
   Say(R"(\yCheck:\z  We put 2 in place of x.)");
@@ -198,8 +224,8 @@ void UnlikeTermsStayApart() {
   Show("-10 + 12 + 2 + 16 - 4 = 16", kExpressionCol);
   Show("8 + 6 + 2 = 16", kExpressionCol);
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Simplify {}.  Three of its terms are like.)",
-           "-2n + 9 + 6n^3^ - 4n - n"));
+  Say(R"(\yTry it:\z  Simplify this polynomial.)");
+  Show("-2n + 9 + 6n^3^ - 4n - n", kExpressionCol);
   PageEnd();
 }
 
@@ -208,10 +234,10 @@ void ThreeLikeTerms() {
   GatheringTable table({{-2, "n"}, {9, ""}, {6, "nnn"}, {-4, "n"}, {-1, "n"}}, 3,
                        KindNames::Degrees);
   table.GatherAll();
-  for (int kind = 0; kind < table.Kinds(); ++kind) table.AddUp(kind);
+  table.AddUpAll();
   SayAt(table.RowBelow(), Text("{} means {}:", "-n", "-1n"));
   Show("-2 + (-4) + (-1) = -6 + (-1) = -7", kExpressionCol);
-  Show(R"(-2n + 9 + 6n^3^ - 4n - n = \y6n^3^ - 7n + 9)", 2);
+  Say(R"(-2n + 9 + 6n^3^ - 4n - n = \y6n^3^ - 7n + 9)", {.col = 2});
   PageEnd();
   Say(R"(\yWatch out:\z  Two negatives make a positive product, but a negative sum.)");
   PaperBox({R"(-2n - 4n = -6n,  \rnot 6n\z)"});
@@ -222,11 +248,11 @@ void ThreeLikeTerms() {
   GatheringTable last({{5, ""}, {-8, "kk"}, {3, "k"}, {2, "kk"}, {-9, ""}}, 5, KindNames::Degrees);
   PageEnd();
   last.GatherAll();
-  for (int kind = 0; kind < last.Kinds(); ++kind) last.AddUp(kind);
-  SayAt(last.RowBelow(),
-        "-8 + 2 = -6 and 5 + (-9) = -4:  the signs differ, and the negative number is farther from "
-        "0.");
-  Show(R"(5 - 8k^2^ + 3k + 2k^2^ - 9 = \y-6k^2^ + 3k - 4)", 2);
+  last.AddUpAll();
+  SayAt(last.RowBelow(), "-8 + 2 = -6:  -8 is farther from 0.");
+  AddLine("5 + (-9) = -4:  -9 is farther from 0.");
+  Say(R"(5 - 8k^2^ + 3k + 2k^2^ - 9 = \y-6k^2^ + 3k - 4)", {.col = 2});
+  PaperBox({R"(-8k^2^ + 2k^2^ = -6k^2^,  \rnot 6k^2^\z)"});
   PageEnd();
 }
 
@@ -238,10 +264,10 @@ class SimplifyingPolynomials final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{TermsOfAPolynomial, CoefficientsAndNames},
+    return {{TermsOfAPolynomial, ShortNames, Coefficients},
             {DegreeOfATerm, DegreeOfAPolynomial},
             {FallingPowers, CarryTermsIntoOrder, OrderWithGaps},
-            {GatherAndAdd, UnlikeTermsStayApart, ThreeLikeTerms}};
+            {GatherAndAdd, SignsAndSums, UnlikeTermsStayApart, ThreeLikeTerms}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -299,15 +325,16 @@ void SimplifyingPolynomials::DrawProblem(RandomStream& random) {
   } while (Combined(sum_).size() < kKinds);  // terms that add up to 0
 
   problem.question = {"Simplify the following expression:", SumText(sum_)};
-  FillCombinedChoices(problem, sum_, ReadingSlips(sum_), random,
-                      {.slots = kAlteredSlot - 1, .aboutUnlike = 6});
+  const std::vector<Slip> slips = ReadingSlips(sum_, LoneName::Term);
+  const ChoiceRules rules = {.slots = kAlteredSlot - 1, .aboutUnlike = 6, .lastSignsDiffer = true};
+  FillCombinedChoices(problem, sum_, slips, random, rules);
   // Altered from the right sum, the fifth choice would make that the box most like the others.
-  const std::vector<Slip> slips = ReadingSlips(sum_);
   const Sum slipped = Combined(slips[random.Index(2) - 1].terms);
-  problem.Wrong(kAlteredSlot, kFiller, SumText(Altered(random, slipped, 1, 9)));
-  ReplaceRepeatedTexts(problem, [&](int slot) {
-    problem.Wrong(slot, kFiller, SumText(Altered(random, slipped, 2, 10)));
-  });
+  const auto offer = [&](int slot, const Sum& wrong) {
+    problem.Wrong(slot, MistakeLeadingTo(wrong, sum_, slips, rules), SumText(wrong));
+  };
+  offer(kAlteredSlot, Altered(random, slipped, 1, 9));
+  ReplaceRepeatedTexts(problem, [&](int slot) { offer(slot, Altered(random, slipped, 2, 10)); });
 }
 
 // --- Problem page ------------------------------------------------------------

@@ -7,6 +7,7 @@
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
+#include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
 namespace {
@@ -152,38 +153,62 @@ void AddExponentsAdded(const std::vector<Terms>& groups, Mistakes& mistakes) {
   if (anyAreLike) mistakes.Add("adds the exponents too", SumOf(WithExponentsAdded(groups)));
 }
 
-void AddGroupMistakes(const Terms& terms, const Terms& group, Mistakes& mistakes) {
+// Polynomials tell terms and additions apart that are not told apart where one letter is met.
+enum class Naming { InGeneral, ByTerm };
+
+// Whether numbers that are added from left to right end with two of different signs.
+bool LastSignsDiffer(const Terms& group) {
+  const Rational last = CoefficientOf(group.back());
+  const Polynomial before = SumOf(group) - group.back();
+  if (before.IsZero()) return false;
+  return CoefficientOf(before) * last < 0;
+}
+
+// "counts -x^2^ as 0x^2^"
+std::string NameOfLone(const Polynomial& term, Naming naming) {
+  if (naming == Naming::InGeneral) return "counts a letter alone as 0";
+  const char letter = term.Letters().at(0);
+  const int degree = term.Degree(letter);
+  std::string power(1, letter);
+  if (degree > 1) power += "^" + std::to_string(degree) + "^";
+  return "counts " + std::string(CoefficientOf(term) < 0 ? "-" : "") +
+         course::WithoutBreaks(power + " as 0" + power);
+}
+
+void AddGroupMistakes(const Terms& terms, const Terms& group, Mistakes& mistakes, Naming naming) {
   const Polynomial total = SumOf(group);
   const Polynomial rest = SumOf(terms) - total;
   if (group.size() < 2) return;
   const auto negative = [](const Polynomial& term) { return CoefficientOf(term) < 0; };
   const auto negatives = static_cast<std::size_t>(std::ranges::count_if(group, negative));
   if (negatives == group.size()) mistakes.Add("makes two negatives a positive", rest - total);
-  if (negatives != 0 && negatives != group.size())
+  const bool bothSigns = negatives != 0 && negatives != group.size();
+  if (naming == Naming::ByTerm ? LastSignsDiffer(group) : bothSigns)
     mistakes.Add("takes the wrong sign in a sum of unlike signs", rest - total);
 }
 
-void AddCombiningMistakes(const Terms& terms, Mistakes mistakes) {
+void AddCombiningMistakes(const Terms& terms, Mistakes mistakes, Naming naming) {
   const std::vector<Terms> groups = GroupsThatStay(terms);
   AddUnlikeCombined("combines unlike terms", terms, mistakes);
   AddExponentsAdded(groups, mistakes);
-  for (const Terms& group : groups) AddGroupMistakes(terms, group, mistakes);
+  for (const Terms& group : groups) AddGroupMistakes(terms, group, mistakes, naming);
 }
 
 // Terms that are combined after a slip, rightly or not.
-void AddSlip(const std::string& name, Terms terms, Reading& reading) {
+void AddSlip(const std::string& name, Terms terms, Reading& reading,
+             Naming naming = Naming::InGeneral) {
   std::erase_if(terms, [](const Polynomial& term) { return term.IsZero(); });
   Mistakes(reading).Add(name, SumOf(terms));
-  AddCombiningMistakes(terms, Mistakes(reading, name));
+  AddCombiningMistakes(terms, Mistakes(reading, name), naming);
 }
 
-void AddReadingSlips(const Terms& terms, Reading& reading) {
+void AddReadingSlips(const Terms& terms, Reading& reading, Naming naming) {
   for (std::size_t i = 0; i < terms.size(); ++i) {
     const Rational coefficient = CoefficientOf(terms[i]);
     Terms without = terms;
     without.erase(without.begin() + static_cast<std::ptrdiff_t>(i));
     if (!IsNumber(terms[i]) && abs(coefficient) == 1)
-      AddSlip("counts a letter alone as 0", without, reading);
+      AddSlip(NameOfLone(terms[i], naming), without, reading, naming);
     if (i + 1 == terms.size()) {
       Mistakes(reading).Add("leaves out the last term", SumOf(without));
       AddUnlikeCombined("combines unlike terms", without,
@@ -192,7 +217,7 @@ void AddReadingSlips(const Terms& terms, Reading& reading) {
     Terms positive = terms;
     positive[i] = -positive[i];
     if (i == 0 || coefficient > 0) continue;
-    AddSlip("leaves a minus sign behind", positive, reading);
+    AddSlip("leaves a minus sign behind", positive, reading, naming);
     const bool isLast = std::all_of(terms.begin() + static_cast<std::ptrdiff_t>(i) + 1, terms.end(),
                                     [](const Polynomial& t) { return CoefficientOf(t) > 0; });
     if (!isLast) Mistakes(reading).Add("leaves an earlier minus sign behind", SumOf(positive));
@@ -261,12 +286,13 @@ void AddBracketSlips(const WrittenSum& sum, Reading& reading) {
     Terms onlyFirstSign = second;
     onlyFirstSign[0] = -onlyFirstSign[0];
     AddSlip("carries the minus sign to the first term only", Together(first, onlyFirstSign),
-            reading);
-    AddSlip("adds instead of subtracting", Together(first, second), reading);
+            reading, Naming::ByTerm);
+    AddSlip("adds instead of subtracting", Together(first, second), reading, Naming::ByTerm);
     AddSlip("subtracts the first polynomial from the second", Together(Negated(first), second),
-            reading);
+            reading, Naming::ByTerm);
   } else {
-    AddSlip("subtracts instead of adding", Together(first, Negated(second)), reading);
+    AddSlip("subtracts instead of adding", Together(first, Negated(second)), reading,
+            Naming::ByTerm);
   }
   const Terms terms = sum.Expanded();
   for (const Terms& group : Groups(terms)) {
@@ -275,7 +301,7 @@ void AddBracketSlips(const WrittenSum& sum, Reading& reading) {
     std::ranges::copy_if(terms, std::back_inserter(kept), [&](const Polynomial& term) {
       return LettersOf(term) != LettersOf(group[0]);
     });
-    AddSlip("keeps the letter of a term that is 0", kept, reading);
+    AddSlip("keeps the letter of a term that is 0", kept, reading, Naming::ByTerm);
   }
 }
 
@@ -357,7 +383,9 @@ Rational CoefficientOf(const Polynomial& term) {
   return number.Number();
 }
 
-Reading ReadCombinedSum(const course::Problem& problem) {
+namespace {
+
+Reading ReadNamed(const course::Problem& problem, Naming naming) {
   const WrittenSum sum = ReadSum(problem.question.back());
   const Terms terms = sum.Expanded();
   Reading reading;
@@ -366,10 +394,10 @@ Reading ReadCombinedSum(const course::Problem& problem) {
   reading.flaw = FlawOf;
   reading.kind = KindOf(sum);
   CheckQuestion(sum, reading);
-  AddCombiningMistakes(terms, Mistakes(reading));
+  AddCombiningMistakes(terms, Mistakes(reading), naming);
   AddUnlikeCombined("combines unlike terms and adds the exponents too",
                     WithExponentsAdded(GroupsThatStay(terms)), Mistakes(reading));
-  AddReadingSlips(terms, reading);
+  AddReadingSlips(terms, reading, naming);
   if (AreTwoBrackets(sum))
     AddBracketSlips(sum, reading);
   else if (std::ranges::any_of(sum.parts, &Part::isProduct))
@@ -377,11 +405,21 @@ Reading ReadCombinedSum(const course::Problem& problem) {
   return reading;
 }
 
+Reading ReadPolynomials(const course::Problem& problem) {
+  return ReadNamed(problem, Naming::ByTerm);
+}
+
+}  // namespace
+
+Reading ReadCombinedSum(const course::Problem& problem) {
+  return ReadNamed(problem, Naming::InGeneral);
+}
+
 namespace {
 
-const JudgeRegistration kRegistration(ReadCombinedSum,
-                                      {"Simplifying Expressions", "Simplifying Polynomials",
-                                       "Adding and Subtracting Polynomials"});
+const JudgeRegistration kExpressions(ReadCombinedSum, {"Simplifying Expressions"});
+const JudgeRegistration kPolynomials(ReadPolynomials, {"Simplifying Polynomials",
+                                                       "Adding and Subtracting Polynomials"});
 
 }  // namespace
 }  // namespace lesson_check

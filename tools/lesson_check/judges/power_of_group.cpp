@@ -132,9 +132,9 @@ std::vector<Letters> LettersOf(const Group& group, const std::vector<std::string
   return ways;
 }
 
-// Mistakes that are met where a number stands in front; no exponent has more than two digits.
+// Mistakes that are met where a number stands in front; no exponent is above 250.
 std::vector<Letters> MoreLettersOf(const Group& group) {
-  constexpr int kLargestExponent = 99;
+  constexpr int kLargestExponent = 250;
   const std::vector<Factor>& letters = group.inside.letters;
   const auto power = [&](std::size_t i) {
     int value = 1;

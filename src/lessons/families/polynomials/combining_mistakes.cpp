@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "engine/choices.h"
+#include "lessons/page/say.h"
 
 namespace course::polynomials {
 namespace {
@@ -58,20 +59,32 @@ Sum SignTurned(const Sum& sum, Condition condition) {
   return wrong;
 }
 
-Sum SignTurnedOfUnlikeSigns(const Sum& sum) {
-  return SignTurned(sum, HasBothSigns);
+// Whether terms that are added from left to right end with two numbers of different signs.
+bool LastSignsDiffer(const Sum& like) {
+  int before = 0;
+  for (std::size_t i = 0; i + 1 < like.size(); ++i) before += like[i].coef;
+  return (before < 0 && like.back().coef > 0) || (before > 0 && like.back().coef < 0);
+}
+
+Sum SignTurnedOfUnlikeSigns(const Sum& sum, const ChoiceRules& rules) {
+  return SignTurned(sum, rules.lastSignsDiffer ? LastSignsDiffer : HasBothSigns);
 }
 
 Sum SignTurnedOfNegatives(const Sum& sum) {
   return SignTurned(sum, AllNegative);
 }
 
-Sum LoneLetterDropped(const Sum& sum) {
-  Sum wrong = sum;
-  const auto lone = std::ranges::find_if(
-      wrong, [](const Term& term) { return !term.letters.empty() && std::abs(term.coef) == 1; });
-  if (lone != wrong.end()) wrong.erase(lone);
-  return wrong;
+Slip LoneLetterDropped(const Sum& sum, LoneName name) {
+  Slip slip = {"counts a letter alone as 0", sum};
+  const auto lone = std::ranges::find_if(slip.terms, [](const Term& term) {
+    return !term.letters.empty() && std::abs(term.coef) == 1;
+  });
+  if (lone == slip.terms.end()) return slip;
+  if (name == LoneName::Term)
+    slip.mistake =
+        page::Text("counts {}", TermText(*lone) + " as 0" + TermText({1, lone->letters}));
+  slip.terms.erase(lone);
+  return slip;
 }
 
 Sum LastMinusLost(const Sum& sum) {
@@ -109,22 +122,27 @@ const WrongSum* Find(const std::vector<WrongSum>& list, const std::string& mista
 
 // Unlike terms combined, also with added exponents and behind two slips.
 void AddAroundUnlike(Choices<Sum>& choices, const std::vector<WrongSum>& mistakes,
-                     const std::vector<Slip>& slips) {
+                     const std::vector<Slip>& slips, const ChoiceRules& rules) {
   constexpr int kTwice = 2;
   for (const char* name : {kUnlike, kUnlikeAndExponents})
     if (const WrongSum* wrong = Find(mistakes, name)) choices.Wrong(wrong->mistake, wrong->sum);
   int behindSlips = 0;
   for (const Slip& slip : slips) {
-    const std::vector<WrongSum> second = CombiningMistakes(slip.terms);
+    const std::vector<WrongSum> second = CombiningMistakes(slip.terms, rules);
     const WrongSum* wrong = Find(second, kUnlike);
     if (wrong == nullptr || ++behindSlips > kTwice) continue;
     choices.Wrong(slip.mistake + " and " + kUnlike, wrong->sum);
   }
 }
 
+Slip LastLeftOut(const Sum& sum) {
+  return {"leaves out the last term", {sum.begin(), sum.end() - 1}};
+}
+
 // Of someone who goes wrong once; it need not be the last minus sign that is left behind.
-std::vector<WrongSum> SingleMistakes(const Sum& sum, const std::vector<Slip>& slips) {
-  std::vector<WrongSum> singles = CombiningMistakes(sum);
+std::vector<WrongSum> SingleMistakes(const Sum& sum, const std::vector<Slip>& slips,
+                                     const ChoiceRules& rules) {
+  std::vector<WrongSum> singles = CombiningMistakes(sum, rules);
   for (const Slip& slip : slips) singles.push_back({slip.mistake, Combined(slip.terms)});
   for (std::size_t i = 1; i < sum.size(); ++i) {
     Sum positive = sum;
@@ -138,12 +156,12 @@ std::vector<WrongSum> SingleMistakes(const Sum& sum, const std::vector<Slip>& sl
 // slip.  Another slip comes at times in place of the last one.  What a single mistake
 // leads to bears its name alone.
 void AddAroundSlip(Choices<Sum>& choices, const Sum& sum, const std::vector<Slip>& slips,
-                   RandomStream& random) {
-  const std::vector<WrongSum> singles = SingleMistakes(sum, slips);
-  std::vector<WrongSum> mistakes = CombiningMistakes(sum);
+                   RandomStream& random, const ChoiceRules& rules) {
+  const std::vector<WrongSum> singles = SingleMistakes(sum, slips, rules);
+  std::vector<WrongSum> mistakes = CombiningMistakes(sum, rules);
   const Slip& slip = slips[0];
   const bool manySlips = slips.size() > 2;
-  std::vector<WrongSum> second = CombiningMistakes(slip.terms);
+  std::vector<WrongSum> second = CombiningMistakes(slip.terms, rules);
   for (std::vector<WrongSum>* list : {&mistakes, &second})
     std::erase_if(*list, [&](const WrongSum& wrong) {
       // One term among sums of two is seen to be wrong: not where there are others.
@@ -169,11 +187,20 @@ void AddAroundSlip(Choices<Sum>& choices, const Sum& sum, const std::vector<Slip
 
 }  // namespace
 
-std::vector<Slip> ReadingSlips(const Sum& sum) {
-  return {{"counts a letter alone as 0", LoneLetterDropped(sum)}, {kMinusLeft, LastMinusLost(sum)}};
+std::vector<Slip> ReadingSlips(const Sum& sum, LoneName name) {
+  return {LoneLetterDropped(sum, name), {kMinusLeft, LastMinusLost(sum)}};
 }
 
-std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
+std::string MistakeLeadingTo(const Sum& wrong, const Sum& sum, const std::vector<Slip>& slips,
+                             const ChoiceRules& rules) {
+  std::vector<Slip> all = slips;
+  all.push_back(LastLeftOut(sum));
+  const std::vector<WrongSum> singles = SingleMistakes(sum, all, rules);
+  const auto found = std::ranges::find(singles, wrong, &WrongSum::sum);
+  return found == singles.end() ? kFiller : found->mistake;
+}
+
+std::vector<WrongSum> CombiningMistakes(const Sum& sum, const ChoiceRules& rules) {
   const Sum right = Combined(sum);
   const Sum exponentsAdded = ExponentsAdded(sum);  // terms may come together, and vanish
   std::vector<WrongSum> mistakes;
@@ -187,7 +214,7 @@ std::vector<WrongSum> CombiningMistakes(const Sum& sum) {
   const std::vector<WrongSum> others = {
       {kExponents, exponentsAdded},
       {"makes two negatives a positive", SignTurnedOfNegatives(sum)},
-      {"takes the wrong sign in a sum of unlike signs", SignTurnedOfUnlikeSigns(sum)}};
+      {"takes the wrong sign in a sum of unlike signs", SignTurnedOfUnlikeSigns(sum, rules)}};
   for (const WrongSum& wrong : others)
     if (IsBelievable(wrong.sum, right)) mistakes.push_back(wrong);
   return mistakes;
@@ -197,8 +224,7 @@ void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> sli
                          RandomStream& random, const ChoiceRules& rules) {
   Choices<Sum> choices(problem, choice_kind::FiveShuffled, SumText, rules.slots);
   const Sum right = Combined(sum);
-  const std::vector<WrongSum> mistakes = CombiningMistakes(sum);
-  const Slip last = {"leaves out the last term", {sum.begin(), sum.end() - 1}};
+  const std::vector<WrongSum> mistakes = CombiningMistakes(sum, rules);
   choices.Right(right);
   for (Slip& slip : slips)
     std::erase_if(slip.terms, [](const Term& term) { return term.coef == 0; });
@@ -208,9 +234,9 @@ void FillCombinedChoices(Problem& problem, const Sum& sum, std::vector<Slip> sli
   std::erase_if(slips, [&](const Slip& slip) { return !isBelievable(slip); });
   StartAnywhere(slips, random);
   const bool aroundUnlike = random.Index(rules.aboutUnlike) == 1 && right.size() > 1;
-  if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, sum, slips, random);
-  slips.push_back(last);
-  if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips);
+  if (!slips.empty() && !aroundUnlike) AddAroundSlip(choices, sum, slips, random, rules);
+  slips.push_back(LastLeftOut(sum));
+  if (aroundUnlike) AddAroundUnlike(choices, mistakes, slips, rules);
   for (const WrongSum& wrong : mistakes) choices.Wrong(wrong.mistake, wrong.sum);
   for (const Slip& slip : slips)
     if (isBelievable(slip)) choices.Wrong(slip.mistake, Combined(slip.terms));

@@ -146,6 +146,14 @@ void GatheringTable::Gather(int kind) {
 
 void GatheringTable::GatherAll() {
   for (int kind = 0; kind < Kinds(); ++kind) Gather(kind);
+  MarkNone();
+  Locate(rowBelow_, 1);
+}
+
+void GatheringTable::AddUpAll() {
+  for (int kind = 0; kind < Kinds(); ++kind) AddUp(kind);
+  MarkNone();
+  Locate(rowBelow_, 1);
 }
 
 void GatheringTable::AddUp(int kind) {

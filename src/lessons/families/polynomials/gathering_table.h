@@ -34,9 +34,12 @@ class GatheringTable {
 
   // Its terms slide out of the sum into their cells, each with its sign; they are yellow above.
   void Gather(int kind);
-  void GatherAll();
   // The sum appears below them.
   void AddUp(int kind);
+  // All kinds one after the other; no term stays yellow.
+  void GatherAll();
+  void AddUpAll();
+  void MarkNone() const { ShowSum(-1); }
 
  private:
   void ShowSum(int kind) const;

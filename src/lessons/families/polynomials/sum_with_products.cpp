@@ -94,7 +94,7 @@ std::vector<Slip> BracketSlips(const SumWithProducts& sum) {
     return MultipliedOut({{sum[0].inside, first}, {sum[1].inside, second}});
   };
   const Sum terms = MultipliedOut(sum);
-  std::vector<Slip> slips = ReadingSlips(terms);
+  std::vector<Slip> slips = ReadingSlips(terms, LoneName::Term);
   if (sum[1].factor < 0) {
     slips = {{"carries the minus sign to the first term only", WorkedOut(sum, MinusForFirstTerm)},
              {"adds instead of subtracting", withFactors(1, 1)},
