@@ -260,7 +260,7 @@ PowerOfAMonomial::LetterSlips PowerOfAMonomial::DrawLetterSlips(RandomStream& ra
 void PowerOfAMonomial::FillChoices(RandomStream& random) {
   const auto [letterSlip, otherLetterSlip] = DrawLetterSlips(random);
   const bool keeps = random.Rand(1, 2) == 1;
-  const int last = random.Rand(1, 4);
+  const int last = random.Rand(1, 5);
   const CoefficientSlip slip = keeps ? CoefficientSlip::Kept : CoefficientSlip::Multiplied;
   const CoefficientSlip otherSlip = keeps ? CoefficientSlip::Multiplied : CoefficientSlip::Kept;
 
@@ -273,8 +273,8 @@ void PowerOfAMonomial::FillChoices(RandomStream& random) {
   wrong(slip, LetterSlip::None);
   wrong(CoefficientSlip::None, letterSlip);
   wrong(slip, letterSlip);
-  if (last <= 2) wrong(last == 1 ? CoefficientSlip::None : slip, otherLetterSlip);
-  if (last > 2) wrong(otherSlip, last == 3 ? LetterSlip::None : letterSlip);
+  if (last <= 3) wrong(last <= 2 ? CoefficientSlip::None : slip, otherLetterSlip);
+  if (last > 3) wrong(otherSlip, last == 4 ? LetterSlip::None : letterSlip);
   // 2 and 2 have the same sum, product and power: then the other mistakes take the place.
   wrong(CoefficientSlip::None, otherLetterSlip);
   wrong(otherSlip, LetterSlip::None);

@@ -50,7 +50,7 @@ void AddingInColumns() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, "Why columns?  Let's put 10 in place of x:");
+  SayAt(3, "Why columns?  We put 10 in place of x:");
   Show("3x^2^ + 5x + 2 = 352", kExpressionCol);
   Show("2x^2^ + x + 4 = 214", kExpressionCol);
   Show("5x^2^ + 6x + 6 = 566", kExpressionCol);
@@ -69,12 +69,12 @@ void PlusInFront() {
   GoBelow();
   AddLine(Text("We remove the parentheses.  {} is written {}:", "+ (-2x^2^)", "- 2x^2^"));
   Show("4x^2^ - 3x + 7 - 2x^2^ - 5x - 1", kExpressionCol);
-  Say(R"(\yTry it:\z  Which terms are like, and what are the sums?)");
+  Say(R"(\yTry it:\z  What are the three sums?)");
   PageEnd();
   GatheringTable table =
       OpenedTable(asked, {{4, "xx"}, {-3, "x"}, {7, ""}, {-2, "xx"}, {-5, "x"}, {-1, ""}});
   AddAll(table);
-  SayAt(table.RowBelow(), "4 + (-2) = 2,  -3 + (-5) = -8,  and 7 + (-1) = 6.");
+  SayAt(table.RowBelow(), Text("{},  {},  {}.", "4 + (-2) = 2", "-3 + (-5) = -8", "7 + (-1) = 6"));
   AddLine(Text(R"(We get \y{}\z.)", "2x^2^ - 8x + 6"));
   PageEnd();
   Say(R"(\yWatch out:\z  The sum of two negative numbers is negative.  The exponent is kept.)");
@@ -193,8 +193,8 @@ void OneMore() {
   GatheringTable table =
       OpenedTable(difference, {{1, "xx"}, {-6, "x"}, {5, ""}, {3, "xx"}, {1, "x"}, {-8, ""}});
   AddAll(table);
-  SayAt(table.RowBelow(),
-        "1 + 3 = 4,  5 + (-8) = -3,  and -6 + 1 = -5, since -6 is farther from 0.");
+  SayAt(table.RowBelow(), Text("{},  {},  and {}, since -6 is farther from 0.", "1 + 3 = 4",
+                               "5 + (-8) = -3", "-6 + 1 = -5"));
   AddLine(Text(R"(We get \y{}\z.)", "4x^2^ - 5x - 3"));
   PaperBox({R"(-6x + x = -5x,  \rnot 5x\z)"});
   PageEnd();

@@ -207,7 +207,7 @@ void UnlikeTermsStayApart() {
   Show("5x^3^ = 5000", kExpressionCol);
   Say("Ann is right.  Unlike terms stay apart.");
   PageEnd();
-  Say(R"(\yWatch out:\z  When like terms are added, the exponent is kept, and x^2^ counts as 1x^2^.)");
+  Say(R"(\yWatch out:\z  Like terms keep the exponent, and x^2^ counts as 1x^2^.)");
   PaperBox(
       {R"(3x^2^ - x^2^ = 2x^2^,  \rnot 2x^4^\z, \rnot 3x^2^\z)", R"(7y - 1 stays,  \rnot 6y\z)"});
   PageEnd();

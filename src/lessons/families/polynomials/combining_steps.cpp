@@ -111,12 +111,13 @@ void ShowEquation(const std::string& left, const std::string& right) {
   Show("  = " + right, kMathCol);
 }
 
-// "32 - (-41)" where the second of two numbers in parentheses is negative and taken away, else "".
+// "32 - (-41) = " where the second of two numbers in parentheses is negative and taken away, else
+// "".
 std::string NegativeTakenAway(const SumWithProducts& numbers) {
   if (numbers.size() != 2 || numbers[0].factor != 1 || numbers[1].factor != -1) return "";
   const int second = ValueAt(numbers[1].inside, 0);
   if (second >= 0) return "";
-  return NumStr(ValueAt(numbers[0].inside, 0)) + " - " + InParentheses(second);
+  return NumStr(ValueAt(numbers[0].inside, 0)) + " - " + InParentheses(second) + " = ";
 }
 
 }  // namespace
@@ -167,9 +168,7 @@ void CheckInNumbers(const SumWithProducts& expression) {
            LettersOf(expression).substr(0, 1)));
   if (hasProducts) {
     Show(SumText(tried), kMathCol);
-    const std::string negative = NegativeTakenAway(tried);
-    if (!negative.empty()) Show("  = " + negative, kMathCol);
-    Show("  = " + SumText(products) + " = " + value, kMathCol);
+    Show("  = " + NegativeTakenAway(tried) + SumText(products) + " = " + value, kMathCol);
   } else {
     ShowEquation(SumText(products), value);
   }
