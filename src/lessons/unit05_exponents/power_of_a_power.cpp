@@ -61,7 +61,7 @@ void WhyMultiply() {
 void TheRule() {
   NewScreen();
   ShowRule(3);
-  Say(Text("m and n stand for the exponents.  mn means {}.", "m " + tutor::Times + " n"));
+  Say("m and n stand for the exponents.  Side by side they are multiplied.");
   PageEnd();
   Say("We keep the base and multiply the inner exponent by the outer one.");
   PageEnd();

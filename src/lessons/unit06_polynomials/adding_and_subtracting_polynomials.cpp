@@ -107,7 +107,7 @@ void TakingAwayASum() {
   NewScreen();
   RuleBox("Removing Parentheses", {"After + every sign stays.", "After - every sign changes."},
           {.row = 3, .width = 32});
-  Say(Text(R"(\yTry it:\z  What is {} without parentheses?)", "8 - (x - 6)"));
+  Say(Text(R"(\yTry it:\z  Remove them from  {}.)", "8 - (x - 6)"));
   PageEnd();
   Say("x has the sign +, which is not written.  Both signs change:");
   Show(R"(\y8 - x + 6)", kExpressionCol);
