@@ -140,7 +140,7 @@ Reading ReadAddingWholeNumbers(const course::Problem& problem) {
   add("carries 1 where it should be 2", columns.Added(1, 1, true));
   add("drops the last carried digit", columns.Added(1, kAll, false));
   add("lines the numbers up on the left", LeftAligned(addends));
-  add("leaves out the last number", sum - Value(addends.back()));
+  if (addends.size() > 2) add("leaves out the last number", sum - Value(addends.back()));
   return reading;
 }
 
