@@ -30,8 +30,6 @@ void Places() {
   PageEnd();
   number.PickOut(2);
   Say("The 3 is in the hundreds place.  3 hundreds are 300, because 1 hundred is 10 tens.");
-  PageEnd();
-  number.PickOutNone();
   Say("So 352 = 300 + 50 + 2.");
   PageEnd();
 
@@ -42,11 +40,9 @@ void Places() {
   zero.Write(7.5, "407");
   PageEnd();
   SayAt(10, "The 4 stands for 4 hundreds, 400.  The 0 tells us that there are no tens.");
-  Say("Without the 0 we would read 47.");
-  PageEnd();
   Say(R"(\yTry it:\z  Which number has 6 hundreds and 8 ones?)");
   PageEnd();
-  Say("It is 608.  A 0 keeps the tens place, so that the 6 stays in the hundreds place.");
+  Say("It is 608.  Without the 0 it would be 68.  So a 0 keeps the other digits in their places.");
   PageEnd();
 }
 
@@ -84,9 +80,8 @@ void SameUnderSame() {
   PageEnd();
   SayAt(10, R"(\yWatch out:\z  Do not begin on the left.)");
   PaperBox({R"(152 + 6 = 158,  \rnot 752\z)"}, 11.5);
-  SayAt(13.5, "For 752 the 6 was written under the 1.  So 6 ones became 6 hundreds.");
-  PageEnd();
-  SayAt(16.5, R"(\yTry it:\z  What is 41 + 324?)");
+  SayAt(13.5, "There the 6 ones became 6 hundreds.");
+  SayAt(15.5, R"(\yTry it:\z  What is 41 + 324?)");
   PageEnd();
   ColumnSum answer(17.5, 12, {"41", "324"});
   Finish(answer);
@@ -117,7 +112,7 @@ void TenOnesMakeOneTen() {
   ColumnSum sum(5, 12, {"27", "35"});
   sum.Columns().PickOut(0);
   SayAt(6, "Ones:  7 + 5 = 12", {.col = kBeside});
-  SayAt(7, "A column has room for only one digit.  What now?", {.col = kBeside});
+  SayAt(7, "A column has room for only one digit.", {.col = kBeside});
   PageEnd();
   DrawOnes(kRow, kFirst, 7, Yellow);
   DrawOnes(kRow, kSecond, 5, Cyan);
@@ -146,15 +141,15 @@ void WrongCarries() {
   SayAt(8, "Can 512 be right?  Both numbers are less than 50, so the sum is less than 100.");
   SayAt(11, R"(\yTry it:\z  What is 48 + 36?)");
   PageEnd();
-  ColumnSum answer(12, 12, {"48", "36"});
+  ColumnSum answer(12.5, 12, {"48", "36"});
   answer.Add(0);
-  SayAt(13, "Ones:  8 + 6 = 14", {.col = kBeside});
-  SayAt(14, "Write 4, carry 1.", {.col = kBeside});
+  SayAt(13.5, "Ones:  8 + 6 = 14", {.col = kBeside});
+  SayAt(14.5, "Write 4, carry 1.", {.col = kBeside});
   PageEnd();
   answer.Add(1);
   answer.Columns().PickOutNone();
-  SayAt(15.5, "Tens:  1 + 4 + 3 = 8", {.col = kBeside});
-  SayAt(18, "The answer is 84.  The carried 1 is added once, not twice.");
+  SayAt(16, "Tens:  1 + 4 + 3 = 8", {.col = kBeside});
+  SayAt(18.5, "The answer is 84.  The carried 1 is added once, not twice.");
   PageEnd();
 }
 
