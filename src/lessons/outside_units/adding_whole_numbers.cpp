@@ -123,7 +123,7 @@ void TenOnesMakeOneTen() {
   SayAt(14, R"(Ten of them make \y1 ten\z, and \y2 ones\z are left:  12 = 10 + 2)");
   PageEnd();
   sum.Add(0);
-  SayAt(17, R"(We write the 2 in the ones place.  The 1 is a ten.  It goes up to the tens: we )"
+  SayAt(17, R"(We write the 2.  The 1 is a ten.  It goes up to the tens: we )"
             R"(\ccarry\z the 1.)");
   PageEnd();
   sum.Add(1);

@@ -103,7 +103,7 @@ void PastAZero() {
   difference.Columns().PickOut(0);
   PageEnd();
   difference.Borrow(1);
-  SayAt(11, "So the 0 borrows first, from the hundreds.  The 4 becomes 3.  The 0 becomes 10 tens.");
+  SayAt(11, "So the 0 borrows first.  The 4 becomes 3, and the 0 becomes 10 tens.");
   PageEnd();
   difference.Borrow(0);
   Say("Now it can give 1 ten.  The 10 becomes 9, and the 2 becomes 12.");
@@ -113,33 +113,53 @@ void PastAZero() {
   SayAt(6.5, "12 - 8 = 4", {.col = kBeside});
   SayAt(7.5, "9 - 5 = 4", {.col = kBeside});
   SayAt(9, "3 - 1 = 2", {.col = kBeside});
-  Locate(16, 1);
-  Say(R"(\yCheck:\z  244 + 158 = 402)");
+  SayAt(17, R"(\yCheck:\z  244 + 158 = 402)");
   PageEnd();
-  Say(R"(\yTry it:\z  What is 134 - 71?)");
+  Say(R"(\yWatch out:\z  When the 0 becomes 9, the 4 must become 3, too.)");
+  PaperBox({R"(402 - 158 = 244,  \rnot 344\z)"});
   PageEnd();
+}
+
+void NoHundredLeft() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  What is 134 - 71?)");
-  ColumnDifference answer(4.5, 14, "134", "71");
-  answer.Subtract(0);
-  answer.Borrow(1);
-  answer.Subtract(1);
-  answer.Columns().PickOutNone();
-  SayAt(5.5, "4 - 1 = 3", {.col = kBeside});
-  SayAt(6.5, "13 - 7 = 6", {.col = kBeside});
-  SayAt(10,
-        "The 3 borrows the 1 hundred: that is 10 tens.  No hundred is left, so the answer is 63.");
+  ColumnDifference difference(4.5, 14, "134", "71");
+  PageEnd();
+  difference.Subtract(0);
+  SayAt(6, "Ones:  4 - 1 = 3", {.col = kBeside});
+  SayAt(10, R"(\yTry it:\z  Do the tens have to borrow?)");
+  PageEnd();
+  difference.Columns().PickOut(1);
+  difference.Borrow(1);
+  SayAt(12, "Yes, because 3 is less than 7.  1 hundred is 10 tens.");
+  PageEnd();
+  difference.Subtract(1);
+  difference.Columns().PickOutNone();
+  Say("Tens:  13 - 7 = 6");
+  AddLine("No hundred is left, so the answer is 63.");
+  Say(R"(\yCheck:\z  63 + 71 = 134)");
   PageEnd();
 }
 
 void SubtractingRule() {
+  NewScreen();
   RuleBox("Subtracting",
           {"Write ones under ones, tens under tens.", "Begin on the right, with the ones.",
            "Upper digit too small: borrow 1 ten."},
-          {.row = 14, .width = 40});
+          {.row = 3, .width = 40});
   Say(R"(\yTry it:\z  What is 300 - 6?)");
   PageEnd();
-  Say("The 0 tens borrow from the 3.  That gives 2 hundreds, 9 tens and 10 ones:  300 - 6 = 294");
+  ColumnDifference answer(11, 14, "300", "6");
+  answer.Columns().PickOut(0);
+  answer.Borrow(1);
+  answer.Borrow(0);
+  SayAt(11, "The tens borrow first.", {.col = kBeside});
+  PageEnd();
+  for (int place = 0; place <= 2; ++place) answer.Subtract(place);
+  answer.Columns().PickOutNone();
+  SayAt(13, "10 - 6 = 4", {.col = kBeside});
+  SayAt(14.5, "We bring 9 and 2 down.", {.col = kBeside});
+  SayAt(17, R"(The answer is 294.  \yCheck:\z  294 + 6 = 300)");
   PageEnd();
 }
 
@@ -151,7 +171,8 @@ class SubtractingWholeNumbers final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{WithoutBorrowing, Borrowing, WrongDifferences, PastAZero, SubtractingRule}};
+    return {
+        {WithoutBorrowing, Borrowing, WrongDifferences, PastAZero, NoHundredLeft, SubtractingRule}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -234,11 +255,9 @@ void SubtractingWholeNumbers::ExplainBorrowing(ColumnDifference& difference, int
   const std::string tooSmall =
       Heading(place) + Text("{} is less than {}", top, difference.Taken(place));
   if (difference.Top(next) == 0) {
-    const int far = difference.Top(next + 1);
     difference.Borrow(next);
-    SayInBox(tooSmall +
-             Text(", and the {} say 0.  So they borrow 1 {}:  {} becomes {}, 0 becomes 10.",
-                  PlaceName(next), PlaceName(next + 1, 1), far, far - 1));
+    SayInBox(tooSmall + Text(".  The {} are 0: they borrow 1 {}, 10 {}.", PlaceName(next),
+                             PlaceName(next + 1, 1), PlaceName(next)));
     PageEnd();
     difference.Borrow(place);
     SayInBox(Text("Now we borrow 1 {}:  10 becomes 9, and {} becomes {}.", PlaceName(next, 1), top,
@@ -246,8 +265,8 @@ void SubtractingWholeNumbers::ExplainBorrowing(ColumnDifference& difference, int
   } else {
     const int lender = difference.Top(next);
     difference.Borrow(place);
-    SayInBox(tooSmall + Text(".  We borrow 1 {}:  {} becomes {}, and {} becomes {}.",
-                             PlaceName(next, 1), lender, lender - 1, top, top + 10));
+    SayInBox(tooSmall + Text(".  Borrow 1 {}: {} becomes {}, {} becomes {}.", PlaceName(next, 1),
+                             lender, lender - 1, top, top + 10));
   }
   PageEnd();
 }
