@@ -179,8 +179,7 @@ void ThreeNumbers() {
 void AddingRule() {
   NewScreen();
   RuleBox("Adding",
-          {"Write ones under ones, tens under tens.", "Begin on the right, with the ones.",
-           "10 or more: carry to the next column."},
+          {"Write ones under ones.  Begin with them.", "10 or more: carry to the next column."},
           {.row = 3, .width = 40});
   Say(R"(\yTry it:\z  What is 95 + 8?)");
   PageEnd();

@@ -22,12 +22,12 @@ void WithoutBorrowing() {
   ColumnDifference difference(5, 14, "58", "23");
   PageEnd();
   difference.Subtract(0);
-  SayAt(6, "We begin with the ones:", {.col = kBeside});
-  ShowAt(7, "8 - 3 = 5", kBeside);
+  SayAt(6, "We begin on the right.", {.col = kBeside});
+  ShowAt(7, "Ones:  8 - 3 = 5", kBeside);
   PageEnd();
   difference.Subtract(1);
   difference.Columns().PickOutNone();
-  SayAt(8.5, "Then the tens:  5 - 2 = 3", {.col = kBeside - 1});
+  SayAt(8.5, "Tens:  5 - 2 = 3", {.col = kBeside});
   SayAt(11, "3 tens and 5 ones are 35:  58 - 23 = 35");
   Say(R"(\yCheck:\z  We add 23 back:  35 + 23 = 58)");
   PageEnd();
@@ -87,12 +87,14 @@ void Borrowing() {
 }
 
 void WrongDifferences() {
-  SayAt(13, R"(\yWatch out:\z  Two wrong answers to 52 - 38:)");
-  PaperBox({R"(\r26\z: 8 - 2 is not 2 - 8.)", R"(\r24\z: the 5 did not become 4.)"}, 14.5);
+  SayAt(13, R"(\yWatch out:\z  Here are two wrong answers.)");
+  PaperBox(
+      {R"(52 - 38:  \r26\z.  8 - 2 is not 2 - 8.)", R"(52 - 38:  \r24\z.  The 5 must become 4.)"},
+      14.5);
   PageEnd();
-  Say(R"(\yTry it:\z  Add back.  What do 26 and 24 give?)");
+  Say(R"(\yTry it:\z  Add 38 to 26 and to 24.)");
   PageEnd();
-  Say("26 + 38 = 64 and 24 + 38 = 62.  Both are not 52.");
+  Say("26 + 38 = 64 and 24 + 38 = 62.  Neither is 52.");
   PageEnd();
 }
 
@@ -144,8 +146,7 @@ void NoHundredLeft() {
 void SubtractingRule() {
   NewScreen();
   RuleBox("Subtracting",
-          {"Write ones under ones, tens under tens.", "Begin on the right, with the ones.",
-           "Upper digit too small: borrow 1 ten."},
+          {"Begin on the right, with the ones.", "Upper digit too small: borrow 1 ten."},
           {.row = 3, .width = 40});
   Say(R"(\yTry it:\z  What is 300 - 6?)");
   PageEnd();
@@ -159,7 +160,8 @@ void SubtractingRule() {
   answer.Columns().PickOutNone();
   SayAt(13, "10 - 6 = 4", {.col = kBeside});
   SayAt(14.5, "We bring 9 and 2 down.", {.col = kBeside});
-  SayAt(17, R"(The answer is 294.  \yCheck:\z  294 + 6 = 300)");
+  SayAt(17, "The answer is 294.");
+  AddLine(R"(\yCheck:\z  294 + 6 = 300)");
   PageEnd();
 }
 

@@ -161,6 +161,7 @@ void WrittenColumns::Recolour() {
     mark.colour = colour;
     Print(mark.row, mark.col, mark.text, colour);
   }
+  for (const Stroke& stroke : strokes_) DrawStroke(stroke);  // a print erases it
 }
 
 // --- What moves ------------------------------------------------------------------------------
@@ -200,14 +201,20 @@ void WrittenColumns::BringDown(double fromRow, int place, double toRow) {
   Put(digit);
 }
 
-void WrittenColumns::StrikeOut(double row, int place) {
+void WrittenColumns::DrawStroke(const Stroke& stroke) {
   constexpr double kUp = 0.38;      // rows from the digit's middle
-  constexpr double kAside = 0.45;   // columns
   constexpr double kMiddle = 0.12;  // letters stand a little below the middle of their cells
+  constexpr int kThickness = 2;     // pixels
+  isDrawDiagonalLineWithColor(stroke.row + kMiddle + kUp, stroke.firstCol,
+                              stroke.row + kMiddle - kUp, stroke.lastCol, kThickness, Yellow);
+}
+
+void WrittenColumns::StrikeOut(double row, int place) {
+  constexpr double kAside = 0.45;  // columns from the digit's middle
   const Mark& digit = At("StrikeOut", row, place);
   const bool isTen = Find(row, digit.col - 1) != nullptr;
-  isDrawDiagonalLineWithColor(row + kMiddle + kUp, digit.col - kAside - (isTen ? 1 : 0),
-                              row + kMiddle - kUp, digit.col + kAside, 2, Yellow);
+  strokes_.push_back({row, digit.col - kAside - (isTen ? 1 : 0), digit.col + kAside});
+  DrawStroke(strokes_.back());
 }
 
 void WrittenColumns::WriteOneInFront(double row, int place) {

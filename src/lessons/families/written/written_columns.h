@@ -70,6 +70,12 @@ class WrittenColumns {
     double lastCol;
   };
 
+  struct Stroke {
+    double row;
+    double firstCol;
+    double lastCol;
+  };
+
   platform::Colour ColourOf(int place) const;
   Mark* Find(double row, double col);
   // The mark that stands there; another stops the program.
@@ -77,12 +83,14 @@ class WrittenColumns {
   void Put(const Mark& mark);
   void Recolour();
   void DrawRule(const RuleLine& rule) const;
+  static void DrawStroke(const Stroke& stroke);
   void NoteExtent(int place);
 
   double onesCol_;
   double step_;
   std::vector<Mark> marks_;
   std::vector<RuleLine> rules_;
+  std::vector<Stroke> strokes_;
   std::optional<int> picked_;
   bool empty_ = true;  // no digit was written
   int highest_ = 0;
