@@ -119,7 +119,8 @@ void TenOnesMakeOneTen() {
   SayAt(12.5, "Here are 7 ones and 5 ones.");
   PageEnd();
   SlideLeft({kRow - 0.3, kSecond - 0.2, 8, 1.5}, kSecond - kFirst - 7 * kSquare);
-  isDrawBox(kRow, kFirst, kRow, kFirst + 10 * kSquare - 1, Yellow, 4);
+  DrawOnes(kRow, kFirst, 10, Yellow);
+  SlideRight({kRow - 0.3, kFirst + 10 * kSquare, 2 * kSquare + 0.2, 1.5}, kSquare);
   SayAt(14, R"(Ten of them make \y1 ten\z, and \y2 ones\z are left:  12 = 10 + 2)");
   PageEnd();
   sum.Add(0);
@@ -127,29 +128,30 @@ void TenOnesMakeOneTen() {
             R"(\ccarry\z the 1.)");
   PageEnd();
   sum.Add(1);
-  SayAt(20.5, Text("Tens:  {}.  The 1 is added, too.  So {}.", "1 + 2 + 3 = 6", "27 + 35 = 62"));
+  SayAt(20, Text("Tens:  {}.  The 1 is added, too.  So {}.", "1 + 2 + 3 = 6", "27 + 35 = 62"));
   PageEnd();
 }
 
 void WrongCarries() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Here are two wrong answers.)");
-  PaperBox({R"(27 + 35:  \r52\z.  The 1 was forgotten.)",
-            R"(27 + 35:  \r512\z.  The 12 was not carried.)"},
-           4.5);
+  SayAt(3, R"(\yWatch out:\z  Here are three wrong answers.)");
+  PaperBox(
+      {R"(27 + 35:  \r52\z.  The 1 was forgotten.)", R"(27 + 35:  \r71\z.  The 2 was carried.)",
+       R"(27 + 35:  \r512\z.  Nothing was carried.)"},
+      4.5);
   PageEnd();
-  SayAt(8, "Can 512 be right?  Both numbers are less than 50, so the sum is less than 100.");
-  SayAt(11, R"(\yTry it:\z  What is 48 + 36?)");
+  SayAt(8.5, "Can 512 be right?  Both numbers are less than 50, so the sum is less than 100.");
+  SayAt(11.5, R"(\yTry it:\z  What is 48 + 36?)");
   PageEnd();
-  ColumnSum answer(12.5, 12, {"48", "36"});
+  ColumnSum answer(13, 12, {"48", "36"});
   answer.Add(0);
-  SayAt(13.5, "Ones:  8 + 6 = 14", {.col = kBeside});
-  SayAt(14.5, "Write 4, carry 1.", {.col = kBeside});
+  SayAt(14, "Ones:  8 + 6 = 14", {.col = kBeside});
+  SayAt(15, "Write 4, carry 1.", {.col = kBeside});
   PageEnd();
   answer.Add(1);
   answer.Columns().PickOutNone();
-  SayAt(16, "Tens:  1 + 4 + 3 = 8", {.col = kBeside});
-  SayAt(18.5, "The answer is 84.  The carried 1 is added once, not twice.");
+  SayAt(16.5, "Tens:  1 + 4 + 3 = 8", {.col = kBeside});
+  SayAt(19, "The answer is 84.  The carried 1 is added once, not twice.");
   PageEnd();
 }
 

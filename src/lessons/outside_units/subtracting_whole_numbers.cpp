@@ -87,14 +87,14 @@ void Borrowing() {
 }
 
 void WrongDifferences() {
-  SayAt(13, R"(\yWatch out:\z  Here are two wrong answers.)");
-  PaperBox(
-      {R"(52 - 38:  \r26\z.  8 - 2 is not 2 - 8.)", R"(52 - 38:  \r24\z.  The 5 must become 4.)"},
-      14.5);
+  SayAt(13, R"(\yWatch out:\z  Here are three wrong answers.)");
+  PaperBox({R"(52 - 38:  \r26\z.  8 - 2 is not 2 - 8.)", R"(52 - 38:  \r20\z.  2 - 8 is not 0.)",
+            R"(52 - 38:  \r24\z.  The 5 must become 4.)"},
+           14.5);
   PageEnd();
-  Say(R"(\yTry it:\z  Add 38 to 26 and to 24.)");
+  Say(R"(\yTry it:\z  Why is 16 wrong, too?)");
   PageEnd();
-  Say("26 + 38 = 64 and 24 + 38 = 62.  Neither is 52.");
+  Say(Text("The ones are {}, not {}.  And {}, not 52.", "12 - 8 = 4", "8 - 2 = 6", "16 + 38 = 54"));
   PageEnd();
 }
 
@@ -258,7 +258,7 @@ void SubtractingWholeNumbers::ExplainBorrowing(ColumnDifference& difference, int
       Heading(place) + Text("{} is less than {}", top, difference.Taken(place));
   if (difference.Top(next) == 0) {
     difference.Borrow(next);
-    SayInBox(tooSmall + Text(".  The {} are 0: they borrow 1 {}, 10 {}.", PlaceName(next),
+    SayInBox(tooSmall + Text(".  The {} are 0: they borrow 1 {}, or 10 {}.", PlaceName(next),
                              PlaceName(next + 1, 1), PlaceName(next)));
     PageEnd();
     difference.Borrow(place);
