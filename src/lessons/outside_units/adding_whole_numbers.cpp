@@ -78,7 +78,7 @@ void SameUnderSame() {
   SayAt(6, "5 and 1 stand alone.  We", {.col = kBeside});
   SayAt(7, "bring them down.", {.col = kBeside});
   PageEnd();
-  SayAt(10, R"(\yWatch out:\z  Do not begin on the left.)");
+  SayAt(10, R"(\yWatch out:\z  Do not line up on the left.)");
   PaperBox({R"(152 + 6 = 158,  \rnot 752\z)"}, 11.5);
   SayAt(13.5, "There the 6 ones became 6 hundreds.");
   SayAt(15.5, R"(\yTry it:\z  What is 41 + 324?)");
@@ -134,7 +134,7 @@ void TenOnesMakeOneTen() {
 
 void WrongCarries() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Here are three wrong answers.)");
+  SayAt(3, R"(\yWatch out:\z  Three wrong answers:)");
   PaperBox(
       {R"(27 + 35:  \r52\z.  The 1 was forgotten.)", R"(27 + 35:  \r71\z.  The 2 was carried.)",
        R"(27 + 35:  \r512\z.  Nothing was carried.)"},

@@ -87,7 +87,7 @@ void Borrowing() {
 }
 
 void WrongDifferences() {
-  SayAt(13, R"(\yWatch out:\z  Here are three wrong answers.)");
+  SayAt(13, R"(\yWatch out:\z  Three wrong answers:)");
   PaperBox({R"(52 - 38:  \r26\z.  8 - 2 is not 2 - 8.)", R"(52 - 38:  \r20\z.  2 - 8 is not 0.)",
             R"(52 - 38:  \r24\z.  The 5 must become 4.)"},
            14.5);
