@@ -219,6 +219,11 @@ void WrittenColumns::StrikeOut(double row, int place) {
 
 void WrittenColumns::WriteOneInFront(double row, int place) {
   const double col = At("WriteOneInFront", row, place).col - 1;
+  if (step_ > 2) {  // there is a free cell beside the higher digit
+    const CursorKeeper keeper;
+    Print(row, col - 1, "1", Yellow);
+    SlideRight({row, col - 1, 1}, 1);
+  }
   Put({row, col, place, "1", Yellow});
 }
 

@@ -53,7 +53,8 @@ class WrittenColumns {
   // Borrowing: a stroke through a digit and the 1 that may stand in front of it, a new digit
   // elsewhere.
   void StrikeOut(double row, int place);
-  // The 1 of a borrowed ten, in the gap in front of a digit.
+  // The 1 of a borrowed ten, in front of a digit.  In columns of 3 cells or more it comes over from
+  // the next higher digit.
   void WriteOneInFront(double row, int place);
 
  private:
