@@ -59,9 +59,7 @@ class Columns {
       written.push_back(total % 10);
       carry = total / 10;
     }
-    if (wholeLast) {
-      written.back() += 10 * carry;
-    }
+    if (wholeLast) written.back() += 10 * carry;
     return Value(written);
   }
   // 12 gives a 1 below and a 2 above.

@@ -10,7 +10,7 @@ namespace lesson_check {
 namespace {
 
 std::string WholeNumber(const std::string& text) {
-  const std::string number = Trimmed(text);
+  std::string number = Trimmed(text);
   const bool digits =
       std::ranges::all_of(number, [](char c) { return c >= '0' && c <= '9'; }) && !number.empty();
   if (!digits || (number.size() > 1 && number[0] == '0'))

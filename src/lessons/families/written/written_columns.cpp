@@ -20,7 +20,7 @@ using platform::colour::Yellow;
 
 namespace {
 
-constexpr double kSignGap = 2;     // columns of digits from the sign to the highest place
+constexpr double kSignGap = 4;     // cells from the sign to the highest place
 constexpr double kBarDrop = 0.85;  // rows from a row to the bar under it
 constexpr int kBarThickness = 2;   // pixels
 constexpr double kNear = 0.01;
@@ -111,7 +111,7 @@ void WrittenColumns::WriteDigit(double row, int place, char digit) {
 }
 
 void WrittenColumns::WriteSign(double row, const std::string& sign) {
-  Print(row, ColumnOf(highest_) - kSignGap * 2, sign, White);
+  Print(row, ColumnOf(highest_) - kSignGap, sign, White);
 }
 
 void WrittenColumns::WritePlaceNames(double row, int highest) {
@@ -123,7 +123,7 @@ void WrittenColumns::WritePlaceNames(double row, int highest) {
 }
 
 void WrittenColumns::Rule(double row) {
-  rules_.push_back({row + kBarDrop, ColumnOf(highest_) - kSignGap * 2, ColumnOf(lowest_) + 1});
+  rules_.push_back({row + kBarDrop, ColumnOf(highest_) - kSignGap, ColumnOf(lowest_) + 1});
   DrawRule(rules_.back());
 }
 

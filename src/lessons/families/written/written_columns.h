@@ -30,7 +30,7 @@ class WrittenColumns {
   void Write(double row, const std::string& number, int shift = 0);
   // In place of what stands there; in yellow in the column in work.
   void WriteDigit(double row, int place, char digit);
-  // A text such as "+", two columns of digits left of a place: of the highest one written so far.
+  // A text such as "+", four cells left of the highest place that was written so far.
   void WriteSign(double row, const std::string& sign);
   // "ones", "tens" and so on, over their columns, from the highest place on.  Columns of 9 cells
   // have room for "hundreds"; places up to 3.
