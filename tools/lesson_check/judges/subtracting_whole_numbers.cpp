@@ -71,6 +71,17 @@ Rational PaidAndTurned(Rows rows) {
   return Read(written);
 }
 
+Rational PaidTwice(Rows rows) {
+  std::vector<int> written(rows.Columns());
+  for (std::size_t i = rows.Columns(); i-- > 0;) {
+    const bool borrows = rows.top[i] < rows.low[i];
+    written[i] = rows.top[i] + (borrows ? 10 : 0) - rows.low[i];
+    if (borrows && i == 0) return 0;  // no student can go on
+    if (borrows) rows.top[i - 1] -= 2;
+  }
+  return Read(written);
+}
+
 // Right, but a 0 that has to pay is 9 at nobody's cost.
 Rational FreeNines(Rows rows) {
   std::vector<int> written(rows.Columns());
@@ -121,6 +132,7 @@ Reading ReadSubtractingWholeNumbers(const course::Problem& problem) {
   add("makes 9 of the 0, but takes nothing from the hundreds", FreeNines(rows));
   if (first.size() == 3 && second.size() == 2)
     add("leaves out the column of the hundreds", Rational(difference.get_num() % 100));
+  add("takes the borrowed 1 away twice", PaidTwice(rows));
   add("adds the numbers", top + low);
   return reading;
 }

@@ -12,7 +12,7 @@ struct Written {
 };
 
 // The columns from the right, each treated by a rule: rule(top digit, digit taken, what the column
-// before has taken from the top).
+// before has taken from the top).  0, which is passed over, when the last column cannot go on.
 template <class Rule>
 int ByRule(int from, int taken, Rule rule) {
   int number = 0;
@@ -22,7 +22,7 @@ int ByRule(int from, int taken, Rule rule) {
     number += written.digit * ten;
     borrowed = written.taken;
   }
-  return number;
+  return borrowed == 0 ? number : 0;
 }
 
 Written SmallerFromLarger(int top, int low, int) {
@@ -34,6 +34,10 @@ Written NothingTakenFromNext(int top, int low, int) {
 Written TenNotAdded(int top, int low, int borrowed) {
   const int left = top - borrowed;
   return {std::abs(left - low), left < low ? 1 : 0};
+}
+Written TakenTwice(int top, int low, int borrowed) {
+  const int left = top - 2 * borrowed;
+  return left < low ? Written{left + 10 - low, 1} : Written{left - low, 0};
 }
 Written ZeroWhereTooSmall(int top, int low, int) {
   return {top < low ? 0 : top - low, 0};
@@ -72,6 +76,7 @@ std::vector<NumberMistake> DifferenceMistakes(int from, int taken) {
        ByRule(from, taken, ZeroPaidByNobody)},
       {"leaves out the column of the hundreds",
        shorter ? WithoutLastColumn(from, taken) : difference},
+      {"takes the borrowed 1 away twice", ByRule(from, taken, TakenTwice)},
       {"adds the numbers", from + taken}};
 }
 

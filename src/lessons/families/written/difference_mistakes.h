@@ -10,7 +10,7 @@ namespace course::written {
 // Whether a digit is smaller than the one that is taken from it.
 bool MustBorrowSomewhere(int from, int taken);
 
-// The smaller digit taken from the larger comes first.  from is larger than taken.
+// from is larger than taken.
 std::vector<NumberMistake> DifferenceMistakes(int from, int taken);
 
 }  // namespace course::written

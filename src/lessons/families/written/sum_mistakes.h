@@ -14,7 +14,6 @@ int PlacesOf(const std::vector<int>& addends);
 // Whether a carry goes to a column that has digits of its own.
 bool CarriesInside(const std::vector<int>& addends);
 
-// The carry forgotten comes first.
 std::vector<NumberMistake> SumMistakes(const std::vector<int>& addends);
 
 }  // namespace course::written

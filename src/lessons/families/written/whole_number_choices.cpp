@@ -1,5 +1,7 @@
 #include "lessons/families/written/whole_number_choices.h"
 
+#include <algorithm>
+
 #include "engine/choices.h"
 #include "mathkit/expressions.h"
 
@@ -19,19 +21,26 @@ int NearTo(int right, RandomStream& random) {
 
 void FillWholeNumberChoices(Problem& problem, int right, const std::vector<NumberMistake>& mistakes,
                             RandomStream& random) {
-  const int others = static_cast<int>(mistakes.size()) - 1;
-  const std::vector<int> order = random.RandSeq(others, others);
-  int left = random.Rand(2, 3);
+  constexpr int kWrong = 4;
+  const int count = static_cast<int>(mistakes.size());
+  const std::vector<int> order = random.RandSeq(count, count);
+  int below = std::min(random.Rand(0, kWrong), right - 1);
+  int above = kWrong - below;
+  std::vector<int> taken = {right};
   Choices<int> choices(problem, choice_kind::FiveShuffled, NumStr);
   choices.Right(right);
-  if (mistakes[0].value >= 1) choices.Wrong(mistakes[0].name, mistakes[0].value);
+  const auto offer = [&](const std::string& mistake, int value) {
+    int& room = value < right ? below : above;
+    if (value < 1 || room == 0 || std::ranges::count(taken, value) > 0) return;
+    choices.Wrong(mistake, value);
+    taken.push_back(value);
+    --room;
+  };
   for (const int i : order) {
-    const NumberMistake& mistake = mistakes[static_cast<std::size_t>(i)];
-    if (left == 0 || mistake.value < 1 || mistake.value == right) continue;
-    choices.Wrong(mistake.name, mistake.value);
-    --left;
+    const auto& [name, value] = mistakes[static_cast<std::size_t>(i - 1)];
+    offer(name, value);
   }
-  choices.Fill([&] { return NearTo(right, random); });
+  while (!choices.Full()) offer(kFiller, NearTo(right, random));
 }
 
 }  // namespace course::written

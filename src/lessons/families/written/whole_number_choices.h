@@ -16,9 +16,10 @@ struct NumberMistake {
   int value;
 };
 
-// Five shuffled choices: the right one, the first mistake, two or three of the others at random,
-// and where a box is free a filler at most 51 away.  Mistakes that lead to a number below 1, or to
-// that of another choice, are passed over.
+// Five shuffled choices: the right one, mistakes at random, and where they do not suffice numbers
+// at most 51 away.  How many of the wrong ones are smaller than the right one is drawn first, so
+// that its place in the order of size tells nothing.  Mistakes that lead to a number below 1 are
+// passed over.
 void FillWholeNumberChoices(Problem& problem, int right, const std::vector<NumberMistake>& mistakes,
                             RandomStream& random);
 
