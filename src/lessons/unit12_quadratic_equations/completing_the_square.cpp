@@ -73,6 +73,10 @@ void CompletingTheSquare::DrawChoices(RandomStream& random) {
       {"leaves the number in front of x^2^ out", RootsOf(-b, b * b - 4 * c, 2)},
       {"forgets to halve the number in front of x", RootsOf(-b, b * b - a * c, a)},
       {"adds the square to the left side only", RootsOf(-b, -4 * a * c, 2 * a)},
+      {"leaves the number in front of x^2^ out and keeps the sign of the number in the parentheses",
+       RootsOf(b, b * b - 4 * c, 2)},
+      {"forgets to halve the number in front of x and keeps its sign",
+       RootsOf(b, b * b - a * c, a)},
       {"keeps the sign of every number that moves to the right side",
        RootsOf(b, b * b + 4 * a * c, 2 * a)},
   };

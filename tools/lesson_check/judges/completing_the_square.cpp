@@ -24,6 +24,10 @@ void AddMistakes(const Quadratic& q, Reading& reading) {
       {"forgets to halve the number in front of x", {RootsOfCompleted(m, n + m * m)}},
       {"adds the square to the left side only", {RootsOfCompleted(half, n)}},
       {"leaves the number in front of x^2^ out", {RootsOfCompleted(q.b / 2, q.b * q.b / 4 - q.c)}},
+      {"leaves the number in front of x^2^ out and keeps the sign of the number in the parentheses",
+       {RootsOfCompleted(-q.b / 2, q.b * q.b / 4 - q.c)}},
+      {"forgets to halve the number in front of x and keeps its sign",
+       {RootsOfCompleted(-m, n + m * m)}},
   };
   const Polynomial root = Polynomial::Root(Polynomial(n + square));
   if (root.IsNumber())
