@@ -55,69 +55,65 @@ void FillRow(int row, const std::array<int, kColumns>& values) {
 
 void ZeroProduct() {
   constexpr Factors kExample = {{1, -3}, {1, 2}};
+  constexpr Factors kAsked = {{1, -5}, {2, 3}};
   NewScreen();
-  SayAt(3, Text(R"(When is the product {} equal to 0?  We try four values of x:)",
+  SayAt(3, Text("When is the product {} equal to 0?  We try four values of x:",
                 FactorsText(kExample)));
   CellTable(ProductTable(), 6);
   FillRow(0, {-5, -3, -2, 0});
   FillRow(1, {0, 2, 3, 5});
-  Say(R"(\yTry it:\z  What are the four products?)");
+  constexpr double kBelowTable = 13;
+  SayAt(kBelowTable, R"(\yTry it:\z  What are the four products?)");
   PageEnd();
   FillRow(2, {0, -6, -6, 0});
-  ClearBelow(13);
-  SayAt(13,
-        "The product is 0 where one of the factors is 0, at -2 and at 3.  Two numbers that are "
-        "not 0 never have the product 0.");
+  ClearBelow(kBelowTable);
+  SayAt(kBelowTable, "The product is 0 where a factor is 0.");
   RuleBox("Zero Product", {"When a product is 0,", "one of its factors is 0."}, {.width = 30});
   PageEnd();
 
   NewScreen();
-  SayAt(3, "So an equation with a product and 0 falls into two short equations:");
-  ShowAt(5.5, IsZero(kExample));
-  SayAt(7, "The first factor is 0, or the second one is:");
+  SayAt(3, Text("So {} tells us:", IsZero(kExample)));
+  SolveFactors(5, kExample);
   PageEnd();
-  SolveBothFactors(9, kExample);
   Say(R"(\yWatch out:\z  The solutions are 3 and -2, not -3 and 2.  Their signs are not those in )"
       "the factors.");
-  PageEnd();
-  Say(Text(R"(\yTry it:\z  Solve  {}.)", IsZero({{1, -5}, {2, 3}})));
+  Say(Text(R"(\yTry it:\z  Solve  {}.)", IsZero(kAsked)));
   PageEnd();
 
   NewScreen();
-  SayAt(3, Text("We solve {}.  Each factor gives a solution:", IsZero({{1, -5}, {2, 3}})));
-  SolveBothFactors(6, {{1, -5}, {2, 3}});
-  Say(R"(\yWatch out:\z  2x = -3 is not solved yet.  We still divide by 2, and -3 stands on top.)");
+  ShowAt(3, IsZero(kAsked));
+  SolveFactors(5, kAsked);
+  Say(R"(\yWatch out:\z  2x = -3 is not solved before we divide by 2.)");
   PageEnd();
 }
 
 // --- Screen 2: all terms on one side -------------------------------------------------------------
 
 void TermsToOneSide() {
-  constexpr double kRow = 9;
-  const std::string asked = "x^2^ + 2x      = 15";
+  constexpr double kRow = 12;
   NewScreen();
-  SayAt(3, R"(A \cquadratic equation\z has a term with x^2^ and no higher power.  Here is one:)");
-  ShowAt(5.5, "x^2^ + 2x = 15");
-  Say("Ben writes x(x + 2) = 15, and sets x = 15 and x + 2 = 15.");
-  Say(R"(\yTry it:\z  Is he right?)");
+  SayAt(3, R"(A \cquadratic equation\z has a term with x^2^ and no higher power.)");
+  Say("Ben solves x^2^ + 2x = 15.  He writes");
+  ShowAt(7.5, "x(x + 2) = 15,  so x = 15");
+  SayAt(9, R"(\yTry it:\z  Is he right?)");
   PageEnd();
-  ClearBelow(7);
-  SayAt(7,
-        "No.  3 times 5 is 15, and neither of them is 15.  Only a product of 0 tells us a "
-        "factor.  So first all the terms go to one side:");
-  ShowAt(kRow + 2, asked);
+  ClearBelow(9);
+  SayAt(9,
+        "No.  3 times 5 is 15, too.  Only a product of 0 tells us a factor.  So all the terms "
+        "go to one side:");
+  ShowAt(kRow + 1, "x^2^ + 2x      = 15");
   PageEnd();
-  CarryAcross(kRow + 2, kMathCol + 15, 2, -7);
-  ShowAt(kRow + 2, R"(x^2^ + 2x \y- 15\z = 0 )");
-  SayAt(13,
-        "We have subtracted 15 from both sides.  0 is left on the right side.  Now we factor "
-        "and solve:");
-  ShowAt(16, IsZero({{1, -3}, {1, 5}}));
+  constexpr double kRight = kMathCol + 15;  // column of the number on the right side
+  CarryAcross(kRow + 1, kRight, 2, -6);
+  ShowAt(kRow + 1, R"(x^2^ + 2x \y- 15\z = 0 )");
+  SayAt(15, "We have subtracted 15.  Now we factor:");
+  ShowAt(16.25, IsZero({{1, -3}, {1, 5}}));
   Say(R"(\yTry it:\z  Which numbers are the solutions?)");
   PageEnd();
-  SayAt(20, R"(They are \y3\z and \y-5\z.  \yCheck:\z)");
-  ShowAt(21.5, "3^2^ + 2" + kTimes + "3 = 9 + 6 = 15");
-  ShowAt(22.75, "(-5)^2^ + 2(-5) = 25 - 10 = 15");
+  SayAt(20, R"(They are \y3\z and \y-5\z.)");
+  SayAt(21, R"(\yCheck:\z)");
+  ShowAt(21, "3^2^ + 2" + kTimes + "3 = 9 + 6 = 15", 9);
+  ShowAt(22.25, "(-5)^2^ + 2(-5) = 25 - 10 = 15", 9);
   PageEnd();
 }
 
@@ -125,36 +121,34 @@ void TermsToOneSide() {
 
 void CommonFactorX() {
   NewScreen();
-  SayAt(3, Text("Let's solve {}.  Both terms have the factor 2x:", EquationText({2, -6, 0})));
+  SayAt(3, Text("In {} both terms have the factor 2x.  We take it out:", EquationText({2, -6, 0})));
   ShowAt(6, "2x(x - 3) = 0");
+  Say(R"(\yTry it:\z  Which two numbers is x?)");
   PageEnd();
-  Say("The factors are 2x and x - 3.  One of them is 0:");
-  ShowAt(10, "2x = 0", kLeftCol);
-  ShowAt(10, "x - 3 = 0", kRightCol);
-  ShowAt(11.5, R"( \yx = 0)", kLeftCol);
-  ShowAt(11.5, R"(    \yx = 3)", kRightCol);
+  Say("One of the two factors is 0:");
+  const double row = NextRow() + 0.5;
+  ShowAt(row, "2x = 0", kLeftCol);
+  ShowAt(row, "x - 3 = 0", kRightCol);
+  ShowAt(row + 1.25, R"(\yx = 0)", kLeftCol);
+  ShowAt(row + 1.25, R"(\yx = 3)", kRightCol);
   GoBelow();
   PageEnd();
   Say(R"(\yWatch out:\z  Who divides both sides by x gets 2x - 6 = 0 and finds only 3.  The )"
       "solution 0 is lost.  The factor x stays.");
-  Say(Text(R"(\yTry it:\z  Solve  {}.)", EquationText({5, 20, 0})));
-  PageEnd();
-  Say(R"(5x(x + 4) = 0, so x is \y0\z or \y-4\z.)");
   PageEnd();
 }
 
 void CommonNumber() {
   NewScreen();
-  SayAt(3, Text("In {} all three terms have the factor 3.", EquationText({3, -3, -18})));
-  Say("Factoring out a factor of 3:");
-  Show("3(x^2^ - x - 6) = 0");
+  SayAt(3, Text("In {} all three terms have the factor 3.  Factoring out a factor of 3:",
+                EquationText({3, -3, -18})));
+  ShowAt(6.5, "3(x^2^ - x - 6) = 0");
   PageEnd();
-  Say("3 is a factor, too, but it is never 0.  So the parentheses are 0:");
+  Say("3 is never 0, so it gives no solution.  The parentheses are 0:");
   Show("x^2^ - x - 6 = 0");
-  Say(R"(\yWatch out:\z  3 is not a solution because of that factor.)");
-  Say(Text(R"(\yTry it:\z  What can we factor out of {}?)", EquationText({-2, -6, 8})));
+  Say(Text(R"(\yTry it:\z  And in  {}?)", EquationText({-2, -6, 8})));
   PageEnd();
-  Say("-2, so that x^2^ stands alone.  Each term changes its sign:");
+  Say("We factor out -2, so that x^2^ has no number.  Each term changes its sign:");
   Show("-2(x^2^ + 3x - 4) = 0");
   PageEnd();
 }
@@ -164,21 +158,18 @@ void CommonNumber() {
 void TwoSquares() {
   NewScreen();
   ShowAt(3, "Solve: y^2^ - 36 = 0", 1);
-  Say("y^2^ is the square of y, and 36 is the square of 6.  This is a difference of two squares:");
+  Say("36 is 6^2^:  a difference of two squares.");
   Show("(y + 6)(y - 6) = 0");
   Say(R"(\yTry it:\z  Which two numbers is y?)");
   PageEnd();
   Say(R"(y is \y-6\z or \y6\z.  Both have the square 36.)");
-  Say(R"(\yWatch out:\z  Who thinks "the square of what is 36" finds 6 at once, and forgets -6.)");
+  Say(R"(\yWatch out:\z  y^2^ = 36 makes us think of 6, and -6 is forgotten.)");
+  Say(Text(R"(\yTry it:\z  Solve  {}.)", EquationText({9, 0, -25})));
   PageEnd();
-
-  NewScreen();
-  SayAt(3, Text("With a number in front of x^2^ we look for its square root, too:  {}.",
-                EquationText({9, 0, -25})));
-  Say("9x^2^ is the square of 3x, and 25 is the square of 5.");
+  Say("9x^2^ is the square of 3x, 25 that of 5:");
   Show(IsZero({{3, 5}, {3, -5}}));
-  PageEnd();
-  SolveBothFactors(NextRow() + 0.5, {{3, 5}, {3, -5}});
+  SayAt(19.5, "3x is -5 or 5.  We divide by 3:");
+  ShowAt(21.75, R"(\yx = -5/3  or  x = 5/3)");
   PageEnd();
 }
 
@@ -186,43 +177,43 @@ void TwoSquares() {
 
 void TrinomialWithoutNumber() {
   NewScreen();
-  SayAt(3, Text("Let's solve {}.  The product of the two numbers is -15, and their sum is -2:",
-                EquationText({1, -2, -15})));
+  SayAt(3, Text("Let's solve {}.  The number in front of x^2^ is 1.", EquationText({1, -2, -15})));
+  Say(R"(\yTry it:\z  Which two numbers have the product -15 and the sum -2?)");
+  PageEnd();
   ListTried({{1, -15}, {3, -5}});
-  Show(IsZero({{1, 3}, {1, -5}}));
-  PageEnd();
-  SolveBothFactors(NextRow() + 0.5, {{1, 3}, {1, -5}});
-  PageEnd();
+  Say(Text(R"({}, so x is \y-3\z or \y5\z.)", IsZero({{1, 3}, {1, -5}})));
   Say(Text(R"(\yTry it:\z  Solve  {}.)", EquationText({1, -9, 20})));
   PageEnd();
-  Say(R"(-4 and -5 have the product 20 and the sum -9.  So (x - 4)(x - 5) = 0, and x is \y4\z or )"
-      R"(\y5\z.)");
+  Say("-4 and -5 have the product 20 and the sum -9:");
+  Show(IsZero({{1, -4}, {1, -5}}));
+  Say(R"(So x is \y4\z or \y5\z.)");
   PageEnd();
 }
 
 void TrinomialWithNumber() {
   constexpr Trinomial kAsked = {2, 5, -12};
   NewScreen();
-  SayAt(3, Text("Let's solve {}.  Three steps lead to the solutions.", EquationText({4, 10, -24})));
-  Say(R"(\yFirst\z the common factor.  Factoring out a factor of 2, which is not 0:)");
-  Show(EquationText({2, 5, -12}));
+  SayAt(3, Text(R"(Let's solve {}.  \yFirst\z the common factor.  Factoring out a factor of 2:)",
+                EquationText({4, 10, -24})));
+  ShowAt(6.5, EquationText({2, 5, -12}));
   PageEnd();
-  Say(R"(\yThen\z the factors.  We try pairs until the middle term is right:)");
+  Say(R"(\yThen\z the other factors, by trying:)");
   const std::vector<Trial> trials = TrialsUntilFound(kAsked);
   WhiteBox({.rows = 1.5 * static_cast<double>(trials.size()) + 0.5});
   for (const Trial& trial : trials) SayInBox(TrialLine(trial));
-  Say(R"(\yTry it:\z  5x is positive.  Which number gets the minus sign?)");
+  Say(R"(\yTry it:\z  Which number is positive?)");
+  PageEnd();
+  Say("8x comes from 4 and 2x.  It is larger, and 5x is positive.  So 4 gets the plus sign:");
+  Show(IsZero({{2, -3}, {1, 4}}));
   PageEnd();
 
   NewScreen();
-  SayAt(3,
-        "8x comes from 4 and 2x.  It must be positive, so 4 has the plus sign and 3 the minus "
-        "sign:");
-  Show(IsZero({{2, -3}, {1, 4}}));
-  Say(R"(\yLast\z each factor is set to 0:)");
-  SolveBothFactors(NextRow() + 0.5, {{2, -3}, {1, 4}});
+  SayAt(3, R"(\yLast\z we set each factor to 0:)");
+  SolveFactors(5, {{2, -3}, {1, 4}});
+  Say(R"(\yWatch out:\z  x is 3/2, not 3 and not 2/3.)");
+  Say(Text(R"(\yTry it:\z  Solve  {}.)", IsZero({{3, 1}, {4, -5}})));
   PageEnd();
-  Say(R"(\yWatch out:\z  x is 3/2, not 3 and not 2/3.  2x = 3 is divided by 2.)");
+  Say(R"(3x = -1 and 4x = 5, so x is \y-1/3\z or \y5/4\z.)");
   PageEnd();
 }
 
@@ -232,18 +223,15 @@ void DoubleRoot() {
   NewScreen();
   SayAt(3, Text("Let's solve {}.  -3 and -3 have the product 9 and the sum -6:",
                 EquationText({1, -6, 9})));
-  Show(IsZero({{1, -3}, {1, -3}}));
+  ShowAt(6.5, IsZero({{1, -3}, {1, -3}}));
   Say(R"(\yTry it:\z  How many solutions does it have?)");
   PageEnd();
-  Say(R"(One.  Both factors say the same:  x is \y3\z.  Such a solution is called a \cdouble )"
-      R"(root\z, because it comes twice.)");
-  PageEnd();
-  RuleBox("Solving by Factoring",
-          {"1. All terms go to one side.", "2. Factor out the common factor.",
-           "3. Factor what is left.", "4. Set each factor to 0 and solve."});
+  Say("One.  Both factors say that x is 3.");
+  Say(R"(A solution that comes twice is called a \cdouble root\z.)");
   Say(Text(R"(\yTry it:\z  Solve  {}.)", EquationText({4, 4, 1})));
   PageEnd();
-  Say(Text(R"({} is the square of 2x + 1, so x is \y-1/2\z.)", TrinomialText({4, 4, 1})));
+  Say(Text("{} is the square of 2x + 1, so 2x = -1:", TrinomialText({4, 4, 1})));
+  Show(R"(\yx = -1/2,\z  the only solution)");
   PageEnd();
 }
 

@@ -25,16 +25,23 @@ using polynomials::Trinomial;
 constexpr double kLeftCol = 3;
 constexpr double kRightCol = 22;
 
-// The factor is set to 0 and solved.
-void SolveFactor(double row, double col, const Binomial& factor) {
+constexpr double kTermAlone = 2.25;  // rows below the factor: what its number leaves
+constexpr double kDivided = 5.5;
+
+// The factor is 0, and its number goes to the other side.
+void MoveNumber(double row, double col, const Binomial& factor) {
   const int moved = -factor.constant;
   ShowAt(row, BinomialText(factor) + " = 0", col);
   SayAt(row + 1.25, Text(moved < 0 ? "subtract {}:" : "add {}:", std::abs(moved)), {.col = col});
-  const std::string value = ValueText(SolutionOf(factor));
-  if (factor.lead == 1) return ShowAt(row + 2.25, R"(\yx = )" + value, col);
-  ShowAt(row + 2.25, CoefText(factor.lead) + "x = " + NumStr(moved), col);
-  SayAt(row + 3.5, Text("divide by {}:", factor.lead), {.col = col});
-  ShowAt(row + 5.5, R"(\yx = )" + value, col);
+  const std::string start = factor.lead == 1 ? R"(\y)" : "";
+  ShowAt(row + kTermAlone, start + CoefText(factor.lead) + "x = " + NumStr(moved), col);
+}
+
+// Nothing where x stands alone.
+void Divide(double row, double col, const Binomial& factor) {
+  if (factor.lead == 1) return;
+  SayAt(row + kTermAlone + 1.25, Text("divide by {}:", factor.lead), {.col = col});
+  ShowAt(row + kDivided, R"(\yx = )" + ValueText(SolutionOf(factor)), col);
 }
 
 // What the lesson and its explanation do with one equation.
@@ -107,6 +114,8 @@ void FactorSteps::FactorOut() const {
   Show(R"(\y)" + LeftText());
   PageEnd();
   StartPage(LeftText());
+  Say("Now we factor the left side.");
+  PageEnd();
 }
 
 void FactorSteps::TellSquares() const {
@@ -122,6 +131,7 @@ void FactorSteps::TellSquares() const {
 void FactorSteps::TryPairs() const {
   Say(Text("We look for two numbers with the product {} and the sum {}.", left_.constant,
            left_.middle));
+  PageEnd();
   Say(factoring::SignSentence(left_.constant, left_.middle));
   PageEnd();
   std::vector<NumberPair> pairs = polynomials::PairsWithProduct(left_.constant, Sgn(left_.middle));
@@ -136,6 +146,7 @@ void FactorSteps::TryPairs() const {
 void FactorSteps::TryFactors() const {
   Say(Text(R"(The \yfirst\z numbers have the product {}:)", left_.square));
   AddLine("  " + factoring::PairsText(left_.square));
+  PageEnd();
   Say(Text(left_.constant > 0 ? R"(The \ylast\z numbers have the product {}:)"
                               : R"(Without signs the \ylast\z numbers have the product {}:)",
            std::abs(left_.constant)));
@@ -153,10 +164,10 @@ void FactorSteps::TryFactors() const {
   PutSignsIn();
 }
 
-// Three a page; the box is wiped when it is full.
+// Two a page; the box is wiped when it is full.
 void FactorSteps::GoThroughTrials() const {
-  constexpr std::size_t kAPage = 3;
-  constexpr std::size_t kInBox = 6;
+  constexpr std::size_t kAPage = 2;
+  constexpr std::size_t kInBox = 4;
   constexpr double kTrialRows = 1.5;
   StartPage(LeftText());
   Say(Text("We try the closest numbers first, until the result is {}:", LinearSize()));
@@ -197,13 +208,9 @@ void FactorSteps::SetFactorsToZero() const {
   StartPage(IsZero(factors_));
   Say("A product is 0 only when one of its factors is 0.");
   PageEnd();
-  if (factors_.first == factors_.second) {
-    Say("Both factors are the same, so there is only one solution:");
-    SolveFactor(NextRow() + 0.5, kLeftCol, factors_.first);
-  } else {
-    Say("We set each factor to 0:");
-    SolveBothFactors(NextRow() + 0.5, factors_);
-  }
+  Say(factors_.first == factors_.second ? "Both factors are the same, so there is one solution:"
+                                        : "We set each factor to 0:");
+  SolveFactors(NextRow() + 0.5, factors_);
   PageEnd();
 }
 
@@ -217,9 +224,15 @@ Fraction SolutionOf(const Binomial& factor) {
   return Reduced(-factor.constant, factor.lead);
 }
 
-void SolveBothFactors(double row, const Factors& factors) {
-  SolveFactor(row, kLeftCol, factors.first);
-  SolveFactor(row, kRightCol, factors.second);
+void SolveFactors(double row, const Factors& factors) {
+  const bool twice = factors.first == factors.second;
+  MoveNumber(row, kLeftCol, factors.first);
+  if (!twice) MoveNumber(row, kRightCol, factors.second);
+  GoBelow();
+  if (factors.first.lead == 1 && factors.second.lead == 1) return;
+  PageEnd();
+  Divide(row, kLeftCol, factors.first);
+  if (!twice) Divide(row, kRightCol, factors.second);
   GoBelow();
 }
 

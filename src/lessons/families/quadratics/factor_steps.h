@@ -19,9 +19,10 @@ std::string IsZero(const Factors& factors);
 // The number for which the factor is 0.
 Fraction SolutionOf(const Binomial& factor);
 
-// Both factors are set to 0 side by side and solved, one operation a line, each behind its name.
-// They take up to eight rows from this one on; the next Say goes on below.
-void SolveBothFactors(double row, const Factors& factors);
+// Both factors are set to 0 side by side and solved, one operation a line, each behind its name;
+// two that are the same once.  A page ends before a division.  They take up to eight rows from this
+// one on; the next Say goes on below.
+void SolveFactors(double row, const Factors& factors);
 
 // The steps from the problem's banner to the solutions.  The factors are those of the equation
 // without its common factor; x is positive in both.  What comes next goes on a new screen.
