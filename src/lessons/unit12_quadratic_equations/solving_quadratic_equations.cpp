@@ -92,10 +92,10 @@ void ZeroProduct() {
 void TermsToOneSide() {
   constexpr double kRow = 12;
   NewScreen();
-  SayAt(3, R"(A \cquadratic equation\z has a term with x^2^ and no higher power.)");
-  Say("Ben solves x^2^ + 2x = 15.  He writes");
-  ShowAt(7.5, "x(x + 2) = 15,  so x = 15");
-  SayAt(9, R"(\yTry it:\z  Is he right?)");
+  SayAt(3, Text(R"(A \cquadratic equation\z has a term with x^2^ and no higher power:  {})",
+                "x^2^ + 2x = 15"));
+  ShowAt(6.5, "Ben writes:  x(x + 2) = 15, so x = 15", 1);
+  SayAt(8, R"(\yTry it:\z  Is he right?)");
   PageEnd();
   ClearBelow(9);
   SayAt(9,

@@ -134,6 +134,8 @@ void FactorSteps::TryPairs() const {
   PageEnd();
   Say(factoring::SignSentence(left_.constant, left_.middle));
   PageEnd();
+  StartPage(LeftText());
+  Say(Text("Product {}, sum {}:", left_.constant, left_.middle));
   std::vector<NumberPair> pairs = polynomials::PairsWithProduct(left_.constant, Sgn(left_.middle));
   pairs.erase(std::ranges::find(pairs, left_.middle, &NumberPair::Sum) + 1, pairs.end());
   factoring::ListTried(pairs);
@@ -208,7 +210,7 @@ void FactorSteps::SetFactorsToZero() const {
   StartPage(IsZero(factors_));
   Say("A product is 0 only when one of its factors is 0.");
   PageEnd();
-  Say(factors_.first == factors_.second ? "Both factors are the same, so there is one solution:"
+  Say(factors_.first == factors_.second ? "They are the same, so we solve one:"
                                         : "We set each factor to 0:");
   SolveFactors(NextRow() + 0.5, factors_);
   PageEnd();
