@@ -128,4 +128,39 @@ void SquareWithoutCorner::MoveBeside() const {
   GoBelow();
 }
 
+SquareToComplete::SquareToComplete(double row, double col, const std::string& width,
+                                   const std::string& area)
+    : row_(row), col_(col) {
+  DrawPart(row, col, kLong, kLong, kFirstSquare);
+  DrawPart(row, col + kLong, 2 * kShort, kLong, kStrip);
+  PrintInside(row - kLabelRows, col, 1, kLong, "x");
+  PrintInside(row - kLabelRows, col + kLong, 1, 2 * kShort, width);
+  PrintInside(row, col - 1.5, kLongRows, 1.5, "x");
+  PrintArea(row, col, kLongRows, kLong, "x^2^");
+  PrintArea(row, col + kLong, kLongRows, 2 * kShort, area);
+  GoBelow();
+}
+
+void SquareToComplete::CutStrip(const std::string& half, const std::string& area) const {
+  const double middle = col_ + kLong + kShort;
+  ClearCells(row_ - kLabelRows, col_ + kLong, 2 * kShort, 1);
+  ClearCells(row_ - kLower, middle - kRight, kShort + 0.3, kLongRows + 0.3);
+  DrawPart(row_, col_ + kLong, kShort, kLong, kStrip);
+  DrawPart(row_ + kLongRows + 1, col_, kLong, kShort, kStrip);
+  SlideUp({row_ + kLongRows + 1 - kLower, col_ - kRight, kLong + 0.3, kShortRows + 0.3}, 1);
+  DrawPart(row_, col_, kLong, kLong, kFirstSquare);  // its edges in full
+  DrawPart(row_ + kLongRows, col_, kLong, kShort, kStrip);
+  PrintArea(row_, col_, kLongRows, kLong, "x^2^");
+  PrintArea(row_, col_ + kLong, kLongRows, kShort, area);
+  PrintArea(row_ + kLongRows, col_, kShortRows, kLong, area);
+  PrintInside(row_ - kLabelRows, col_ + kLong, 1, kShort, half);
+  PrintInside(row_ + kLongRows, col_ - 1.5, kShortRows, 1.5, half);
+  GoBelow();
+}
+
+void SquareToComplete::FillCorner(const std::string& area) const {
+  DrawPart(row_ + kLongRows, col_ + kLong, kShort, kShort, kLastSquare);
+  PrintArea(row_ + kLongRows, col_ + kLong, kShortRows, kShort, area);
+}
+
 }  // namespace course::polynomials

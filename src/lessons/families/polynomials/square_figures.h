@@ -40,4 +40,22 @@ class SquareWithoutCorner {
   double col_;
 };
 
+// A square with the side x and a strip beside it, x high and twice as wide as "half" tells: the
+// strip is cut in two, and its right half goes below the square.  What then is missing from a
+// larger square is its lower right corner.  It takes 6 rows and 12.5 columns from its upper left
+// cell on.
+class SquareToComplete {
+ public:
+  // The names of the strip's width and of its area.
+  SquareToComplete(double row, double col, const std::string& width, const std::string& area);
+  // Half of the strip goes below; the names of half its width, and of the area of each half.
+  void CutStrip(const std::string& half, const std::string& area) const;
+  // The corner comes in, with its area.
+  void FillCorner(const std::string& area) const;
+
+ private:
+  double row_;
+  double col_;
+};
+
 }  // namespace course::polynomials
