@@ -1,27 +1,110 @@
-// The student can ...
-//
-// What the student can do afterwards, in two or three lines.
+// The student can solve a quadratic equation by completing the square: divides by the number in
+// front of x^2, moves the other number, and adds the square of half the number in front of x, which
+// is the missing corner of a square.
+#include "lessons/families/polynomials/square_figures.h"
 #include "lessons/families/quadratics/formula_steps.h"
+#include "lessons/families/quadratics/square_steps.h"
 #include "lessons/lesson.h"
 
 namespace course {
 namespace {
 
+using namespace polynomials;
 using namespace quadratics;
 
 using Roots = std::optional<RootPair>;
 
-// --- Teaching screens --------------------------------------------------------
+// --- Screen 1: the missing corner ----------------------------------------------------------------
 
-void Screen1() {
+void MissingCorner() {
+  constexpr double kRow = 6.5;
+  const TextPlace beside = {.col = 19};
   NewScreen();
-  Say("Screen 1 is not written yet.");
+  SayAt(3, "x^2^ + 6x is the area of a square and a strip:");
+  const SquareToComplete figure(kRow, 4, "6", "6x");
+  PageEnd();
+  SayAt(kRow - 1, R"(\yTry it:\z  Half of the strip goes below.  How wide is each half?)", beside);
+  PageEnd();
+  figure.CutStrip("3", "3x");
+  SayAt(kRow + 2, "Half of 6 is 3.", beside);
+  SayAt(kRow + 3.5, R"(\yTry it:\z  How large is the corner that is missing?)", beside);
+  PageEnd();
+  figure.FillCorner("9");
+  SayAt(14, R"(It is 3 by 3, so its area is 9.  The whole square has the side x + 3:)");
+  ShowAt(17, "x^2^ + 6x + 9 = (x + 3)^2^");
+  SayAt(18.5, R"(To add 9 is called \ccompleting the square\z.)");
   PageEnd();
 }
 
-void Screen2() {
+void RuleOfHalf() {
   NewScreen();
-  Say("Screen 2 is not written yet.");
+  SayAt(3, "The same is right for every number in front of x.  Let's call it b:");
+  RuleBox("Completing the Square", {"Halve b, then square the half.", "Add that."}, {.width = 34});
+  PageEnd();
+  Say(R"(\yTry it:\z  What completes the square in x^2^ - 10x?)");
+  PageEnd();
+  Say("Half of -10 is -5, and (-5)^2^ is 25:");
+  Show("x^2^ - 10x + 25 = (x - 5)^2^");
+  Say(R"(\yWatch out:\z  Halve first.  10^2^ = 100 is too much.)");
+  PageEnd();
+}
+
+void SolveWholeNumbers() {
+  NewScreen();
+  SayAt(3, "With it we solve equations.  Here is one:");
+  ShowAt(5, "x^2^ + 6x - 7 = 0");
+  Say("The number goes to the right side.  We add 7:");
+  Show("x^2^ + 6x = 7");
+  PageEnd();
+  Say("9 completes the square.  Both sides get it:");
+  Show(R"(x^2^ + 6x \y+ 9\z = 7 \y+ 9\z)");
+  Show("(x + 3)^2^ = 16");
+  PageEnd();
+  Say(R"(\yWatch out:\z  With 9 on the left side only, the two sides are not equal any more.)");
+  Say(R"(\yTry it:\z  Which numbers have the square 16?)");
+  PageEnd();
+
+  NewScreen();
+  ShowAt(3, "(x + 3)^2^ = 16");
+  Say(Text("4 and -4.  So we write both signs, {}:", tutor::PlusOrMinus));
+  Show("x + 3 = " + tutor::PlusOrMinus + "4");
+  PageEnd();
+  Say("We subtract 3:");
+  Show("x = -3 " + tutor::PlusOrMinus + " 4");
+  Say(R"(\yTry it:\z  Which two numbers is x?)");
+  PageEnd();
+  Say(R"(-3 + 4 is \y1\z, and -3 - 4 is \y-7\z.)");
+  Say(R"(\yCheck:\z)");
+  ShowAt(NextRow() - 1, "1 + 6 - 7 = 0", 9);
+  ShowAt(NextRow(), "49 - 42 - 7 = 0", 9);
+  PageEnd();
+  Say(R"(\yWatch out:\z  The 3 goes to the other side with its sign changed, and -4 must not be )"
+      "forgotten.");
+  PageEnd();
+}
+
+// --- Screen 2: a number in front of x^2 ----------------------------------------------------------
+
+void NumberInFront() {
+  NewScreen();
+  SayAt(3, Text("In {} a number stands in front of x^2^.  A square figure has one x^2^, so first "
+                "we divide.",
+                EquationText({2, -8, -10})));
+  Say(R"(\yTry it:\z  Divide both sides by 2.)");
+  PageEnd();
+  Show("x^2^ - 4x - 5 = 0");
+  Say(R"(\yWatch out:\z  All the terms are divided, the last one as well.)");
+  PageEnd();
+  Say("We add 5, then 4, the square of half of -4:");
+  Show("x^2^ - 4x + 4 = 5 + 4");
+  Show("(x - 2)^2^ = 9");
+  PageEnd();
+  Say(Text("So x - 2 is {}, and x is -1 or 5.", tutor::PlusOrMinus + "3"));
+  PageEnd();
+}
+
+void RadicalRoots() {
+  SolveByCompleting({2, -6, -3});
   PageEnd();
 }
 
@@ -32,7 +115,9 @@ class CompletingTheSquare final : public LessonScript {
   using LessonScript::LessonScript;
 
  private:
-  std::vector<Screen> Screens() override { return {{Screen1}, {Screen2}}; }
+  std::vector<Screen> Screens() override {
+    return {{MissingCorner, RuleOfHalf, SolveWholeNumbers}, {NumberInFront, RadicalRoots}};
+  }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
@@ -105,10 +190,17 @@ void CompletingTheSquare::ShowProblem() {
 // --- Worked explanation ------------------------------------------------------
 
 void CompletingTheSquare::ExplainProblem() {
-  ProblemBanner();
-  SayAt(5, "This explanation is not written yet.");
+  SolveByCompleting(equation_);
+  const Roots roots = RootsOf(-equation_.b, equation_.Discriminant(), 2 * equation_.a);
+  if (roots->Rational()) {
+    PageEnd();
+    CheckRoot(equation_);
+    return Conclude(problem);
+  }
   PageEnd();
-  Conclude(problem);
+  ShowRoots("The answer is ", *roots, ".");
+  if (EndsAtNone(problem))
+    Say(R"(It is not among the choices, so the right one is \yNone of the above\z.)");
 }
 
 const LessonRegistration<CompletingTheSquare> kRegistration("Completing the Square");

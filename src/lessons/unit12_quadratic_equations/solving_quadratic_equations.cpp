@@ -108,7 +108,7 @@ void TermsToOneSide() {
   ShowAt(kRow + 1, R"(x^2^ + 2x \y- 15\z = 0 )");
   SayAt(15, "We have subtracted 15.  Now we factor:");
   ShowAt(16.25, IsZero({{1, -3}, {1, 5}}));
-  Say(R"(\yTry it:\z  Which numbers are the solutions?)");
+  Say(R"(\yTry it:\z  Which are the solutions?)");
   PageEnd();
   SayAt(20, R"(They are \y3\z and \y-5\z.)");
   SayAt(21, R"(\yCheck:\z)");

@@ -136,9 +136,15 @@ void FactorSteps::TryPairs() const {
   PageEnd();
   StartPage(LeftText());
   Say(Text("Product {}, sum {}:", left_.constant, left_.middle));
-  std::vector<NumberPair> pairs = polynomials::PairsWithProduct(left_.constant, Sgn(left_.middle));
-  pairs.erase(std::ranges::find(pairs, left_.middle, &NumberPair::Sum) + 1, pairs.end());
-  factoring::ListTried(pairs);
+  constexpr int kAPage = 3;
+  int listed = 0;
+  for (const NumberPair& pair : polynomials::PairsWithProduct(left_.constant, Sgn(left_.middle))) {
+    if (listed > 0 && listed % kAPage == 0) PageEnd();
+    ++listed;
+    const bool found = pair.Sum() == left_.middle;
+    AddLine((found ? R"(  \y)" : "  ") + WithoutBreaks(factoring::PairLine(pair)));
+    if (found) break;
+  }
   PageEnd();
   Say("These are the numbers in the factors:");
   Show(R"(\y)" + IsZero(factors_));
