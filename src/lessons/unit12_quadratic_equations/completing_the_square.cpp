@@ -20,17 +20,18 @@ void MissingCorner() {
   constexpr double kRow = 6.5;
   const TextPlace beside = {.col = 19};
   NewScreen();
-  SayAt(3, "x^2^ + 6x is the area of a square and a strip:");
+  SayAt(3, "A square and a strip:  x^2^ + 6x");
   const SquareToComplete figure(kRow, 4, "6", "6x");
-  PageEnd();
-  SayAt(kRow - 1, R"(\yTry it:\z  Half of the strip goes below.  How wide is each half?)", beside);
+  SayAt(kRow - 1, R"(\yTry it:\z  Half of the strip goes below.  How wide is it?)", beside);
   PageEnd();
   figure.CutStrip("3", "3x");
   SayAt(kRow + 2, "Half of 6 is 3.", beside);
-  SayAt(kRow + 3.5, R"(\yTry it:\z  How large is the corner that is missing?)", beside);
+  SayAt(kRow + 3.5, R"(\yTry it:\z  How large is the missing corner?)", beside);
   PageEnd();
   figure.FillCorner("9");
-  SayAt(14, R"(It is 3 by 3, so its area is 9.  The whole square has the side x + 3:)");
+  SayAt(14, "It is 3 by 3, so its area is 9.");
+  PageEnd();
+  SayAt(15.5, "The whole square has the side x + 3:");
   ShowAt(17, "x^2^ + 6x + 9 = (x + 3)^2^");
   SayAt(18.5, R"(To add 9 is called \ccompleting the square\z.)");
   PageEnd();
@@ -38,10 +39,9 @@ void MissingCorner() {
 
 void RuleOfHalf() {
   NewScreen();
-  SayAt(3, "The same is right for every number in front of x.  Let's call it b:");
-  RuleBox("Completing the Square", {"Halve b, then square the half.", "Add that."}, {.width = 34});
-  PageEnd();
-  Say(R"(\yTry it:\z  What completes the square in x^2^ - 10x?)");
+  SayAt(3, "For any number b in front of x:");
+  RuleBox("Completing the Square", {"x^2^ + bx + (b/2)^2^ = (x + b/2)^2^"}, {.width = 36});
+  Say(R"(\yTry it:\z  What completes x^2^ - 10x?)");
   PageEnd();
   Say("Half of -10 is -5, and (-5)^2^ is 25:");
   Show("x^2^ - 10x + 25 = (x - 5)^2^");
@@ -51,16 +51,16 @@ void RuleOfHalf() {
 
 void SolveWholeNumbers() {
   NewScreen();
-  SayAt(3, "With it we solve equations.  Here is one:");
+  SayAt(3, "Now we solve an equation:");
   ShowAt(5, "x^2^ + 6x - 7 = 0");
-  Say("The number goes to the right side.  We add 7:");
+  Say("We add 7 to both sides:");
   Show("x^2^ + 6x = 7");
   PageEnd();
   Say("9 completes the square.  Both sides get it:");
   Show(R"(x^2^ + 6x \y+ 9\z = 7 \y+ 9\z)");
   Show("(x + 3)^2^ = 16");
   PageEnd();
-  Say(R"(\yWatch out:\z  With 9 on the left side only, the two sides are not equal any more.)");
+  Say(R"(\yWatch out:\z  Both sides get the 9.  If not, they are not equal any more.)");
   Say(R"(\yTry it:\z  Which numbers have the square 16?)");
   PageEnd();
 
@@ -78,8 +78,10 @@ void SolveWholeNumbers() {
   ShowAt(NextRow() - 1, "1 + 6 - 7 = 0", 9);
   ShowAt(NextRow(), "49 - 42 - 7 = 0", 9);
   PageEnd();
-  Say(R"(\yWatch out:\z  The 3 goes to the other side with its sign changed, and -4 must not be )"
-      "forgotten.");
+  Say(R"(\yWatch out:\z  The 3 changes its sign when it goes to the right side.)");
+  Say(R"(\yTry it:\z  What completes x^2^ + 5x?)");
+  PageEnd();
+  Say(R"(Half of 5 is 5/2, so we add \y25/4\z.)");
   PageEnd();
 }
 
@@ -100,11 +102,21 @@ void NumberInFront() {
   Show("(x - 2)^2^ = 9");
   PageEnd();
   Say(Text("So x - 2 is {}, and x is -1 or 5.", tutor::PlusOrMinus + "3"));
+  Say(Text(R"(\yTry it:\z  Divide {} by -3.)", EquationText({-3, 6, 9})));
+  PageEnd();
+  Say(Text("{}.  Each sign changes.", EquationText({1, -2, -3})));
   PageEnd();
 }
 
 void RadicalRoots() {
   SolveByCompleting({2, -6, -3});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Which number completes the square in 3x^2^ + 12x = 5?)");
+  PageEnd();
+  Say("We divide by 3 first.  Half of 4 is 2, so it is 4:");
+  Show(R"(x^2^ + 4x \y+ 4\z = 5/3 \y+ 4)");
   PageEnd();
 }
 
@@ -191,13 +203,17 @@ void CompletingTheSquare::ShowProblem() {
 
 void CompletingTheSquare::ExplainProblem() {
   SolveByCompleting(equation_);
+  PageEnd();
   const Roots roots = RootsOf(-equation_.b, equation_.Discriminant(), 2 * equation_.a);
   if (roots->Rational()) {
-    PageEnd();
     CheckRoot(equation_);
+    if (EndsAtNone(problem)) PageEnd();
     return Conclude(problem);
   }
-  PageEnd();
+  NewScreen();
+  ProblemBanner();
+  ShowAt(5, EquationText(equation_));
+  GoBelow();
   ShowRoots("The answer is ", *roots, ".");
   if (EndsAtNone(problem))
     Say(R"(It is not among the choices, so the right one is \yNone of the above\z.)");

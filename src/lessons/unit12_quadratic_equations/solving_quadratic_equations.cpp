@@ -210,7 +210,7 @@ void TrinomialWithNumber() {
   NewScreen();
   SayAt(3, R"(\yLast\z we set each factor to 0:)");
   SolveFactors(5, {{2, -3}, {1, 4}});
-  Say(R"(\yWatch out:\z  x is 3/2, not 3 and not 2/3.)");
+  Say(R"(\yWatch out:\z  x is 3/2, not 3 or 2/3.)");
   Say(Text(R"(\yTry it:\z  Solve  {}.)", IsZero({{3, 1}, {4, -5}})));
   PageEnd();
   Say(R"(3x = -1 and 4x = 5, so x is \y-1/3\z or \y5/4\z.)");

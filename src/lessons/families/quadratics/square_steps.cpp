@@ -19,6 +19,9 @@ namespace {
 
 using namespace page;
 
+constexpr double kSecondRow = 7.5;  // of what the problem has become, under it
+constexpr double kUnderSecond = 10;
+
 bool IsWhole(const Fraction& value) {
   return value.den == 1;
 }
@@ -39,6 +42,13 @@ std::string SquareAndLinear(const Fraction& linear) {
                                   : IsWhole(size)        ? ValueText(size)
                                                          : ValueText(size) + " ";
   return std::string("x^2^ ") + (linear.num < 0 ? "- " : "+ ") + coefficient + "x";
+}
+
+// The smallest number whose square is a multiple of n.
+int RootOfSquareOver(int n) {
+  int root = 1;
+  while (root * root % n != 0) ++root;
+  return root;
 }
 
 // A parenthesis as high as a built-up fraction whose middle row it stands on.
@@ -78,7 +88,9 @@ class SquareSteps {
         right_(Reduced(-equation.c, equation.a)),
         half_(Reduced(equation.b, 2 * equation.a)),
         square_(half_ * half_),
-        sum_(right_ + square_) {}
+        sum_(right_ + square_),
+        rootOfDen_(RootOfSquareOver(sum_.den)),
+        overSquare_{sum_.num * (rootOfDen_ * rootOfDen_ / sum_.den), rootOfDen_ * rootOfDen_} {}
   void Solve() const;
 
  private:
@@ -99,6 +111,8 @@ class SquareSteps {
   const Fraction half_;
   const Fraction square_;
   const Fraction sum_;  // of the right side and the square
+  const int rootOfDen_;
+  const Fraction overSquare_;  // the sum with the square of this number as its denominator
 };
 
 void SquareSteps::Solve() const {
@@ -112,16 +126,16 @@ void SquareSteps::Solve() const {
 void SquareSteps::StartPage() const {
   NewScreen();
   ProblemBanner();
-  ShowAt(5, EquationText(equation_));
+  const std::string heading = BannerText().empty() ? "Solve:  " : "";  // on a teaching screen
+  ShowAt(5, heading + EquationText(equation_));
 }
 
 void SquareSteps::DivideByLeading() const {
   StartPage();
   Say(Text(R"(We divide both sides by \y{}\z, so that x^2^ stands without a number:)",
            equation_.a));
-  PageEnd();
   Show(SquareAndLinear(linear_) + " " + Signed(Reduced(equation_.c, equation_.a)) + " = 0");
-  if (equation_.a < 0) Say("Dividing by a negative number changes each sign.");
+  if (equation_.a < 0) Say("Each sign changes.");
   PageEnd();
 }
 
@@ -134,55 +148,72 @@ void SquareSteps::MoveNumber() const {
 
 void SquareSteps::Complete() const {
   StartPage();
-  ShowAt(7.5, Moved());
+  ShowAt(kSecondRow, Moved());
   GoBelow();
-  SayAt(9.5, Text(R"(Half of {} is \y{}\z.  Its square is \y{}\z.  We add it to both sides:)",
-                  ValueText(linear_), ValueText(half_), ValueText(square_)));
+  SayAt(kUnderSecond,
+        Text(R"(Half of {} is \y{}\z.  Its square is \y{}\z.  We add it to both sides:)",
+             ValueText(linear_), ValueText(half_), ValueText(square_)));
   PageEnd();
   Show(SquareAndLinear(linear_) + " + " + ValueText(square_) + " = " + ValueText(right_) + " + " +
        ValueText(square_));
   PageEnd();
   SayAt(16, "The left side is a square now.  The right side is one number:");
-  ShowSquareOfSum(20, half_, ValueText(sum_));
+  ShowSquareOfSum(19.75, half_, ValueText(sum_));
   PageEnd();
 }
 
-// "3/4", "v17/4" with the radical sign for v: numerator and denominator are rooted each by itself.
+// "3/4", "v17/4" with the radical sign for v.
 std::string SquareSteps::RootText() const {
-  const Radical top = RootOf(sum_.num * sum_.den);
-  const int common = Reduced(top.outside, sum_.den).num;
-  const int den = Reduced(top.outside, sum_.den).den;
-  const std::string text = RadicalText({common, top.radicand});
-  return den == 1 ? text : text + "/" + NumStr(den);
+  const Radical top = RootOf(overSquare_.num);
+  const Fraction outside = Reduced(top.outside, rootOfDen_);
+  const std::string text = RadicalText({outside.num, top.radicand});
+  return outside.den == 1 ? text : text + "/" + NumStr(outside.den);
 }
 
 void SquareSteps::TakeRoots() const {
   StartPage();
-  ShowSquareOfSum(7.5, half_, ValueText(sum_));
+  ShowSquareOfSum(kSecondRow, half_, ValueText(sum_));
   GoBelow();
-  SayAt(9.5,
+  if (overSquare_.den != sum_.den) {
+    SayAt(kUnderSecond, Text("{} is not a square.  We want one in the denominator:", sum_.den));
+    Show(ValueText(sum_) + " = " + ValueText(overSquare_));
+    PageEnd();
+    StartPage();
+    ShowSquareOfSum(kSecondRow, half_, ValueText(overSquare_));
+    GoBelow();
+  }
+  SayAt(kUnderSecond,
         Text("We take the square root of both sides.  It has both signs, {}:", tutor::PlusOrMinus));
   PageEnd();
-  const std::string under = IsWhole(sum_)
-                                ? RadicalSignText(sum_.num)
-                                : RadicalSignText(sum_.num) + "/" + RadicalSignText(sum_.den);
-  Show("x " + Signed(half_) + " = " + tutor::PlusOrMinus + under);
-  PageEnd();
-  Show("x " + Signed(half_) + " = " + tutor::PlusOrMinus + RootText());
+  const std::string start = "x " + Signed(half_) + " = " + tutor::PlusOrMinus;
+  const std::string top = RadicalSignText(overSquare_.num);
+  const std::string under =
+      overSquare_.den == 1 ? top : top + "/" + RadicalSignText(overSquare_.den);
+  Show(start + under);
+  if (under != RootText()) Show(start + RootText());
   PageEnd();
 }
 
 void SquareSteps::FindX() const {
   StartPage();
-  ShowAt(7.5, "x " + Signed(half_) + " = " + tutor::PlusOrMinus + RootText());
+  ShowAt(kSecondRow, "x " + Signed(half_) + " = " + tutor::PlusOrMinus + RootText());
   GoBelow();
-  SayAt(9.5, Text(half_.num > 0 ? "We subtract {} from both sides:" : "We add {} to both sides:",
-                  ValueText(SizeOf(half_))));
-  Show("x = " + ValueText(Reduced(-half_.num, half_.den)) + " " + tutor::PlusOrMinus + " " +
-       RootText());
+  SayAt(kUnderSecond,
+        Text(half_.num > 0 ? "We subtract {} from both sides:" : "We add {} to both sides:",
+             ValueText(SizeOf(half_))));
+  const Fraction centre = {-half_.num, half_.den};
+  Show("x = " + ValueText(centre) + " " + tutor::PlusOrMinus + " " + RootText());
   PageEnd();
-  const auto roots = RootsOf(-equation_.b, equation_.Discriminant(), 2 * equation_.a);
-  if (roots->Rational() || roots->den > 1) ShowRoots("  x = ", *roots);
+  const RootPair roots = *RootsOf(-equation_.b, equation_.Discriminant(), 2 * equation_.a);
+  if (roots.Rational()) {
+    const Fraction root = Reduced(RootOf(overSquare_.num).outside, rootOfDen_);
+    Say("+ gives one root, and - the other:");
+    Show("x = " + ValueText(centre) + " + " + ValueText(root) + " = " + ValueText(centre + root));
+    Show("x = " + ValueText(centre) + " - " + ValueText(root) + " = " + ValueText(centre - root));
+  } else if (roots.den > 1) {
+    Say(Text("Both over the denominator {}:", roots.den));
+    ShowRoots("  x = ", roots);
+  }
 }
 
 }  // namespace
