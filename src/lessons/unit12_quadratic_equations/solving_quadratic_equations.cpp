@@ -94,10 +94,9 @@ void TermsToOneSide() {
   NewScreen();
   SayAt(3, Text(R"(A \cquadratic equation\z has a term with x^2^ and no higher power:  {})",
                 "x^2^ + 2x = 15"));
-  ShowAt(6.5, "Ben writes:  x(x + 2) = 15, so x = 15", 1);
+  ShowAt(6, "Ben writes:  x(x + 2) = 15, so x = 15", 1);
   SayAt(8, R"(\yTry it:\z  Is he right?)");
   PageEnd();
-  ClearBelow(9);
   SayAt(9,
         "No.  3 times 5 is 15, too.  Only a product of 0 tells us a factor.  So all the terms "
         "go to one side:");
@@ -224,7 +223,7 @@ void DoubleRoot() {
   SayAt(3, Text("Let's solve {}.  -3 and -3 have the product 9 and the sum -6:",
                 EquationText({1, -6, 9})));
   ShowAt(6.5, IsZero({{1, -3}, {1, -3}}));
-  Say(R"(\yTry it:\z  How many solutions does it have?)");
+  Say(R"(\yTry it:\z  How many solutions are there?)");
   PageEnd();
   Say("One.  Both factors say that x is 3.");
   Say(R"(A solution that comes twice is called a \cdouble root\z.)");
