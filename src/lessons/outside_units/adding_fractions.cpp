@@ -6,6 +6,7 @@
 // factor, so that the least common denominator is smaller than their product.  Either kind may have
 // a negative second fraction, but the sum is always positive.
 #include "lessons/families/fractions/fraction_steps.h"
+#include "lessons/families/fractions/unlike_fractions.h"
 #include "lessons/lesson.h"
 
 namespace course {
@@ -15,22 +16,6 @@ using namespace fractions;
 
 using platform::colour::Cyan;
 using platform::colour::Yellow;
-
-constexpr int kLargestCommonDenominator = 180;
-
-// A number and its prime factors, those of the LCD in columns of their own: " 12 = 2     x 3".
-std::string FactorsLine(const std::string& label, int n, int lcd) {
-  constexpr std::size_t kLabelWidth = 3;
-  return std::string(kLabelWidth - std::min(kLabelWidth, label.size()), ' ') + label + " = " +
-         AlignedProduct(PrimeFactorsOf(n), PrimeFactorsOf(lcd));
-}
-std::string FactorsLine(int n, int lcd) {
-  return FactorsLine(NumStr(n), n, lcd);
-}
-std::string LcdLine(int lcd) {
-  const std::string line = FactorsLine("LCD", lcd, lcd);
-  return PrimeFactorsOf(lcd).size() > 1 ? line + " = " + NumStr(lcd) : line;
-}
 
 // --- Teaching screens --------------------------------------------------------
 
@@ -204,85 +189,49 @@ class AddingFractions final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  static Fraction DrawFraction(RandomStream& random, int kind);
-  bool Unsuitable(int kind) const;
-  int Denominator() const { return LeastCommonDenominator(first_, second_); }
-  int FirstNumerator() const { return RenamedNumerator(first_, Denominator()); }
-  int SecondNumerator() const { return RenamedNumerator(second_, Denominator()); }
   std::vector<FractionMistake> Mistakes() const;
-  int NumeratorOfSum() const { return FirstNumerator() + SecondNumerator(); }
-  std::string UnreducedSum() const { return OverText(NumeratorOfSum(), Denominator()); }
-  std::string Sum() const { return OverText(first_) + " + " + OverText(second_); }
-
-  void ExplainDenominator();
-  void ExplainRenaming();
-  void ExplainOneRenaming(const Fraction& f);
   void ExplainSum();
-  void ExplainLowestTerms();
 
-  Fraction first_;   // proper, positive
-  Fraction second_;  // proper, of either sign
+  UnlikeFractions pair_;
 };
 
 // --- Generator ---------------------------------------------------------------
 
-Fraction AddingFractions::DrawFraction(RandomStream& random, int kind) {
-  const int denominator = kind == 1 ? random.Rand(3, 15) : random.Rand(2, 30);
-  const int numerator = random.Rand(1, denominator - 1);
-  return Reduced(numerator, denominator);
-}
-
-// The cheap questions come first: most fractions of the second kind are thrown away.
-bool AddingFractions::Unsuitable(int kind) const {
-  const int common = Gcf(first_.den, second_.den);
-  if (kind == 2 && common == 1) return true;
-  const int lcd = first_.den / common * second_.den;
-  return lcd == first_.den || lcd == second_.den  // one of the denominators would do as it is
-         || lcd > kLargestCommonDenominator       // too much to multiply by hand
-         || RenamedNumerator(first_, lcd) + RenamedNumerator(second_, lcd) <= 0;  // no negative sum
-}
-
-// The kind is drawn once, so that both are as many.  Of what is drawn then, 57 % of the first kind
-// and 6.5 % of the second are accepted.
 void AddingFractions::DrawProblem(RandomStream& random) {
-  const int kind = random.Rand(1, 2);
-  do {
-    first_ = DrawFraction(random, kind);
-    second_ = DrawFraction(random, kind);
-    second_.num *= random.Sign();
-  } while (Unsuitable(kind));
-
-  problem.question = {"Add the fractions below.", Sum()};
-  FillFractionChoices(problem, first_ + second_, Mistakes(), Denominator(), random);
+  pair_ = DrawUnlikeFractions(random, Operation::Add);
+  problem.question = {"Add the fractions below.", pair_.Text()};
+  FillFractionChoices(problem, pair_.Result(), Mistakes(), pair_.Denominator(), random);
 }
 
 // Some lead to more than the sum and some to less: else its size would tell the right one.
 std::vector<FractionMistake> AddingFractions::Mistakes() const {
-  const int lcd = Denominator();
-  const int a = first_.num;
-  const int b = second_.num;
-  const int sum = NumeratorOfSum();
+  const int lcd = pair_.Denominator();
+  const auto [a, firstDen] = pair_.first;
+  const auto [b, secondDen] = pair_.second;
+  const int first = pair_.FirstNumerator();
+  const int second = pair_.SecondNumerator();
+  const int sum = pair_.ResultNumerator();
   const int common = Gcf(sum, lcd);
   std::vector<FractionMistake> mistakes;
   const auto add = [&](const char* name, int num, int den) {
     mistakes.push_back({name, num, den});
   };
-  if (b < 0) add("leaves out the minus sign", FirstNumerator() - SecondNumerator(), lcd);
-  add("adds the denominators too", a + b, first_.den + second_.den);
+  if (b < 0) add("leaves out the minus sign", first - second, lcd);
+  add("adds the denominators too", a + b, firstDen + secondDen);
   if (common > 1) add("divides only the denominator by the common factor", sum, lcd / common);
   if (sum > lcd) add("puts the remainder over the numerator", 2 * sum - lcd, sum);
-  const int crossed = a * (lcd / second_.den) + b * (lcd / first_.den);
+  const int crossed = a * (lcd / secondDen) + b * (lcd / firstDen);
   const auto addCrossed = [&] {
     add("multiplies each numerator by the factor of the other fraction", crossed, lcd);
   };
-  add("keeps the larger denominator", a + b, std::max(first_.den, second_.den));
+  add("keeps the larger denominator", a + b, std::max(firstDen, secondDen));
   if (sum > lcd && crossed > sum) addCrossed();
   add("keeps both numerators over the common denominator", a + b, lcd);
   addCrossed();  // passed over when it is there
   if (common > 1) add("divides only the numerator by the common factor", sum / common, lcd);
   if (sum < lcd) {
-    add("renames the first fraction only", FirstNumerator() + b, lcd);
-    add("renames the second fraction only", a + SecondNumerator(), lcd);
+    add("renames the first fraction only", first + b, lcd);
+    add("renames the second fraction only", a + second, lcd);
   }
   return mistakes;
 }
@@ -291,7 +240,7 @@ std::vector<FractionMistake> AddingFractions::Mistakes() const {
 
 void AddingFractions::ShowProblem() {
   SayAt(5, problem.question[0]);
-  ShowAt(8, Sum(), 5);
+  ShowAt(8, pair_.Text(), 5);
   SayAt(11, "Find the sum in lowest terms.  A sum above 1 is written as a mixed number.");
   ShowAnswersInThreeColumns(problem, {.row = 14});
 }
@@ -300,77 +249,20 @@ void AddingFractions::ShowProblem() {
 
 void AddingFractions::ExplainProblem() {
   ProblemBanner();
-  ShowAt(5, Sum());
-  ExplainDenominator();
-  ExplainRenaming();
+  ShowAt(5, pair_.Text());
+  ExplainDenominator(pair_);
+  ExplainRenaming(pair_);
   ExplainSum();
-  ExplainLowestTerms();
+  ExplainLowestTerms(pair_);
   Conclude(problem);
 }
 
-void AddingFractions::ExplainDenominator() {
-  const int lcd = Denominator();
-  Say(Text("We need the LCD of {} and {}.  What are their prime factors?", first_.den,
-           second_.den));
-  PageEnd();
-  GoBelow();
-  // Columns without a common prime would only pull the lines apart.
-  const bool share = CommonPrimeFactors(first_.den, second_.den) != 0;
-  Show(FactorsLine(first_.den, share ? lcd : first_.den));
-  Show(FactorsLine(second_.den, share ? lcd : second_.den));
-  PageEnd();
-  Show(LcdLine(lcd));
-  Say(!share ? "They share no prime, so the LCD needs all of them."
-             : "We take each prime as many times as the line has it that has it most.");
-  PageEnd();
-}
-
-void AddingFractions::ExplainOneRenaming(const Fraction& f) {
-  const int factor = Denominator() / f.den;
-  Say(Text(R"({} = {}, so we multiply numerator and denominator by \y{}\z:)",
-           NumStr(f.den) + " " + tutor::Times + " " + NumStr(factor), Denominator(), factor));
-  Show(RenamedLine(f, Denominator()));
-  PageEnd();
-}
-
-void AddingFractions::ExplainRenaming() {
-  NewScreen();
-  ProblemBanner();
-  ShowAt(5, Sum());
-  SayAt(5, Text("LCD = {}", Denominator()), {.col = 25});
-  Say("Now we rename both fractions.");
-  PageEnd();
-  ExplainOneRenaming(first_);
-  ExplainOneRenaming(second_);
-}
-
 void AddingFractions::ExplainSum() {
-  NewScreen();
-  ProblemBanner();
-  const int den = Denominator();
-  ShowAt(5, Sum() + " = " + OverText(FirstNumerator(), den) + " + " +
-                OverText(SecondNumerator(), den));
+  ShowRenamed(pair_);
   Say("We add the numerators:");
-  Show("(" + SumText(FirstNumerator(), SecondNumerator()) + ")/" + NumStr(den) + " = " +
-       UnreducedSum());
-  PageEnd();
-}
-
-void AddingFractions::ExplainLowestTerms() {
-  const Fraction sum = first_ + second_;
-  const int numerator = NumeratorOfSum();
-  const int common = Gcf(numerator, Denominator());
-  if (common == 1) {
-    Say(Text("None of the primes of {} goes into {}.  So the sum is in lowest terms.",
-             Denominator(), numerator));
-  } else {
-    Say(Text("{} goes into both, so we strike it out:", common));
-    ShowReduced(numerator, Denominator(), common);
-  }
-  PageEnd();
-  if (sum.num < sum.den) return;
-  Say(Text("{} goes into {} once, and {} is left:", sum.den, sum.num, sum.num - sum.den));
-  Show(ValueText(sum) + " = " + MixedText(sum));
+  Show("(" + SumText(pair_.FirstNumerator(), pair_.SecondNumerator()) + ")/" +
+       NumStr(pair_.Denominator()) + " = " +
+       OverText(pair_.ResultNumerator(), pair_.Denominator()));
   PageEnd();
 }
 

@@ -1,44 +1,17 @@
 // Two fractions to be added: "13/24 + 13/18", "6/13 + (-2)/5".
-#include "lesson_check/exact/notation.h"
-#include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
 #include "lesson_check/judges/number_form.h"
+#include "lesson_check/judges/two_fractions.h"
 
 namespace lesson_check {
 namespace {
 
-using Kind = Expression::Kind;
-
-// As it is written: with the sign above, and not reduced.
-struct Fraction {
-  mpz_class above;
-  mpz_class below;
-};
-
-Fraction ReadFraction(const Expression& written) {
-  if (written.kind == Kind::Minus) {
-    Fraction fraction = ReadFraction(written.parts[0]);
-    fraction.above = -fraction.above;
-    return fraction;
-  }
-  if (written.kind != Kind::Quotient) throw Unreadable("not two fractions");
-  return {ValueOf(written.parts[0]).Number().get_num(),
-          ValueOf(written.parts[1]).Number().get_num()};
-}
-
-std::string Quotient(const mpz_class& above, const mpz_class& below) {
-  if (below == 0) throw Unreadable("a division by 0");
-  Rational quotient(above, below);
-  quotient.canonicalize();
-  return quotient.get_str();
-}
-
-void AddMistakes(const Fraction& first, const Fraction& second, Reading& reading) {
+void AddMistakes(const WrittenFraction& first, const WrittenFraction& second, Reading& reading) {
   const mpz_class common = lcm(first.below, second.below);
   const mpz_class byFirst = common / first.below;
   const mpz_class bySecond = common / second.below;
   const auto add = [&](const char* name, const mpz_class& above, const mpz_class& below) {
-    reading.mistakes[name] = {Quotient(above, below)};
+    reading.mistakes[name] = {QuotientText(above, below)};
   };
   add("adds the denominators too", first.above + second.above, first.below + second.below);
   add("keeps both numerators over the common denominator", first.above + second.above, common);
@@ -60,25 +33,16 @@ void AddMistakes(const Fraction& first, const Fraction& second, Reading& reading
         common);
 }
 
-Expression SumIn(const course::Problem& problem) {
-  for (const std::string& line : problem.question) {
-    if (line.find('/') == std::string::npos) continue;
-    Expression sum = ParseExpression(line);
-    if (sum.kind == Kind::Sum && sum.parts.size() == 2) return sum;
-  }
-  throw Unreadable("the question has no sum of two fractions");
-}
-
 // Two fractions to be added; subtracting is adding a negative one.
 Reading ReadSumOfFractions(const course::Problem& problem) {
-  const Expression sum = SumIn(problem);
+  const Expression sum = TwoFractionsIn(problem, Expression::Kind::Sum);
   Reading reading;
   reading.answer = ValueOf(sum).Number().get_str();
   reading.value = [](const std::string& choice) { return NumberIn(choice).get_str(); };
   reading.flaw = FlawOfMixedNumber;
-  const Fraction first = ReadFraction(sum.parts[0]);
-  const Fraction second = ReadFraction(sum.parts[1]);
-  for (const Fraction& fraction : {first, second})
+  const WrittenFraction first = ReadFraction(sum.parts[0]);
+  const WrittenFraction second = ReadFraction(sum.parts[1]);
+  for (const WrittenFraction& fraction : {first, second})
     reading.Within("a denominator", Rational(fraction.below), 2, 30);
   AddMistakes(first, second, reading);
   return reading;
