@@ -21,7 +21,7 @@ const std::string kTimes = " " + tutor::Times + " ";
 // --- Teaching screens --------------------------------------------------------
 
 constexpr double kStripCol = 3;
-constexpr double kStripWidth = 36;
+constexpr double kStripWidth = 30;
 constexpr double kStripDrop = 1.5;  // rows from strip to strip
 
 // So many parts of a strip are yellow.
@@ -41,31 +41,29 @@ void TakeAway(double row, int parts, int filled, int taken) {
 
 void SameDenominator() {
   NewScreen();
-  ShowAt(4, "5/6 - 1/6");
-  SayAt(3, R"(the \cnumerator\z: how many parts)", {.col = 14});
-  SayAt(5, R"(the \cdenominator\z: how many make 1)", {.col = 14});
-  ShowParts(7, 6, 5);
+  ShowAt(4, "4/5 - 1/5");
+  SayAt(3, R"(\cnumerator\z: how many parts)", {.col = 12});
+  SayAt(5, R"(\cdenominator\z: how many make 1)", {.col = 12});
+  ShowParts(7, 5, 4);
   PageEnd();
-  SayAt(10.5, R"(Both fractions count sixths.  We have 5 parts and take 1 part away:)");
-  TakeAway(7, 6, 5, 1);
+  SayAt(10.5, R"(Both fractions count fifths.  We have 4 parts and take 1 part away:)");
+  TakeAway(7, 5, 4, 1);
   PageEnd();
   SayAt(13.5, R"(So we \ysubtract the numerators\z and keep the denominator.  The parts stay )"
-              "sixths.");
-  ShowAt(17, "5/6 - 1/6 = (5 - 1)/6 = 4/6");
-  PageEnd();
-  Say("We can reduce 4/6: 2 goes into 4 and into 6.  So 4/6 = 2/3.");
+              "fifths.");
+  ShowAt(17, "4/5 - 1/5 = (4 - 1)/5 = 3/5");
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  What is 4/5 - 1/5?)");
+  SayAt(3, R"(\yTry it:\z  What is 5/6 - 4/6?)");
   PageEnd();
-  ShowAt(6, "4/5 - 1/5 = (4 - 1)/5 = 3/5");
-  ShowParts(8.5, 5, 4);
-  TakeAway(8.5, 5, 4, 1);
+  ShowAt(6, "5/6 - 4/6 = (5 - 4)/6 = 1/6");
+  ShowParts(8.5, 6, 5);
+  TakeAway(8.5, 6, 5, 4);
   SayAt(12, R"(\yTry it:\z  What is 1 - 1/3?)");
   PageEnd();
   SayAt(14, "1 whole is 3 thirds.  We take one of them away:");
-  ShowAt(17, "3/3 - 1/3 = 2/3");
+  ShowAt(17, "1 - 1/3 = 3/3 - 1/3 = 2/3");
   ShowParts(19.5, 3, 3);
   TakeAway(19.5, 3, 3, 1);
   PageEnd();
@@ -74,7 +72,7 @@ void SameDenominator() {
 void DifferentDenominators() {
   NewScreen();
   ShowAt(4, "1/2 - 1/3");
-  Say("Halves and thirds are parts of different sizes.  We cannot take thirds out of halves yet.");
+  Say("Halves and thirds are parts of different sizes.  We cannot subtract yet.");
   ShowParts(9, 2, 1);
   DrawStrip(10.5, kStripCol, kStripWidth, 3, {{1, Cyan}});
   PageEnd();
@@ -92,12 +90,11 @@ void DifferentDenominators() {
 
   NewScreen();
   SayAt(3, R"(\yWatch out:\z  Someone subtracts above and below:)");
-  PaperBox({R"(\r5/6 - 3/8 = (5 - 3)/(8 - 6) = 2/2 = 1\z)"}, 5);
+  PaperBox({R"(\r5/6 - 3/8 = (5 - 3)/(8 - 6) = 2/2 = 1\z)"});
   Say("5/6 is less than 1.  Can 1 be left when we take something away from it?");
   PageEnd();
   Say("No: the rest must be less than 5/6.  We never subtract denominators.  They tell only how "
       "large the parts are.");
-  PageEnd();
   Say(R"(\yTry it:\z  What is 3/4 - 1/2?)");
   PageEnd();
   Say("A half is 2 fourths:");
@@ -135,14 +132,14 @@ void LeastCommonDenominators() {
 
   NewScreen();
   SayAt(3, R"(\yWatch out:\z  Someone changes the denominators only:)");
-  PaperBox({R"(\r11/12 - 5/18 = 11/36 - 5/36 = 6/36\z)"}, 5);
+  PaperBox({R"(\r11/12 - 5/18 = 11/36 - 5/36 = 6/36\z)"});
   Say("Is 11/36 the same number as 11/12?");
   PageEnd();
   Say("No.  A 36th is only a third of a 12th, so we need three times as many of them: 33, not "
       "11.");
+  Say(R"(\yTry it:\z  What is 5/6 - 3/4?)");
   PageEnd();
-  Say(R"(\yTry it:\z  What is 5/6 - 3/4?  The LCD is 12.)");
-  PageEnd();
+  Say("The LCD of 6 and 4 is 12:");
   Show("(5" + kTimes + "2)/12 - (3" + kTimes + "3)/12 = 10/12 - 9/12 = 1/12");
   PageEnd();
 }
@@ -152,7 +149,6 @@ void LowestTerms() {
   ShowAt(4, "5/6 - 3/10");
   Say(Text("6 = {} and 10 = {}: LCD = 30.", ProductText({2, 3}), ProductText({2, 5})));
   Show("(5" + kTimes + "5)/30 - (3" + kTimes + "3)/30 = 25/30 - 9/30 = 16/30");
-  PageEnd();
   Say("Can we reduce 16/30?");
   PageEnd();
   Say("Yes: 2 goes into 16 and into 30.  We strike it out, above and below:");
@@ -186,11 +182,6 @@ void NegativeFractions() {
   PageEnd();
   SayAt(11, "Subtracting -2 is the same as adding 2:");
   ShowAt(13.5, "(3 - (-2))/12 = (3 + 2)/12 = 5/12");
-  PageEnd();
-  SayAt(16, R"(\yTry it:\z  What is 7/10 - 1/6?)");
-  PageEnd();
-  ShowAt(18.5, "21/30 - 5/30 = 16/30 = 8/15");
-  SayAt(21, "The LCD is 30, and we reduce by 2.");
   PageEnd();
 }
 
@@ -295,7 +286,7 @@ void SubtractingFractions::ExplainDifference() {
     Show("(" + first + " - " + NumStr(second) + over + result);
   } else {
     const std::string opposite = NumStr(-second);
-    Say(Text("Subtracting {} is the same as adding {}:", second, opposite));
+    Say(Text("Subtracting {} means adding {}:", second, opposite));
     Show("(" + first + " - (" + NumStr(second) + ")" + over + " = (" + first + " + " + opposite +
          over + result);
   }

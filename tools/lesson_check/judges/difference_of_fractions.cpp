@@ -6,7 +6,6 @@
 namespace lesson_check {
 namespace {
 
-// Each of the two as it stands behind its own sign: "5/13 - (-2)/5" has -2 above.
 void AddMistakes(const WrittenFraction& first, const WrittenFraction& second, Reading& reading) {
   const mpz_class common = lcm(first.below, second.below);
   const mpz_class byFirst = common / first.below;
@@ -39,18 +38,14 @@ void AddMistakes(const WrittenFraction& first, const WrittenFraction& second, Re
 }
 
 Reading ReadDifferenceOfFractions(const course::Problem& problem) {
-  const Expression difference = TwoFractionsIn(problem, Expression::Kind::Sum);
+  const auto [first, second] = TwoFractionsIn(problem, " - ");
+  const mpz_class above = first.above * second.below - second.above * first.below;
+  const mpz_class below = first.below * second.below;
   Reading reading;
-  const Rational answer = ValueOf(difference).Number();
-  reading.answer = answer.get_str();
+  reading.answer = QuotientText(above, below);
   reading.value = [](const std::string& choice) { return NumberIn(choice).get_str(); };
   reading.flaw = FlawOfMixedNumber;
-  if (difference.parts[1].kind != Expression::Kind::Minus)
-    reading.faults.emplace_back("nothing is subtracted");
-  if (answer <= 0 || answer >= 1) reading.faults.push_back("the difference is " + reading.answer);
-  const WrittenFraction first = ReadFraction(difference.parts[0]);
-  WrittenFraction second = ReadFraction(difference.parts[1]);
-  second.above = -second.above;
+  if (above <= 0 || above >= below) reading.faults.push_back("the difference is " + reading.answer);
   for (const WrittenFraction& fraction : {first, second})
     reading.Within("a denominator", Rational(fraction.below), 2, 30);
   AddMistakes(first, second, reading);

@@ -33,15 +33,13 @@ void AddMistakes(const WrittenFraction& first, const WrittenFraction& second, Re
         common);
 }
 
-// Two fractions to be added; subtracting is adding a negative one.
 Reading ReadSumOfFractions(const course::Problem& problem) {
-  const Expression sum = TwoFractionsIn(problem, Expression::Kind::Sum);
+  const auto [first, second] = TwoFractionsIn(problem, " + ");
   Reading reading;
-  reading.answer = ValueOf(sum).Number().get_str();
+  reading.answer = QuotientText(first.above * second.below + second.above * first.below,
+                                first.below * second.below);
   reading.value = [](const std::string& choice) { return NumberIn(choice).get_str(); };
   reading.flaw = FlawOfMixedNumber;
-  const WrittenFraction first = ReadFraction(sum.parts[0]);
-  const WrittenFraction second = ReadFraction(sum.parts[1]);
   for (const WrittenFraction& fraction : {first, second})
     reading.Within("a denominator", Rational(fraction.below), 2, 30);
   AddMistakes(first, second, reading);

@@ -1,25 +1,26 @@
 #include "lesson_check/judges/two_fractions.h"
 
+#include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 
 namespace lesson_check {
 
-WrittenFraction ReadFraction(const Expression& written) {
-  if (written.kind == Expression::Kind::Minus) {
-    WrittenFraction fraction = ReadFraction(written.parts[0]);
-    fraction.above = -fraction.above;
-    return fraction;
-  }
-  if (written.kind != Expression::Kind::Quotient) throw Unreadable("not two fractions");
+namespace {
+
+WrittenFraction ReadFraction(const std::string& text) {
+  const Expression written = ParseExpression(text);
+  if (written.kind != Expression::Kind::Quotient) throw Unreadable("no fraction: " + text);
   return {ValueOf(written.parts[0]).Number().get_num(),
           ValueOf(written.parts[1]).Number().get_num()};
 }
 
-Expression TwoFractionsIn(const course::Problem& problem, Expression::Kind kind) {
+}  // namespace
+
+TwoFractions TwoFractionsIn(const course::Problem& problem, const std::string& sign) {
   for (const std::string& line : problem.question) {
-    if (line.find('/') == std::string::npos) continue;
-    Expression both = ParseExpression(line);
-    if (both.kind == kind && both.parts.size() == 2) return both;
+    const std::size_t place = line.find(sign);
+    if (line.find('/') == std::string::npos || place == std::string::npos) continue;
+    return {ReadFraction(line.substr(0, place)), ReadFraction(line.substr(place + sign.size()))};
   }
   throw Unreadable("the question has no two fractions");
 }

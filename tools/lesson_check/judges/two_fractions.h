@@ -4,7 +4,6 @@
 #include <string>
 
 #include "engine/problem.h"
-#include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/polynomial.h"
 
 namespace lesson_check {
@@ -15,11 +14,14 @@ struct WrittenFraction {
   mpz_class below;
 };
 
-// Unreadable when it is no fraction, with or without a minus sign.
-WrittenFraction ReadFraction(const Expression& written);
-// The question's line with fractions; its two parts are joined as the kind says.  Unreadable when
-// there is no such line.
-Expression TwoFractionsIn(const course::Problem& problem, Expression::Kind kind);
+struct TwoFractions {
+  WrittenFraction first;
+  WrittenFraction second;
+};
+// Of the question's line in which the sign stands between two blanks, " + ".  A negative second
+// fraction keeps its own sign: "5/13 - (-2)/5" has -2 above.  Unreadable when there is no such
+// line.
+TwoFractions TwoFractionsIn(const course::Problem& problem, const std::string& sign);
 // The canonical text of a quotient; unreadable with a divisor of 0.
 std::string QuotientText(const mpz_class& above, const mpz_class& below);
 

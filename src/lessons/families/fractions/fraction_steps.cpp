@@ -17,13 +17,6 @@ namespace {
 // Rows by which letters stand below the top of their cells: a strip stands among text as a line.
 constexpr double kTextDrop = 0.2;
 
-void Strike(double row, double col, int cells) {
-  constexpr double kRows = 0.34;
-  constexpr double kCols = 0.45;
-  isDrawDiagonalLineWithColor(row + kRows, col - kCols, row - kRows, col + cells - 1 + kCols, 2,
-                              platform::colour::Yellow);
-}
-
 }  // namespace
 
 std::vector<int> PrimeFactorsOf(int n) {
@@ -80,6 +73,13 @@ std::string RenamedLine(const Fraction& f, int den) {
          " = " + OverText(RenamedNumerator(f, den), den);
 }
 
+void StrikeOut(double row, double col, int digits) {
+  constexpr double kRows = 0.34;
+  constexpr double kCols = 0.45;
+  isDrawDiagonalLineWithColor(row + kRows, col - kCols, row - kRows, col + digits - 1 + kCols, 2,
+                              platform::colour::Yellow);
+}
+
 void ShowReduced(int num, int den, int common) {
   const std::string whole = OverText(num, den) + " = ";
   const std::string above = ProductText({num / common, common});
@@ -92,7 +92,7 @@ void ShowReduced(int num, int den, int common) {
   const std::size_t width = std::max(above.size(), below.size());
   const auto strike = [&](double part, const std::string& text) {
     const double indent = static_cast<double>(width - text.size()) / 2;
-    Strike(part, start + indent + static_cast<double>(text.size()) - digits, digits);
+    StrikeOut(part, start + indent + static_cast<double>(text.size()) - digits, digits);
   };
   strike(row - 1, above);
   strike(row + 1, below);

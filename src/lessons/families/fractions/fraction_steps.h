@@ -30,6 +30,8 @@ std::string SumText(int first, int second);
 // "5/12 = (5 x 3)/(12 x 3) = 15/36", the factor in yellow.  den is a multiple of f.den.
 std::string RenamedLine(const Fraction& f, int den);
 int RenamedNumerator(const Fraction& f, int den);
+// A yellow line through so many digits, from a cell on.
+void StrikeOut(double row, double col, int digits);
 // Shows "46/30 = (23 x 2)/(15 x 2) = 23/15" with the common factor, 2, struck out.
 void ShowReduced(int num, int den, int common);
 
