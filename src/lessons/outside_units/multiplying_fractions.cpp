@@ -1,7 +1,7 @@
 // The student can multiply two fractions: strike out common factors, one number above and one
 // below, and multiply the numerators and the denominators that are left.
 //
-// Both fractions are proper and in lowest terms, with denominators up to 30.  In two of three
+// Both fractions are proper and in lowest terms, with denominators up to 30.  In nine of ten
 // problems one pair of numbers has a common factor, in the others both pairs.
 #include "lessons/families/fractions/fraction_products.h"
 #include "lessons/families/fractions/fraction_steps.h"
@@ -12,7 +12,7 @@ namespace {
 
 using namespace fractions;
 
-constexpr int kLargestDenominator = 120;  // of the answer
+constexpr int kLargestDenominator = 60;  // of the answer
 const std::string kTimes = " " + tutor::Times + " ";
 
 // --- Teaching screens --------------------------------------------------------
@@ -40,7 +40,7 @@ void PartsOfParts() {
   NewScreen();
   RuleBox("Multiplying Fractions", {"Multiply the numerators.", "Multiply the denominators."},
           {.row = 3});
-  Say("The fractions need no common denominator.");
+  Say("We need no common denominator.");
   PageEnd();
   Say(R"(\yTry it:\z  What is 1/2 of 3/5?)");
   PageEnd();
@@ -85,28 +85,28 @@ void WholeNumbers() {
 }
 
 void StrikingOut() {
-  const FractionProduct product = {{4, 15}, {5, 8}};
+  const FractionProduct product = {{4, 15}, {7, 8}};
   NewScreen();
-  SayAt(2, "The products are large here: 20 and 120.");
-  const StrikingLine line(5, product);
-  SayAt(8.5, R"(We can reduce \ybefore\z we multiply.  Which number goes into 4, above, and into )"
-             "8, below?");
+  SayAt(2.5, "The products are large here: 28 and 120.");
+  const StrikingLine line(6, product);
+  SayAt(9.5, R"(We can reduce \ybefore\z we multiply.  Which number goes into 4 and into 8?)");
   PageEnd();
-  ClearBelow(8);
+  ClearBelow(9);
   line.StrikeFalling();
-  AddLine(R"(4 does: it is a \ccommon factor\z.  We divide both by 4, \cstrike them out\z, and )"
-          "write what is left.");
+  AddLine(R"(4 does: their \ccommon factor\z.  We divide both by 4, and \cstrike them out\z.)");
   PageEnd();
-  Say("Which number goes into 5, above, and into 15, below?");
+  GoBelow();
+  AddLine("1 and 2 are left.  Which number goes into 7 and into 15?");
   PageEnd();
-  line.StrikeRising();
-  AddLine("5 does.  1 and 3 are left.");
+  GoBelow();
+  AddLine("Only 1 does.  So 7 and 15 stay.");
   PageEnd();
   line.ShowRest();
-  AddLine("Now we multiply what is left.  Above, 1" + kTimes + "1 is 1, not 0.");
+  AddLine("Now we multiply what is left.");
   PageEnd();
-  Say(R"(\yCheck:\z  We multiply without striking out, and reduce:)");
-  Show("20/120 = (1" + kTimes + "20)/(6" + kTimes + "20) = 1/6");
+  GoBelow();
+  AddLine(R"(\yCheck:\z  Without striking out:)");
+  Show("28/120 = (7" + kTimes + "4)/(30" + kTimes + "4) = 7/30");
   PageEnd();
 }
 
@@ -126,18 +126,18 @@ void RulesOfStriking() {
 
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Someone strikes out 2 here, and is left with 4 and 6.  Is that all?)");
-  ShowAt(7, product.Text());
-  PageEnd();
-  ClearBelow(6);
   const StrikingLine line(8, product);
+  PageEnd();
+  SayAt(11.5, "No: 2 goes into 4 and 6 once more.");
+  PageEnd();
   line.StrikeFalling();
-  SayAt(11.5,
-        "No: 2 goes into 4 and 6 once more.  So we look for the greatest common factor of 8 "
-        "and 12.  It is 4.");
+  AddLine("4 is the greatest common factor of 8 and 12.  We strike it out at once.");
   PageEnd();
   line.StrikeRising();
+  AddLine("5 goes into 5 and 15.  Of the 5, 1 is left, not 0.");
+  PageEnd();
   line.ShowRest();
-  AddLine("5 goes into 5 and 15.  Now no number above has a common factor with one below.");
+  AddLine("Now no number above has a common factor with one below.");
   PageEnd();
 }
 
@@ -158,7 +158,7 @@ class MultiplyingFractions final : public LessonScript {
   static Fraction DrawFraction(RandomStream& random);
   bool Unsuitable() const;
   std::vector<FractionMistake> Mistakes() const;
-  void ExplainFactor(int above, int below, int factor) const;
+  static void ExplainFactor(int above, int below, int factor);
   void ExplainCheck() const;
 
   FractionProduct product_;
@@ -241,26 +241,24 @@ void MultiplyingFractions::ExplainProblem() {
   if (product_.RisingFactor() > 1) line.StrikeRising();
   PageEnd();
   line.ShowRest();
-  AddLine("We multiply what is left, numerators and denominators each.");
+  AddLine("We multiply what is left.");
   PageEnd();
   ExplainCheck();
   Conclude(problem);
 }
 
-void MultiplyingFractions::ExplainFactor(int above, int below, int factor) const {
-  if (factor == 1) {
-    Say(Text("{} and {} have no common factor but 1.", above, below));
-  } else {
-    Say(Text(R"({} and {}: \y{}\z is their greatest common factor.  We divide both by {}.)", above,
-             below, factor, factor));
-  }
+void MultiplyingFractions::ExplainFactor(int above, int below, int factor) {
+  GoBelow();
+  AddLine(factor == 1 ? Text("{} and {} have no common factor but 1.", above, below)
+                      : Text(R"({} and {}: we can divide both by \y{}\z.)", above, below, factor));
 }
 
 void MultiplyingFractions::ExplainCheck() const {
   const Fraction result = product_.Result();
   const std::string struck =
       kTimes + NumStr(product_.FallingFactor() * product_.RisingFactor()) + ")";
-  Say(R"(\yCheck:\z  We multiply without striking out, and reduce:)");
+  GoBelow();
+  AddLine(R"(\yCheck:\z  Without striking out:)");
   Show(product_.UnreducedText() + " = (" + NumStr(result.num) + struck + "/(" + NumStr(result.den) +
        struck + " = " + OverText(result));
   PageEnd();

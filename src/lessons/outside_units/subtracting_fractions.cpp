@@ -89,7 +89,7 @@ void DifferentDenominators() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Someone subtracts above and below:)");
+  SayAt(3, R"(\yWatch out:\z  Someone does this:)");
   PaperBox({R"(\r5/6 - 3/8 = (5 - 3)/(8 - 6) = 2/2 = 1\z)"});
   Say("5/6 is less than 1.  Can 1 be left when we take something away from it?");
   PageEnd();
@@ -122,7 +122,7 @@ void LeastCommonDenominators() {
   NewScreen();
   ShowAt(4, "11/12 - 5/18");
   SayAt(4, "LCD = 36", {.col = 25});
-  SayAt(6.5, R"(We \crename\z both: the same value, the new denominator.)");
+  SayAt(7, R"(We \crename\z both, with the same value:)");
   ShowAt(10, RenamedLine({11, 12}, 36));
   ShowAt(13.5, RenamedLine({5, 18}, 36));
   PageEnd();
@@ -135,8 +135,7 @@ void LeastCommonDenominators() {
   PaperBox({R"(\r11/12 - 5/18 = 11/36 - 5/36 = 6/36\z)"});
   Say("Is 11/36 the same number as 11/12?");
   PageEnd();
-  Say("No.  A 36th is only a third of a 12th, so we need three times as many of them: 33, not "
-      "11.");
+  Say("No.  A 36th is a third of a 12th, so we need three times as many.");
   Say(R"(\yTry it:\z  What is 5/6 - 3/4?)");
   PageEnd();
   Say("The LCD of 6 and 4 is 12:");
