@@ -118,6 +118,7 @@ void RulesOfStriking() {
       {R"(\rOnly above:  4/9)" + kTimes + "3/5 = (4" + kTimes + "1)/(9" + kTimes + R"(5) = 4/45\z)",
        R"(\rBoth above:  4/9)" + kTimes + "2/5 = (2" + kTimes + "1)/(9" + kTimes +
            R"(5) = 2/45\z)"});
+  PageEnd();
   Say("What are the right answers?");
   PageEnd();
   Say(R"(Above and below:  \y4/15\z.  3 goes into 3 and 9.)");

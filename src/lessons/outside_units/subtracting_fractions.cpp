@@ -160,10 +160,10 @@ void LowestTerms() {
 
 void NegativeFractions() {
   NewScreen();
-  SayAt(3, R"(What if the second fraction is \cnegative\z?  Each line takes 1/7 less away:)");
+  SayAt(3, R"(What if the second fraction is \cnegative\z?)");
   ShowAt(6.5, "3/7 - 1/7 = 2/7");
   ShowAt(9.5, "3/7 - 0/7 = 3/7");
-  SayAt(12, "What comes next?");
+  SayAt(12, "Each line takes 1/7 less.  What is next?");
   PageEnd();
   ClearBelow(12);
   ShowAt(12.5, "3/7 - (-1)/7 = 4/7");
