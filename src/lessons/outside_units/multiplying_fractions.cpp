@@ -28,13 +28,13 @@ void PartsOfParts() {
   ClearBelow(11);
   DrawPartOfPart(5, kPictureCol, {.columns = 3, .filledColumns = 2, .rows = 4, .filledRows = 3});
   SayAt(11, "We cut the field into 4 rows, and take 3 of them in the planted part.");
-  SayAt(13.5, "How many small parts has the field?  How many of them are yellow?");
+  SayAt(13.5, "How many small parts are there?  How many of them are yellow?");
   PageEnd();
   ClearBelow(13);
   SayAt(13.5, Text("The field has {} parts.  Of these, {} are yellow.", "4" + kTimes + "3 = 12",
                    "3" + kTimes + "2 = 6"));
   ShowAt(17.5, "3/4" + kTimes + "2/3 = (3" + kTimes + "2)/(4" + kTimes + "3) = 6/12 = 1/2");
-  SayAt(20, R"(So "of" means \ytimes\z.)");
+  SayAt(20, R"(Half of it is corn.  "Of" means \ytimes\z.)");
   PageEnd();
 
   NewScreen();
@@ -42,6 +42,7 @@ void PartsOfParts() {
           {.row = 3});
   Say("We need no common denominator.");
   PageEnd();
+  Say(R"(The result is the \cproduct\z of the fractions.)");
   Say(R"(\yTry it:\z  What is 1/2 of 3/5?)");
   PageEnd();
   Show("1/2" + kTimes + "3/5 = (1" + kTimes + "3)/(2" + kTimes + "5) = 3/10");
@@ -138,7 +139,7 @@ void RulesOfStriking() {
   AddLine("5 goes into 5 and 15.  Of the 5, 1 is left, not 0.");
   PageEnd();
   line.ShowRest();
-  AddLine("Now no number above has a common factor with one below.");
+  AddLine(R"(Nothing more goes into one above and one below.  2/9 is in \clowest terms\z.)");
   PageEnd();
 }
 

@@ -52,6 +52,7 @@ void SameDenominator() {
   SayAt(13.5, R"(So we \ysubtract the numerators\z and keep the denominator.  The parts stay )"
               "fifths.");
   ShowAt(17, "4/5 - 1/5 = (4 - 1)/5 = 3/5");
+  AddLine(R"(3/5 is the \cdifference\z.)");
   PageEnd();
 
   NewScreen();
@@ -62,8 +63,8 @@ void SameDenominator() {
   TakeAway(8.5, 6, 5, 4);
   SayAt(12, R"(\yTry it:\z  What is 1 - 1/3?)");
   PageEnd();
-  SayAt(14, "1 whole is 3 thirds.  We take one of them away:");
-  ShowAt(17, "1 - 1/3 = 3/3 - 1/3 = 2/3");
+  SayAt(14, "1 whole is 3 thirds.  We take one away:");
+  ShowAt(16.5, "1 - 1/3 = 3/3 - 1/3 = 2/3");
   ShowParts(19.5, 3, 3);
   TakeAway(19.5, 3, 3, 1);
   PageEnd();
@@ -148,9 +149,9 @@ void LowestTerms() {
   ShowAt(4, "5/6 - 3/10");
   Say(Text("6 = {} and 10 = {}: LCD = 30.", ProductText({2, 3}), ProductText({2, 5})));
   Show("(5" + kTimes + "5)/30 - (3" + kTimes + "3)/30 = 25/30 - 9/30 = 16/30");
-  Say("Can we reduce 16/30?");
+  Say(R"(Is 16/30 in \clowest terms\z?)");
   PageEnd();
-  Say("Yes: 2 goes into 16 and into 30.  We strike it out, above and below:");
+  Say("No: 2 goes into 16 and into 30.  We strike it out, above and below:");
   ShowReduced(16, 30, 2);
   PageEnd();
   Say(R"(\yCheck:\z  What we took away, we add again:)");
@@ -161,13 +162,13 @@ void LowestTerms() {
 void NegativeFractions() {
   NewScreen();
   SayAt(3, R"(What if the second fraction is \cnegative\z?)");
-  ShowAt(6.5, "3/7 - 1/7 = 2/7");
+  ShowAt(6, "3/7 - 1/7 = 2/7");
   ShowAt(9.5, "3/7 - 0/7 = 3/7");
   SayAt(12, "Each line takes 1/7 less.  What is next?");
   PageEnd();
   ClearBelow(12);
-  ShowAt(12.5, "3/7 - (-1)/7 = 4/7");
-  SayAt(15, R"(Each time 1/7 more is left.  So \ysubtracting -1/7 is the same as adding 1/7\z.)");
+  ShowAt(13, "3/7 - (-1)/7 = 4/7");
+  SayAt(15.5, R"(Each time 1/7 more is left.  So \ysubtracting -1/7 is the same as adding 1/7\z.)");
   PageEnd();
   Say(R"(\yWatch out:\z  There are two minus signs.  Do not leave one out: 3/7 - 1/7 is only )"
       "2/7.");
