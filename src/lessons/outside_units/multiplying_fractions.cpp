@@ -42,7 +42,7 @@ void PartsOfParts() {
           {.row = 3});
   Say("We need no common denominator.");
   PageEnd();
-  Say(R"(The result is the \cproduct\z of the fractions.)");
+  Say(R"(The result is called the \cproduct\z.)");
   Say(R"(\yTry it:\z  What is 1/2 of 3/5?)");
   PageEnd();
   Show("1/2" + kTimes + "3/5 = (1" + kTimes + "3)/(2" + kTimes + "5) = 3/10");
@@ -122,8 +122,10 @@ void RulesOfStriking() {
   PageEnd();
   Say("What are the right answers?");
   PageEnd();
-  Say(R"(Above and below:  \y4/15\z.  3 goes into 3 and 9.)");
-  Say(R"(Nothing can be struck out:  \y8/45\z.)");
+  Say("We divide the 9 by 3, too:");
+  Show("4/9" + kTimes + "3/5 = (4" + kTimes + "1)/(3" + kTimes + "5) = 4/15");
+  Say("Here nothing can be struck out:");
+  Show("4/9" + kTimes + "2/5 = (4" + kTimes + "2)/(9" + kTimes + "5) = 8/45");
   PageEnd();
 
   NewScreen();

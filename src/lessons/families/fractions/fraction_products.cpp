@@ -28,25 +28,6 @@ double Digits(int n) {
   return static_cast<double>(NumStr(n).size());
 }
 
-// Strikes out the number that ends a text, or begins it, and writes what is left of it beside it.
-// The text stands in the middle of a part of a fraction, from start over width columns.
-struct PartOfFraction {
-  double row;
-  double start;
-  double width;
-  int first;
-  int second;
-
-  void Strike(bool isFirst, double restRow, int rest) const {
-    const double indent = (width - Digits(first) - Digits(second) - 3) / 2;
-    const int number = isFirst ? first : second;
-    const double col = start + indent + (isFirst ? 0 : Digits(first) + 3);
-    StrikeOut(row, col, static_cast<int>(Digits(number)));
-    page::ShowAt(restRow, R"(\y)" + NumStr(rest) + R"(\z)",
-                 col + (Digits(number) - Digits(rest)) / 2);
-  }
-};
-
 }  // namespace
 
 int FractionProduct::FallingFactor() const {
@@ -76,34 +57,33 @@ StrikingLine::StrikingLine(double row, const FractionProduct& product)
   page::ShowAt(row, product.Text() + " = " + product.JoinedText());
 }
 
-void StrikingLine::StrikeAbove(Place place, int factor) const {
-  const bool isFirst = place == Place::First;
-  const PartOfFraction above = {row_ - 1,
-                                page::kMathCol + StackedTextWidth(product_.Text() + " = "),
-                                static_cast<double>(StackedTextWidth(product_.JoinedText())),
-                                product_.first.num, product_.second.num};
-  above.Strike(isFirst, row_ - 2, (isFirst ? above.first : above.second) / factor);
-}
-
-void StrikingLine::StrikeBelow(Place place, int factor) const {
-  const bool isFirst = place == Place::First;
-  const PartOfFraction below = {row_ + 1,
-                                page::kMathCol + StackedTextWidth(product_.Text() + " = "),
-                                static_cast<double>(StackedTextWidth(product_.JoinedText())),
-                                product_.first.den, product_.second.den};
-  below.Strike(isFirst, row_ + 2, (isFirst ? below.first : below.second) / factor);
-}
-
 void StrikingLine::StrikeFalling() const {
-  StrikeAbove(Place::First, product_.FallingFactor());
-  StrikeBelow(Place::Second, product_.FallingFactor());
+  const int factor = product_.FallingFactor();
+  Strike({Side::Above, product_.first.num, product_.second.num}, Place::First, factor);
+  Strike({Side::Below, product_.first.den, product_.second.den}, Place::Second, factor);
   page::GoBelow();
 }
 
 void StrikingLine::StrikeRising() const {
-  StrikeAbove(Place::Second, product_.RisingFactor());
-  StrikeBelow(Place::First, product_.RisingFactor());
+  const int factor = product_.RisingFactor();
+  Strike({Side::Above, product_.first.num, product_.second.num}, Place::Second, factor);
+  Strike({Side::Below, product_.first.den, product_.second.den}, Place::First, factor);
   page::GoBelow();
+}
+
+// The two numbers stand in the middle of the joined fraction's width.
+void StrikingLine::Strike(const Pair& pair, Place place, int factor) const {
+  constexpr double kBetween = 3;  // columns: the sign between two blanks
+  const int down = pair.side == Side::Below ? 1 : -1;
+  const int number = place == Place::First ? pair.first : pair.second;
+  const int rest = number / factor;
+  const double width = StackedTextWidth(product_.JoinedText());
+  const double indent = (width - Digits(pair.first) - kBetween - Digits(pair.second)) / 2;
+  const double col = page::kMathCol + StackedTextWidth(product_.Text() + " = ") + indent +
+                     (place == Place::First ? 0 : Digits(pair.first) + kBetween);
+  StrikeOut(row_ + down, col, static_cast<int>(Digits(number)));
+  page::ShowAt(row_ + 2 * down, R"(\y)" + NumStr(rest) + R"(\z)",
+               col + (Digits(number) - Digits(rest)) / 2);
 }
 
 void StrikingLine::ShowRest() const {

@@ -44,9 +44,14 @@ class StrikingLine {
   void ShowRest() const;
 
  private:
+  enum class Side { Above, Below };
   enum class Place { First, Second };
-  void StrikeAbove(Place place, int factor) const;
-  void StrikeBelow(Place place, int factor) const;
+  struct Pair {
+    Side side;
+    int first;
+    int second;
+  };
+  void Strike(const Pair& pair, Place place, int factor) const;
 
   double row_;
   FractionProduct product_;
