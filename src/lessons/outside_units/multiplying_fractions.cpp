@@ -181,6 +181,7 @@ bool MultiplyingFractions::Unsuitable() const {
          || product_.Result().den > kLargestDenominator;          // too much to multiply by hand
 }
 
+// Of the pairs drawn, 30 % are accepted.
 void MultiplyingFractions::DrawProblem(RandomStream& random) {
   do {
     product_.first = DrawFraction(random);

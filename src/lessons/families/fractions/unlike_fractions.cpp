@@ -89,7 +89,7 @@ std::string UnlikeFractions::RenamedText() const {
 }
 
 // The kind is drawn once, so that both are as many.  Of what is drawn then for a sum, 57 % of the
-// first kind and 6.5 % of the second are accepted.
+// first kind and 6.5 % of the second are accepted; for a difference 29 % and 3.3 %.
 UnlikeFractions DrawUnlikeFractions(RandomStream& random, Operation operation) {
   UnlikeFractions pair;
   pair.operation = operation;
