@@ -33,7 +33,7 @@ Json ProblemOf(course::LessonScript& lesson, int seed) {
     const int choice = drawn.order.at(static_cast<std::size_t>(box));
     choices.push_back(course::ToUtf8(course::ChoiceText(drawn.problem, choice)));
     const std::string mistake = course::MistakeOf(drawn.problem, choice);
-    mistakes.push_back(mistake.empty() ? Json(nullptr) : Json(mistake));
+    mistakes.push_back(mistake.empty() ? Json(nullptr) : Json(course::ToUtf8(mistake)));
   }
   return {{"title", course::ToUtf8(lesson.Title())},
           {"seed", seed},
