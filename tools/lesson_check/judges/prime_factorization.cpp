@@ -6,6 +6,7 @@
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/unreadable.h"
 #include "lesson_check/judge.h"
+#include "mathkit/tutor_codes.h"
 
 namespace lesson_check {
 namespace {
@@ -63,38 +64,39 @@ List PrimesOf(long number) {
   return primes;
 }
 
-// All ways to multiply some of the factors together, down to two factors.
-void CollectMerged(const List& list, std::set<std::string>& texts) {
-  if (list.size() <= 2) return;
-  for (std::size_t i = 0; i < list.size(); ++i) {
-    for (std::size_t j = i + 1; j < list.size(); ++j) {
-      List merged = list;
-      merged[i] *= merged[j];
+// "factor 14", held together as in the names of the lesson.
+std::string FactorName(long factor) {
+  return "factor" + course::tutor::Gap + std::to_string(factor);
+}
+
+// Two of the factors multiplied: a composite one, or one that is easily taken for a prime.
+void AddMerged(const List& primes, const std::string& behind, Reading& reading) {
+  for (std::size_t i = 0; i < primes.size(); ++i) {
+    for (std::size_t j = i + 1; j < primes.size(); ++j) {
+      List merged = primes;
+      const long product = merged[i] *= merged[j];
       merged.erase(merged.begin() + static_cast<long>(j));
-      if (texts.insert(TextOf(merged)).second) CollectMerged(merged, texts);
+      const bool looksPrime = product % 2 != 0 && product % 5 != 0 && product > 36;
+      const std::string name = looksPrime ? "takes the number" + course::tutor::Gap +
+                                                std::to_string(product) + " for a prime"
+                                          : "leaves the composite " + FactorName(product);
+      reading.mistakes[name + behind].push_back(TextOf(merged));
     }
   }
 }
 
-// What someone writes who comes to these primes, right or not, and then goes wrong in the form.
-void AddFormMistakes(const List& primes, const std::string& behind, Reading& reading) {
-  std::set<std::string> merged;
-  CollectMerged(primes, merged);
-  std::vector<std::string>& composite =
-      reading.mistakes["leaves a factor that is not prime" + behind];
-  composite.insert(composite.end(), merged.begin(), merged.end());
-
-  List withOne = primes;
-  withOne.push_back(1);
-  reading.mistakes["takes 1 for a prime" + behind].push_back(TextOf(withOne));
-
-  std::vector<std::string>& exchanged = reading.mistakes["exchanges base and exponent" + behind];
+// A power written in another form.
+void AddPowerMistakes(const List& primes, Reading& reading) {
   for (const long base : std::set<long>(primes.begin(), primes.end())) {
     const long exponent = std::ranges::count(primes, base);
+    if (exponent == 1) continue;
     List list = primes;
     std::erase(list, base);
-    list.insert(list.end(), static_cast<std::size_t>(base), exponent);
-    if (exponent > 1) exchanged.push_back(TextOf(list));
+    List exchanged = list;
+    exchanged.insert(exchanged.end(), static_cast<std::size_t>(base), exponent);
+    reading.mistakes["exchanges base and exponent"].push_back(TextOf(exchanged));
+    list.insert(list.end(), {base, exponent});
+    reading.mistakes["writes the exponent as a factor"].push_back(TextOf(list));
   }
 }
 
@@ -116,7 +118,11 @@ Reading ReadPrimeFactorization(const course::Problem& problem) {
   reading.Within("the count of different factors", Rational(static_cast<long>(different.size())), 2,
                  5);
 
-  AddFormMistakes(primes, "", reading);
+  AddMerged(primes, "", reading);
+  AddPowerMistakes(primes, reading);
+  List withOne = primes;
+  withOne.push_back(1);
+  reading.mistakes["takes 1 for a prime"] = {TextOf(withOne)};
   for (long factor = 4; factor < number; ++factor)
     if (number % factor == 0)
       reading.mistakes["stops after the first split"].push_back(TextOf({factor, number / factor}));
@@ -125,12 +131,12 @@ Reading ReadPrimeFactorization(const course::Problem& problem) {
   for (const long prime : different) {
     List more = primes;
     more.push_back(prime);
-    reading.mistakes["counts a prime factor twice"].push_back(TextOf(more));
-    AddFormMistakes(more, " and counts a prime factor twice", reading);
+    const std::string tooMany = "writes one " + FactorName(prime) + " too many";
+    reading.mistakes[tooMany].push_back(TextOf(more));
+    AddMerged(more, " and " + tooMany, reading);
     List fewer = primes;
     fewer.erase(std::ranges::find(fewer, prime));
-    reading.mistakes["loses a prime factor"].push_back(TextOf(fewer));
-    AddFormMistakes(fewer, " and loses a prime factor", reading);
+    reading.mistakes["loses one " + FactorName(prime)].push_back(TextOf(fewer));
   }
   return reading;
 }

@@ -3,17 +3,23 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "engine/choices.h"
+#include "lessons/page/say.h"
+#include "mathkit/expressions.h"
 
 namespace course::factoring {
+
+using page::Text;
+
 namespace {
 
 // --- Draw ----------------------------------------------------------------------------------------
 
 // Three characters a prime; the small ones come often.
-constexpr std::string_view kPrimeTable = "  2  2  2  2  2  2  3  3  3  3  5  5  5  7  7 11 13 17";
+constexpr std::string_view kPrimeTable = "  2  2  2  2  3  3  3  3  5  5  5  7  7 11 11 11 13 17";
 constexpr std::size_t kSlotWidth = 3;
 constexpr int kTableSize = static_cast<int>(kPrimeTable.size() / kSlotWidth);
 constexpr int kLargestNumber = 720;  // that is divided by hand
@@ -35,38 +41,72 @@ bool IsWorthSolving(const FactorList& primes) {
 
 // --- Mistakes ------------------------------------------------------------------------------------
 
-FactorList WithOne(const FactorList& primes, int /*first*/, int /*second*/) {
-  return WithFactor(primes, 1);
+// "factor 14", which stays together on a line.
+std::string FactorName(int factor) {
+  return Text("{}", "factor " + NumStr(factor));
 }
 
-// 3^2 in the place of 2^3.
-FactorList Exchanged(const FactorList& primes, int base, int /*second*/) {
-  FactorList exchanged = primes;
-  const int exponent = CountOf(primes, base);
-  for (int i = 0; i < exponent; ++i) exchanged = WithoutFactor(exchanged, base);
-  for (int i = 0; i < base; ++i) exchanged = WithFactor(exchanged, exponent);
-  return exchanged;
+// Products of two primes that show no divisor to someone who knows the tests of 2 and 5 and the
+// multiplication table up to 6.
+bool LooksPrime(int product) {
+  return product % 2 != 0 && product % 5 != 0 && product > 36;
 }
 
-// Made with primes that are right or miscounted; first and second are two of them.
-struct FormMistake {
-  const char* name;
-  FactorList (*made)(const FactorList& primes, int first, int second);
-};
-constexpr FormMistake kNotPrime = {"leaves a factor that is not prime", Merged};
-constexpr FormMistake kOneIsPrime = {"takes 1 for a prime", WithOne};
-constexpr FormMistake kExchanged = {"exchanges base and exponent", Exchanged};
+// The last two primes where they hide like that, as 3 and 13 in 39, else those that are drawn.
+std::pair<int, int> PrimesToMerge(const FactorList& primes, int first, int second) {
+  const int last = primes.back();
+  const int before = primes[primes.size() - 2];
+  return LooksPrime(before * last) ? std::pair(last, before) : std::pair(first, second);
+}
 
-// A prime, not the one given, that can be exchanged with its exponent, which must not be a factor
+std::string NameOfComposite(int product) {
+  if (LooksPrime(product)) return Text("takes the {} for a prime", "number " + NumStr(product));
+  return "leaves the composite " + FactorName(product);
+}
+
+// All factors that are the base left out, and others in their place.
+FactorList Replaced(const FactorList& primes, int base, int other, int times) {
+  FactorList replaced = primes;
+  std::erase(replaced, base);
+  for (int i = 0; i < times; ++i) replaced = WithFactor(replaced, other);
+  return replaced;
+}
+
+// A prime that can be exchanged with its exponent: that must not be a factor
 // beside it.  0 without one.
-int PrimeToExchange(const FactorList& primes, int miscounted) {
+int PrimeToExchange(const FactorList& primes) {
   for (const int base : Different(primes)) {
     const int exponent = CountOf(primes, base);
-    if (base != miscounted && exponent > 1 && exponent != base && CountOf(primes, exponent) == 0)
-      return base;
+    if (exponent > 1 && exponent != base && CountOf(primes, exponent) == 0) return base;
   }
   return 0;
 }
+
+// The mistakes that are made with one of the right powers.
+class PowerMistakes {
+ public:
+  PowerMistakes(Choices<FactorList>& choices, const FactorList& primes)
+      : choices_(choices), primes_(primes), base_(PrimeToExchange(primes)) {}
+
+  // 3^2 in the place of 2^3.
+  void Exchange() const {
+    if (base_ == 0) return;
+    choices_.Wrong("exchanges base and exponent",
+                   Replaced(primes_, base_, CountOf(primes_, base_), base_));
+  }
+  // 2 x 3 in the place of 2^3.
+  void WriteExponentAsFactor() const {
+    if (base_ == 0) return;
+    FactorList factors = primes_;
+    for (int i = CountOf(primes_, base_); i > 1; --i) factors = WithoutFactor(factors, base_);
+    choices_.Wrong("writes the exponent as a factor", WithFactor(factors, CountOf(primes_, base_)));
+  }
+
+ private:
+  Choices<FactorList>& choices_;
+  const FactorList& primes_;
+  int base_;  // 0 without a power to which it can happen
+};
 
 }  // namespace
 
@@ -87,23 +127,32 @@ void OfferFactorizations(Problem& problem, const FactorList& primes, RandomStrea
   const std::vector<int> order = random.RandSeq(count, count);
   const auto prime = [&](std::size_t i) { return primes[static_cast<std::size_t>(order[i] - 1)]; };
   const int recipe = random.Index(8);
-  const bool twice = random.Sign() > 0;
+  const bool tooMany = random.Sign() > 0;
 
-  const int base = recipe >= 6 ? PrimeToExchange(primes, prime(2)) : 0;
-  const FormMistake& form = base != 0 ? kExchanged : recipe <= 2 ? kOneIsPrime : kNotPrime;
-  const int first = base != 0 ? base : prime(0);
-  const FactorList miscounted =
-      twice ? WithFactor(primes, prime(2)) : WithoutFactor(primes, prime(2));
-  const std::string miscounts = twice ? "counts a prime factor twice" : "loses a prime factor";
-  const int split = prime(0) * prime(1);
+  const auto [first, second] = PrimesToMerge(primes, prime(0), prime(1));
+  const int miscounted = prime(0);
+  const std::string composite = NameOfComposite(first * second);
+  const std::string miscounts = tooMany ? "writes one " + FactorName(miscounted) + " too many"
+                                        : "loses one " + FactorName(miscounted);
+  const FactorList counted =
+      tooMany ? WithFactor(primes, miscounted) : WithoutFactor(primes, miscounted);
 
   Choices<FactorList> choices(problem, choice_kind::FiveShuffled, PowersText);
+  const PowerMistakes powers(choices, primes);
   choices.Right(primes);
-  choices.Wrong(form.name, form.made(primes, first, prime(1)));
-  choices.Wrong(miscounts, miscounted);
-  choices.Wrong(form.name + (" and " + miscounts), form.made(miscounted, first, prime(1)));
-  if (recipe % 2 == 0) choices.Wrong("writes each prime factor only once", Different(primes));
+  choices.Wrong(miscounts, counted);
+  choices.Wrong(composite, Merged(primes, first, second));
+  if (tooMany && recipe <= 4)
+    choices.Wrong(composite + " and " + miscounts, Merged(counted, first, second));
+  if (recipe % 2 == 0)
+    powers.Exchange();
+  else
+    powers.WriteExponentAsFactor();
+  if (recipe >= 7) choices.Wrong("takes 1 for a prime", WithFactor(primes, 1));
+  if (recipe >= 3) choices.Wrong("writes each prime factor only once", Different(primes));
+  const int split = prime(0) * prime(1);
   choices.Wrong("stops after the first split", WithFactor({split}, ProductOf(primes) / split));
+  choices.Wrong("takes 1 for a prime", WithFactor(primes, 1));
 }
 
 }  // namespace course::factoring

@@ -1,7 +1,8 @@
 // The draw of numbers that are to be factored into primes, and the choices for them.
 //
-// Two of the wrong choices are made from the right factors, and one from factors that are wrong
-// already, so that the right choice is not the one most like all others.
+// Wrong choices have one mistake each.  Where a factor too many is written, one may be made from
+// these factors that are wrong already, so that the right choice is not the one most like all
+// others.
 #pragma once
 
 #include "engine/problem.h"
