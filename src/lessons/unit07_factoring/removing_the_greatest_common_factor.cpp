@@ -186,6 +186,7 @@ class RemovingTheGreatestCommonFactor final : public LessonScript {
 
 constexpr int kHighestPower = 6;
 constexpr int kLargestNumber = 60;
+constexpr int kOneInProblems = 5;  // leaves a 1 in the parentheses
 
 // A number with small factors only, so that two of them often have some in common.
 int DrawNumber(RandomStream& random) {
@@ -197,7 +198,8 @@ int DrawNumber(RandomStream& random) {
 
 bool RemovingTheGreatestCommonFactor::IsWorthSolving() const {
   const bool small = sum_.numbers[0] <= kLargestNumber && sum_.numbers[1] <= kLargestNumber;
-  return small && sum_.CommonNumber() > 1;  // numbers and letters have something in common
+  const bool different = sum_.numbers[0] != sum_.numbers[1];  // else there is little to find
+  return small && different && sum_.CommonNumber() > 1;
 }
 
 void RemovingTheGreatestCommonFactor::DrawProblem(RandomStream& random) {
@@ -205,39 +207,38 @@ void RemovingTheGreatestCommonFactor::DrawProblem(RandomStream& random) {
   sum_.powers[1] = random.Index(kHighestPower - 1);
   sum_.powers[0] = sum_.powers[1] + random.Index(kHighestPower - sum_.powers[1]);
   sum_.minus = random.Rand(0, 1) == 1;
-  do {
+  const bool leavesOne = random.Index(kOneInProblems) == 1;
+  do {  // about a third of the draws is accepted
     sum_.numbers[0] = DrawNumber(random);
     sum_.numbers[1] = DrawNumber(random);
-  } while (!IsWorthSolving());
+  } while (!IsWorthSolving() || sum_.LeavesOne() != leavesOne);
   problem.question = {"Factor the expression below:", sum_.Text(),
                       "Take out the greatest common factor."};
   OfferChoices(random);
 }
 
-// Two wrong ways, one of them with both signs, as the right choice stands there with both.
+// Mistakes of one sort lead to similar texts, which keeps the right choice from being the one most
+// like all others.  One of them at most has the wrong sign.
 void RemovingTheGreatestCommonFactor::OfferChoices(RandomStream& random) {
-  const std::vector<FactoringMistake> mistakes = sum_.Mistakes();
-  const std::vector<int> order = random.RandSeq(static_cast<int>(mistakes.size()), 2);
-  const bool reversed = random.Rand(0, 1) == 1;
+  const int sort = random.Rand(1, 3);
+  const bool withSign = random.Rand(0, 1) == 1 || sort == 3;
+  const TakenOut right = sum_.Right();
 
   Choices<std::string> choices(problem, choice_kind::FiveShuffled,
                                [](const std::string& text) { return text; });
-  const auto wrong = [&](const FactoringMistake& mistake, bool reverse) {
-    choices.Wrong(mistake.name + std::string(reverse ? " and reverses the sign" : ""),
-                  TakenOutText(reverse ? Reversed(mistake.taken) : mistake.taken));
-  };
-  const TakenOut right = sum_.Right();
   choices.Right(TakenOutText(right));
-  choices.Wrong("reverses the sign", TakenOutText(Reversed(right)));
-  const auto drawn = [&](std::size_t i) {
-    return mistakes[static_cast<std::size_t>(order[i] - 1)];
+  const auto reverseSign = [&] {
+    choices.Wrong("reverses the sign", TakenOutText(Reversed(right)));
   };
-  wrong(drawn(0), false);
-  wrong(drawn(0), true);
   if (sum_.LeavesOne())
     choices.Wrong("leaves out the 1", TakenOutText({right.factor, {right.inside.front()}}));
-  else
-    wrong(drawn(1), reversed);
+  else if (withSign)
+    reverseSign();
+  for (const FactoringMistake& mistake : sort == 1   ? sum_.PowerMistakes()
+                                         : sort == 2 ? sum_.NumberMistakes()
+                                                     : sum_.FactorMistakes())
+    choices.Wrong(mistake.name, TakenOutText(mistake.taken));
+  if (!choices.Full()) reverseSign();
 }
 
 // --- Problem page ------------------------------------------------------------

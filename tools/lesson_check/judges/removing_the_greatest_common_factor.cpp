@@ -87,24 +87,17 @@ class MistakeFinder {
 
   void FindAll() {
     Add("takes out only the number", TakenOut(sum_, {common_.number, 0}));
-    Add("takes out only the letters", TakenOut(sum_, {1, common_.power}));
+    Add("takes out only the power", TakenOut(sum_, {1, common_.power}));
     FindCommonFactorsLeft();
     FindWrongQuotients();
     Taken reversed = TakenOut(sum_, common_);
-    Reverse(reversed);
-    AddOne("reverses the sign", reversed);
+    reversed.inside.low.number *= -1;
+    Add("reverses the sign", reversed);
   }
 
  private:
-  static void Reverse(Taken& taken) { taken.inside.low.number *= -1; }
-  void AddOne(const std::string& name, const Taken& taken) {
+  void Add(const std::string& name, const Taken& taken) {
     reading_.mistakes[name].push_back(maker_.Text(taken));
-  }
-  // With the sign that is right, and with the other one.
-  void Add(const std::string& name, Taken taken) {
-    AddOne(name, taken);
-    Reverse(taken);
-    AddOne(name + " and reverses the sign", taken);
   }
 
   void FindCommonFactorsLeft() {
@@ -117,19 +110,18 @@ class MistakeFinder {
 
   void FindWrongQuotients() {
     const Taken right = TakenOut(sum_, common_);
-    Taken taken = right;
-    taken.inside.high.power = sum_.high.power;
-    Add("leaves the exponent inside as it was", taken);
-
-    taken = right;
-    taken.inside.low.number = sum_.low.number;
-    Add("divides only the first term", taken);
-
-    taken = right;
-    taken.factor.power = sum_.high.power;
-    taken.inside.high.power = 0;
-    taken.inside.low.power = sum_.low.power;
-    Add("takes out the higher power", taken);
+    const auto addInside = [&](const std::string& name, const TwoTerms& inside) {
+      Add(name, {common_, inside});
+    };
+    const auto [high, low] = right.inside;
+    addInside("leaves the exponent inside as it was", {{high.number, sum_.high.power}, low});
+    addInside("adds the exponents", {{high.number, sum_.high.power + common_.power}, low});
+    addInside("divides only the numbers",
+              {{high.number, sum_.high.power}, {low.number, sum_.low.power}});
+    addInside("divides only the powers", {{sum_.high.number, high.power}, {sum_.low.number, 0}});
+    addInside("divides only the first term", {high, {sum_.low.number, 0}});
+    Add("takes out the higher power",
+        {{common_.number, sum_.high.power}, {{high.number, 0}, {low.number, sum_.low.power}}});
 
     if (std::labs(right.inside.low.number) == 1)
       reading_.mistakes["leaves out the 1"].push_back(maker_.WithoutLowTerm(right));

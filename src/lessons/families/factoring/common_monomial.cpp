@@ -63,27 +63,57 @@ TakenOut CommonMonomial::Take(const Term& factor) const {
   return Rest(factor, divided(0), divided(1));
 }
 
-std::vector<FactoringMistake> CommonMonomial::Mistakes() const {
-  const int common = CommonNumber();
-  const int first = numbers[0] / common;
-  const int second = numbers[1] / common;
-  const int difference = powers[0] - powers[1];
-  std::vector<FactoringMistake> mistakes = {
-      {"takes out only the number", Take(Factor(common, 0))},
-      {"takes out only the letters", Take(Factor(1, powers[1]))},
+std::vector<FactoringMistake> CommonMonomial::PowerMistakes() const {
+  const int first = Quotient(0).coef;
+  const Term second = Factor(Quotient(1).coef, 0);
+  return {
       {"leaves the exponent inside as it was",
-       Rest(CommonFactor(), Factor(first, powers[0]), Factor(second, 0))},
-      {"divides only the first term",
-       Rest(CommonFactor(), Factor(first, difference), Factor(numbers[1], 0))},
-      {"takes out the higher power",
-       Rest(Factor(common, powers[0]), Factor(first, 0), Factor(second, powers[1]))},
+       Rest(CommonFactor(), Factor(first, powers[0]), second)},
+      {"divides only the numbers",
+       Rest(CommonFactor(), Factor(first, powers[0]), Factor(second.coef, powers[1]))},
+      {"adds the exponents", Rest(CommonFactor(), Factor(first, powers[0] + powers[1]), second)},
+      TakesOnlyNumber(),
   };
-  const int part = common / SmallestDivisor(common);
-  if (part > 1)
-    mistakes.push_back({"leaves a common number inside", Take(Factor(part, powers[1]))});
+}
+
+std::vector<FactoringMistake> CommonMonomial::NumberMistakes() const {
+  const Term undivided = Factor(numbers[1], 0);
+  std::vector<FactoringMistake> mistakes = {
+      {"divides only the first term", Rest(CommonFactor(), Quotient(0), undivided)},
+      {"divides only the powers",
+       Rest(CommonFactor(), Factor(numbers[0], powers[0] - powers[1]), undivided)},
+      TakesOnlyPower(),
+  };
+  AddNumberLeft(mistakes);
+  return mistakes;
+}
+
+std::vector<FactoringMistake> CommonMonomial::FactorMistakes() const {
+  const int common = CommonNumber();
+  std::vector<FactoringMistake> mistakes;
   if (powers[1] > 1)
     mistakes.push_back({"leaves a common letter inside", Take(Factor(common, powers[1] - 1))});
+  AddNumberLeft(mistakes);
+  mistakes.push_back(
+      {"takes out the higher power", Rest(Factor(common, powers[0]), Factor(Quotient(0).coef, 0),
+                                          Factor(Quotient(1).coef, powers[1]))});
+  mistakes.push_back(TakesOnlyPower());
+  mistakes.push_back(TakesOnlyNumber());
   return mistakes;
+}
+
+FactoringMistake CommonMonomial::TakesOnlyNumber() const {
+  return {"takes out only the number", Take(Factor(CommonNumber(), 0))};
+}
+
+FactoringMistake CommonMonomial::TakesOnlyPower() const {
+  return {"takes out only the power", Take(Factor(1, powers[1]))};
+}
+
+void CommonMonomial::AddNumberLeft(std::vector<FactoringMistake>& mistakes) const {
+  const int part = CommonNumber() / SmallestDivisor(CommonNumber());
+  if (part > 1)
+    mistakes.push_back({"leaves a common number inside", Take(Factor(part, powers[1]))});
 }
 
 }  // namespace course::factoring

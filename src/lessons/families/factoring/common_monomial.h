@@ -45,11 +45,19 @@ struct CommonMonomial {
   bool LeavesOne() const { return numbers[1] == CommonNumber(); }
 
   // What students' mistakes lead to, a wrong sign and a 1 left out aside; none is the right one.
-  std::vector<FactoringMistake> Mistakes() const;
+  // Three or more each, the likeliest first: the powers are not divided as they should be, or the
+  // numbers, or the factor is not the greatest one.
+  std::vector<FactoringMistake> PowerMistakes() const;
+  std::vector<FactoringMistake> NumberMistakes() const;
+  std::vector<FactoringMistake> FactorMistakes() const;
 
  private:
   TakenOut Rest(const polynomials::Term& factor, const polynomials::Term& first,
                 polynomials::Term second) const;
+  FactoringMistake TakesOnlyNumber() const;
+  FactoringMistake TakesOnlyPower() const;
+  // Where the common number has a divisor.
+  void AddNumberLeft(std::vector<FactoringMistake>& mistakes) const;
 };
 
 // The sign in the parentheses reversed.
