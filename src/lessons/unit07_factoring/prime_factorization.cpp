@@ -60,10 +60,9 @@ void Divisors() {
 
 void OnlyTwoDivisors() {
   NewScreen();
-  SayAt(3, "7 dots make only one long row:");
-  DotRectangle(5, 4, 1, 7);
-  ShowAt(5, "1" + kTimes + "7 = 7", 22);
-  Say(R"(A \cprime number\z is a whole number with only two divisors, 1 and itself.)");
+  SayAt(3, "7 dots make one long row, and, turned, 7 rows of 1.  There is no other way:");
+  DotRectangle(6, 4, 1, 7);
+  SayAt(8, R"(A \cprime number\z is a whole number with exactly two divisors:  1 and itself.)");
   PageEnd();
   Say(R"(A whole number with more divisors, such as 12, is \ccomposite\z.)");
   Say("1 has only one divisor.  It is neither prime nor composite.");
@@ -88,7 +87,10 @@ void Sieve() {
   grid.CrossOutMultiples(5);
   grid.FramePrimes();
   ClearBelow(kTextRow);
-  SayAt(kTextRow, "25.  7 finds nothing new:  14, 21 and 28 are crossed out already.");
+  SayAt(kTextRow,
+        Text("5 crosses out 25.  Now we may stop:  {} is 49, and 14, 21 and 28 have the smaller "
+             "primes 2 and 3.",
+             "7" + kTimes + "7"));
   Say(R"(The framed numbers are the \yprimes\z.)");
   PageEnd();
 }
@@ -110,14 +112,17 @@ void SumOfDigits() {
   NewScreen();
   SayAt(
       3,
-      "What about 3?  54 has 5 tens.  Each ten is 9 + 1.  3 is a divisor of 9, so each ten leaves "
+      "What about 3?  57 has 5 tens.  Each ten is 9 + 1.  3 is a divisor of 9, so each ten leaves "
       "1 over:");
-  ShowAt(7, R"(5 from the tens and 4 ones:  \y5 + 4 = 9\z)", 2);
+  ShowAt(7, R"(5 from the tens and 7 ones:  \y5 + 7 = 12\z)", 2);
   PageEnd();
-  Say("3 is a divisor of 9, so it is a divisor of 54.  The sum of the digits tells it.");
+  Say("3 is a divisor of 12, so it is a divisor of 57.");
+  Say("100 is 99 + 1, so each hundred leaves 1 over, too.");
   PageEnd();
-  PaperBox({"2:  The last digit is 0, 2, 4, 6 or 8.", "3:  3 divides the sum of the digits.",
-            "5:  The last digit is 0 or 5."});
+  NewScreen();
+  PaperBox({"2:  The last digit is 0, 2, 4, 6 or 8.", "3:  3 divides the sum of all digits.",
+            "5:  The last digit is 0 or 5."},
+           3);
   Say(R"(\yTry it:\z  Is 3 a divisor of 124?  Of 51?)");
   PageEnd();
   Say(Text("Of 124, no:  {}.", DigitSumText(124)));
@@ -162,10 +167,14 @@ void NotYetPrimes() {
 // --- Screen 5: always the same primes ---------------------------------------
 
 void TwoTrees() {
+  constexpr double kAnnsCol = 4;
+  constexpr double kBensCol = 24;
   NewScreen();
-  SayAt(3, "Ann and Ben start in two ways.  Will they find different primes?");
-  FactorTreeFigure anns(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 7, 4);
-  FactorTreeFigure bens(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(5))), 7, 24);
+  SayAt(3, R"(\yTry it:\z  Finish both trees.  Do Ann and Ben find different primes?)");
+  ShowAt(6.5, "Ann", kAnnsCol);
+  ShowAt(6.5, "Ben", kBensCol);
+  FactorTreeFigure anns(Split(Split(Leaf(2), Leaf(3)), Split(Leaf(2), Leaf(5))), 6.5, kAnnsCol);
+  FactorTreeFigure bens(Split(Split(Leaf(2), Leaf(2)), Split(Leaf(3), Leaf(5))), 6.5, kBensCol);
   anns.Grow();
   bens.Grow();
   PageEnd();
@@ -191,17 +200,26 @@ void SmallestPrimeFirst() {
   FactorTreeFigure tree(TreeOfSmallestPrimes(154), 5.5, 4);
   SplitWithReason(tree, 0, 154, 2);
   PageEnd();
-  SplitWithReason(tree, 1, 77, 7);
-  SayAt(11.5, EndAtPrime(11));
+  SayAt(tree.RowOf(1), "77:  2, 3 and 5 fail.", {.col = kReasonCol});
+  SayAt(12.5, R"(When the tests fail, we try the next primes:  \y7, 11, 13\z.)");
   PageEnd();
-  ClearBelow(11.5);
-  tree.DropPrimes(12);
-  SayAt(14, "When the tests fail, we try the next primes:  7, 11, 13.");
-  Say(R"(\yTry it:\z  Factor 84 into primes.)");
+  SayAt(tree.RowOf(2), Text("7 is the next:  {}.", "77 = 7" + kTimes + "11"), {.col = kReasonCol});
+  tree.Grow();
+  tree.DropPrimes(16);
   PageEnd();
-  SayAt(20, Text("{}, {}, and {}:", "84 = 2" + kTimes + "42", "42 = 2" + kTimes + "21",
-                 "21 = 3" + kTimes + "7"));
-  ShowAt(22.5, R"(84 = \y2)" + kTimes + "2" + kTimes + "3" + kTimes + R"(7\z)", 4);
+}
+
+void HowFarToTry() {
+  NewScreen();
+  SayAt(3, R"(How far must we try?  Take \y67\z.)");
+  Say(Text("2, 3, 5 and 7 fail, and {} is 121, more than 67.  So 67 is a prime.",
+           "11" + kTimes + "11"));
+  Say(R"(\yTry it:\z  Is 49 a prime?  Is 91?)");
+  PageEnd();
+  Say(Text("No:  {}, and {}.", "49 = 7" + kTimes + "7", "91 = 7" + kTimes + "13"));
+  Say(Text(R"(We stop when \y{}\z is larger than the number.  Two )"
+           "larger factors would give too much.",
+           "prime" + kTimes + "prime"));
   PageEnd();
 }
 
@@ -209,29 +227,33 @@ void SmallestPrimeFirst() {
 
 void EqualFactors() {
   NewScreen();
-  SayAt(3, "72 has three factors 2 and two factors 3.  We write them as powers:");
-  ShowAt(6, "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + "3", 6);
-  ShowAt(8, R"(   = \y2^3^)" + kTimes + R"(3^2^\z)", 6);
-  PageEnd();
-  SayAt(10, "The exponent tells how many times a prime is a factor.");
-  Say(Text(R"(\yCheck:\z  {}.  A lost factor would show here.)", "8" + kTimes + "9 = 72"));
+  SayAt(3, "We write equal factors as powers:");
+  ShowAt(5.5,
+         "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + R"(3 = \y2^3^)" + kTimes +
+             R"(3^2^\z)",
+         3);
+  SayAt(8, Text("The exponent 3 in {} tells that 2 is a factor three times.", "2^3^"));
+  Say(Text(R"(\yCheck:\z  {})", "8" + kTimes + "9 = 72"));
   PageEnd();
 }
 
 void FormsOfPowers() {
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  {}.  What is wrong?)", "40 = 2^3^" + kTimes + "5"));
-  PaperBox({R"(\r40 = 2)" + kTimes + R"(5\z)", R"(\r40 = 3^2^)" + kTimes + R"(5\z)",
-            R"(\r40 = 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
+  SayAt(3, Text("{} is right.", "40 = 2^3^" + kTimes + "5"));
+  AddLine(R"(\yTry it:\z  What is wrong in these three?)");
+  PaperBox({R"(A:  \r40 = 2)" + kTimes + R"(5\z)", R"(B:  \r40 = 3^2^)" + kTimes + R"(5\z)",
+            R"(C:  \r40 = 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
   PageEnd();
-  Say("First:  2 is a factor three times.  Second:  base and exponent are exchanged.  Third:  1 is "
-      "not a prime.");
+  Say("A:  2 is a factor three times.");
+  AddLine(Text("B:  {} is {}, not {}.", "2^3^", fractions::ProductText({2, 2, 2}),
+               fractions::ProductText({3, 3})));
+  AddLine("C:  1 is not a prime.");
   Say(R"(\yTry it:\z  Factor 90 into primes.)");
   PageEnd();
   Say(Text("{}, {}, and {}:", "90 = 2" + kTimes + "45", "45 = 3" + kTimes + "15",
            "15 = 3" + kTimes + "5"));
-  Show(R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 4);
-  AddLine("The exponent 1 is not written.");
+  ShowAt(NextRow() + 1, R"(90 = \y2)" + kTimes + "3^2^" + kTimes + R"(5\z)", 4);
+  Say("The exponent 1 is not written.");
   PageEnd();
 }
 
@@ -243,9 +265,12 @@ class PrimeFactorization final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{EqualRows, Divisors},          {OnlyTwoDivisors, Sieve},
-            {LastDigits, SumOfDigits},      {FirstTree, NotYetPrimes},
-            {TwoTrees, SmallestPrimeFirst}, {EqualFactors, FormsOfPowers}};
+    return {{EqualRows, Divisors},
+            {OnlyTwoDivisors, Sieve},
+            {LastDigits, SumOfDigits},
+            {FirstTree, NotYetPrimes},
+            {TwoTrees, SmallestPrimeFirst, HowFarToTry},
+            {EqualFactors, FormsOfPowers}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -292,6 +317,10 @@ void PrimeFactorization::BeginExplanation() const {
   SayAt(4.5, problem.question[0]);
 }
 
+std::string TimesText(int count) {
+  return count == 2 ? "twice" : NumStr(count) + " times";
+}
+
 void PrimeFactorization::GrowTree() const {
   BeginExplanation();
   SayAt(6,
@@ -307,6 +336,7 @@ void PrimeFactorization::GrowTree() const {
   }
   const double below = tree.RowOf(tree.Levels());
   SayAt(below, EndAtPrime(rest));
+  if (rest > 3) AddLine(ReasonForPrime(rest), {.col = 3});
   PageEnd();
   ClearBelow(below);
   tree.DropPrimes(below);
@@ -324,7 +354,7 @@ void PrimeFactorization::WritePowers() const {
     SayAt(8.5, "We write equal factors as a power:");
     for (const int prime : Different(primes_))
       if (CountOf(primes_, prime) > 1)
-        AddLine(Text("   {} is a factor {} times.", prime, CountOf(primes_, prime)));
+        AddLine(Text("   {} is a factor {}.", prime, TimesText(CountOf(primes_, prime))));
   }
   PageEnd();
   Show(number + R"(\y)" + PowersText(primes_) + R"(\z)", 4);

@@ -127,7 +127,7 @@ void OfferFactorizations(Problem& problem, const FactorList& primes, RandomStrea
   const std::vector<int> order = random.RandSeq(count, count);
   const auto prime = [&](std::size_t i) { return primes[static_cast<std::size_t>(order[i] - 1)]; };
   const int recipe = random.Index(8);
-  const bool tooMany = random.Sign() > 0;
+  const bool tooMany = random.Sign() > 0 && recipe <= 4;
 
   const auto [first, second] = PrimesToMerge(primes, prime(0), prime(1));
   const int miscounted = prime(0);
@@ -142,8 +142,7 @@ void OfferFactorizations(Problem& problem, const FactorList& primes, RandomStrea
   choices.Right(primes);
   choices.Wrong(miscounts, counted);
   choices.Wrong(composite, Merged(primes, first, second));
-  if (tooMany && recipe <= 4)
-    choices.Wrong(composite + " and " + miscounts, Merged(counted, first, second));
+  if (tooMany) choices.Wrong(composite + " and " + miscounts, Merged(counted, first, second));
   if (recipe % 2 == 0)
     powers.Exchange();
   else
