@@ -75,7 +75,7 @@ void Sieve() {
   SayAt(3, "Which are prime numbers, or primes?");
   const NumberGrid grid(6);
   PageEnd();
-  grid.CrossOut(1);
+  grid.CrossOutOne();
   grid.CrossOutMultiples(2);
   SayAt(kTextRow, "1 is no prime.  2 is one, but 4, 6, 8, and so on, are composite.");
   Say(R"(\yTry it:\z  3 is a prime.  Which numbers does it cross out?)");
@@ -198,14 +198,15 @@ void SmallestPrimeFirst() {
   NewScreen();
   SayAt(3, R"(Let's split off the \ysmallest\z prime:)");
   FactorTreeFigure tree(TreeOfSmallestPrimes(154), 5.5, 4);
-  SplitWithReason(tree, 0, 154, 2);
-  PageEnd();
-  SayAt(tree.RowOf(1), "77:  2, 3 and 5 fail.", {.col = kReasonCol});
-  SayAt(12.5, R"(When the tests fail, we try the next primes:  \y7, 11, 13\z.)");
-  PageEnd();
-  SayAt(tree.RowOf(2), Text("7 is the next:  {}.", "77 = 7" + kTimes + "11"), {.col = kReasonCol});
+  SayAt(tree.RowOf(0), "154 ends in 4.", {.col = kReasonCol});
   tree.Grow();
-  tree.DropPrimes(16);
+  PageEnd();
+  SayAt(tree.RowOf(1), "2, 3 and 5 fail.", {.col = kReasonCol});
+  SayAt(14, R"(When the tests fail, we try the next primes:  \y7, 11, 13\z.)");
+  PageEnd();
+  ShowAt(tree.RowOf(2), "77 = 7" + kTimes + "11", kReasonCol);
+  tree.Grow();
+  tree.DropPrimes(12);
   PageEnd();
 }
 
@@ -241,7 +242,7 @@ void FormsOfPowers() {
   NewScreen();
   SayAt(3, Text("{} is right.", "40 = 2^3^" + kTimes + "5"));
   AddLine(R"(\yTry it:\z  What is wrong in these three?)");
-  PaperBox({R"(A:  \r40 = 2)" + kTimes + R"(5\z)", R"(B:  \r40 = 3^2^)" + kTimes + R"(5\z)",
+  PaperBox({R"(A:  \r40 = 2)" + kTimes + R"(5\z       B:  \r40 = 3^2^)" + kTimes + R"(5\z)",
             R"(C:  \r40 = 1)" + kTimes + "2^3^" + kTimes + R"(5\z)"});
   PageEnd();
   Say("A:  2 is a factor three times.");
@@ -357,7 +358,7 @@ void PrimeFactorization::WritePowers() const {
         AddLine(Text("   {} is a factor {}.", prime, TimesText(CountOf(primes_, prime))));
   }
   PageEnd();
-  Show(number + R"(\y)" + PowersText(primes_) + R"(\z)", 4);
+  ShowAt(NextRow() + 1, number + R"(\y)" + PowersText(primes_) + R"(\z)", 4);
   PageEnd();
 }
 

@@ -20,43 +20,41 @@ constexpr double kMath = 4;  // column of the lines of mathematics
 
 void GoingBack() {
   NewScreen();
-  SayAt(3, "We know how to distribute a factor:");
-  ShowAt(5, "3(2x + 5) = 6x + 15", kMath);
-  SayAt(7, R"(To \cfactor\z means to go back:)");
-  ShowAt(9, "6x + 15 = 3(2x + 5)", kMath);
+  SayAt(3, Text("We can distribute:  {}", "3(2x + 5) = 6x + 15"));
+  SayAt(5, R"(To \cfactor\z is to write a sum as a product.  We go back:)");
+  ShowAt(8, "6x + 15 = 3(2x + 5)", kMath);
   PageEnd();
-  SayAt(11,
+  SayAt(10,
         R"(3 is a \ccommon factor\z of 6x and 15.  We take it out, and divide each term by it.)");
-  Say(R"(\yTry it:\z  Which number is a common factor of 10x and 15?)");
+  Say(R"(\yTry it:\z  Which number is a common factor of 10x and 35?)");
   PageEnd();
-  Say("5 is.  10x divided by 5 is 2x, and 15 divided by 5 is 3:");
-  Show(R"(10x + 15 = \y5(2x + 3)\z)", kMath);
+  Say("5 is a common factor.  10x divided by 5 is 2x, and 35 divided by 5 is 7:");
+  ShowAt(NextRow() + 1, R"(10x + 35 = \y5(2x + 7)\z)", kMath);
   PageEnd();
 }
 
 void GreatestNumber() {
   NewScreen();
-  SayAt(3, "12x + 18 has the common factors 2, 3 and 6.  Which one do we take out?");
+  SayAt(3, R"(\yTry it:\z  Which common factors do 12x and 18 have?  Which one do we take out?)");
   PageEnd();
-  Say(R"(The \cgreatest common factor\z.  Then nothing common is left inside:)");
+  Say(R"(2, 3 and 6.  We take out the \cgreatest common factor\z, so nothing common is left:)");
   PaperBox({R"(\r2(6x + 9)\z    3 is still common)", R"(6(2x + 3)    nothing is common)"});
   PageEnd();
   Say(Text(R"(\yTry it:\z  Ben writes {}.  What is still common?)", "24x + 40 = 4(6x + 10)"));
   PageEnd();
-  Say("2 is a factor of 6x and of 10.  So we take out 8:");
-  Show(R"(24x + 40 = \y8(3x + 5)\z)", kMath);
+  Say(Text("2 is a factor of 6x and of 10.  So we take out {}:", "4 " + tutor::Times + " 2 = 8"));
+  ShowAt(NextRow() + 1, R"(24x + 40 = \y8(3x + 5)\z)", kMath);
   PageEnd();
 }
 
 void PrimesInCommon() {
   NewScreen();
-  SayAt(3, "The primes help us find the greatest common factor of 24 and 36:");
+  SayAt(3, "We look for what 24 and 36 share, and write equal primes under each other:");
   const CommonFactorsFigure figure(NumberWrittenOut(24), NumberWrittenOut(36), 6, kMath);
   PageEnd();
   figure.FrameCommon();
   figure.DropCommon("12");
-  SayAt(11.5, "The framed primes are factors of both numbers.  We multiply them.");
-  PageEnd();
+  SayAt(11.5, "We multiply the primes that both have.");
   Say(R"(\yTry it:\z  What is the greatest common factor of 30 and 45?)");
   PageEnd();
   Say(Text(R"(30 is {}, and 45 is {}.  Both have 3 and 5, so it is \y15\z.)",
@@ -74,84 +72,117 @@ void LettersInCommon() {
   SayAt(11.5,
         Text(R"(Both have two factors x.  So we take {}, the power with the \ylower\z exponent.)",
              "x^2^"));
+  Say(Text(R"(\yTry it:\z  What do {} and n share?)", "n^4^"));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What is the greatest common factor of {} and {}?)", "n^4^", "n"));
-  PageEnd();
-  Say(R"(n has one factor n, so only one is common:  \yn\z.)");
+  Say(Text(R"(n is {}.  It has one factor n, so only one is common:  \yn\z.)", "n^1^"));
   PageEnd();
 }
 
-constexpr CommonMonomial kExample = {'x', {18, 12}, {5, 2}, false};
+constexpr CommonMonomial kExample = {'w', {18, 12}, {5, 2}, false};
 
-// Both terms over the greatest common factor, built up beside each other.
+// A term over the greatest common factor, built up: "(-12w^2^)/(6w^2^) = -2".
+std::string QuotientLine(const CommonMonomial& sum, int i) {
+  return "(" + TermText(sum.SignedTermAt(i)) + ")/(" + TermText(sum.CommonFactor()) +
+         ") = " + TermText(sum.SignedQuotient(i));
+}
+
 void ShowQuotients(const CommonMonomial& sum, double row) {
-  const auto quotient = [&](int i) {
-    return TermText(sum.TermAt(i)) + "/(" + TermText(sum.CommonFactor()) +
-           ") = " + TermText(sum.Quotient(i));
-  };
-  ShowAt(row, quotient(0) + "      " + quotient(1), kMath);
+  ShowAt(row, QuotientLine(sum, 0) + "      " + QuotientLine(sum, 1), kMath);
 }
 
-void NumbersAndLetters() {
+// The factor times what is left of a term, in parentheses that keep the sign: "(2w^3^)(-20) = ...".
+std::string ProductLine(const CommonMonomial& sum, int i) {
+  return "(" + TermText(sum.CommonFactor()) + ")(" + TermText(sum.SignedQuotient(i)) +
+         ") = " + TermText(sum.SignedTermAt(i));
+}
+
+void NumbersAndPowers() {
   NewScreen();
   SayAt(3, Text("Let's factor {}.", kExample.Text()));
-  Say(Text("The greatest common factor of 18 and 12 is 6, and that of {} and {} is {}.", "x^5^",
-           "x^2^", "x^2^"));
-  Say(Text(R"(We take out both:  \y{}\z)", "6x^2^"));
+  Say(Text("The greatest common factor of 18 and 12 is 6, and that of {} and {} is {}.", "w^5^",
+           "w^2^", "w^2^"));
+  Say(Text(R"(We take out both:  \y{}\z)", "6w^2^"));
   PageEnd();
-  SayAt(11, "We divide each term by it.  The numbers are divided, the exponents subtracted:");
-  ShowQuotients(kExample, 15);
+  SayAt(11, Text("We divide each term by it.  {} has three factors w more than {}:  {}.", "w^5^",
+                 "w^2^", "5 - 2 = 3"));
+  ShowAt(15, QuotientLine(kExample, 0), kMath);
   PageEnd();
+  ShowAt(15, QuotientLine(kExample, 1), 21);
   ShowAt(18, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
   PageEnd();
 
   NewScreen();
   ShowAt(3, kExample.Text() + " = " + TakenOutText(kExample.Right()), kMath);
-  const std::string factor = "6x^2^ " + tutor::Times + " ";
-  SayAt(5, Text(R"(\yCheck:\z  {}, and {}.)", factor + "3x^3^ = 18x^5^", factor + "2 = 12x^2^"));
+  SayAt(5, Text(R"(\yCheck:\z  {}, and {}.)", ProductLine(kExample, 0), ProductLine(kExample, 1)));
   PageEnd();
   RuleBox("Taking Out the Common Factor",
-          {"Find the greatest common factor.", "Divide each term by it.",
-           "Write it before the parentheses."},
-          {.width = 32});
-  PageEnd();
-  Say(R"(\yTry it:\z  What is still common inside?)");
-  PaperBox({R"(\r6(3x^5^ + 2x^2^)\z)", R"(\rx^2^(18x^3^ + 12)\z)", R"(\r6x(3x^4^ + 2x)\z)"});
-  PageEnd();
-  Say(Text("In the first {}, in the second 6, in the third x.", "x^2^"));
+          {"1. Find the greatest common factor.", "2. Divide each term by it.",
+           "3. Write:  factor (results)"},
+          {.width = 38});
   PageEnd();
 }
 
-void MinusAndOne() {
+void FactorTogether() {
+  constexpr CommonMonomial kTask = {'t', {30, 20}, {4, 3}, false};
   NewScreen();
-  SayAt(3, "The minus sign stays a minus sign:");
-  ShowAt(5, R"(20n^4^ - 8n^3^ = \y4n^3^(5n - 2)\z)", kMath);
+  SayAt(3, Text(R"(\yTry it:\z  Factor {}.)", kTask.Text()));
   PageEnd();
-  SayAt(7, Text("What if a term is the common factor itself?  Let's take {} out of {}:", "3y",
+  Say(Text(R"(10 is the greatest common factor of 30 and 20, and {} that of the powers:  \y{}\z)",
+           "t^3^", "10t^3^"));
+  PageEnd();
+  ShowQuotients(kTask, NextRow() + 2.5);
+  Show(kTask.Text() + R"( = \y)" + TakenOutText(kTask.Right()) + R"(\z)", kMath);
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  What is still common inside, when we factor {}?)", kExample.Text()));
+  PaperBox(
+      {R"(A:  \r6(3w^5^ + 2w^2^)\z      B:  \rw^2^(18w^3^ + 12)\z)", R"(C:  \r6w(3w^4^ + 2w)\z)"});
+  PageEnd();
+  Say(Text("A:  {}      B:  6      C:  w", "w^2^"));
+  PageEnd();
+}
+
+void MinusSign() {
+  constexpr CommonMonomial kSum = {'n', {20, 8}, {4, 3}, true};
+  NewScreen();
+  SayAt(3, Text("A minus sign goes with its term.  Let's divide the terms of {}:", kSum.Text()));
+  ShowQuotients(kSum, 7);
+  PageEnd();
+  ShowAt(9.5, kSum.Text() + R"( = \y)" + TakenOutText(kSum.Right()) + R"(\z)", kMath);
+  SayAt(11.5, Text(R"(\yTry it:\z  Factor {}.)", "18k^5^ - 24k^3^"));
+  PageEnd();
+  PaperBox({R"(6k^3^(3k^2^ - 4),  \rnot 6k^3^(3k^2^ + 4)\z)"});
+  Say(Text(R"(\yCheck:\z  {}, and {}.)", "(6k^3^)(3k^2^) = 18k^5^", "(6k^3^)(-4) = -24k^3^"));
+  PageEnd();
+}
+
+void OneIsLeft() {
+  NewScreen();
+  SayAt(3, Text("What if a term is the common factor itself?  Let's take {} out of {}:", "3y",
                 "9y^3^ + 3y"));
-  ShowAt(11, "9y^3^/(3y) = 3y^2^       3y/(3y) = 1", kMath);
+  ShowAt(7, "9y^3^/(3y) = 3y^2^       3y/(3y) = 1", kMath);
   PageEnd();
-  SayAt(13.5, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
+  SayAt(9.5, R"(\yWatch out:\z  What is left is 1, not nothing.  The 1 must be written:)");
   PaperBox({R"(3y(3y^2^ + 1),  \rnot 3y(3y^2^)\z)"});
   Say(Text(R"(\yTry it:\z  Factor {}.)", "8a^5^ - 4a^2^"));
   PageEnd();
-  Say(Text("{} is common, and the second term leaves 1:", "4a^2^"));
-  Show(R"(8a^5^ - 4a^2^ = \y4a^2^(2a^3^ - 1)\z)", kMath);
+  Say(Text("{} is common, and the second term leaves -1:", "4a^2^"));
+  ShowAt(NextRow() + 1, R"(8a^5^ - 4a^2^ = \y4a^2^(2a^3^ - 1)\z)", kMath);
   PageEnd();
 }
 
 void FindTheMistake() {
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  {}.  What is wrong?)", "10a^4^ - 15a^2^"));
-  PaperBox({R"(A:  \r5a^2^(2a^4^ - 3)\z)", R"(B:  \r5a^2^(2a^2^ - 15)\z)",
+  SayAt(3, Text(R"(\yTry it:\z  Three students factor {}.  What did each do wrong?)",
+                "10a^4^ - 15a^2^"));
+  PaperBox({R"(A:  \r5a^2^(2a^4^ - 3)\z      B:  \r5a^2^(2a^2^ - 15)\z)",
             R"(C:  \r5a^4^(2 - 3a^2^)\z)"});
   PageEnd();
-  Say(Text("A:  The exponent inside was not made smaller.  {} divided by {} is {}.", "a^4^", "a^2^",
-           "a^2^"));
-  Say("B:  Only the first term was divided.  15 must become 3.");
+  Say("We multiply back:");
+  AddLine(Text("A:  {}.  {} was not divided.", "(5a^2^)(2a^4^) = 10a^6^", "a^4^"));
+  AddLine(Text("B:  {}.  15 was not divided.", "(5a^2^)(15) = 75a^2^"));
   PageEnd();
-  Say(Text("C:  The higher power was taken out, but {} is not a factor of {}.", "a^4^", "a^2^"));
-  Show(R"(10a^4^ - 15a^2^ = \y5a^2^(2a^2^ - 3)\z)", kMath);
+  AddLine(Text("C:  {}.  The power must be a factor of both.", "(5a^4^)(3a^2^) = 15a^6^"));
+  ShowAt(NextRow() + 1, R"(10a^4^ - 15a^2^ = \y5a^2^(2a^2^ - 3)\z)", kMath);
   PageEnd();
 }
 
@@ -163,8 +194,8 @@ class RemovingTheGreatestCommonFactor final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{GoingBack, GreatestNumber, PrimesInCommon, LettersInCommon, NumbersAndLetters,
-             MinusAndOne, FindTheMistake}};
+    return {{GoingBack, GreatestNumber, PrimesInCommon, LettersInCommon, NumbersAndPowers,
+             FactorTogether, MinusSign, OneIsLeft, FindTheMistake}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -175,7 +206,7 @@ class RemovingTheGreatestCommonFactor final : public LessonScript {
 
   void BeginExplanation() const;
   void ExplainNumbers() const;
-  void ExplainLetters() const;
+  void ExplainPowers() const;
   void Divide() const;
   void Check() const;
 
@@ -220,8 +251,10 @@ void RemovingTheGreatestCommonFactor::DrawProblem(RandomStream& random) {
 // Mistakes of one sort lead to similar texts, which keeps the right choice from being the one most
 // like all others.  One of them at most has the wrong sign.
 void RemovingTheGreatestCommonFactor::OfferChoices(RandomStream& random) {
-  const int sort = random.Rand(1, 3);
-  const bool withSign = random.Rand(0, 1) == 1 || sort == 3;
+  const int sort = random.Rand(1, 7);
+  const bool powers = sort <= 3;
+  const bool factors = sort >= 6;
+  const bool withSign = random.Rand(0, 1) == 1 || factors;
   const TakenOut right = sum_.Right();
 
   Choices<std::string> choices(problem, choice_kind::FiveShuffled,
@@ -234,9 +267,9 @@ void RemovingTheGreatestCommonFactor::OfferChoices(RandomStream& random) {
     choices.Wrong("leaves out the 1", TakenOutText({right.factor, {right.inside.front()}}));
   else if (withSign)
     reverseSign();
-  for (const FactoringMistake& mistake : sort == 1   ? sum_.PowerMistakes()
-                                         : sort == 2 ? sum_.NumberMistakes()
-                                                     : sum_.FactorMistakes())
+  for (const FactoringMistake& mistake : powers    ? sum_.PowerMistakes()
+                                         : factors ? sum_.FactorMistakes()
+                                                   : sum_.NumberMistakes())
     choices.Wrong(mistake.name, TakenOutText(mistake.taken));
   if (!choices.Full()) reverseSign();
 }
@@ -254,7 +287,7 @@ void RemovingTheGreatestCommonFactor::ShowProblem() {
 
 void RemovingTheGreatestCommonFactor::ExplainProblem() {
   ExplainNumbers();
-  ExplainLetters();
+  ExplainPowers();
   Divide();
   Check();
   Conclude(problem);
@@ -269,7 +302,8 @@ void RemovingTheGreatestCommonFactor::BeginExplanation() const {
 void RemovingTheGreatestCommonFactor::ExplainNumbers() const {
   BeginExplanation();
   const auto [first, second] = sum_.numbers;
-  SayAt(8, Text("First the numbers.  We write {} and {} as products of primes:", first, second));
+  SayAt(8, Text("First the numbers.  We write equal primes of {} and {} under each other:", first,
+                second));
   const CommonFactorsFigure figure(NumberWrittenOut(first), NumberWrittenOut(second), 11, kMath);
   PageEnd();
   figure.FrameCommon();
@@ -279,18 +313,20 @@ void RemovingTheGreatestCommonFactor::ExplainNumbers() const {
   PageEnd();
 }
 
-void RemovingTheGreatestCommonFactor::ExplainLetters() const {
+void RemovingTheGreatestCommonFactor::ExplainPowers() const {
   NewScreen();
   BeginExplanation();
   const WrittenProduct higher = PowerWrittenOut(sum_.letter, sum_.powers[0]);
   const WrittenProduct lower = PowerWrittenOut(sum_.letter, sum_.powers[1]);
-  SayAt(8, Text("Then the letters.  What do {} and {} share?", higher.name, lower.name));
+  SayAt(8, Text("Then the powers.  What do {} and {} share?", higher.name, lower.name));
   const CommonFactorsFigure figure(higher, lower, 11, kMath);
   PageEnd();
   figure.FrameCommon();
   figure.DropCommon(lower.name);
   SayAt(figure.RowBelow() + 0.5,
-        Text("{} is common, the power with the lower exponent.", lower.name));
+        sum_.powers[1] > 1
+            ? Text("{} is common, the power with the lower exponent.", lower.name)
+            : Text("{} is {}, so {} is common.", lower.name, lower.name + "^1^", lower.name));
   Say(Text(R"(So the greatest common factor is \y{}\z.)", TermText(sum_.CommonFactor())));
   PageEnd();
 }
@@ -302,8 +338,8 @@ void RemovingTheGreatestCommonFactor::Divide() const {
   ShowQuotients(sum_, 11);
   PageEnd();
   SayAt(13.5, "We write the factor in front, and what is left in parentheses:");
-  Show(sum_.Text() + R"( = \y)" + TakenOutText(sum_.Right()) + R"(\z)", kMath);
-  if (sum_.LeavesOne()) AddLine("The 1 must be written.");
+  ShowAt(NextRow() + 1, sum_.Text() + R"( = \y)" + TakenOutText(sum_.Right()) + R"(\z)", kMath);
+  if (sum_.LeavesOne()) Say("The 1 must be written.");
   PageEnd();
 }
 
@@ -312,10 +348,9 @@ void RemovingTheGreatestCommonFactor::Check() const {
   BeginExplanation();
   ShowAt(7.5, "= " + TakenOutText(sum_.Right()), kMath);
   SayAt(9.5, R"(\yCheck:\z  We distribute the factor.)");
-  for (int i = 0; i < 2; ++i)
-    Show(TermText(sum_.CommonFactor()) + " " + tutor::Times + " " + TermText(sum_.Quotient(i)) +
-             " = " + TermText(sum_.TermAt(i)),
-         kMath);
+  ShowAt(11, ProductLine(sum_, 0), kMath);
+  ShowAt(12.5, ProductLine(sum_, 1), kMath);
+  ShowAt(14.5, "Together:  " + sum_.Text(), kMath);
   PageEnd();
   const int first = sum_.Quotient(0).coef;
   const int second = sum_.Quotient(1).coef;

@@ -35,6 +35,11 @@ Term CommonMonomial::Factor(int number, int power) const {
   return {number, std::string(static_cast<std::size_t>(power), letter)};
 }
 
+Term CommonMonomial::Signed(Term term, int i) const {
+  if (i == 1 && minus) term.coef *= -1;
+  return term;
+}
+
 Term CommonMonomial::TermAt(int i) const {
   return Factor(numbers[i], powers[i]);
 }

@@ -30,6 +30,7 @@ struct CommonMonomial {
   bool minus = false;       // between the terms
 
   polynomials::Term TermAt(int i) const;  // 0 or 1, without the sign between them
+  polynomials::Term SignedTermAt(int i) const { return Signed(TermAt(i), i); }
   std::string Text() const;
   int CommonNumber() const;
   // The greatest common factor, and a factor with another number and power.
@@ -41,6 +42,7 @@ struct CommonMonomial {
 
   // A term 0 or 1 divided by the greatest common factor, without the sign between the terms.
   polynomials::Term Quotient(int i) const;
+  polynomials::Term SignedQuotient(int i) const { return Signed(Quotient(i), i); }
   // Whether the second term divided is 1, which has to be written.
   bool LeavesOne() const { return numbers[1] == CommonNumber(); }
 
@@ -52,6 +54,7 @@ struct CommonMonomial {
   std::vector<FactoringMistake> FactorMistakes() const;
 
  private:
+  polynomials::Term Signed(polynomials::Term term, int i) const;
   TakenOut Rest(const polynomials::Term& factor, const polynomials::Term& first,
                 polynomials::Term second) const;
   FactoringMistake TakesOnlyNumber() const;

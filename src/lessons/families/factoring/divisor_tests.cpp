@@ -60,8 +60,8 @@ std::string EndAtPrime(int prime) {
 std::string ReasonForPrime(int prime) {
   int next = 2;  // the first prime that need not be tried
   while (!IsPrime(next) || next * next <= prime) ++next;
-  return Text("{} is more than {}, and {}.", NumStr(next) + " " + tutor::Times + " " + NumStr(next),
-              prime, Words{FailText(PrimesBelow(next))});
+  return Text("{}, and {} is too large.", Words{FailText(PrimesBelow(next))},
+              NumStr(next) + " " + tutor::Times + " " + NumStr(next));
 }
 
 }  // namespace course::factoring

@@ -11,7 +11,7 @@ std::string ReasonForDivisor(int number, int prime);
 std::string DigitSumText(int number);
 // "  7   It's divisible only by 7 and 1."
 std::string EndAtPrime(int prime);
-// "3 x 3 is more than 7, and 2 fails.": why no further prime has to be tried; from 5 on.
+// "2 fails, and 3 x 3 is too large.": why no further prime has to be tried; from 5 on.
 std::string ReasonForPrime(int prime);
 
 }  // namespace course::factoring

@@ -34,14 +34,21 @@ double NumberGrid::RowOf(int number) const {
   return row_ + kRowStep * ((number - 1) / kInRow);
 }
 
-void NumberGrid::CrossOut(int number) const {
+// Thin lines leave the numbers readable; each prime has its own slope and color.
+void NumberGrid::CrossOut(int number, int by) const {
   constexpr double kSide = 0.4;  // columns by which the line is longer than the number
-  isDrawDiagonalLineWithColor(RowOf(number) + 0.4, ColumnOf(number) - kSide, RowOf(number) - 0.2,
-                              LastColumnOf(number) + kSide, 3, platform::colour::Cyan);
+  constexpr double kAbove = 0.2, kBelow = 0.4;
+  const bool falls = by == 3;
+  const platform::Colour colour = falls     ? platform::colour::Green
+                                  : by == 5 ? platform::colour::Yellow
+                                            : platform::colour::Cyan;
+  isDrawDiagonalLineWithColor(RowOf(number) + (falls ? -kAbove : kBelow), ColumnOf(number) - kSide,
+                              RowOf(number) + (falls ? kBelow : -kAbove),
+                              LastColumnOf(number) + kSide, 1, colour);
 }
 
-void NumberGrid::CrossOutMultiples(int of) const {
-  for (int n = 2 * of; n <= kLast; n += of) CrossOut(n);
+void NumberGrid::CrossOutMultiples(int prime) const {
+  for (int n = 2 * prime; n <= kLast; n += prime) CrossOut(n, prime);
 }
 
 void NumberGrid::FramePrimes() const {

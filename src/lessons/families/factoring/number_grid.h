@@ -9,12 +9,13 @@ class NumberGrid {
   static constexpr int kLast = 30;
 
   explicit NumberGrid(double row);
-  void CrossOut(int number) const;
-  // All multiples of a number but itself.
-  void CrossOutMultiples(int of) const;
+  void CrossOutOne() const { CrossOut(1, 1); }
+  // All multiples of 2, 3 or 5 but itself.
+  void CrossOutMultiples(int prime) const;
   void FramePrimes() const;
 
  private:
+  void CrossOut(int number, int by) const;
   double RowOf(int number) const;
 
   double row_;
