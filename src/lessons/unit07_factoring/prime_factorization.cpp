@@ -233,7 +233,7 @@ void EqualFactors() {
          "72 = 2" + kTimes + "2" + kTimes + "2" + kTimes + "3" + kTimes + R"(3 = \y2^3^)" + kTimes +
              R"(3^2^\z)",
          3);
-  SayAt(8, Text("The exponent 3 in {} tells that 2 is a factor three times.", "2^3^"));
+  SayAt(8, "Exponent 3:  2 is a factor three times.");
   Say(Text(R"(\yCheck:\z  {})", "8" + kTimes + "9 = 72"));
   PageEnd();
 }

@@ -37,7 +37,7 @@ void GreatestNumber() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  Which common factors do 12x and 18 have?  Which one do we take out?)");
   PageEnd();
-  Say(R"(2, 3 and 6.  We take out the \cgreatest common factor\z, so nothing common is left:)");
+  Say(R"(2, 3 and 6.  We take out the \cgreatest common factor\z:)");
   PaperBox({R"(\r2(6x + 9)\z    3 is still common)", R"(6(2x + 3)    nothing is common)"});
   PageEnd();
   Say(Text(R"(\yTry it:\z  Ben writes {}.  What is still common?)", "24x + 40 = 4(6x + 10)"));
@@ -178,10 +178,12 @@ void FindTheMistake() {
             R"(C:  \r5a^4^(2 - 3a^2^)\z)"});
   PageEnd();
   Say("We multiply back:");
-  AddLine(Text("A:  {}.  {} was not divided.", "(5a^2^)(2a^4^) = 10a^6^", "a^4^"));
-  AddLine(Text("B:  {}.  15 was not divided.", "(5a^2^)(15) = 75a^2^"));
+  AddLine(Text("A:  {}, not {}.", "(5a^2^)(2a^4^) = 10a^6^", "10a^4^"));
+  AddLine(Text("B:  {}, not {}.", "(5a^2^)(15) = 75a^2^", "15a^2^"));
+  AddLine(Text("C:  {}, not {}.", "(5a^4^)(3a^2^) = 15a^6^", "15a^2^"));
   PageEnd();
-  AddLine(Text("C:  {}.  The power must be a factor of both.", "(5a^4^)(3a^2^) = 15a^6^"));
+  Say(Text("A:  {} was not divided.  B:  15 was not divided.  C:  {} is not a factor of {}.",
+           "a^4^", "a^4^", "a^2^"));
   ShowAt(NextRow() + 1, R"(10a^4^ - 15a^2^ = \y5a^2^(2a^2^ - 3)\z)", kMath);
   PageEnd();
 }
@@ -337,7 +339,7 @@ void RemovingTheGreatestCommonFactor::Divide() const {
   SayAt(8, Text("We divide each term by {}:", TermText(sum_.CommonFactor())));
   ShowQuotients(sum_, 11);
   PageEnd();
-  SayAt(13.5, "We write the factor in front, and what is left in parentheses:");
+  SayAt(14, "We write the factor in front, and what is left in parentheses:");
   ShowAt(NextRow() + 1, sum_.Text() + R"( = \y)" + TakenOutText(sum_.Right()) + R"(\z)", kMath);
   if (sum_.LeavesOne()) Say("The 1 must be written.");
   PageEnd();

@@ -34,17 +34,17 @@ double NumberGrid::RowOf(int number) const {
   return row_ + kRowStep * ((number - 1) / kInRow);
 }
 
-// Thin lines leave the numbers readable; each prime has its own slope and color.
+// Thin long lines leave the numbers readable; each prime has its own slope and color.
 void NumberGrid::CrossOut(int number, int by) const {
-  constexpr double kSide = 0.4;  // columns by which the line is longer than the number
-  constexpr double kAbove = 0.2, kBelow = 0.4;
+  constexpr double kSide = 0.7;  // columns by which the line is longer than the number
+  constexpr double kAbove = 0.45, kBelow = 0.6;
   const bool falls = by == 3;
   const platform::Colour colour = falls     ? platform::colour::Green
                                   : by == 5 ? platform::colour::Yellow
                                             : platform::colour::Cyan;
   isDrawDiagonalLineWithColor(RowOf(number) + (falls ? -kAbove : kBelow), ColumnOf(number) - kSide,
                               RowOf(number) + (falls ? kBelow : -kAbove),
-                              LastColumnOf(number) + kSide, 1, colour);
+                              LastColumnOf(number) + kSide, 2, colour);
 }
 
 void NumberGrid::CrossOutMultiples(int prime) const {
