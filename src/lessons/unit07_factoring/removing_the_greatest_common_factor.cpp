@@ -131,7 +131,7 @@ void FactorTogether() {
            "t^3^", "10t^3^"));
   PageEnd();
   ShowQuotients(kTask, NextRow() + 2.5);
-  Show(kTask.Text() + R"( = \y)" + TakenOutText(kTask.Right()) + R"(\z)", kMath);
+  ShowAt(NextRow() + 0.5, kTask.Text() + R"( = \y)" + TakenOutText(kTask.Right()) + R"(\z)", kMath);
   PageEnd();
   Say(Text(R"(\yTry it:\z  What is still common inside, when we factor {}?)", kExample.Text()));
   PaperBox(
@@ -147,8 +147,8 @@ void MinusSign() {
   SayAt(3, Text("A minus sign goes with its term.  Let's divide the terms of {}:", kSum.Text()));
   ShowQuotients(kSum, 7);
   PageEnd();
-  ShowAt(9.5, kSum.Text() + R"( = \y)" + TakenOutText(kSum.Right()) + R"(\z)", kMath);
-  SayAt(11.5, Text(R"(\yTry it:\z  Factor {}.)", "18k^5^ - 24k^3^"));
+  ShowAt(10, kSum.Text() + R"( = \y)" + TakenOutText(kSum.Right()) + R"(\z)", kMath);
+  SayAt(12, Text(R"(\yTry it:\z  Factor {}.)", "18k^5^ - 24k^3^"));
   PageEnd();
   PaperBox({R"(6k^3^(3k^2^ - 4),  \rnot 6k^3^(3k^2^ + 4)\z)"});
   Say(Text(R"(\yCheck:\z  {}, and {}.)", "(6k^3^)(3k^2^) = 18k^5^", "(6k^3^)(-4) = -24k^3^"));
@@ -171,6 +171,7 @@ void OneIsLeft() {
 }
 
 void FindTheMistake() {
+  constexpr double kAir = 0.3;  // rows, between exponents and the parentheses above
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  Three students factor {}.  What did each do wrong?)",
                 "10a^4^ - 15a^2^"));
@@ -178,9 +179,9 @@ void FindTheMistake() {
             R"(C:  \r5a^4^(2 - 3a^2^)\z)"});
   PageEnd();
   Say("We multiply back:");
-  AddLine(Text("A:  {}, not {}.", "(5a^2^)(2a^4^) = 10a^6^", "10a^4^"));
-  AddLine(Text("B:  {}, not {}.", "(5a^2^)(15) = 75a^2^", "15a^2^"));
-  AddLine(Text("C:  {}, not {}.", "(5a^4^)(3a^2^) = 15a^6^", "15a^2^"));
+  ShowAt(NextRow() + kAir, "A:  (5a^2^)(2a^4^) = 10a^6^, not 10a^4^.", 1);
+  ShowAt(NextRow() + kAir, "B:  (5a^2^)(15) = 75a^2^, not 15a^2^.", 1);
+  ShowAt(NextRow() + kAir, "C:  (5a^4^)(3a^2^) = 15a^6^, not 15a^2^.", 1);
   PageEnd();
   Say(Text("A:  {} was not divided.  B:  15 was not divided.  C:  {} is not a factor of {}.",
            "a^4^", "a^4^", "a^2^"));
