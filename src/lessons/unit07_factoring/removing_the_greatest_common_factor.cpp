@@ -108,7 +108,9 @@ void NumbersAndPowers() {
   ShowAt(15, QuotientLine(kExample, 0), kMath);
   PageEnd();
   ShowAt(15, QuotientLine(kExample, 1), 21);
-  ShowAt(18, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
+  SayAt(17.5,
+        Text("{} divided by {} is 1.  The exponents are subtracted, not added.", "w^2^", "w^2^"));
+  ShowAt(20.5, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
   PageEnd();
 
   NewScreen();
