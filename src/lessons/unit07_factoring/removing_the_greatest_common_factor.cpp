@@ -103,14 +103,14 @@ void NumbersAndPowers() {
            "w^2^", "w^2^"));
   Say(Text(R"(We take out both:  \y{}\z)", "6w^2^"));
   PageEnd();
-  SayAt(11, Text("We divide each term by it.  {} has three factors w more than {}:  {}.", "w^5^",
+  SayAt(10, Text("We divide each term by it.  {} has three factors w more than {}:  {}.", "w^5^",
                  "w^2^", "5 - 2 = 3"));
-  ShowAt(15, QuotientLine(kExample, 0), kMath);
+  ShowAt(14, QuotientLine(kExample, 0), kMath);
   PageEnd();
-  ShowAt(15, QuotientLine(kExample, 1), 21);
-  SayAt(17.5,
+  ShowAt(14, QuotientLine(kExample, 1), 21);
+  SayAt(16.5,
         Text("{} divided by {} is 1.  The exponents are subtracted, not added.", "w^2^", "w^2^"));
-  ShowAt(20.5, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
+  ShowAt(19.5, kExample.Text() + R"( = \y)" + TakenOutText(kExample.Right()) + R"(\z)", kMath);
   PageEnd();
 
   NewScreen();
