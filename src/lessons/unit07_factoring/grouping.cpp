@@ -124,7 +124,7 @@ void TheRule() {
   PageEnd();
   Say(Text("Let's factor {}.", TrinomialText(kAsked)));
   AddLine("  ac is 6 " + tutor::Times + " 3 = 18, and b is 11:");
-  ListTried(PairsUntilFound(kAsked));
+  ListTried(PairsUntilFound(kAsked, SearchFrom::One));
   PageEnd();
   SayAt(NextRow() + 0.5, "We split 11x into 2x + 9x:");
   ShowSteps(SplitMiddle(kAsked));
@@ -137,7 +137,7 @@ void TheRule() {
   PageEnd();
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({2, 7, 3})));
   PageEnd();
-  ListTried(PairsUntilFound({2, 7, 3}));
+  ListTried(PairsUntilFound({2, 7, 3}, SearchFrom::One));
   ShowSteps(SplitMiddle({2, 7, 3}));
   PageEnd();
 }
@@ -146,7 +146,7 @@ void NegativeLastNumber() {
   constexpr Trinomial kAsked = {3, -4, -4};
   NewScreen();
   SayAt(3, Text("Let's factor {}.  The product is -12, and the sum is -4:", TrinomialText(kAsked)));
-  ListTried(PairsUntilFound(kAsked));
+  ListTried(PairsUntilFound(kAsked, SearchFrom::One));
   PageEnd();
   Say("We write the negative part first.  Then the second group begins with a plus sign:");
   Show("  " + SplitMiddle(kAsked).FourTerms());
@@ -191,7 +191,7 @@ class UsingGrouping final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  std::vector<WrongFactors> SplittingMistakes() const;
+  std::vector<WrongFactors> SplittingMistakes(const SplitTrinomial& split) const;
 
   void BeginPage();
   void TellProductAndSum() const;
@@ -204,18 +204,24 @@ class UsingGrouping final : public LessonScript {
 
 // --- Generator -----------------------------------------------------------------------------------
 
-std::vector<WrongFactors> UsingGrouping::SplittingMistakes() const {
-  const SplitTrinomial split = SplitMiddle(asked_);
+std::vector<WrongFactors> UsingGrouping::SplittingMistakes(const SplitTrinomial& split) const {
   const auto [first, second] = split.Numbers();
+  const Factors right = split.Factored();
   std::vector<WrongFactors> mistakes = {
-      {"writes the two numbers straight into the factors", {{1, first}, {1, second}}}};
-  if (split.FirstOutside() > 1)  // only x is taken out of the first group
-    mistakes.push_back(
-        {"leaves a common factor inside", {{asked_.square, first}, {1, split.SecondOutside()}}});
-  const std::vector<NumberPair> pairs = PairsUntilFound(asked_);
-  if (pairs.size() > 1)
-    mistakes.push_back({"takes a pair with the right product and the wrong sum",
-                        SplitTrinomial(asked_, pairs[pairs.size() - 2]).Factored()});
+      {"takes the two numbers with the wrong signs", {BothSignsReversed(right)}},
+      {"writes the two numbers straight into the factors", {{{1, first}, {1, second}}}}};
+  if (split.FirstOutside() > 1)
+    mistakes.push_back({"takes only x out of the first group",
+                        {{{asked_.square, first}, {1, split.SecondOutside()}}}});
+  if (std::abs(split.SecondOutside()) == 1)
+    mistakes.push_back({"leaves out the 1", {{right.first, {right.second.lead, 0}}}});
+  WrongFactors wrongSum = {"takes a pair with the right product and the wrong sum", {}};
+  for (const NumberPair& pair : PairsBesideFound(asked_)) {
+    const Factors factors = SplitTrinomial(asked_, pair).Factored();
+    // A positive product does not tell the sign.
+    wrongSum.factors.push_back(asked_.constant > 0 ? BothSignsReversed(factors) : factors);
+  }
+  if (!wrongSum.factors.empty()) mistakes.push_back(wrongSum);
   return mistakes;
 }
 
@@ -223,7 +229,12 @@ void UsingGrouping::DrawProblem(RandomStream& random) {
   const int largest = random.Rand(1, 2) == 1 ? 5 : 9;
   asked_ = DrawFactors(random, largest).Product();
   problem.question = {"Find the factors of this trinomial:", TrinomialText(asked_)};
-  FillFactorChoices(problem, SplitMiddle(asked_).Factored(), SplittingMistakes(), largest, random);
+  const SplitTrinomial split = SplitMiddle(asked_);
+  WrongSign wrongSign = {random.Rand(1, 2) == 1};
+  if (split.Numbers().second < 0)  // the second group begins with a minus sign
+    wrongSign = {false, "overlooks the minus sign of the second group"};
+  FillFactorChoices(problem, split.Factored(), wrongSign, SplittingMistakes(split), largest,
+                    random);
 }
 
 // --- Problem page --------------------------------------------------------------------------------
@@ -271,7 +282,7 @@ void UsingGrouping::ListPairs() {
   constexpr std::size_t kInBox = 6;
   NewScreen();
   BeginPage();
-  std::vector<NumberPair> pairs = PairsUntilFound(asked_);
+  std::vector<NumberPair> pairs = PairsUntilFound(asked_, ShorterSearch(asked_));
   const int product = asked_.square * asked_.constant;
   if (pairs.size() > kInBox) {
     SayAt(8, Text("We list pairs with the product {}.  The sum of {} and {} is far from {}, so we "

@@ -205,7 +205,7 @@ class TrinomialsAX2BxC final : public LessonScript {
   void ShowProblem() override;
   void ExplainProblem() override;
 
-  std::vector<WrongFactors> TrialMistakes() const;
+  std::vector<WrongFactors> Mistakes() const;
 
   void BeginPage();
   void TellPairs() const;
@@ -219,15 +219,28 @@ class TrinomialsAX2BxC final : public LessonScript {
 
 // --- Generator -----------------------------------------------------------------------------------
 
-// Of all trials that do not give the middle term.
-std::vector<WrongFactors> TrinomialsAX2BxC::TrialMistakes() const {
-  std::vector<WrongFactors> mistakes;
-  for (const Trial& trial : AllTrials(asked_))
-    if (trial.Middle() != std::abs(asked_.middle))
-      mistakes.push_back({trial.CommonFactor() == 1
-                              ? "checks only the first and last terms"
-                              : "puts numbers with a common factor into one factor",
-                          WithSigns(trial, asked_)});
+// What all trials lead to that do not give the middle term, and the right one with wrong signs.
+std::vector<WrongFactors> TrinomialsAX2BxC::Mistakes() const {
+  WrongFactors commonFactor = {"puts numbers with a common factor into one factor", {}};
+  WrongFactors wrongFirst = {"takes the wrong pair for the first numbers", {}};
+  WrongFactors wrongLast = {"takes the wrong pair for the last numbers", {}};
+  WrongFactors wrongBoth = {"checks only the first and last terms", {}};
+  for (const Trial& trial : AllTrials(asked_)) {
+    if (trial.Middle() == std::abs(asked_.middle)) continue;
+    const bool sameFirst = trial.HasFirstNumbersOf(right_);
+    const bool sameLast = trial.HasLastNumbersOf(right_);
+    if (sameFirst && sameLast) continue;  // the last numbers are exchanged
+    WrongFactors& wrong = trial.CommonFactor() > 1 ? commonFactor
+                          : sameLast               ? wrongFirst
+                          : sameFirst              ? wrongLast
+                                                   : wrongBoth;
+    wrong.factors.push_back(WithSigns(trial, asked_));
+    if (trial.added)  // the last term does not tell the sign
+      wrongBoth.factors.push_back(BothSignsReversed(WithSigns(trial, asked_)));
+  }
+  std::vector<WrongFactors> mistakes = {{"reverses both signs", {BothSignsReversed(right_)}}};
+  for (const WrongFactors& wrong : {commonFactor, wrongFirst, wrongLast, wrongBoth})
+    if (!wrong.factors.empty()) mistakes.push_back(wrong);
   return mistakes;
 }
 
@@ -235,7 +248,8 @@ void TrinomialsAX2BxC::DrawProblem(RandomStream& random) {
   right_ = DrawFactors(random, kLargest);
   asked_ = right_.Product();
   problem.question = {"Find the factors of this trinomial:", TrinomialText(asked_)};
-  FillFactorChoices(problem, right_, TrialMistakes(), kLargest, random);
+  const WrongSign wrongSign = {random.Rand(1, 2) == 1};
+  FillFactorChoices(problem, right_, wrongSign, Mistakes(), kLargest, random);
 }
 
 // --- Problem page --------------------------------------------------------------------------------

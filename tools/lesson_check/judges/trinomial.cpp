@@ -28,6 +28,14 @@ bool IsProductOfBinomials(const std::string& text, char letter) {
   return true;
 }
 
+// As 2x(3x - 2).
+bool IsMonomialTimesBinomial(const std::string& text, char letter) {
+  const Expression expression = ParseExpression(text);
+  if (expression.kind != Kind::Product || ValueOf(text).Degree(letter) != 2) return false;
+  const auto isSum = [](const Expression& part) { return part.kind == Kind::Sum; };
+  return std::ranges::count_if(expression.parts, isSum) == 1 && isSum(expression.parts.back());
+}
+
 // The whole numbers p and q with x^2 + b x + c = (x + p)(x + q); the caller's numbers are small.
 struct Factors {
   long p = 0;
@@ -130,19 +138,16 @@ void AddSplittingMistakes(char letter, const Coefficients& asked, Reading& readi
           {asked.a / shared, first / shared, shared, asked.c * shared / first});
       continue;
     }
+    const long outside = asked.c * shared / first;  // of second x + c
     add("writes the two numbers straight into the factors", {1, first, 1, second});
-    if (shared > 1)  // only x is taken out of the first two terms
-      add("leaves a common factor inside", {asked.a, first, 1, asked.c * shared / first});
-  }
-}
-
-void AddTrialMistakes(char letter, const Coefficients& asked, Reading& reading) {
-  for (const Product& product : ProductsWithEnds(asked.a, asked.c)) {
-    if (product.Middle() == asked.b) continue;
-    reading.mistakes["checks only the first and last terms"].push_back(product.Text(letter));
-    if (product.HasCommonFactor())
-      reading.mistakes["puts numbers with a common factor into one factor"].push_back(
-          product.Text(letter));
+    add("takes the two numbers with the wrong signs",
+        {asked.a / shared, -first / shared, shared, -outside});
+    if (shared > 1) add("takes only x out of the first group", {asked.a, first, 1, outside});
+    if (std::labs(outside) == 1)
+      add("leaves out the 1", {asked.a / shared, first / shared, shared, 0});
+    if (first < 0 && second < 0)
+      add("overlooks the minus sign of the second group",
+          {asked.a / shared, first / shared, shared, -outside});
   }
 }
 
@@ -152,11 +157,34 @@ Product RightProduct(const Coefficients& asked) {
   throw Unreadable("the trinomial has no whole factors");
 }
 
+bool IsPair(long number, long other, long one, long two) {
+  return std::minmax(std::labs(number), std::labs(other)) ==
+         std::minmax(std::labs(one), std::labs(two));
+}
+
+void AddTrialMistakes(char letter, const Coefficients& asked, Reading& reading) {
+  const Product right = RightProduct(asked);
+  reading.mistakes["reverses both signs"] = {
+      Product{right.first, -right.firstLast, right.second, -right.secondLast}.Text(letter)};
+  for (const Product& product : ProductsWithEnds(asked.a, asked.c)) {
+    if (product.Middle() == asked.b) continue;
+    const auto add = [&](const char* mistake) {
+      reading.mistakes[mistake].push_back(product.Text(letter));
+    };
+    add("checks only the first and last terms");
+    if (product.HasCommonFactor()) add("puts numbers with a common factor into one factor");
+    const bool rightFirst = IsPair(product.first, product.second, right.first, right.second);
+    const bool rightLast =
+        IsPair(product.firstLast, product.secondLast, right.firstLast, right.secondLast);
+    if (!rightFirst && rightLast) add("takes the wrong pair for the first numbers");
+    if (rightFirst && !rightLast) add("takes the wrong pair for the last numbers");
+  }
+}
+
 void AddSignMistakes(char letter, const Product& right, Reading& reading) {
   const auto [first, p, second, q] = right;
   reading.mistakes["reverses one sign"] = {Product{first, -p, second, q}.Text(letter),
                                            Product{first, p, second, -q}.Text(letter)};
-  reading.mistakes["reverses both signs"] = {Product{first, -p, second, -q}.Text(letter)};
   const Product exchanged = {first, q, second, p};
   if (exchanged.Middle() != right.Middle())
     reading.mistakes["exchanges the last numbers"] = {exchanged.Text(letter)};
@@ -178,8 +206,8 @@ Reading ReadTrinomial(const course::Problem& problem, long largest,
   Reading reading;
   reading.answer = trinomial.Text();
   reading.value = [letter](const std::string& choice) {
-    if (!IsProductOfBinomials(choice, letter))
-      throw Unreadable("\"" + choice + "\" is no product of binomials");
+    if (!IsProductOfBinomials(choice, letter) && !IsMonomialTimesBinomial(choice, letter))
+      throw Unreadable("\"" + choice + "\" is no product of two factors with x");
     return ValueOf(choice).Text();
   };
   reading.Within("the first number", asked.a, 2, largest * largest);

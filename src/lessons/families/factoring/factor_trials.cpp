@@ -42,6 +42,15 @@ int Trial::CommonFactor() const {
   return std::max(CommonFactorOf(sizes.first), CommonFactorOf(sizes.second));
 }
 
+bool Trial::HasFirstNumbersOf(const Factors& factors) const {
+  return sizes.first.lead == factors.first.lead || sizes.first.lead == factors.second.lead;
+}
+
+bool Trial::HasLastNumbersOf(const Factors& factors) const {
+  const int last = sizes.first.constant;
+  return last == std::abs(factors.first.constant) || last == std::abs(factors.second.constant);
+}
+
 std::vector<Trial> AllTrials(const Trinomial& trinomial) {
   const bool added = trinomial.constant > 0;
   std::vector<Trial> trials;

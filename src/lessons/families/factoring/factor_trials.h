@@ -27,6 +27,9 @@ struct Trial {
   int Middle() const;
   // Of the terms in one of the parentheses; 1 for none.
   int CommonFactor() const;
+  // In either order and with any signs.
+  bool HasFirstNumbersOf(const Factors& factors) const;
+  bool HasLastNumbersOf(const Factors& factors) const;
 };
 
 // All trials of a trinomial that begins with a positive number and has no zero, the pairs whose

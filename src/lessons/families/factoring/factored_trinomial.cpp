@@ -21,7 +21,9 @@ struct Answer : Factors {
 };
 
 std::string AnswerText(const Answer& answer) {
-  return FactorsText(answer);
+  const auto& [first, second] = answer;
+  return second.constant == 0 ? CoefText(second.lead) + "x" + FactorText(first)
+                              : FactorsText(answer);
 }
 
 // A factor that is drawn with a negative number in front of x is written the other way round:
@@ -76,6 +78,10 @@ Factors WithRandomNumber(const Factors& right, bool signOfFirst, int largest,
 
 }  // namespace
 
+Factors BothSignsReversed(const Factors& factors) {
+  return OneSignReversed(OneSignReversed(factors, true), false);
+}
+
 Factors DrawFactors(RandomStream& random, int largest) {
   Factors factors;
   do {
@@ -85,29 +91,30 @@ Factors DrawFactors(RandomStream& random, int largest) {
   return InOrder(factors);
 }
 
-void FillFactorChoices(Problem& problem, const Factors& right,
-                       const std::vector<WrongFactors>& others, int largest, RandomStream& random) {
-  const bool signOfFirst = random.Rand(1, 2) == 1;
-  const bool hasRandomNumber = random.Rand(1, 3) == 1;
-  const bool otherComesFirst = random.Rand(1, 2) == 1;
-  const auto drawn = [&] { return Answer{WithRandomNumber(right, signOfFirst, largest, random)}; };
+void FillFactorChoices(Problem& problem, const Factors& right, const WrongSign& wrongSign,
+                       std::vector<WrongFactors> others, int largest, RandomStream& random) {
+  const auto drawn = [&] {
+    return Answer{WithRandomNumber(right, wrongSign.ofFirst, largest, random)};
+  };
   Choices<Answer> choices(problem, choice_kind::FiveShuffled, AnswerText);
   choices.Right({right});
-  choices.Wrong("reverses one sign", {OneSignReversed(right, signOfFirst)});
+  choices.Wrong(wrongSign.mistake, {OneSignReversed(right, wrongSign.ofFirst)});
   const Factors exchanged = ConstantsExchanged(right);
   if (exchanged.SameProductAs(right))  // as in (2x + 1)(2x + 5)
     choices.Wrong(kFiller, drawn());
   else
     choices.Wrong("exchanges the last numbers", {exchanged});
-  if (hasRandomNumber) choices.Wrong(kFiller, drawn());
-  const Factors bothReversed = OneSignReversed(OneSignReversed(right, true), false);
-  if (!otherComesFirst) choices.Wrong("reverses both signs", {bothReversed});
-  if (!others.empty()) {
-    const int place = random.Index(static_cast<int>(others.size()));
-    const WrongFactors& other = others[static_cast<std::size_t>(place - 1)];
-    choices.Wrong(other.mistake, {other.factors});
+  // With different signs the right factors are the box most like the others without the first one.
+  bool takesFirst = random.Rand(1, 6) > 1 && right.Product().constant < 0;
+  while (!choices.Full() && !others.empty()) {
+    const int drawnOther = random.Index(static_cast<int>(others.size()));
+    const int other = std::exchange(takesFirst, false) ? 1 : drawnOther;
+    const auto place = others.begin() + (other - 1);
+    const int result = random.Index(static_cast<int>(place->factors.size()));
+    choices.Wrong(place->mistake, {place->factors[static_cast<std::size_t>(result - 1)]});
+    others.erase(place);
   }
-  choices.Wrong("reverses both signs", {bothReversed});
+  choices.Wrong("reverses one sign", {OneSignReversed(right, !wrongSign.ofFirst)});
   choices.Fill(drawn);
 }
 

@@ -19,16 +19,25 @@ using polynomials::Trinomial;
 // factor with the smaller numbers stands first: the one in front of x decides, then the other.
 Factors DrawFactors(RandomStream& random, int largest);
 
+Factors BothSignsReversed(const Factors& factors);
+
+// Where the sign of one last number is reversed, and what the student did who reverses it.
+struct WrongSign {
+  bool ofFirst = true;
+  std::string mistake = "reverses one sign";
+};
+// A mistake and the factors to which it can lead, in no order.  Without a last number in the second
+// factor the x stands in front: 2x(3x - 2).
 struct WrongFactors {
   std::string mistake;
-  Factors factors;
+  std::vector<Factors> factors;
 };
-// Five shuffled choices: the right factors, those with one sign reversed, with exchanged last
-// numbers, and two of these three: both signs reversed, one of the others that are given, a random
-// number, which is there in a third of the problems.  Factors with the product of another choice
-// give way to a random number as well.
-void FillFactorChoices(Problem& problem, const Factors& right,
-                       const std::vector<WrongFactors>& others, int largest, RandomStream& random);
+// Five shuffled choices: the right factors, those with the wrong sign, those with exchanged last
+// numbers, and two mistakes of the list, drawn at random, as is what they lead to.  Where the
+// exchange gives the trinomial again a random number takes its place; where the list gives less
+// than two, the other sign is reversed.
+void FillFactorChoices(Problem& problem, const Factors& right, const WrongSign& wrongSign,
+                       std::vector<WrongFactors> others, int largest, RandomStream& random);
 
 // "6x^2^ + 7x - 10 = (x + 2)(6x - 5)".
 std::string Identity(const Factors& factors);

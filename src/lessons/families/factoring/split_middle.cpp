@@ -27,6 +27,17 @@ std::string OutsideFirst(const SplitTrinomial& split) {
   return CoefText(split.FirstOutside()) + "x";
 }
 
+std::vector<NumberPair> AllPairs(const Trinomial& trinomial) {
+  return polynomials::PairsWithProduct(ProductOfEnds(trinomial), Sgn(trinomial.middle));
+}
+
+std::ptrdiff_t PlaceOfFound(const std::vector<NumberPair>& pairs, const Trinomial& trinomial) {
+  const auto found = std::ranges::find(pairs, trinomial.middle, &NumberPair::Sum);
+  if (found == pairs.end())
+    platform::Stop("PlaceOfFound: no whole factors of " + TrinomialText(trinomial));
+  return found - pairs.begin();
+}
+
 }  // namespace
 
 SplitTrinomial::SplitTrinomial(const Trinomial& trinomial, const NumberPair& numbers)
@@ -53,18 +64,32 @@ std::string SplitTrinomial::TakenOut() const {
   return OutsideFirst(*this) + common + ConstantText(SecondOutside()) + common;
 }
 
-std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial) {
-  std::vector<NumberPair> pairs =
-      polynomials::PairsWithProduct(ProductOfEnds(trinomial), Sgn(trinomial.middle));
-  const auto found = std::ranges::find(pairs, trinomial.middle, &NumberPair::Sum);
-  if (found == pairs.end())
-    platform::Stop("PairsUntilFound: no whole factors of " + TrinomialText(trinomial));
-  pairs.erase(found + 1, pairs.end());
+std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial, SearchFrom from) {
+  std::vector<NumberPair> pairs = AllPairs(trinomial);
+  if (from == SearchFrom::CloseNumbers) std::ranges::reverse(pairs);
+  pairs.erase(pairs.begin() + PlaceOfFound(pairs, trinomial) + 1, pairs.end());
   return pairs;
 }
 
+SearchFrom ShorterSearch(const Trinomial& trinomial) {
+  return PairsUntilFound(trinomial, SearchFrom::CloseNumbers).size() <
+                 PairsUntilFound(trinomial, SearchFrom::One).size()
+             ? SearchFrom::CloseNumbers
+             : SearchFrom::One;
+}
+
+std::vector<NumberPair> PairsBesideFound(const Trinomial& trinomial) {
+  const std::vector<NumberPair> pairs = AllPairs(trinomial);
+  const std::ptrdiff_t found = PlaceOfFound(pairs, trinomial);
+  std::vector<NumberPair> beside;
+  for (const std::ptrdiff_t place : {found - 1, found + 1})
+    if (place >= 0 && place < std::ssize(pairs))
+      beside.push_back(pairs[static_cast<std::size_t>(place)]);
+  return beside;
+}
+
 SplitTrinomial SplitMiddle(const Trinomial& trinomial) {
-  NumberPair numbers = PairsUntilFound(trinomial).back();
+  NumberPair numbers = PairsUntilFound(trinomial, SearchFrom::One).back();
   if (numbers.first > 0 && numbers.second < 0) std::swap(numbers.first, numbers.second);
   return {trinomial, numbers};
 }

@@ -44,9 +44,16 @@ class SplitTrinomial {
   Binomial common_;
 };
 
+// Where a search begins: at 1, for a large sum, or at the numbers that are closest, for a small
+// one.
+enum class SearchFrom { One, CloseNumbers };
 // The pairs with the product a c, smaller size first, up to the one with the sum b.  A trinomial
 // that does not factor stops the program.
-std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial);
+std::vector<NumberPair> PairsUntilFound(const Trinomial& trinomial, SearchFrom from);
+// From where the pair is found sooner.
+SearchFrom ShorterSearch(const Trinomial& trinomial);
+// The next pairs on both sides of it, as far as there are any.
+std::vector<NumberPair> PairsBesideFound(const Trinomial& trinomial);
 // With that pair.  A negative number stands before a positive one: then nothing negative has to be
 // taken out of the second group.
 SplitTrinomial SplitMiddle(const Trinomial& trinomial);
