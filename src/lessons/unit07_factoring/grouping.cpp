@@ -1,6 +1,8 @@
 // The student can factor a trinomial such as 6x^2 + 11x - 10 without trials: splits the middle term
 // by two numbers with the product 6 times -10 and the sum 11, groups the four terms, and takes out
 // twice.
+#include <cmath>
+
 #include "lessons/families/factoring/factor_pairs.h"
 #include "lessons/families/factoring/factored_trinomial.h"
 #include "lessons/families/factoring/product_figures.h"
@@ -16,24 +18,31 @@ using namespace polynomials;
 
 // --- Screen 1: four terms ------------------------------------------------------------------------
 
-// The four terms, what is taken out of both groups, and the product.
-void ShowSteps(const SplitTrinomial& split) {
-  WhiteBox({.rows = 5});
-  SayInBox("  " + split.FourTerms());
-  SayInBox("= " + split.TakenOut());
-  SayInBox(R"(= \b)" + FactorsText(split.Factored()));
+// What is taken out of both groups, and the product, below a line that begins alike.
+void SayTakenOut(const SplitTrinomial& split) {
+  Show("= " + split.TakenOut());
+  Show("= " + FactorsText(split.Factored()));
+}
+
+void SayCheck(const SplitTrinomial& split) {
+  const auto [first, second] = split.Factored();
+  Say(R"(\yCheck:\z  )" +
+      WithoutBreaks(CoefText(first.lead * second.lead) + "x^2^" +
+                    SignedCoefText(first.lead * second.constant) + "x" +
+                    SignedCoefText(first.constant * second.lead) + "x" + tutor::Gap +
+                    SignedNumberText(first.constant * second.constant)));
+  AddLine("      = " + WithoutBreaks(TrinomialText(split.Factored().Product())));
 }
 
 void CommonParentheses() {
-  const std::string d = tutor::Dot;
   const SplitTrinomial split({2, 11, 15}, {6, 5});
   NewScreen();
   SayAt(3, "Both parts of this sum have the \\cfactor\\z y.  We take it out:");
-  ShowAt(5.5, "2x" + d + "y + 5" + d + "y = y(2x + 5)");
+  ShowAt(6, "2xy + 5y = y(2x + 5)");
   PageEnd();
-  SayAt(7.5,
+  SayAt(8,
         Text("A sum in parentheses can take the place of y, here {}:", FactorText(split.Common())));
-  TakeOutTwice(10, kMathCol, split);
+  TakeOutTwice(11, kMathCol + 2, split);
   PageEnd();
 }
 
@@ -41,23 +50,25 @@ void TwoGroups() {
   const SplitTrinomial first({2, 11, 15}, {6, 5});
   const SplitTrinomial second({4, 16, 15}, {10, 6});
   NewScreen();
-  SayAt(3, Text("{} has four terms and no common factor.  But we can make two groups:",
+  SayAt(3, Text("{} has no common factor.  We do not combine 6x and 5x yet, but group the first "
+                "two and the last two:",
                 first.FourTerms()));
   Show(first.Groups());
   PageEnd();
   Say("Each group has a greatest common factor, 2x and 5.  We take it out:");
-  Show(first.TakenOut());
+  GoBelow();
+  Show("= " + first.TakenOut());
   PageEnd();
   Say(Text("Now {} is common, and we take out a second time:", FactorText(first.Common())));
-  TakeOutTwice(NextRow() + 0.5, kMathCol, first);
+  TakeOutTwice(NextRow() + 1, kMathCol + 2, first);
   PageEnd();
 
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", second.FourTerms()));
   PageEnd();
   Say("We take 2x out of the first group, and 3 out of the second:");
-  Show("  " + second.TakenOut());
-  Show("= " + FactorsText(second.Factored()));
+  GoBelow();
+  SayTakenOut(second);
   PageEnd();
 }
 
@@ -65,16 +76,17 @@ void MinusGroup() {
   const SplitTrinomial split = SplitMiddle({6, -13, 6});
   NewScreen();
   SayAt(3, Text("In {} the second group begins with a minus sign:", split.FourTerms()));
-  Show(split.Groups());
+  GoBelow();
+  Show("  " + split.Groups());
   PageEnd();
-  Say(Text("Then we take out a negative number, here -3.  {}, and {}.",
-           "-3 " + tutor::Times + " 3x is -9x", "-3 " + tutor::Times + " (-2) is 6"));
-  Show("  " + split.TakenOut());
+  Say("We take out -3:  -9x = (-3)(3x), and 6 = (-3)(-2).");
+  GoBelow();
+  Show("= " + split.TakenOut());
   PageEnd();
   Show("= " + FactorsText(split.Factored()));
   Say(R"(\yWatch out:\z  The parentheses must match.)");
   PaperBox({R"(\r2x(3x - 2) - 3(3x + 2)\z  a wrong sign)",
-            R"(\rx(6x - 4) - 3(3x - 2)\z   2 is still inside)"});
+            R"(\rx(6x - 4) - 3(3x - 2)\z   only x taken out)"});
   PageEnd();
 }
 
@@ -82,12 +94,13 @@ void OneIsLeft() {
   const SplitTrinomial split({4, 8, 3}, {6, 2});
   NewScreen();
   SayAt(3,
-        Text(R"(\yTry it:\z  What are the factors of {}?  The second group has no common factor.)",
+        Text(R"(\yTry it:\z  What are the factors of {}?  The second group has no common factor )"
+             "but 1.",
              split.FourTerms()));
   PageEnd();
-  Say("1 is always a factor.  We write it down, so that it is not lost:");
-  Show("  " + split.TakenOut());
-  Show("= " + FactorsText(split.Factored()));
+  Say("We take out 1 and write it down, so that it is not lost:");
+  GoBelow();
+  SayTakenOut(split);
   PageEnd();
 }
 
@@ -95,6 +108,7 @@ void OneIsLeft() {
 
 void WhereTheyComeFrom() {
   constexpr Factors kFactors = {{1, 3}, {2, 5}};
+  const std::string times = " " + tutor::Times + " ";
   NewScreen();
   SayAt(3,
         "Grouping can factor a trinomial without trials.  We multiply out (x + 3)(2x + 5) to see "
@@ -105,74 +119,111 @@ void WhereTheyComeFrom() {
   Show("2x^2^ + 6x + 5x + 15 = " + WithoutBreaks(TrinomialText({2, 11, 15})));
   PageEnd();
   Say(R"(To go back, we \csplit\z 11x into 6x + 5x.)");
-  Say(Text(R"(\yTry it:\z  How much is {}, and how much is {}?)", "6 " + tutor::Times + " 5",
-           "2 " + tutor::Times + " 15"));
+  Say(Text(R"(\yTry it:\z  How much is {}, and how much is {}?)", "6" + times + "5",
+           "2" + times + "15"));
   PageEnd();
-  const std::string times = " " + tutor::Times + " ";
-  Say(Text("Both are 30:  each is {}, the numbers at the edges of the table.",
-           "1" + times + "2" + times + "3" + times + "5"));
+  Say(Text("Both are 30:  6 = {}, and 5 = {}.", "2" + times + "3", "1" + times + "5"));
+  AddLine(Text("2 = {}, and 15 = {}.", "1" + times + "2", "3" + times + "5"));
+  AddLine("Both products have the factors 1, 2, 3 and 5.");
   PageEnd();
 }
 
 void TheRule() {
   constexpr Trinomial kAsked = {6, 11, 3};
+  const SplitTrinomial split = SplitMiddle(kAsked);
   NewScreen();
   RuleBox("Grouping ax^2^ + bx + c",
-          {"1. two numbers: product ac, sum b", "2. split the middle term",
-           "3. group, and take out twice"},
-          {.row = 3, .width = 30});
+          {"1. Find two numbers:  product ac, sum b.", "2. Split the middle term.",
+           "3. Make two groups.  Take out twice."},
+          {.row = 3, .width = 40});
   PageEnd();
-  Say(Text("Let's factor {}.", TrinomialText(kAsked)));
-  AddLine("  ac is 6 " + tutor::Times + " 3 = 18, and b is 11:");
+  Say("First take out a common factor of all terms, if there is one.");
+  Say(Text("In {}, {}, {} and {}.", TrinomialText(kAsked), "a = 6", "b = 11", "c = 3"));
+  PageEnd();
+  Say("ac is 6 " + tutor::Times + " 3 = 18, and b is 11:");
   ListTried(PairsUntilFound(kAsked, SearchFrom::One));
-  PageEnd();
-  SayAt(NextRow() + 0.5, "We split 11x into 2x + 9x:");
-  ShowSteps(SplitMiddle(kAsked));
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  2 and 9 split the middle term.  They are not the numbers in the )"
-           "factors:");
+  SayAt(3, Text("We split 11x in {}:", TrinomialText(kAsked)));
+  GoBelow();
+  Show("  " + split.FourTerms());
+  Say(R"(\yTry it:\z  What do we take out of each group?)");
+  PageEnd();
+  Say("2x out of the first, 3 out of the second:");
+  GoBelow();
+  SayTakenOut(split);
+  PageEnd();
+  Say("9x + 2x goes as well:");
+  GoBelow();
+  const SplitTrinomial exchanged(kAsked, {9, 2});
+  Show("  " + exchanged.FourTerms());
+  SayTakenOut(exchanged);
+  PageEnd();
+  Say(R"(\yWatch out:\z  2 and 9 are not the numbers in the factors:)");
   PaperBox({R"(\r(x + 2)(x + 9)\z begins with x^2^, not 6x^2^)"});
-  PageEnd();
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({2, 7, 3})));
-  PageEnd();
-  ListTried(PairsUntilFound({2, 7, 3}, SearchFrom::One));
-  ShowSteps(SplitMiddle({2, 7, 3}));
   PageEnd();
 }
 
 void NegativeLastNumber() {
   constexpr Trinomial kAsked = {3, -4, -4};
   NewScreen();
-  SayAt(3, Text("Let's factor {}.  The product is -12, and the sum is -4:", TrinomialText(kAsked)));
+  SayAt(3,
+        "The product is negative:  one number is positive and one negative.  The one farther "
+        "from 0 has the sign of the sum.");
+  PageEnd();
+  Say(Text("In {} the product is -12, and the sum is -4:", TrinomialText(kAsked)));
   ListTried(PairsUntilFound(kAsked, SearchFrom::One));
   PageEnd();
-  Say("We write the negative part first.  Then the second group begins with a plus sign:");
+  Say("We may write the negative part first.  Then we need not take out a negative number:");
+  GoBelow();
   Show("  " + SplitMiddle(kAsked).FourTerms());
   PageEnd();
-  Show("= " + SplitMiddle(kAsked).TakenOut());
-  Show("= " + FactorsText(SplitMiddle(kAsked).Factored()));
+  SayTakenOut(SplitMiddle(kAsked));
+  SayCheck(SplitMiddle(kAsked));
   PageEnd();
-  CheckByMultiplying(NextRow() + 1, SplitMiddle(kAsked).Factored());
-  PageEnd();
+}
 
+// Where the list of pairs begins.
+void ALargeProduct() {
+  constexpr Trinomial kAsked = {20, 7, -6};
+  const SplitTrinomial split = SplitMiddle(kAsked);
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({8, 10, -3})));
+  SayAt(3, Text("In {} the product is -120, and the sum is 7.  Some pairs are far apart, some are "
+                "close:",
+                TrinomialText(kAsked)));
+  AddLine("  " + WithoutBreaks(PairLine({-1, 120})));
+  AddLine("  " + WithoutBreaks(PairLine({-10, 12})));
   PageEnd();
-  Say("The product is -24, and -2 + 12 is 10:");
-  ShowSteps(SplitMiddle({8, 10, -3}));
+  Say("The farther apart they are, the larger is the sum.");
+  Say(R"(\yTry it:\z  Where do we begin for the sum 7?)");
+  PageEnd();
+  Say(Text("With close numbers.  {} = 121 is near 120, so we begin near 11 and go on from there:",
+           "11 " + tutor::Times + " 11"));
+  AddLine("  " + WithoutBreaks(PairLine({-10, 12})));
+  AddLine(R"(  \y)" + WithoutBreaks(PairLine({-8, 15})));
+  PageEnd();
+  Say("We split 7x:");
+  Show("  " + split.FourTerms());
+  SayTakenOut(split);
   PageEnd();
 }
 
 void NegativeSum() {
   constexpr Trinomial kAsked = {5, -11, 2};
+  const SplitTrinomial split = SplitMiddle(kAsked);
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  Now the sum alone is negative.  What are the factors of {}?)",
-                TrinomialText(kAsked)));
+  SayAt(3, "The product is positive:  both numbers have the same sign, that of the sum.");
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText(kAsked)));
   PageEnd();
-  Say("ac is 10, so we take -1 and -10:");
-  ShowSteps(SplitMiddle(kAsked));
+  Say("ac is 10, and the sum is negative:");
+  AddLine("-1 + (-10) = -11.  We split -11x:");
+  GoBelow();
+  Show("  " + split.FourTerms());
+  PageEnd();
+  Show("= " + split.TakenOut());
+  Show("= " + FactorsText(split.Factored()));
+  SayCheck(split);
   PageEnd();
 }
 
@@ -185,7 +236,7 @@ class UsingGrouping final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{CommonParentheses, TwoGroups, MinusGroup, OneIsLeft},
-            {WhereTheyComeFrom, TheRule, NegativeLastNumber, NegativeSum}};
+            {WhereTheyComeFrom, TheRule, NegativeLastNumber, ALargeProduct, NegativeSum}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -195,6 +246,7 @@ class UsingGrouping final : public LessonScript {
 
   void BeginPage();
   void TellProductAndSum() const;
+  void BeginWithCloseNumbers(const NumberPair& farthest) const;
   void ListPairs();
   void SplitAndGroup();
   void TakeOut();
@@ -276,24 +328,31 @@ void UsingGrouping::TellProductAndSum() const {
     AddLine(Text("{} means {}x.", CoefText(asked_.middle) + "x", asked_.middle));
 }
 
-// The pairs up to the right one, two a page.  A long list is begun farther down.
+// Why a list begins with close numbers.
+void UsingGrouping::BeginWithCloseNumbers(const NumberPair& farthest) const {
+  const int size = std::abs(asked_.square * asked_.constant);
+  const int middle = static_cast<int>(std::lround(std::sqrt(size)));
+  SayAt(8, Text("{} and {} have the sum {}.  We need {}, so we take numbers that are closer.",
+                farthest.first, farthest.second, farthest.Sum(), asked_.middle));
+  PageEnd();
+  const std::string square = Text("{} {} {}", middle, tutor::Times, middle);
+  AddLine(Text(
+      middle * middle == size ? "{} is {}.  We begin there:" : "{} is near {}.  We begin there:",
+      square + (middle * middle == size ? "" : " = " + NumStr(middle * middle)), size));
+}
+
+// The pairs up to the right one, two a page, from where it is found sooner.
 void UsingGrouping::ListPairs() {
   constexpr std::size_t kAPage = 2;
-  constexpr std::size_t kInBox = 6;
   NewScreen();
   BeginPage();
-  std::vector<NumberPair> pairs = PairsUntilFound(asked_, ShorterSearch(asked_));
-  const int product = asked_.square * asked_.constant;
-  if (pairs.size() > kInBox) {
-    SayAt(8, Text("We list pairs with the product {}.  The sum of {} and {} is far from {}, so we "
-                  "begin farther down:",
-                  product, pairs.front().first, pairs.front().second, asked_.middle));
-    pairs.erase(pairs.begin(), pairs.end() - kInBox);
-    PageEnd();
-  } else {
-    SayAt(8, Text("We list the pairs with the product {} until the sum is {}:", product,
-                  asked_.middle));
-  }
+  const SearchFrom from = ShorterSearch(asked_);
+  const std::vector<NumberPair> pairs = PairsUntilFound(asked_, from);
+  if (from == SearchFrom::CloseNumbers)
+    BeginWithCloseNumbers(PairsUntilFound(asked_, SearchFrom::One).front());
+  else
+    SayAt(8, Text("We list the pairs with the product {} until the sum is {}:",
+                  asked_.square * asked_.constant, asked_.middle));
   const std::size_t column = SumColumnOf(pairs);
   std::size_t characters = 0;
   for (const NumberPair& pair : pairs)

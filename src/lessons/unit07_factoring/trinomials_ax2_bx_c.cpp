@@ -31,71 +31,71 @@ void SayTrials(const Trinomial& trinomial) {
 }
 
 void SayPairs(const Trinomial& trinomial) {
-  AddLine("  first numbers:  " + PairsText(trinomial.square));
-  AddLine("  last numbers:   " + PairsText(trinomial.constant));
+  Say("  first numbers: " + PairsText(trinomial.square), {.indent = 18});
+  AddLine("  last numbers:  " + PairsText(trinomial.constant), {.indent = 18});
+}
+
+// A white box with room for so many lines, and the first trial in it.
+void StartTrials(const Trial& first, int lines) {
+  WhiteBox({.rows = kTrialRows * lines + 0.5});
+  SayTrial(first, false);
+}
+
+void SayIdentity(const Factors& factors) {
+  Say("  " + WithoutBreaks(Identity(factors)));
 }
 
 void FourProducts() {
   constexpr Factors kFactors = {{1, 3}, {2, 1}};
   constexpr double kRow = 7;
   constexpr double kCol = 5;
-  const std::string d = tutor::Dot;
   NewScreen();
-  SayAt(3,
-        Text("A number can stand before x^2^, as in {}.  Such a trinomial comes from two factors:",
-             TrinomialText(kFactors.Product())));
+  SayAt(3, Text("{} comes from two factors:", TrinomialText(kFactors.Product())));
   ShowAt(kRow, FactorsText(kFactors), kCol);
   DrawOuterAndInner(kRow, kCol, kFactors);
+  ShowAt(6.1, R"(\youter terms)", 24);
+  ShowAt(8, R"(\cinner terms)", 24);
   PageEnd();
-  Note(6.2, 22, "outer terms");
-  Note(7.8, 22, "inner terms");
   WhiteBox({.row = 9.5, .rows = 6.5});
-  SayInBox("first terms:  x" + d + "2x = 2x^2^");
-  SayInBox("outer terms:  x" + d + "1 = x");
+  SayInBox("first terms:  (x)(2x) = 2x^2^");
+  SayInBox("outer terms:  (x)(1) = x");
   SayAt(16.5, R"(\yTry it:\z  Which two products are still missing?)");
   PageEnd();
-  SayInBox("inner terms:  3 " + tutor::Times + " 2x = 6x");
-  SayInBox("last terms:   3 " + tutor::Times + " 1 = 3");
+  SayInBox("inner terms:  (3)(2x) = 6x");
+  SayInBox("last terms:   (3)(1) = 3");
   ClearBelow(16.5);
   SayAt(16.5, "Sum:  2x^2^ + x + 6x + 3 = " + WithoutBreaks(TrinomialText(kFactors.Product())));
-  PageEnd();
-  Say("The outer and the inner product together make the middle term:  " +
-      WithoutBreaks("x + 6x = 7x."));
+  AddLine("The middle term is x + 6x = 7x.");
   PageEnd();
 }
 
 void ThreeRules() {
   NewScreen();
-  RuleBox("Factoring ax^2^ + bx + c",
-          {"first numbers:  product a", "last numbers:   product c", "outer + inner product:  bx"},
-          {.row = 3, .width = 28});
+  SayAt(3, Text("The numbers of a trinomial have names, and the sign belongs to the number.  In {} "
+                "they are {}, {} and {}.",
+                TrinomialText({6, -1, -2}), "a = 6", "b = -1", "c = -2"));
   PageEnd();
-  Say(Text(
-      "a stands in front of x^2^, b in front of x, and c is the last number.  In {} they are 2, "
-      "7 and 3.",
-      TrinomialText({2, 7, 3})));
+  RuleBox("Factoring ax^2^ + bx + c",
+          {"The first numbers have the product a.", "The last numbers have the product c.",
+           "Outer + inner product is bx."},
+          {.width = 38});
   PageEnd();
 }
 
 void TwoPlaces() {
+  constexpr Trinomial kAsked = {2, 11, 5};
+  const std::vector<Trial> trials = TrialsUntilFound(kAsked);
   NewScreen();
-  SayAt(3, Text("Let's factor {}.  We have one pair each:", TrinomialText({2, 11, 5})));
-  SayPairs({2, 11, 5});
+  SayAt(3, Text("Let's factor {}.  We have one pair each:", TrinomialText(kAsked)));
+  SayPairs(kAsked);
   PageEnd();
-  Say("Only the places are open.  We try both, and add the outer and the inner product:");
-  SayTrials({2, 11, 5});
+  Say("Only the places are open.  The gaps are room for the signs:");
+  StartTrials(trials.front(), 2);
+  Say(R"(7x is wrong.  \yTry it:\z  Exchange 1 and 5.)");
   PageEnd();
-  Say("The second trial gives the middle term:");
-  Show(Identity({{1, 5}, {2, 1}}));
-  Say(R"(\yWatch out:\z  1 and 5 must not change places:  that gives 7x.)");
-  PageEnd();
-
-  NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({3, 16, 5})));
-  SayPairs({3, 16, 5});
-  PageEnd();
-  SayTrials({3, 16, 5});
-  Show(Identity({{1, 5}, {3, 1}}));
+  SayTrial(trials.back(), true);
+  Say("The blue line is the right one:");
+  SayIdentity({{1, 5}, {2, 1}});
   PageEnd();
 }
 
@@ -107,48 +107,76 @@ void AnOrder() {
   SayPairs(kAsked);
   PageEnd();
   Say("We keep an order, so that we leave none out:  pairs whose numbers are closest come first.");
-  WhiteBox({.rows = 3.5});
-  SayTrial(trials.front(), false);
+  StartTrials(trials.front(), 2);
   PageEnd();
-  Say(Text(
-      "2x + 2 has the common factor 2.  Then all of {} would have it, but 19 cannot be divided "
-      "by 2.  We need not multiply.",
-      TrinomialText(kAsked)));
+  Say(
+      Text("2x + 2 has the common factor 2, but {} has none:  19 is not divisible by 2.  So no "
+           "factor may have one.  We need not multiply.",
+           TrinomialText(kAsked)));
   PageEnd();
   SayTrial(trials.back(), true);
-  Show(Identity({{2, 5}, {3, 2}}));
+  SayIdentity({{2, 5}, {3, 2}});
   PageEnd();
 
   NewScreen();
   SayAt(3, R"(\yWatch out:\z  When all three terms have a common factor, take it out first.)");
   Show("4x^2^ + 14x + 6 = 2(" + TrinomialText({2, 7, 3}) + ")");
+  Show("              = 2(x + 3)(2x + 1)");
   PageEnd();
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({4, 12, 5})));
-  SayPairs({4, 12, 5});
+}
+
+// Large numbers: which trials can be left out, and which one comes next.
+void AShorterSearch() {
+  constexpr Trinomial kManyPairs = {24, 47, 20};
+  constexpr Trinomial kTooLarge = {21, 22, 5};
+  NewScreen();
+  SayAt(3, Text("{} has many pairs:", TrinomialText(kManyPairs)));
+  SayPairs(kManyPairs);
   PageEnd();
-  SayTrials({4, 12, 5});
-  Show(Identity({{2, 1}, {2, 5}}));
-  Say("Here both factors begin with 2x, so 1 and 5 may change places.");
+  Say("4 and 6 are even, and so is one of the last numbers:  behind 4x or 6x it makes the common "
+      "factor 2.  We need not try 4 and 6, nor 2 and 12.");
+  PageEnd();
+  Say("3 and 8 are left.  Behind 8x the last number must be odd:");
+  WhiteBox({.rows = kTrialRows + 0.5});
+  SayTrial(TrialsUntilFound(kManyPairs).back(), true);
+  SayIdentity({{3, 4}, {8, 5}});
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, Text("In {} we begin with 3 and 7:", TrinomialText(kTooLarge)));
+  StartTrials({{{3, 5}, {7, 1}}, true}, 2);
+  Say(R"(\yTry it:\z  Is 38x too large or too small?  What do we try next?)");
+  PageEnd();
+  Say("Too large:  5 was multiplied by 7x.  With 3x it gives less:");
+  SayTrial(TrialsUntilFound(kTooLarge).back(), true);
+  SayIdentity({{3, 1}, {7, 5}});
+  PageEnd();
+  RuleBox("Where does the larger last number go?",
+          {"Too large:  behind the larger number.", "Too small:  behind the smaller number.",
+           "Far too small:  pairs farther apart."},
+          {.width = 39});
   PageEnd();
 }
 
 void SameSigns() {
+  constexpr Trinomial kAsked = {3, -10, 8};
   NewScreen();
-  SayAt(3, R"(When the last number is \ypositive\z, both signs are that of the middle term:)");
+  SayAt(3, R"(When the last number is \ypositive\z, its two factors have the same sign.)");
+  AddLine("It is the sign of the middle term:");
   PaperBox({Identity({{2, 5}, {3, 2}}), Identity({{2, -5}, {3, -2}})});
   PageEnd();
-  Say("So we find the numbers first, and put the signs in last.");
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({3, -10, 8})));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText(kAsked)));
+  SayPairs(kAsked);
   PageEnd();
-  SayTrials({3, -10, 8});
+  SayTrials(kAsked);
   Say("The middle term is -10x:  both signs are minus.");
-  Show(Identity({{1, -2}, {3, -4}}));
+  SayIdentity({{1, -2}, {3, -4}});
   PageEnd();
 }
 
 void DifferentSigns() {
   constexpr Trinomial kAsked = {6, 11, -10};
-  constexpr Factors kRight = {{2, 5}, {3, -2}};
+  constexpr Trinomial kTried = {6, -1, -2};
   NewScreen();
   SayAt(3, R"(When the last number is \ynegative\z, one sign is plus and one is minus.  So one of )"
            "the products is subtracted from the other.");
@@ -157,36 +185,46 @@ void DifferentSigns() {
            TrinomialText(kAsked)));
   SayTrials(kAsked);
   PageEnd();
-  Say(Text(
-      "The larger product, 15x, comes from 5 and 3x.  It must be positive, so the 5 gets the plus "
-      "sign:"));
-  RaiseConstants(NextRow() + 0.5, 3, kRight);
+  Say("The middle term is +11x, so 15x, the larger product, must be positive.  It comes from 5 and "
+      "3x:  the 5 gets the plus sign.");
+  RaiseConstants(NextRow() + 0.5, 3, {{2, 5}, {3, -2}});
   PageEnd();
 
   NewScreen();
-  CheckByMultiplying(3, kRight);
-  PageEnd();
-  Say(R"(\yWatch out:\z  Do not reverse the signs:)");
+  SayAt(3, R"(\yWatch out:\z  Do not reverse the signs:)");
   PaperBox({R"(\r(2x - 5)(3x + 2)\z gives -11x)"});
-  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText({6, -1, -2})));
+  Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText(kTried)));
   PageEnd();
-  SayTrials({6, -1, -2});
-  Say("-x means -1x.  4x comes from 2 and 2x, and must be negative:");
-  Show(Identity({{2, 1}, {3, -2}}));
+  Say("We look for x;  its sign comes last:");
+  SayTrials(kTried);
+  Say("The sum is -x:  4x must be negative.");
+  SayIdentity({{2, 1}, {3, -2}});
   PageEnd();
 }
 
 void ALongSearch() {
   constexpr Trinomial kAsked = {12, 4, -5};
+  constexpr Factors kRight = {{2, -1}, {6, 5}};
+  const std::vector<Trial> trials = TrialsUntilFound(kAsked);
   NewScreen();
-  SayAt(3, Text(R"(\yTry it:\z  A longer search:  what are the factors of {}?)",
-                TrinomialText(kAsked)));
+  SayAt(3, Text("A longer search:  {}.", TrinomialText(kAsked)));
   SayPairs(kAsked);
   PageEnd();
-  SayTrials(kAsked);
+  StartTrials(trials.front(), 3);
+  Say(R"(\yTry it:\z  11x is too large.  Will it help to exchange 1 and 5?)");
   PageEnd();
-  Say("10x comes from 5 and 2x.  It must be positive, so the 5 gets the plus sign:");
-  RaiseConstants(NextRow() + 0.5, 3, {{2, -1}, {6, 5}});
+  SayTrial(trials[1], false);
+  SayTrial(trials[2], true);
+  Say("No, 17x is larger still.  But 2x and 6x give 4x.");
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, "+4x:  10x must be positive.  It comes from 5 and 2x, so the 5 gets the plus sign:");
+  RaiseConstants(NextRow() + 0.5, 3, kRight);
+  PageEnd();
+  Say(R"(\yCheck:\z  )" + WithoutBreaks("12x^2^ + 10x - 6x - 5"));
+  AddLine("      = " + WithoutBreaks(TrinomialText(kAsked)));
+  PaperBox({"c is positive:  the same signs", "c is negative:  larger product like bx"});
   PageEnd();
 }
 
@@ -198,7 +236,7 @@ class TrinomialsAX2BxC final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{FourProducts, ThreeRules, TwoPlaces, AnOrder},
+    return {{FourProducts, ThreeRules, TwoPlaces, AnOrder, AShorterSearch},
             {SameSigns, DifferentSigns, ALongSearch}};
   }
   void DrawProblem(RandomStream& random) override;
@@ -306,9 +344,8 @@ std::string TrinomialsAX2BxC::SignSentence() const {
       middle);
 }
 
-// Two a page; the box is wiped when it is full.
+// One a page; the box is wiped when it is full.
 void TrinomialsAX2BxC::GoThroughTrials() {
-  constexpr std::size_t kAPage = 2;
   constexpr std::size_t kInBox = 8;
   NewScreen();
   BeginPage();
@@ -318,7 +355,7 @@ void TrinomialsAX2BxC::GoThroughTrials() {
   const std::size_t lines = std::min(kInBox, trials.size());
   WhiteBox({.row = 10.5, .rows = kTrialRows * static_cast<double>(lines) + 0.5});
   for (std::size_t i = 0; i < trials.size(); ++i) {
-    if (i > 0 && i % kAPage == 0) PageEnd();
+    if (i > 0) PageEnd();
     if (i > 0 && i % kInBox == 0) SayInBoxAnew("");
     SayTrial(trials[i], i + 1 == trials.size());
   }
@@ -339,16 +376,12 @@ void TrinomialsAX2BxC::PutSignsIn() {
     const int lead = outerIsLarger ? sizes.first.lead : sizes.second.lead;
     const int last = outerIsLarger ? sizes.second.constant : sizes.first.constant;
     const int other = outerIsLarger ? sizes.first.constant : sizes.second.constant;
-    const bool same = last == other;
-    SayAt(
-        8,
-        Text(
-            "The larger product, {} = {}, must be {}.  So {} gets the {} sign, and {} the {} sign:",
-            CoefText(lead * last) + "x", CoefText(lead) + "x" + tutor::Dot + NumStr(last),
-            Words{asked_.middle > 0 ? "positive" : "negative"},
-            Words{(same ? "this " : "") + NumStr(last)}, Words{sign},
-            Words{(same ? "the other " : "") + NumStr(other)},
-            Words{asked_.middle > 0 ? "minus" : "plus"}));
+    const char* const place = outerIsLarger ? " in the second factor" : " in the first factor";
+    SayAt(8, Text("The larger product, {}, comes from {} and {}{}.  It must be {}, so this {} gets "
+                  "the {} sign:",
+                  CoefText(lead * last) + "x", CoefText(lead) + "x", last,
+                  Words{last == other ? place : ""},
+                  Words{asked_.middle > 0 ? "positive" : "negative"}, last, Words{sign}));
   }
   RaiseConstants(11.5, 4, right_);
   PageEnd();

@@ -114,7 +114,6 @@ void FillFactorChoices(Problem& problem, const Factors& right, const WrongSign& 
     choices.Wrong(place->mistake, {place->factors[static_cast<std::size_t>(result - 1)]});
     others.erase(place);
   }
-  choices.Wrong("reverses one sign", {OneSignReversed(right, !wrongSign.ofFirst)});
   choices.Fill(drawn);
 }
 

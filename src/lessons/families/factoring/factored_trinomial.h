@@ -33,9 +33,9 @@ struct WrongFactors {
   std::vector<Factors> factors;
 };
 // Five shuffled choices: the right factors, those with the wrong sign, those with exchanged last
-// numbers, and two mistakes of the list, drawn at random, as is what they lead to.  Where the
-// exchange gives the trinomial again a random number takes its place; where the list gives less
-// than two, the other sign is reversed.
+// numbers, and two mistakes of the list, drawn at random, as is what they lead to; with different
+// signs the first one stands there more often.  Where the exchange gives the trinomial again, or
+// the list less than two, a random number takes the place.
 void FillFactorChoices(Problem& problem, const Factors& right, const WrongSign& wrongSign,
                        std::vector<WrongFactors> others, int largest, RandomStream& random);
 

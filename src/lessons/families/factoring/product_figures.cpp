@@ -28,9 +28,9 @@ void DrawOuterAndInner(double row, double col, const Factors& factors) {
   const double outer[] = {col + 1, col + both - 2};
   const double inner[] = {col + first - 2, col + first + 1.5};
   isDrawArrow3Segment(row - 0.5, outer[0], above, outer[0], above, outer[1], row - 0.4, outer[1],
-                      platform::colour::Yellow, "NA", "A");
+                      platform::colour::Yellow, "NA", "NA");
   isDrawArrow3Segment(row + 0.7, inner[0], below, inner[0], below, inner[1], row + 0.6, inner[1],
-                      platform::colour::Yellow, "NA", "A");
+                      platform::colour::Cyan, "NA", "NA");
 }
 
 void ShowProductTable(const Factors& factors) {

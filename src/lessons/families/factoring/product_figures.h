@@ -7,8 +7,8 @@ namespace course::factoring {
 
 using polynomials::Factors;
 
-// Arrows at a product such as "(x + 3)(2x + 1)" that is printed at the cell: above it between its
-// outer terms, below it between the inner ones.
+// Bows at a product such as "(x + 3)(2x + 1)" that is printed at the cell: a yellow one above it
+// between its outer terms, a cyan one below it between the inner ones.
 void DrawOuterAndInner(double row, double col, const Factors& factors);
 
 // Print cells under all that stands on the page: a column for each term of the first factor, a row
