@@ -42,7 +42,7 @@ void CommonParentheses() {
   PageEnd();
   SayAt(8,
         Text("A sum in parentheses can take the place of y, here {}:", FactorText(split.Common())));
-  TakeOutTwice(11, kMathCol + 2, split);
+  TakeOutTwice(11, kMathCol, split);
   PageEnd();
 }
 
@@ -55,12 +55,8 @@ void TwoGroups() {
                 first.FourTerms()));
   Show(first.Groups());
   PageEnd();
-  Say("Each group has a greatest common factor, 2x and 5.  We take it out:");
-  GoBelow();
-  Show("= " + first.TakenOut());
-  PageEnd();
-  Say(Text("Now {} is common, and we take out a second time:", FactorText(first.Common())));
-  TakeOutTwice(NextRow() + 1, kMathCol + 2, first);
+  Say("We take out 2x and 5.  Then (x + 3) is common, and we take it out:");
+  TakeOutTwice(NextRow() + 1, kMathCol, first);
   PageEnd();
 
   NewScreen();
@@ -132,15 +128,12 @@ void TheRule() {
   constexpr Trinomial kAsked = {6, 11, 3};
   const SplitTrinomial split = SplitMiddle(kAsked);
   NewScreen();
-  RuleBox("Grouping ax^2^ + bx + c",
-          {"1. Find two numbers:  product ac, sum b.", "2. Split the middle term.",
-           "3. Make two groups.  Take out twice."},
-          {.row = 3, .width = 40});
+  PaperBox({"1. Take out a common factor, if any.", "2. Find two numbers:  product ac, sum b.",
+            "3. Split the middle term.", "4. Make two groups.  Take out twice."},
+           3);
   PageEnd();
-  Say("First take out a common factor of all terms, if there is one.");
-  Say(Text("In {}, {}, {} and {}.", TrinomialText(kAsked), "a = 6", "b = 11", "c = 3"));
-  PageEnd();
-  Say("ac is 6 " + tutor::Times + " 3 = 18, and b is 11:");
+  Say(Text("In {} a is 6, b is 11 and c is 3, so the product is {}:", TrinomialText(kAsked),
+           "6 " + tutor::Times + " 3 = 18"));
   ListTried(PairsUntilFound(kAsked, SearchFrom::One));
   PageEnd();
 
@@ -189,21 +182,21 @@ void ALargeProduct() {
   constexpr Trinomial kAsked = {20, 7, -6};
   const SplitTrinomial split = SplitMiddle(kAsked);
   NewScreen();
-  SayAt(3, Text("In {} the product is -120, and the sum is 7.  Some pairs are far apart, some are "
-                "close:",
-                TrinomialText(kAsked)));
+  SayAt(3, Text("In {} the product is -120:", TrinomialText(kAsked)));
   AddLine("  " + WithoutBreaks(PairLine({-1, 120})));
   AddLine("  " + WithoutBreaks(PairLine({-10, 12})));
+  Say("The farther apart, the larger the sum.");
   PageEnd();
-  Say("The farther apart they are, the larger is the sum.");
   Say(R"(\yTry it:\z  Where do we begin for the sum 7?)");
   PageEnd();
-  Say(Text("With close numbers.  {} = 121 is near 120, so we begin near 11 and go on from there:",
-           "11 " + tutor::Times + " 11"));
+  Say(Text("With close numbers:  {} is near 120, so we begin near 11:",
+           "11 " + tutor::Times + " 11 = 121"));
   AddLine("  " + WithoutBreaks(PairLine({-10, 12})));
   AddLine(R"(  \y)" + WithoutBreaks(PairLine({-8, 15})));
   PageEnd();
-  Say("We split 7x:");
+  NewScreen();
+  SayAt(3, Text("In {} we split 7x:", TrinomialText(kAsked)));
+  GoBelow();
   Show("  " + split.FourTerms());
   SayTakenOut(split);
   PageEnd();

@@ -161,8 +161,7 @@ void AShorterSearch() {
 void SameSigns() {
   constexpr Trinomial kAsked = {3, -10, 8};
   NewScreen();
-  SayAt(3, R"(When the last number is \ypositive\z, its two factors have the same sign.)");
-  AddLine("It is the sign of the middle term:");
+  SayAt(3, R"(10 is \ypositive\z:  its factors have the same sign, that of the middle term:)");
   PaperBox({Identity({{2, 5}, {3, 2}}), Identity({{2, -5}, {3, -2}})});
   PageEnd();
   Say(Text(R"(\yTry it:\z  What are the factors of {}?)", TrinomialText(kAsked)));
@@ -185,8 +184,8 @@ void DifferentSigns() {
            TrinomialText(kAsked)));
   SayTrials(kAsked);
   PageEnd();
-  Say("The middle term is +11x, so 15x, the larger product, must be positive.  It comes from 5 and "
-      "3x:  the 5 gets the plus sign.");
+  Say("For +11x the larger product, 15x, must be positive.  It comes from 5 and 3x, so the 5 gets "
+      "plus:");
   RaiseConstants(NextRow() + 0.5, 3, {{2, 5}, {3, -2}});
   PageEnd();
 

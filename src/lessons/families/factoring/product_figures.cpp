@@ -38,9 +38,9 @@ void ShowProductTable(const Factors& factors) {
   constexpr double kTops[kTerms] = {24, 63};
   constexpr double kWidth = 28;
   constexpr double kHeight = 30;
-  constexpr double kLabelSize = 12;
+  constexpr double kLabelSize = 15;
   const auto label = [&](double left, double top, double width, const std::string& text) {
-    return PrintCellTable::Label{left, top, width, 20, text, kLabelSize, platform::colour::Black,
+    return PrintCellTable::Label{left, top, width, 22, text, kLabelSize, platform::colour::Black,
                                  true};
   };
   PrintCellTable table;

@@ -105,7 +105,7 @@ void TakeOutTwice(double row, double col, const SplitTrinomial& split) {
                col);
   page::SlideDown({row, commonCol, width}, kDown, page::Leaving::Copy);
   const Binomial rest = split.Factored().second;
-  page::ShowAt(row + kDown, "=", col - 2);
+  page::ShowAt(row + kDown, "=", commonCol - 2);
   page::ShowAt(row + kDown, R"(\y)" + common + R"(\z)" + FactorText(rest), commonCol);
 }
 
