@@ -152,8 +152,8 @@ void AShorterSearch() {
   SayIdentity({{3, 1}, {7, 5}});
   PageEnd();
   RuleBox("Where does the larger last number go?",
-          {"Too large:  behind the larger number.", "Too small:  behind the smaller number.",
-           "Far too small:  pairs farther apart."},
+          {"Too large:  behind the larger first number.",
+           "Too small:  behind the smaller first number.", "Far too small:  pairs farther apart."},
           {.width = 39});
   PageEnd();
 }
@@ -223,7 +223,8 @@ void ALongSearch() {
   PageEnd();
   Say(R"(\yCheck:\z  )" + WithoutBreaks("12x^2^ + 10x - 6x - 5"));
   AddLine("      = " + WithoutBreaks(TrinomialText(kAsked)));
-  PaperBox({"c is positive:  the same signs", "c is negative:  larger product like bx"});
+  PaperBox({"c is positive:  both signs are that of bx",
+            "c is negative:  the larger product has that sign"});
   PageEnd();
 }
 
