@@ -53,6 +53,7 @@ void TwoGroups() {
   SayAt(3, Text("{} has no common factor.  We do not combine 6x and 5x yet, but group the first "
                 "two and the last two:",
                 first.FourTerms()));
+  GoBelow();
   Show(first.Groups());
   PageEnd();
   Say("We take out 2x and 5.  Then (x + 3) is common, and we take it out:");
@@ -75,7 +76,7 @@ void MinusGroup() {
   GoBelow();
   Show("  " + split.Groups());
   PageEnd();
-  Say("We take out -3:  -9x = (-3)(3x), and 6 = (-3)(-2).");
+  Say(Text("We take out -3:  {}, and {}.", "-9x = (-3)(3x)", "6 = (-3)(-2)"));
   GoBelow();
   Show("= " + split.TakenOut());
   PageEnd();
@@ -187,7 +188,7 @@ void ALargeProduct() {
   AddLine("  " + WithoutBreaks(PairLine({-10, 12})));
   Say("The farther apart, the larger the sum.");
   PageEnd();
-  Say(R"(\yTry it:\z  Where do we begin for the sum 7?)");
+  Say(R"(\yTry it:\z  The sum must be 7.  Where do we begin in the list?)");
   PageEnd();
   Say(Text("With close numbers:  {} is near 120, so we begin near 11:",
            "11 " + tutor::Times + " 11 = 121"));
