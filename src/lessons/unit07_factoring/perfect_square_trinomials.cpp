@@ -1,8 +1,10 @@
 // The student can tell whether a trinomial such as 4x^2 - 20x + 25 is the square of a binomial, by
 // the test of its middle term, and finds that binomial.
 //
-// A problem is a binomial squared.  Every wrong choice stands there with both signs, as the right
-// one does, so that the box most like the others is no hint.
+// A problem is a binomial squared, and each wrong choice is one slip on the way to it.
+#include <algorithm>
+#include <array>
+
 #include "lessons/families/polynomials/square_figures.h"
 #include "lessons/families/polynomials/trinomial.h"
 #include "lessons/lesson.h"
@@ -59,10 +61,11 @@ void AreaOfTheSquare() {
   constexpr double kFigureCol = 7;
   const TextPlace beside = {.col = 19};
   NewScreen();
-  SayAt(3, "A square with the side x grows to x + 3:");
+  SayAt(3, "This square has the side x.  Its area is x^2^.");
   const SquareOfSum figure(kRow, kFigureCol, "x", "3");
   PageEnd();
-  SayAt(5, R"(Its area is (x + 3)^2^.  \yTry it:\z  What is the area of each of its four parts?)",
+  figure.Grow();
+  SayAt(5, R"(Now the side is x + 3.  \yTry it:\z  What is the area of each of the four parts?)",
         beside);
   PageEnd();
   figure.PrintSquares("x^2^", "9");
@@ -82,86 +85,111 @@ void WithMinus() {
   NewScreen();
   SayAt(3, "Now a minus sign stands between the terms:");
   Show("(x - 3)^2^ = (x - 3)(x - 3)", kCol);
-  Show("         = x^2^ - 3x - 3x + 9", kCol);
+  Say(R"(\yTry it:\z  What are the first, outer, inner, and last products?)");
   PageEnd();
+  Say("They are x^2^, -3x, -3x, and 9:");
+  Show("(x - 3)^2^ = x^2^ - 3x - 3x + 9", kCol);
   Say(R"(\yTry it:\z  Why is the last term +9?)");
   PageEnd();
-  Say("-3 times -3 is +9.  A square is never negative.");
+  Say("-3 times -3 is +9:  two minus signs make a plus.");
   Show(R"((x - 3)^2^ = \yx^2^ - 6x + 9)", kCol);
   PageEnd();
+
+  NewScreen();
+  SayAt(3, R"(A \ctrinomial\z has three terms.  These are the squares of a + b and a - b:)");
   RuleBox("Perfect Square Trinomials",
           {"a^2^ + 2ab + b^2^ = (a + b)^2^", "a^2^ - 2ab + b^2^ = (a - b)^2^"}, {.width = 30});
   PageEnd();
-  Say(R"(A \ctrinomial\z has three terms.  These are the squares of a + b and a - b.)");
-  Say(R"(\yTry it:\z  Is every trinomial with x^2^ and 25 at its ends a square?)");
+  Say("Here a is the first term of the binomial, and b is the second.  In (2x - 5)^2^, a is 2x and "
+      "b is 5.");
   PageEnd();
 }
 
 void TestOfTheMiddleTerm() {
   NewScreen();
-  SayAt(3, R"(No.  The middle term has to fit, too:)");
-  RuleBox("The Test", {"First and last term:  a^2^ and b^2^", "Middle term:  2ab or -2ab"},
-          {.width = 34});
+  SayAt(3, R"(\yTry it:\z  Is every trinomial with x^2^ and 25 at its ends a square?)");
+  PageEnd();
+  Say(R"(No.  The middle term has to fit, too:)");
+  RuleBox("The Test",
+          {"1.  The first term is a square, a^2^.", "2.  The last term is a square, b^2^.",
+           "3.  The middle term is 2ab or -2ab."});
   PageEnd();
   Say(Text("Let's test {}.", TrinomialText({1, 10, 25})));
-  AddLine("First:   x^2^ is x times x.", {.col = 3});
+  Say("First:   x^2^ is x times x.", {.col = 3});
   AddLine("Last:    25 is 5 times 5.", {.col = 3});
-  PageEnd();
   AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({1, 5})) + ".  It fits.", {.col = 3});
-  Show(Identity({1, 5}), kCol);
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 10, 16})));
+  Show(R"(\y)" + Identity({1, 5}), kCol);
+  PageEnd();
+
+  NewScreen();
+  SayAt(3, Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 10, 16})));
   PageEnd();
   Say(Text("No.  Both ends are squares, of x and 4.  But {}, and the middle term is 10x.",
            TwiceTheProduct({1, 4})));
+  PageEnd();
+  Say(Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 6, -9})));
+  PageEnd();
+  Say("No.  A number times itself is never negative.  So -9 cannot be the last term of a square.");
+  PageEnd();
+}
+
+void TwoRoots() {
+  NewScreen();
+  SayAt(3, "-5 times -5 is 25, too.  So 25 has two square roots, 5 and -5.");
+  Say(R"(\yTry it:\z  x + 5 is a square root of x^2^ + 10x + 25.  What is the square of -x - 5?)");
+  PageEnd();
+  Say("-x times -x is x^2^, 2(-x)(-5) is 10x, and -5 times -5 is 25:");
+  Show("(-x - 5)^2^ = x^2^ + 10x + 25", kCol);
+  PageEnd();
+  CommentBox("A perfect square trinomial has two square roots.  We take the one that begins without "
+             "a minus sign:  x + 5.");
   PageEnd();
 }
 
 void NumberInFront() {
   NewScreen();
   const Binomial root = {2, -5};
-  SayAt(3, Text("Let's find a square root of {}.", TrinomialText(SquareOf(root))));
-  AddLine("First:   4x^2^ is 2x times 2x.", {.col = 3});
+  SayAt(3, Text("Let's find the square root of {}.", TrinomialText(SquareOf(root))));
+  Say("First:   4x^2^ is 2x times 2x.", {.col = 3});
   AddLine("Last:    25 is 5 times 5.", {.col = 3});
+  Say(R"(\yTry it:\z  Which middle term must it have?)");
   PageEnd();
-  AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct(root)) + ".  It fits.", {.col = 3});
-  Say(R"(It has a \yminus sign\z, so the binomial has one, too:)");
-  Show(Identity(root), kCol);
+  Say("Middle:  " + WithoutBreaks(TwiceTheProduct(root)) + ".  It fits.", {.col = 3});
+  Say(R"(The trinomial has \y-\z20x, so the binomial has a minus sign, too:)");
+  Show(R"(\y)" + Identity(root), kCol);
   PageEnd();
   Say(R"(\yWatch out:\z  These do not fit.)");
   PaperBox({R"(\r(2x + 5)^2^\z has the middle term +20x)", R"(\r(5x - 2)^2^\z begins with 25x^2^)",
             R"(\r(4x - 25)^2^\z begins with 16x^2^)"});
   PageEnd();
-  Say(R"(\yTry it:\z  Tom takes half of 20.  He writes 2x - 10.  What is wrong?)");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Tom takes half of 20.  He writes 2x - 10 for the square root of )" +
+               Text("{}.  What is wrong?", TrinomialText(SquareOf(root))));
+  PageEnd();
+  Say("In (2x - 10)^2^ the last term is 100, not 25.");
+  Say(R"(Half of 20x is 10x, and that is 2x times 5.  We must still divide by 2x:  10x/(2x) = )"
+      R"(\y5\z.)");
   PageEnd();
 }
 
-void TwoRoots() {
-  NewScreen();
-  SayAt(3, R"(In (2x - 10)^2^ the last term is 100, not 25.  Half of 20 is the \yproduct\z of 2 )"
-           "and 5.");
-  PageEnd();
-  Say(R"(\yTry it:\z  -5 times -5 is 25, too.  So 25 has two square roots.  Does a trinomial have )"
-      "two?");
-  PageEnd();
-  Say("Yes.  -2x + 5 has the same square:");
-  Show("(-2x + 5)^2^ = 4x^2^ - 20x + 25", kCol);
-  Say("We take the root that begins without a minus sign:  2x - 5.");
-  PageEnd();
-
+void NoneOfTheAbove() {
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  What is the square root of {}?)", TrinomialText({9, 6, 1})));
   PageEnd();
-  AddLine("First:   9x^2^ is 3x times 3x.", {.col = 3});
+  Say("First:   9x^2^ is 3x times 3x.", {.col = 3});
   AddLine("Last:    1 is 1 times 1.", {.col = 3});
   AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({3, 1})) + ".  It fits.", {.col = 3});
-  Say(Text(R"(Its sign is plus:  \y{}\z)", BinomialText({3, 1})));
+  AddLine(Text(R"(Sign:    plus.  The root is \y{}\z.)", BinomialText({3, 1})), {.col = 3});
   PageEnd();
-  Say(R"(\yTry it:\z  Find the middle term that makes x^2^ + ... + 36 a square.)");
+  Say(Text(R"(\yTry it:\z  Which is the square root of {}?)", TrinomialText({9, 12, 4})));
+  PaperBox({Text("{},   {},   {},   or none of them", BinomialText({3, -2}), BinomialText({2, 3}),
+                 BinomialText({9, 4}))});
   PageEnd();
-  Say(Text("It is 12x, since {}.  With -12x it is a square, too:", TwiceTheProduct({1, 6})));
-  Show(Identity({1, 6}), kCol);
-  Show(Identity({1, -6}), kCol);
+  Say(Text(R"({}, so the root is \y{}\z.  It is not among them.  The right box is then )"
+           "None of the above.",
+           TwiceTheProduct({3, 2}), BinomialText({3, 2})));
   PageEnd();
 }
 
@@ -173,8 +201,8 @@ class PerfectSquareTrinomials final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{SquaresAndRoots, AreaOfTheSquare, WithMinus, TestOfTheMiddleTerm, NumberInFront,
-             TwoRoots}};
+    return {{SquaresAndRoots, AreaOfTheSquare, WithMinus, TestOfTheMiddleTerm, TwoRoots,
+             NumberInFront, NoneOfTheAbove}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
@@ -191,45 +219,97 @@ class PerfectSquareTrinomials final : public LessonScript {
 // --- Generator ---------------------------------------------------------------
 
 constexpr int kLargest = 10;  // size of the numbers drawn
-constexpr const char* kOtherSign = "overlooks the sign of the middle term";
 
-Binomial WithOtherSign(const Binomial& binomial) {
-  return {binomial.lead, -binomial.constant};
-}
+// What goes wrong on the way to the root.
+enum class Slip {
+  OtherSign,
+  LastRoot,
+  FirstRoot,
+  BothRoots,
+  HalfOfLast,
+  HalfOfFirst,
+  HalfOfMiddle,
+  Middle,
+  Exchange,
+  Added,
+};
+using enum Slip;
 
-// A number is added to the last term, in the direction of its sign.
-Binomial Enlarged(const Binomial& binomial, RandomStream& random) {
-  return {binomial.lead, binomial.constant + Sgn(binomial.constant) * random.Rand(1, kLargest)};
-}
-
-// What other terms a student takes; the sign is right.
-struct WrongTerms {
+struct WrongRoot {
   std::string mistake;
   Binomial binomial;
 };
-std::vector<WrongTerms> MistakesWith(const Binomial& root) {
+
+// The first three stand beside the right root, and the fourth in its place when it hides.  At times
+// a wrong root is closer to the others than the right one, so that to be so is no hint.
+constexpr std::array<std::array<Slip, 4>, 7> kPatterns = {{
+    {LastRoot, BothRoots, FirstRoot, OtherSign},
+    {OtherSign, LastRoot, BothRoots, HalfOfMiddle},
+    {HalfOfMiddle, LastRoot, BothRoots, OtherSign},
+    {HalfOfLast, LastRoot, BothRoots, OtherSign},
+    {HalfOfFirst, FirstRoot, BothRoots, OtherSign},
+    {OtherSign, Exchange, Middle, HalfOfMiddle},
+    {OtherSign, Exchange, Added, HalfOfMiddle},
+}};
+// They come in for slips of a pattern that change nothing in this problem.
+constexpr std::array kOthers = {LastRoot, Middle, FirstRoot, HalfOfLast, HalfOfFirst, Exchange};
+
+// A number is added to the last term, in the direction of its sign.
+Binomial Enlarged(const Binomial& root, RandomStream& random) {
+  return {root.lead, root.constant + Sgn(root.constant) * random.Rand(1, kLargest)};
+}
+
+// Half of an even square; the root itself where nobody would halve.
+int Halved(int root) {
+  return root % 2 == 0 ? root * root / 2 : root;
+}
+
+// The root itself where the slip changes nothing.
+WrongRoot Slipped(Slip slip, const Binomial& root, RandomStream& random) {
   const int p = root.lead;
-  const int q = root.constant;
-  return {{"exchanges the two numbers", {std::abs(q), Sgn(q) * p}},
-          {"takes half of the middle number for the last term", {p, p * q}},
-          {"forgets to take the square roots", {p * p, q * std::abs(q)}}};
+  const int q = std::abs(root.constant);
+  const int sign = Sgn(root.constant);
+  switch (slip) {
+    case OtherSign:
+      return {"overlooks the sign of the middle term", {p, -root.constant}};
+    case LastRoot:
+      return {"forgets the square root of the last number", {p, sign * q * q}};
+    case FirstRoot:
+      return {"forgets the square root of the first number", {p * p, root.constant}};
+    case BothRoots:
+      if (p == 1 || q == 1) return {"", root};
+      return {"forgets both square roots", {p * p, sign * q * q}};
+    case HalfOfLast:
+      return {"takes half of the last number in place of its square root", {p, sign * Halved(q)}};
+    case HalfOfFirst:
+      return {"takes half of the first number in place of its square root",
+              {Halved(p), root.constant}};
+    case HalfOfMiddle:
+      return {"takes half of the middle number for the last term", {p, sign * p * q}};
+    case Middle:
+      return {"takes the middle number for the last term", {p, sign * 2 * p * q}};
+    case Exchange:
+      return {"exchanges the two numbers", {q, sign * p}};
+    default:
+      return {kFiller, Enlarged(root, random)};
+  }
 }
 
 void PerfectSquareTrinomials::DrawProblem(RandomStream& random) {
   root_.lead = random.Rand(1, kLargest);
   root_.constant = random.Rand(1, kLargest);
   if (random.Rnd() - 0.5 < 0) root_.constant = -root_.constant;
-  const int pair = random.Rand(1, 7);  // 1 is a pair of numbers at random
+  const int pattern = random.Index(static_cast<int>(kPatterns.size()));
 
   problem.question = {"Find the square root of this polynomial:", TrinomialText(Asked())};
   Choices choices(problem, choice_kind::FourShuffledAndNone, BinomialText, 5);
   choices.Right(root_);
-  choices.Wrong(kOtherSign, WithOtherSign(root_));
-  if (pair > 1) {
-    const auto [mistake, binomial] = MistakesWith(root_)[static_cast<std::size_t>(pair / 2 - 1)];
+  const auto offer = [&](Slip slip) {
+    const auto [mistake, binomial] = Slipped(slip, root_, random);
     choices.Wrong(mistake, binomial);
-    choices.Wrong(mistake + " and overlooks the sign", WithOtherSign(binomial));
-  }
+  };
+  std::ranges::for_each(kPatterns[static_cast<std::size_t>(pattern - 1)], offer);
+  std::ranges::for_each(kOthers, offer);
   choices.Fill([&] { return Enlarged(root_, random); });
   HideRightAtTimes(problem, random);
 }
@@ -269,9 +349,12 @@ void PerfectSquareTrinomials::BeginPage() const {
 }
 
 void PerfectSquareTrinomials::TestMiddleTerm() const {
-  Say(R"(\yMiddle term.\z  We take twice the product of both:)");
+  Say(R"(\yMiddle term.\z  )" + Text("We take twice the product of {} and {}:", FirstTerm(root_),
+                                     std::abs(root_.constant)));
   Show(TwiceTheProduct(root_), kCol);
   PageEnd();
+  NewScreen();
+  BeginPage();
   const int middle = Asked().middle;
   const std::string sign = middle > 0 ? "plus" : "minus";
   Say(Text(

@@ -1,6 +1,7 @@
 // A trinomial whose square root is asked for: every choice is squared.  A root and its negative
 // have the same square, so they are one answer.
 #include <cmath>
+#include <cstdlib>
 
 #include "lesson_check/exact/notation.h"
 #include "lesson_check/exact/relations.h"
@@ -31,16 +32,20 @@ std::string SquareText(char letter, long lead, long constant) {
   return root.Power(2).Text();
 }
 
-void AddMistakes(char letter, long p, long q, Reading& reading) {
-  const long sign = q > 0 ? 1 : -1;
-  reading.mistakes["overlooks the sign of the middle term"] = {SquareText(letter, p, -q)};
+// p and q are the sizes of the numbers of the root.
+void AddMistakes(char letter, long p, long q, long sign, Reading& reading) {
   const auto add = [&](const std::string& name, long lead, long constant) {
-    reading.mistakes[name] = {SquareText(letter, lead, constant)};
-    reading.mistakes[name + " and overlooks the sign"] = {SquareText(letter, lead, -constant)};
+    reading.mistakes[name] = {SquareText(letter, lead, sign * constant)};
   };
-  add("exchanges the two numbers", sign * q, sign * p);
+  add("overlooks the sign of the middle term", p, -q);
+  add("exchanges the two numbers", q, p);
   add("takes half of the middle number for the last term", p, p * q);
-  add("forgets to take the square roots", p * p, sign * q * q);
+  add("takes the middle number for the last term", p, 2 * p * q);
+  add("forgets the square root of the first number", p * p, q);
+  add("forgets the square root of the last number", p, q * q);
+  if (p > 1 && q > 1) add("forgets both square roots", p * p, q * q);
+  if (p % 2 == 0) add("takes half of the first number in place of its square root", p * p / 2, q);
+  if (q % 2 == 0) add("takes half of the last number in place of its square root", p, q * q / 2);
 }
 
 Reading ReadPerfectSquare(const course::Problem& problem) {
@@ -67,7 +72,7 @@ Reading ReadPerfectSquare(const course::Problem& problem) {
       std::string(p == 1 ? "x^2" : "a number before x^2") + (q < 0 ? ", minus" : ", plus");
   reading.Within("the first number of the root", p, 1, kLargest);
   reading.Within("the second number of the root", q, -kLargest, kLargest);
-  AddMistakes(letter, p, q, reading);
+  AddMistakes(letter, p, std::abs(q), q < 0 ? -1 : 1, reading);
   return reading;
 }
 

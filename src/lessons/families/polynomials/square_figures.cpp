@@ -62,22 +62,28 @@ constexpr double kRest = kSide - kCorner;
 constexpr double kSideRows = kSide * kRowsPerColumn;
 constexpr double kCornerRows = kCorner * kRowsPerColumn;
 constexpr double kRestRows = kRest * kRowsPerColumn;
+constexpr double kBeside = 0.3;  // of the name of a side, right of it
 
 }  // namespace
 
 SquareOfSum::SquareOfSum(double row, double col, const std::string& a, const std::string& b)
-    : row_(row), col_(col) {
-  const double left = static_cast<double>(std::max(a.size(), b.size())) + 0.5;
+    : row_(row),
+      col_(col),
+      left_(static_cast<double>(std::max(a.size(), b.size())) + 0.5),
+      added_(b) {
   DrawPart(row, col, kLong, kLong, kFirstSquare);
   PrintInside(row - kLabelRows, col, 1, kLong, a);
-  PrintInside(row, col - left, kLongRows, left, a);
+  PrintInside(row, col - left_, kLongRows, left_, a);
+}
+
+void SquareOfSum::Grow() const {
   SlideStripsIn();
-  DrawPart(row, col, kLong, kLong, kFirstSquare);  // its edges in full
-  DrawPart(row, col + kLong, kShort, kLong, kStrip);
-  DrawPart(row + kLongRows, col, kLong, kShort, kStrip);
-  DrawPart(row + kLongRows, col + kLong, kShort, kShort, kLastSquare);
-  PrintInside(row - kLabelRows, col + kLong, 1, kShort, b);
-  PrintInside(row + kLongRows, col - left, kShortRows, left, b);
+  DrawPart(row_, col_, kLong, kLong, kFirstSquare);  // its edges in full
+  DrawPart(row_, col_ + kLong, kShort, kLong, kStrip);
+  DrawPart(row_ + kLongRows, col_, kLong, kShort, kStrip);
+  DrawPart(row_ + kLongRows, col_ + kLong, kShort, kShort, kLastSquare);
+  PrintInside(row_ - kLabelRows, col_ + kLong, 1, kShort, added_);
+  PrintInside(row_ + kLongRows, col_ - left_, kShortRows, left_, added_);
 }
 
 void SquareOfSum::SlideStripsIn() const {
@@ -115,16 +121,20 @@ void SquareWithoutCorner::TakeCornerAway() const {
 void SquareWithoutCorner::CutInTwo() const {
   DrawPart(row_, col_, kSide, kRest, kFirstSquare);
   DrawPart(row_ + kRestRows, col_, kRest, kCorner, kStrip);
+  PrintInside(row_, col_ + kSide + kBeside, kRestRows, 1, "3");
+  PrintInside(row_ + kSideRows, col_, 1, kRest, "3");
 }
 
 void SquareWithoutCorner::MoveBeside() const {
   ClearCells(row_ + kRestRows - kLower, col_ - 0.1 - kRight, kSide + 0.3, kCornerRows + 1.3);
+  ClearCells(row_, col_ + kSide + kBeside, 1, kRestRows);
   DrawPart(row_ + kCornerRows, col_ + kSide, kCorner, kRest, kStrip);
   SlideUp({row_ + kCornerRows - kLower, col_ + kSide - kRight, kCorner + 0.3, kRestRows + 0.2},
           kCornerRows);
   DrawPart(row_, col_, kSide, kRest, kFirstSquare);  // their edges in full
   DrawPart(row_, col_ + kSide, kCorner, kRest, kStrip);
   PrintInside(row_ - kLabelRows, col_ + kSide, 1, kCorner, "2");
+  PrintInside(row_, col_ + kSide + kCorner + kBeside, kRestRows, 1, "3");
   GoBelow();
 }
 

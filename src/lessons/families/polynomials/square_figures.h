@@ -8,10 +8,11 @@ namespace course::polynomials {
 
 // A square with the side a + b, cut into the square of a, two strips a by b, and the square of b.
 // It takes 6 rows and 9.4 columns from its upper left cell on; the names of the sides stand above
-// it and at its left.  The square of a stands there first, and the strips slide to it.
+// it and at its left.  The square of a stands there first; then the strips slide to it.
 class SquareOfSum {
  public:
   SquareOfSum(double row, double col, const std::string& a, const std::string& b);
+  void Grow() const;
   // The areas appear, of the two squares and of the strips.
   void PrintSquares(const std::string& first, const std::string& last) const;
   void PrintStrips(const std::string& area) const;
@@ -21,6 +22,8 @@ class SquareOfSum {
 
   double row_;
   double col_;
+  double left_;  // columns of the names at its left
+  std::string added_;
 };
 
 // A square with the side 5, from whose lower right corner a square with the side 2 is cut off.  It
