@@ -199,7 +199,7 @@ void DifferenceOfTwoSquares::ShowProblem() {
 void DifferenceOfTwoSquares::ExplainProblem() {
   BeginPage();
   PageEnd();
-  if (asked_.form == DifferenceForm::CommonFactor) TakeCommonFactorOut();
+  if (asked_.common > 1) TakeCommonFactorOut();
   FactorDifference(asked_);
   if (asked_.form == DifferenceForm::FourthPowers) FactorAgain();
   NewScreen();
@@ -236,7 +236,7 @@ void DifferenceOfTwoSquares::FactorAgain() const {
   NewScreen();
   BeginPage();
   Show("= " + asked_.SumTimesDifference(), kCol);
-  const SquareDifference inner = asked_.Inner();
+  const SquareDifference inner = asked_.Bared();
   Say(Text(R"({} is a difference of two squares, too, of {} and {}.)", inner.WithoutCommon(),
            inner.FirstRoot(), inner.LastRoot()));
   Show(inner.WithoutCommon() + " = " + inner.SumTimesDifference(), kCol);
@@ -248,7 +248,7 @@ void DifferenceOfTwoSquares::FactorAgain() const {
 
 void DifferenceOfTwoSquares::Check() const {
   const bool bare = asked_.form == DifferenceForm::Bare;
-  const SquareDifference inner = asked_.Inner();
+  const SquareDifference inner = asked_.Bared();
   const std::string middle = PowerTerm(inner.a * inner.b, inner.letter, 1);
   WhiteBox({.row = 8.5, .rows = bare ? 7.0 : 10.0});
   SayInBox(R"(\bCheck:\z  We multiply out.)");
@@ -257,7 +257,7 @@ void DifferenceOfTwoSquares::Check() const {
   SayInBox("= " + inner.WithoutCommon());
   PageEnd();
   if (bare) return;
-  const std::string before = asked_.form == DifferenceForm::CommonFactor
+  const std::string before = asked_.common > 1
                                  ? NumStr(asked_.common)
                                  : FactorOf(asked_.FirstRoot(), asked_.LastRoot());
   SayInBox("The other factor comes in:");

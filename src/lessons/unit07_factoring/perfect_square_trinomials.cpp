@@ -119,15 +119,12 @@ void TestOfTheMiddleTerm() {
   AddLine("Last:    25 is 5 times 5.", {.col = 3});
   AddLine("Middle:  " + WithoutBreaks(TwiceTheProduct({1, 5})) + ".  It fits.", {.col = 3});
   PageEnd();
-  Show(R"(\y)" + Identity({1, 5}), kCol);
-  PageEnd();
 
   NewScreen();
   SayAt(3, Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 10, 16})));
   PageEnd();
   Say(Text("No.  Both ends are squares, of x and 4.  But {}, and the middle term is 10x.",
            TwiceTheProduct({1, 4})));
-  PageEnd();
   Say(Text(R"(\yTry it:\z  Is {} a square?)", TrinomialText({1, 6, -9})));
   PageEnd();
   Say("No.  A number times itself is never negative.  So -9 cannot be the last term of a square.");
@@ -242,12 +239,14 @@ struct WrongRoot {
 
 // The first three stand beside the right root, and the fourth in its place when it hides.  At times
 // a wrong root is closer to the others than the right one, so that to be so is no hint.
-constexpr std::array<std::array<Slip, 4>, 7> kPatterns = {{
+constexpr std::array<std::array<Slip, 4>, 9> kPatterns = {{
     {LastRoot, BothRoots, FirstRoot, OtherSign},
     {OtherSign, LastRoot, BothRoots, HalfOfMiddle},
+    {OtherSign, FirstRoot, BothRoots, Middle},
+    {HalfOfLast, LastRoot, BothRoots, FirstRoot},
+    {HalfOfFirst, FirstRoot, BothRoots, LastRoot},
     {HalfOfMiddle, LastRoot, BothRoots, OtherSign},
-    {HalfOfLast, LastRoot, BothRoots, OtherSign},
-    {HalfOfFirst, FirstRoot, BothRoots, OtherSign},
+    {Exchange, LastRoot, BothRoots, OtherSign},
     {OtherSign, Exchange, Middle, HalfOfMiddle},
     {OtherSign, Exchange, Added, HalfOfMiddle},
 }};

@@ -1,5 +1,6 @@
 // A difference of two squares to be factored completely: every choice is multiplied out, and its
 // factors are looked at for what is left in them.
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <numeric>
@@ -13,8 +14,6 @@ namespace lesson_check {
 namespace {
 
 using Kind = Expression::Kind;
-
-constexpr const char* kNotComplete = ", not completely";
 
 bool IsSquare(long number) {
   const long root = std::lround(std::sqrt(static_cast<double>(number)));
@@ -53,27 +52,41 @@ bool CanBeFactored(const TwoTerms& terms) {
   return terms.degree % 2 == 0 && IsSquare(terms.lead) && IsSquare(-terms.constant);
 }
 
-// The factors of a choice in parentheses, one for each time that it is a factor.
-bool AnyCanBeFactored(const Expression& expression, char letter) {
+// The factors of a choice in parentheses; a power counts once.
+void AddFactors(const Expression& expression, std::vector<Polynomial>& factors) {
   switch (expression.kind) {
     case Kind::Product:
-      for (const Expression& part : expression.parts)
-        if (AnyCanBeFactored(part, letter)) return true;
-      return false;
+      for (const Expression& part : expression.parts) AddFactors(part, factors);
+      return;
     case Kind::Power:
-      return AnyCanBeFactored(expression.parts[0], letter);
+      return AddFactors(expression.parts[0], factors);
     case Kind::Number:
-      return false;
+      return;
     default:
-      return CanBeFactored(ReadTwoTerms(ValueOf(expression), letter));
+      factors.push_back(ValueOf(expression));
   }
+}
+
+// The product; the same product with factors that can be factored again is another value.
+std::string ValueOfFactors(const Polynomial& product, const std::vector<Polynomial>& factors,
+                           char letter) {
+  bool complete = true;
+  std::vector<std::string> texts;
+  for (const Polynomial& factor : factors) {
+    complete = complete && !CanBeFactored(ReadTwoTerms(factor, letter));
+    texts.push_back("(" + factor.Text() + ")");
+  }
+  if (complete) return product.Text();
+  std::ranges::sort(texts);
+  return std::accumulate(texts.begin(), texts.end(), product.Text() + ", not completely:  ");
 }
 
 std::string ValueOfFactoring(const std::string& choice, char letter) {
   const Expression expression = ParseExpression(choice);
   if (expression.kind != Kind::Product) throw Unreadable("\"" + choice + "\" is no product");
-  const bool complete = !AnyCanBeFactored(expression, letter);
-  return ValueOf(expression).Text() + (complete ? "" : kNotComplete);
+  std::vector<Polynomial> factors;
+  AddFactors(expression, factors);
+  return ValueOfFactors(ValueOf(expression), factors, letter);
 }
 
 class Mistakes {
@@ -83,19 +96,24 @@ class Mistakes {
   // A product of the number and factors, each of which may be a difference of squares again.
   void Add(const std::string& name, long number, const std::vector<TwoTerms>& factors) {
     Polynomial product{Rational(number)};
-    bool complete = true;
+    std::vector<Polynomial> values;
     for (const TwoTerms& factor : factors) {
-      product = product * Value(factor);
-      complete = complete && !CanBeFactored(factor);
+      values.push_back(Value(factor));
+      product = product * values.back();
     }
-    reading_.mistakes[name].push_back(product.Text() + (complete ? "" : kNotComplete));
+    reading_.mistakes[name].push_back(ValueOfFactors(product, values, letter_));
   }
-  // Of two factors with the same numbers: signs that differ, and both ways in which they agree.
-  void AddWithSigns(const std::string& name, long number, long p, long q) {
-    if (!name.empty()) Add(name, number, {{p, 1, q}, {p, 1, -q}});
-    const std::string start = name.empty() ? "" : name + " and ";
-    Add(start + "writes two plus signs", number, {{p, 1, q}, {p, 1, q}});
-    Add(start + "takes it for the square of a difference", number, {{p, 1, -q}, {p, 1, -q}});
+  // Of two factors with the same numbers, whose signs differ.
+  void AddMixed(const std::string& name, long number, long p, long q) {
+    Add(name, number, {{p, 1, q}, {p, 1, -q}});
+  }
+  // Both ways in which the signs agree, behind another factor at times.
+  void AddSameSigns(long number, long p, long q, const std::vector<TwoTerms>& before = {}) {
+    for (const long sign : {1L, -1L}) {
+      std::vector<TwoTerms> factors = before;
+      factors.insert(factors.end(), 2, {p, 1, sign * q});
+      Add(sign > 0 ? "writes two plus signs" : "writes two minus signs", number, factors);
+    }
   }
 
  private:
@@ -108,32 +126,66 @@ class Mistakes {
   Reading& reading_;
 };
 
-long Half(long square) {
-  return square == 1 ? 1 : square / 2;
+std::string Number(long value) {
+  return std::to_string(value);
+}
+
+void AddForgottenRoots(long common, long p, long q, Mistakes& mistakes) {
+  if (p > 1) mistakes.AddMixed("forgets the square root of the first number", common, p * p, q);
+  if (q > 1) mistakes.AddMixed("forgets the square root of the second number", common, p, q * q);
+  if (p > 1 && q > 1) mistakes.AddMixed("forgets both square roots", common, p * p, q * q);
+}
+
+void AddMistakesOfBare(long p, long q, Mistakes& mistakes) {
+  AddForgottenRoots(1, p, q, mistakes);
+  mistakes.AddMixed("exchanges the two numbers", 1, q, p);
+  const auto half = [](long square) {
+    return "takes half of " + Number(square) + " in place of its square root";
+  };
+  const auto split = [](long square) {
+    return "splits " + Number(square) + " into " + Number(square) + " and 1";
+  };
+  if (p > 2 && p % 2 == 0) mistakes.AddMixed(half(p * p), 1, p * p / 2, q);
+  if (q > 2 && q % 2 == 0) mistakes.AddMixed(half(q * q), 1, p, q * q / 2);
+  if (p > 1) mistakes.Add(split(p * p), 1, {{p * p, 1, q}, {1, 1, -q}});
+  if (q > 1) mistakes.Add(split(q * q), 1, {{p, 1, q * q}, {p, 1, -1}});
+}
+
+void AddMistakesOfCommonFactor(long common, long p, long q, Mistakes& mistakes) {
+  mistakes.AddMixed("forgets the common factor", 1, p, q);
+  const std::string start = "leaves the " + Number(common) + " inside the ";
+  const TwoTerms plus = {common * p, 1, common * q};
+  const TwoTerms minus = {common * p, 1, -common * q};
+  mistakes.Add(start + "first factor", 1, {plus, {p, 1, -q}});
+  mistakes.Add(start + "second factor", 1, {{p, 1, q}, minus});
+  if (IsSquare(common)) {
+    const long root = RootOf(common);
+    mistakes.AddMixed("leaves the " + Number(root) + " inside both factors", 1, root * p, root * q);
+    mistakes.AddMixed("takes the " + Number(root) + " out of one factor only", root, p, q);
+    return;
+  }
+  AddForgottenRoots(common, p, q, mistakes);
+  mistakes.Add("leaves a difference of squares inside", common, {{p * p, 2, -q * q}});
 }
 
 void AddMistakesOfSquares(long common, long p, long q, Mistakes& mistakes) {
-  mistakes.AddWithSigns("", common, p, q);
-  mistakes.AddWithSigns("forgets to take the square roots", common, p * p, q * q);
-  if (common > 1) {
-    mistakes.AddWithSigns("forgets the common factor", 1, p, q);
-    mistakes.Add("leaves the common factor inside", 1, {{common * p, 1, common * q}, {p, 1, -q}});
-    return;
-  }
-  mistakes.AddWithSigns("exchanges the two numbers", 1, q, p);
-  if ((p == 1 && q > 2 && q % 2 == 0) || (q == 1 && p > 2 && p % 2 == 0))
-    mistakes.AddWithSigns("takes half in place of the square root", 1, Half(p * p), Half(q * q));
+  mistakes.AddSameSigns(common, p, q);
+  if (common > 1)
+    AddMistakesOfCommonFactor(common, p, q, mistakes);
+  else
+    AddMistakesOfBare(p, q, mistakes);
 }
 
 void AddMistakesOfFourthPowers(long p, long q, Mistakes& mistakes) {
   const TwoTerms sum = {p * p, 2, q * q};
   const TwoTerms plus = {p, 1, q};
   const TwoTerms minus = {p, 1, -q};
-  mistakes.Add("writes two plus signs", 1, {sum, plus, plus});
-  mistakes.Add("takes it for the square of a difference", 1, {sum, minus, minus});
+  mistakes.AddSameSigns(1, p, q, {sum});
   mistakes.Add("leaves a difference of squares inside", 1, {sum, {p * p, 2, -q * q}});
   mistakes.Add("takes a sum of squares for a difference", 1, {plus, minus, plus, minus});
-  mistakes.AddWithSigns("forgets the sum of squares", 1, p, q);
+  mistakes.AddMixed("forgets the sum of squares", 1, p, q);
+  mistakes.Add("forgets the square roots in the second step", 1,
+               {sum, {p * p, 1, q * q}, {p * p, 1, -q * q}});
 }
 
 std::string LineWithPower(const course::Problem& problem) {
@@ -156,7 +208,7 @@ Reading ReadDifferenceOfSquares(const course::Problem& problem) {
   reading.value = [letter](const std::string& choice) { return ValueOfFactoring(choice, letter); };
   Mistakes mistakes(letter, reading);
   if (terms.degree == 2) {
-    reading.kind = common > 1 ? "a common factor" : "bare";
+    reading.kind = common == 1 ? "bare" : IsSquare(common) ? "a common square" : "a common factor";
     AddMistakesOfSquares(common, p, q, mistakes);
   } else {
     if (terms.degree != 4 || common > 1) throw Unreadable("\"" + line + "\" is of another kind");
@@ -167,7 +219,7 @@ Reading ReadDifferenceOfSquares(const course::Problem& problem) {
   }
   reading.Within("the first value", p, 1, 8);
   reading.Within("the second value", q, 1, 8);
-  reading.Within("the common factor", common, 1, 13);
+  reading.Within("the common factor", common, 1, 16);
   return reading;
 }
 

@@ -4,12 +4,15 @@
 #include <array>
 #include <string_view>
 
+#include "lessons/page/say.h"
 #include "mathkit/expressions.h"
 #include "mathkit/integers.h"
 #include "mathkit/tutor_codes.h"
 
 namespace course::polynomials {
 namespace {
+
+using page::Text;
 
 constexpr int kLargestValue = 8;
 constexpr int kLargestOfFourthPowers = 3;  // the fourth power of 4 is 256 already
@@ -21,10 +24,14 @@ int DrawCommonFactor(RandomStream& random) {
   return std::stoi(std::string(kCommonFactors.substr(static_cast<std::size_t>(at), 2)));
 }
 
-// Equal values can be exchanged without a mistake; values with a common factor would leave it in
-// the factors; and large numbers take time that the lesson is not about.
+// Equal values can be exchanged without a mistake; values with a common factor leave it in the
+// factors, which is what one form is about; and large numbers take time that the lesson is not
+// about.
 bool IsAdmitted(const SquareDifference& drawn) {
-  if (drawn.a == drawn.b || Gcf(drawn.a, drawn.b) > 1) return false;
+  if (drawn.a == drawn.b) return false;
+  const bool isCommon = Gcf(drawn.a, drawn.b) > 1;
+  if (isCommon != (drawn.form == DifferenceForm::CommonSquare)) return false;
+  if (isCommon) return true;
   const int larger = std::max(drawn.a, drawn.b);
   if (drawn.form == DifferenceForm::FourthPowers) return larger <= kLargestOfFourthPowers;
   return drawn.common * larger * larger <= kLargestCoefficient;
@@ -73,144 +80,207 @@ std::string SquareDifference::SumTimesDifference() const {
 
 std::string SquareDifference::Factored() const {
   if (form == DifferenceForm::FourthPowers)
-    return FactorOf(FirstRoot(), LastRoot()) + Inner().SumTimesDifference();
+    return FactorOf(FirstRoot(), LastRoot()) + Bared().SumTimesDifference();
   return CoefText(common) + SumTimesDifference();
 }
 
-SquareDifference SquareDifference::Inner() const {
+SquareDifference SquareDifference::Bared() const {
   SquareDifference inner = *this;
   inner.form = DifferenceForm::Bare;
+  inner.common = 1;
   return inner;
 }
 
 // --- The draw ------------------------------------------------------------------------------------
 
-// Two in five are bare, two have a common factor.
+// Of ten, four are bare, three have a prime in common, one a square, and two are fourth powers.
 SquareDifference DrawSquareDifference(RandomStream& random) {
-  constexpr std::array kForms = {DifferenceForm::Bare, DifferenceForm::Bare,
-                                 DifferenceForm::CommonFactor, DifferenceForm::CommonFactor,
-                                 DifferenceForm::FourthPowers};
+  using enum DifferenceForm;
+  constexpr std::array kForms = {Bare,        Bare,        Bare,         Bare,        CommonFactor,
+                                 CommonFactor, CommonFactor, CommonSquare, FourthPowers, FourthPowers};
   SquareDifference drawn;
-  drawn.form = kForms[static_cast<std::size_t>(random.Rand(0, 4))];
+  drawn.form = kForms[static_cast<std::size_t>(random.Rand(0, 9))];
   drawn.letter = random.OneOf(kVariableLettersWithoutAB);
   do {
-    if (drawn.form == DifferenceForm::CommonFactor) drawn.common = DrawCommonFactor(random);
+    if (drawn.form == CommonFactor) drawn.common = DrawCommonFactor(random);
     drawn.a = random.Rand(1, kLargestValue);
     drawn.b = random.Rand(1, kLargestValue);
   } while (!IsAdmitted(drawn));  // of fourth powers one draw in eleven is
+  if (drawn.form == CommonSquare) {
+    drawn.commonRoot = Gcf(drawn.a, drawn.b);
+    drawn.common = drawn.commonRoot * drawn.commonRoot;
+    drawn.a /= drawn.commonRoot;
+    drawn.b /= drawn.commonRoot;
+  }
   return drawn;
 }
 
-// --- Wrong choices -------------------------------------------------------------------------------
+// --- Wrong choices: each is one slip -------------------------------------------------------------
 
 namespace {
 
-// Both factors with the same sign: a wrong choice beside the right one and beside another wrong
-// one, so that neither is the box most like the others.
-struct SameSigns {
-  int sign;
-  std::string mistake;
-};
+// With these shares the right choice is seldom the box most like the others.
+constexpr double kShareOfSameSigns = 0.5;
+constexpr double kShareOfBothInside = 0.6;
 
-SameSigns DrawSameSigns(RandomStream& random) {
-  if (random.Rnd() < 0.5) return {1, "writes two plus signs"};
-  return {-1, "takes it for the square of a difference"};
+// "7(2x + 5)(2x - 5)", the number only when it is not 1.
+std::string Mixed(int before, const std::string& first, int last) {
+  return CoefText(before) + FactorOf(first, last) + FactorOf(first, -last);
 }
 
-// A first term and a number, as they stand in both factors, and the mistake that leads to them.
-struct Terms {
-  std::string mistake;
-  std::string before;  // the parentheses
-  std::string first;
-  int last;
-
-  WrongFactors Mixed() const {
-    return {mistake, before + FactorOf(first, last) + FactorOf(first, -last)};
-  }
-  WrongFactors With(const SameSigns& signs) const {
-    const std::string factor = FactorOf(first, signs.sign * last);
-    return {mistake.empty() ? signs.mistake : mistake + " and " + signs.mistake,
-            before + factor + factor};
-  }
-};
-
-Terms RightTerms(const SquareDifference& asked) {
-  return {"", CoefText(asked.common), asked.FirstRoot(), asked.LastRoot()};
+std::string Twice(const std::string& before, const std::string& factor) {
+  return before + factor + factor;
 }
 
-Terms TermsWithoutRoots(const SquareDifference& asked) {
-  return {"forgets to take the square roots", CoefText(asked.common),
-          PowerTerm(asked.a * asked.a, asked.letter, 1), asked.LastSquare()};
+// Both factors with the same sign, behind what stands before them.
+WrongFactors SameSigns(const std::string& before, const SquareDifference& inner,
+                       RandomStream& random) {
+  if (random.Rnd() < 0.5)
+    return {"writes two plus signs", Twice(before, FactorOf(inner.FirstRoot(), inner.LastRoot()))};
+  return {"writes two minus signs", Twice(before, FactorOf(inner.FirstRoot(), -inner.LastRoot()))};
 }
 
-// One of the squares is 1, which stays, and the other one is even.  Half of 4 is its root.
-bool CanBeHalved(const SquareDifference& asked) {
-  const int larger = std::max(asked.a, asked.b);
-  return asked.a * asked.b == larger && larger % 2 == 0 && larger > 2;
-}
-int Halved(int square) {
-  return square == 1 ? 1 : square / 2;
+// Roots that are forgotten.  Where one of the squares is 1 there is only one root to be forgotten.
+std::vector<WrongFactors> ForgottenRoots(const SquareDifference& asked) {
+  const std::string squared = PowerTerm(asked.a * asked.a, asked.letter, 1);
+  const int square = asked.LastSquare();
+  const WrongFactors first = {"forgets the square root of the first number",
+                              Mixed(asked.common, squared, asked.b)};
+  const WrongFactors last = {"forgets the square root of the second number",
+                             Mixed(asked.common, asked.FirstRoot(), square)};
+  if (asked.a == 1) return {last};
+  if (asked.b == 1) return {first};
+  return {{"forgets both square roots", Mixed(asked.common, squared, square)}, first, last};
 }
 
-// Exchanged numbers and, at times, halved ones beside those without roots, in any order.
-std::vector<Terms> WrongTermsOfBare(const SquareDifference& asked, RandomStream& random) {
-  Terms other = {"exchanges the two numbers", "", PowerTerm(asked.b, asked.letter, 1), asked.a};
-  if (CanBeHalved(asked) && random.Rnd() < 0.5)
-    other = {"takes half in place of the square root", "",
-             PowerTerm(Halved(asked.a * asked.a), asked.letter, 1), Halved(asked.LastSquare())};
-  std::vector<Terms> terms = {TermsWithoutRoots(asked), other};
-  if (random.Rnd() < 0.5) std::swap(terms[0], terms[1]);
-  return terms;
+// Half of an even square in place of its root: of 4 they are the same.
+bool CanBeHalved(int root) {
+  return root % 2 == 0 && root > 2;
+}
+
+std::vector<WrongFactors> HalvedSquares(const SquareDifference& asked) {
+  std::vector<WrongFactors> wrong;
+  const int first = asked.a * asked.a;
+  const int last = asked.LastSquare();
+  const auto add = [&](int square, const std::string& text) {
+    wrong.push_back({Text("takes half of {} in place of its square root", square), text});
+  };
+  if (CanBeHalved(asked.b)) add(last, Mixed(1, asked.FirstRoot(), last / 2));
+  if (CanBeHalved(asked.a)) add(first, Mixed(1, PowerTerm(first / 2, asked.letter, 1), asked.b));
+  return wrong;
+}
+
+// Factors whose first and last products are right, but not the middle term: (25x + 2)(x - 2).
+std::vector<WrongFactors> SplitSquares(const SquareDifference& asked) {
+  std::vector<WrongFactors> wrong;
+  const int first = asked.a * asked.a;
+  const int last = asked.LastSquare();
+  const auto add = [&](int square, const std::string& text) {
+    wrong.push_back({Text("splits {} into {} and 1", square, square), text});
+  };
+  if (asked.a > 1)
+    add(first, FactorOf(PowerTerm(first, asked.letter, 1), asked.b) +
+                   FactorOf(asked.letter, -asked.b));
+  if (asked.b > 1) add(last, FactorOf(asked.FirstRoot(), last) + FactorOf(asked.FirstRoot(), -1));
+  return wrong;
+}
+
+// The first of wrong choices in any order, all of which differ, and the mistakes, too.
+std::vector<WrongFactors> AnyOf(std::vector<WrongFactors> wrong, std::size_t count,
+                                RandomStream& random) {
+  for (std::size_t i = 0; i < count; ++i)
+    std::swap(wrong[i], wrong[static_cast<std::size_t>(
+                            random.Rand(static_cast<int>(i), static_cast<int>(wrong.size()) - 1))]);
+  wrong.resize(count);
+  return wrong;
+}
+
+void Append(std::vector<WrongFactors>& wrong, const std::vector<WrongFactors>& more) {
+  wrong.insert(wrong.end(), more.begin(), more.end());
 }
 
 std::vector<WrongFactors> WrongFactoringsOfBare(const SquareDifference& asked,
                                                 RandomStream& random) {
-  const SameSigns same = DrawSameSigns(random);
-  const std::vector<Terms> terms = WrongTermsOfBare(asked, random);
-  const bool mixed = random.Rnd() < 0.5;
-  return {RightTerms(asked).With(same), terms[0].Mixed(), terms[0].With(same),
-          mixed ? terms[1].Mixed() : terms[1].With(same)};
+  std::vector<WrongFactors> wrong = ForgottenRoots(asked);
+  Append(wrong, HalvedSquares(asked));
+  Append(wrong, SplitSquares(asked));
+  wrong.push_back({"exchanges the two numbers",
+                   Mixed(1, PowerTerm(asked.b, asked.letter, 1), asked.a)});
+  const WrongFactors same = SameSigns("", asked, random);
+  if (wrong.size() < 4 || random.Rnd() < kShareOfSameSigns) {
+    wrong = AnyOf(wrong, 3, random);
+    wrong.push_back(same);
+    return wrong;
+  }
+  return AnyOf(wrong, 4, random);
+}
+
+// "3(49x^2^ - 16)", which can be factored again.
+std::string Unfinished(const SquareDifference& asked) {
+  return NumStr(asked.common) + "(" + asked.WithoutCommon() + ")";
 }
 
 // The common factor stays in one of the two factors.
-WrongFactors CommonFactorInside(const SquareDifference& asked, bool inSum) {
-  const auto factor = [&](int times, int sign) {
-    return FactorOf(PowerTerm(times * asked.a, asked.letter, 1), sign * times * asked.b);
-  };
-  return {"leaves the common factor inside",
-          factor(inSum ? asked.common : 1, 1) + factor(inSum ? 1 : asked.common, -1)};
+std::vector<WrongFactors> CommonFactorInside(const SquareDifference& asked) {
+  const std::string times = PowerTerm(asked.common * asked.a, asked.letter, 1);
+  const int number = asked.common * asked.b;
+  return {{Text("leaves the {} inside the first factor", asked.common),
+           FactorOf(times, number) + FactorOf(asked.FirstRoot(), -asked.b)},
+          {Text("leaves the {} inside the second factor", asked.common),
+           FactorOf(asked.FirstRoot(), asked.b) + FactorOf(times, -number)}};
 }
 
 std::vector<WrongFactors> WrongFactoringsWithCommonFactor(const SquareDifference& asked,
                                                           RandomStream& random) {
-  const SameSigns same = DrawSameSigns(random);
-  Terms terms = TermsWithoutRoots(asked);
-  if (random.Rnd() < 0.6) {
-    terms = RightTerms(asked);
-    terms.mistake = "forgets the common factor";
-    terms.before = "";
+  std::vector<WrongFactors> wrong = {
+      {"forgets the common factor", Mixed(1, asked.FirstRoot(), asked.b)}};
+  if (random.Rnd() < kShareOfBothInside) {
+    Append(wrong, CommonFactorInside(asked));
+  } else {
+    Append(wrong, AnyOf(CommonFactorInside(asked), 1, random));
+    Append(wrong, AnyOf(ForgottenRoots(asked), 1, random));
   }
-  return {RightTerms(asked).With(same), terms.Mixed(), terms.With(same),
-          CommonFactorInside(asked, random.Rnd() < 0.5)};
+  if (random.Rnd() < 0.5)
+    wrong.push_back(SameSigns(NumStr(asked.common), asked.Bared(), random));
+  else
+    wrong.push_back({"leaves a difference of squares inside", Unfinished(asked)});
+  return wrong;
+}
+
+// Of 4x^2^ - 36, where the roots 2x and 6 can be taken without a look at the common factor.
+std::vector<WrongFactors> WrongFactoringsWithCommonSquare(const SquareDifference& asked,
+                                                          RandomStream& random) {
+  const int times = asked.commonRoot;
+  std::vector<WrongFactors> wrong = {
+      {Text("leaves the {} inside both factors", times),
+       Mixed(1, PowerTerm(times * asked.a, asked.letter, 1), times * asked.b)},
+      {Text("takes the {} out of one factor only", times),
+       Mixed(times, asked.FirstRoot(), asked.b)},
+      {"forgets the common factor", Mixed(1, asked.FirstRoot(), asked.b)}};
+  if (random.Rnd() < 0.5)
+    wrong.push_back(SameSigns(NumStr(asked.common), asked.Bared(), random));
+  else
+    Append(wrong, AnyOf(CommonFactorInside(asked), 1, random));
+  return wrong;
 }
 
 std::vector<WrongFactors> WrongFactoringsOfFourthPowers(const SquareDifference& asked,
                                                         RandomStream& random) {
-  const SquareDifference inner = asked.Inner();
+  const SquareDifference inner = asked.Bared();
   const std::string sum = FactorOf(asked.FirstRoot(), asked.LastRoot());
-  const std::string squaredSum = FactorOf(inner.FirstRoot(), inner.b) + "^2^";
-  const std::string squaredDifference = FactorOf(inner.FirstRoot(), -inner.b) + "^2^";
-  const SameSigns same = DrawSameSigns(random);
-  const Terms terms = RightTerms(inner);
-  Terms withSum = terms;
-  withSum.before = sum;
-  Terms withoutSum = terms;
-  withoutSum.mistake = "forgets the sum of squares";
-  const bool mixed = random.Rnd() < 0.5;
-  return {{"leaves a difference of squares inside", asked.SumTimesDifference()},
-          {"takes a sum of squares for a difference", squaredSum + squaredDifference},
-          withSum.With(same),
-          mixed ? withoutSum.Mixed() : withoutSum.With(same)};
+  const WrongFactors same = SameSigns(sum, inner, random);
+  const std::string again =
+      Mixed(1, PowerTerm(inner.a * inner.a, inner.letter, 1), inner.b * inner.b);
+  std::vector<WrongFactors> wrong = {
+      {"leaves a difference of squares inside", asked.SumTimesDifference()},
+      {"takes a sum of squares for a difference",
+       FactorOf(inner.FirstRoot(), inner.b) + "^2^" + FactorOf(inner.FirstRoot(), -inner.b) + "^2^"},
+      {"forgets the sum of squares", inner.SumTimesDifference()}};
+  if (random.Rnd() < 0.5)
+    wrong.push_back(same);
+  else
+    wrong.push_back({"forgets the square roots in the second step", sum + again});
+  return wrong;
 }
 
 }  // namespace
@@ -219,6 +289,8 @@ std::vector<WrongFactors> WrongFactorings(const SquareDifference& asked, RandomS
   switch (asked.form) {
     case DifferenceForm::CommonFactor:
       return WrongFactoringsWithCommonFactor(asked, random);
+    case DifferenceForm::CommonSquare:
+      return WrongFactoringsWithCommonSquare(asked, random);
     case DifferenceForm::FourthPowers:
       return WrongFactoringsOfFourthPowers(asked, random);
     default:

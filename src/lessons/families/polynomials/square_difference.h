@@ -12,6 +12,7 @@ namespace course::polynomials {
 enum class DifferenceForm {
   Bare,          // 4x^2 - 25
   CommonFactor,  // 12x^2 - 75
+  CommonSquare,  // 4x^2 - 36
   FourthPowers,  // 16x^4 - 81
 };
 
@@ -20,7 +21,8 @@ struct SquareDifference {
   std::string letter = "x";
   int a = 1;  // 1 to 8, different and without a common factor; of fourth powers 1 to 3
   int b = 2;
-  int common = 1;  // a prime with a common factor, else 1
+  int common = 1;      // a prime or a square with a common factor, else 1
+  int commonRoot = 1;  // of a common square: 2 of 4x^2 - 36
 
   // "12x^2^ - 75" as it is asked for, and "4x^2^ - 25" without the common factor.
   std::string Asked() const;
@@ -34,8 +36,8 @@ struct SquareDifference {
   std::string SumTimesDifference() const;
   // "3(2x + 5)(2x - 5)", "(4x^2^ + 9)(2x + 3)(2x - 3)".
   std::string Factored() const;
-  // What is left of fourth powers: 4x^2 - 9.
-  SquareDifference Inner() const;
+  // What is left without the common factor, and of fourth powers: 4x^2 - 9.
+  SquareDifference Bared() const;
 };
 
 // "8x^2^", "x".
