@@ -23,21 +23,20 @@ void AreaWithoutCorner() {
   constexpr double kFigureCol = 4;
   const TextPlace beside = {.col = 17};
   NewScreen();
-  SayAt(3, "A square loses its lower right corner:");
+  SayAt(3, "This square loses a corner with side 2:");
   const SquareWithoutCorner figure(kRow, kFigureCol);
+  SayAt(6, R"(\yTry it:\z  What area is left?)", beside);
   PageEnd();
   figure.TakeCornerAway();
-  SayAt(5.5, R"(\yTry it:\z  What area is left?)", beside);
-  PageEnd();
   SayAt(8, "5^2^ is 25, and 2^2^ is 4.", beside);
   SayAt(9.5, "5^2^ - 2^2^ = 25 - 4 = 21", beside);
   PageEnd();
   figure.CutInTwo();
   SayAt(12, "We cut what is left in two.  The parts are 5 by 3 and 3 by 2.");
   PageEnd();
-  Say("The lower part stands up beside the upper one.");
+  Say("The lower part goes beside the upper:");
   figure.MoveBeside();
-  Say(R"(\yTry it:\z  How long and how high is it?)");
+  Say(R"(\yTry it:\z  How long and how high is the new rectangle?)");
   PageEnd();
   Say("It is 5 + 2 = 7 long and 5 - 2 = 3 high.  Its area is the same:");
   Show("(5 + 2)(5 - 2) = 7 " + tutor::Times + " 3 = 21", kCol);
@@ -48,17 +47,18 @@ void AreaWithoutCorner() {
 void RuleForLetters() {
   NewScreen();
   SayAt(3, R"(A \cdifference\z is what subtracting gives.)");
-  RuleBox("Difference of Two Squares", {"a^2^ - b^2^ = (a + b)(a - b)"}, {.width = 32});
-  Say(R"(\yTry it:\z  Multiply out  )" + Text("{}.", Pair(1, 3)));
+  Say(R"(\yTry it:\z  Multiply out this product:)");
+  Show(Pair(1, 3), kCol);
   PageEnd();
-  Show(Pair(1, 3) + " = x^2^ - 3x + 3x - 9", kCol);
-  Show(R"(               = \yx^2^ - 9)", kCol);
+  Show("= x^2^ - 3x + 3x - 9", kCol);
+  Show(R"(= \yx^2^ - 9)", kCol);
   Say("The middle terms cancel:  -3x + 3x = 0.");
   PageEnd();
-  Say(R"(To \cfactor\z means to go back, from x^2^ - 9 to the factors.)");
-  Say(R"(\yTry it:\z  Factor  )" + Text("{}.", "x^2^ - 49"));
+  Say("They cancel for all numbers and terms a and b:");
+  RuleBox("Difference of Two Squares", {"a^2^ - b^2^ = (a + b)(a - b)"}, {.width = 32});
+  Say(R"(To \cfactor\z means to go back.  \yTry it:\z  Factor )" + Text("{}.", "x^2^ - 49"));
   PageEnd();
-  Say("49 is 7 times 7, so b is 7:");
+  Say("x^2^ is x times x, so a is x.  49 is 7 times 7, so b is 7:");
   Show(R"(x^2^ - 49 = \y)" + Pair(1, 7), kCol);
   PageEnd();
 }
@@ -75,10 +75,13 @@ void NotASquareOfADifference() {
   PaperBox(
       {R"(x^2^ - 49 = (x + 7)(x - 7),)", R"(\rnot (x - 7)(x - 7),\z  \rnot (x + 7)(x + 7)\z)"});
   PageEnd();
-  Say(R"(\yTry it:\z  x^2^ + 49 is a \ysum\z of two squares.  Does it have such factors?)");
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  x^2^ + 49 is a \ysum\z of two squares.  Does it have such factors?)");
   PageEnd();
   Say("No.  Two factors with the same sign give a middle term, 14x or -14x.  With different signs "
-      "the last term is -49.  The sum stays as it is.");
+      "the last term is -49.");
+  Say("A sum of two squares has no such factors.  Only a common factor can be taken out.");
   PageEnd();
 }
 
@@ -89,7 +92,9 @@ void NumberInFront() {
   Note(7.2, 6, "the square of 2x");
   Note(7.2, 18, "the square of 5");
   PageEnd();
-  Say("We write the factors as the sum and difference of the values 2x and 5:");
+  SayAt(10,
+        "We write the factors as the sum and difference of the values 2x and 5.  One factor is "
+        "2x + 5, the other 2x - 5:");
   Show(R"(4x^2^ - 25 = \y)" + Pair(2, 5), kCol);
   PageEnd();
   Say(R"(\yWatch out:\z  These give other products.)");
@@ -105,33 +110,53 @@ void NumberInFront() {
 
 void CommonFactorFirst() {
   NewScreen();
-  SayAt(3, "In 3x^2^ - 75 the numbers are no squares.  But 3 is a factor of both terms.");
+  SayAt(3, "In 3x^2^ - 75, 3 and 75 are not squares.  But 3 is a factor of both terms.");
   Say(R"(\yTry it:\z  What is left when we take the 3 out?)");
   PageEnd();
   Show("3x^2^ - 75 = 3(x^2^ - 25)", kCol);
-  Say("In the parentheses stand the squares of x and 5:");
+  Say(R"(\yTry it:\z  Can we go on?)");
+  PageEnd();
+  Say("Yes.  In the parentheses stand the squares of x and 5:");
   Show(R"(3x^2^ - 75 = \y3)" + Pair(1, 5), kCol);
   PageEnd();
-  Say(R"(To \cfactor completely\z, we take the common factor out first, and keep it in front.)");
+  Say(R"(To \cfactor completely\z means to go on until no factor can be factored again.)");
+  Say("A common factor is taken out first, and kept in front.");
+  PaperBox({R"(\rnot (3x + 15)(x - 5),\z  3x + 15 is 3(x + 5))",
+            R"(\rnot (x + 5)(x - 5),\z    that is x^2^ - 25)"});
+  PageEnd();
+}
+
+void FindTheCommonFactor() {
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Which number divides both terms of )" + Text("{}?", "147y^2^ - 75"));
+  PageEnd();
+  Say("1 + 4 + 7 = 12 and 7 + 5 = 12, so 3 divides both:");
+  Show("147 = 3 " + tutor::Times + " 49 and 75 = 3 " + tutor::Times + " 25", kCol);
+  Show("147y^2^ - 75 = 3(49y^2^ - 25)", kCol);
+  PageEnd();
+  Say("49y^2^ is 7y times 7y, and 25 is 5 times 5:");
+  Show(R"(147y^2^ - 75 = \y3)" + Pair(7, 5, "y"), kCol);
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  3 must not stay inside, or be lost.)");
-  PaperBox({"3x^2^ - 75 = 3(x + 5)(x - 5)", R"(\rnot (3x + 15)(x - 5),\z  3x + 15 is 3(x + 5))",
-            R"(\rnot (x + 5)(x - 5),\z    that is x^2^ - 25)"});
+  SayAt(3,
+        R"(\yTry it:\z  Ben writes  )" + Text("{}.  Is he done?", "4x^2^ - 36 = (2x + 6)(2x - 6)"));
   PageEnd();
-  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "20y^2^ - 45"));
-  PageEnd();
-  Say("5 is a factor of both terms.  Then 4y^2^ is 2y times 2y, and 9 is 3 times 3:");
-  Show("20y^2^ - 45 = 5(4y^2^ - 9)", kCol);
-  Show(R"(20y^2^ - 45 = \y5)" + Pair(2, 3, "y"), kCol);
+  Say("No.  Both factors still have 2 in common.  We take out 4 first, the greatest common "
+      "factor:");
+  Show("4x^2^ - 36 = 4(x^2^ - 9)", kCol);
+  Show(R"(         = \y4)" + Pair(1, 3), kCol);
   PageEnd();
 }
 
 void FourthPowers() {
   constexpr double kWide = 2;  // column of wide lines
   NewScreen();
-  SayAt(3, "x^4^ is a square, too:  x^2^ times x^2^.");
+  SayAt(3,
+        "x^4^ is x^2^ times x^2^, since 2 + 2 = 4.  So x^4^ is a square, too.  And 16 is 4 "
+        "times 4.");
+  Say(R"(\yTry it:\z  What are the two factors of x^4^ - 16?)");
+  PageEnd();
   Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kWide);
   Say(R"(\yTry it:\z  Which of the two factors can be factored again?)");
   PageEnd();
@@ -139,14 +164,17 @@ void FourthPowers() {
   Show(R"(x^4^ - 16 = \y(x^2^ + 4))" + Pair(1, 2), kWide);
   PageEnd();
   Say(R"(\yWatch out:\z  These are not right.)");
-  PaperBox({R"(\r(x^2^ + 4)(x^2^ - 4)\z  stops too early)",
-            R"(\r(x + 2)^2^(x - 2)^2^\z  but x^2^ + 4 is a sum)"});
+  PaperBox({R"(\r(x^2^ + 4)(x^2^ - 4)\z is not factored completely)",
+            R"(\r(x + 2)^2^(x - 2)^2^:\z  x^2^ + 4 is not (x + 2)(x - 2))"});
   PageEnd();
-  Say(R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
+
+  NewScreen();
+  SayAt(3, R"(\yTry it:\z  Factor completely:  )" + Text("{}", "81y^4^ - 1"));
   PageEnd();
   Say("81y^4^ is 9y^2^ times 9y^2^:");
   Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kWide);
-  Show(R"(         = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
+  Say("9y^2^ - 1 goes on.  It is the difference of the squares of 3y and 1:");
+  Show(R"(81y^4^ - 1 = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
   PageEnd();
 }
 
@@ -159,13 +187,15 @@ class DifferenceOfTwoSquares final : public LessonScript {
  private:
   std::vector<Screen> Screens() override {
     return {{AreaWithoutCorner, RuleForLetters, NotASquareOfADifference, NumberInFront},
-            {CommonFactorFirst, FourthPowers}};
+            {CommonFactorFirst, FindTheCommonFactor, FourthPowers}};
   }
   void DrawProblem(RandomStream& random) override;
   void ShowProblem() override;
   void ExplainProblem() override;
 
   void BeginPage() const;
+  void ShowEquation(const std::string& factors) const;
+  std::string CommonFactorSeen() const;
   void TakeCommonFactorOut() const;
   void FactorDifference(const SquareDifference& difference) const;
   void FactorAgain() const;
@@ -214,9 +244,31 @@ void DifferenceOfTwoSquares::BeginPage() const {
   ShowAt(6.5, problem.question[1], kCol);
 }
 
+void DifferenceOfTwoSquares::ShowEquation(const std::string& factors) const {
+  constexpr double kWideCol = 2;
+  Show(asked_.Asked() + " = " + factors, kWideCol);
+}
+
+// "147 = 3 x 49 and 48 = 3 x 16"; a number that is the common factor itself needs no word.
+std::string DifferenceOfTwoSquares::CommonFactorSeen() const {
+  const int common = asked_.common;
+  std::string seen;
+  for (const int square : {asked_.a * asked_.a, asked_.b * asked_.b})
+    if (square > 1)
+      seen += (seen.empty() ? "" : " and ") +
+              Text("{}", NumStr(common * square) + " = " + NumStr(common) + " " + tutor::Times +
+                             " " + NumStr(square));
+  return seen;
+}
+
 void DifferenceOfTwoSquares::TakeCommonFactorOut() const {
-  Say(Text("{} is a factor of both terms.  We take it out:", asked_.common));
-  Show("= " + NumStr(asked_.common) + "(" + asked_.WithoutCommon() + ")", kCol);
+  if (asked_.commonRoot > 1) {
+    Say("Both terms are squares, but they have a common factor.");
+    PageEnd();
+  }
+  Say(Text("{} is a factor of both terms:  {}.  We take it out:", asked_.common,
+           Words{CommonFactorSeen()}));
+  ShowEquation(NumStr(asked_.common) + "(" + asked_.WithoutCommon() + ")");
   PageEnd();
 }
 
@@ -228,21 +280,21 @@ void DifferenceOfTwoSquares::FactorDifference(const SquareDifference& difference
            difference.LastSquare(), last, last));
   PageEnd();
   Say(Text("Write the factors as the sum and difference of the values {} and {}.", first, last));
-  Show("= " + CoefText(asked_.common) + difference.SumTimesDifference(), kCol);
+  ShowEquation(CoefText(asked_.common) + difference.SumTimesDifference());
   PageEnd();
 }
 
 void DifferenceOfTwoSquares::FactorAgain() const {
   NewScreen();
   BeginPage();
-  Show("= " + asked_.SumTimesDifference(), kCol);
+  ShowEquation(asked_.SumTimesDifference());
   const SquareDifference inner = asked_.Bared();
   Say(Text(R"({} is a difference of two squares, too, of {} and {}.)", inner.WithoutCommon(),
            inner.FirstRoot(), inner.LastRoot()));
   Show(inner.WithoutCommon() + " = " + inner.SumTimesDifference(), kCol);
   PageEnd();
   Say("The sum of two squares stays as it is:");
-  Show("= " + asked_.Factored(), kCol);
+  ShowEquation(asked_.Factored());
   PageEnd();
 }
 
@@ -257,9 +309,8 @@ void DifferenceOfTwoSquares::Check() const {
   SayInBox("= " + inner.WithoutCommon());
   PageEnd();
   if (bare) return;
-  const std::string before = asked_.common > 1
-                                 ? NumStr(asked_.common)
-                                 : FactorOf(asked_.FirstRoot(), asked_.LastRoot());
+  const std::string before =
+      asked_.common > 1 ? NumStr(asked_.common) : FactorOf(asked_.FirstRoot(), asked_.LastRoot());
   SayInBox("The other factor comes in:");
   SayInBox(Text("  {}({}) = {}", before, inner.WithoutCommon(), asked_.Asked()));
   PageEnd();

@@ -83,7 +83,7 @@ void AreaOfTheSquare() {
 
 void WithMinus() {
   NewScreen();
-  SayAt(3, "Now a minus sign stands between the terms:");
+  SayAt(3, "Now a minus sign stands between them:");
   Show("(x - 3)^2^ = (x - 3)(x - 3)", kCol);
   Say(R"(\yTry it:\z  What are the first, outer, inner, and last products?)");
   PageEnd();
@@ -139,8 +139,9 @@ void TwoRoots() {
   Say("-x times -x is x^2^, 2(-x)(-5) is 10x, and -5 times -5 is 25:");
   Show("(-x - 5)^2^ = x^2^ + 10x + 25", kCol);
   PageEnd();
-  CommentBox("A perfect square trinomial has two square roots.  We take the one that begins without "
-             "a minus sign:  x + 5.");
+  CommentBox(
+      "A perfect square trinomial has two square roots.  We take the one that begins without "
+      "a minus sign:  x + 5.");
   PageEnd();
 }
 
@@ -348,8 +349,8 @@ void PerfectSquareTrinomials::BeginPage() const {
 }
 
 void PerfectSquareTrinomials::TestMiddleTerm() const {
-  Say(R"(\yMiddle term.\z  )" + Text("We take twice the product of {} and {}:", FirstTerm(root_),
-                                     std::abs(root_.constant)));
+  Say(R"(\yMiddle term.\z  )" +
+      Text("We take twice the product of {} and {}:", FirstTerm(root_), std::abs(root_.constant)));
   Show(TwiceTheProduct(root_), kCol);
   PageEnd();
   NewScreen();

@@ -153,15 +153,15 @@ void AddMistakesOfBare(long p, long q, Mistakes& mistakes) {
 
 void AddMistakesOfCommonFactor(long common, long p, long q, Mistakes& mistakes) {
   mistakes.AddMixed("forgets the common factor", 1, p, q);
-  const std::string start = "leaves the " + Number(common) + " inside the ";
+  const std::string start = "leaves the common factor in the ";
   const TwoTerms plus = {common * p, 1, common * q};
   const TwoTerms minus = {common * p, 1, -common * q};
   mistakes.Add(start + "first factor", 1, {plus, {p, 1, -q}});
   mistakes.Add(start + "second factor", 1, {{p, 1, q}, minus});
   if (IsSquare(common)) {
     const long root = RootOf(common);
-    mistakes.AddMixed("leaves the " + Number(root) + " inside both factors", 1, root * p, root * q);
-    mistakes.AddMixed("takes the " + Number(root) + " out of one factor only", root, p, q);
+    mistakes.AddMixed("leaves a common factor in both factors", 1, root * p, root * q);
+    mistakes.AddMixed("takes the common factor out of one factor only", root, p, q);
     return;
   }
   AddForgottenRoots(common, p, q, mistakes);

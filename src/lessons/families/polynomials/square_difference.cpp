@@ -96,8 +96,9 @@ SquareDifference SquareDifference::Bared() const {
 // Of ten, four are bare, three have a prime in common, one a square, and two are fourth powers.
 SquareDifference DrawSquareDifference(RandomStream& random) {
   using enum DifferenceForm;
-  constexpr std::array kForms = {Bare,        Bare,        Bare,         Bare,        CommonFactor,
-                                 CommonFactor, CommonFactor, CommonSquare, FourthPowers, FourthPowers};
+  constexpr std::array kForms = {Bare,         Bare,         Bare,         Bare,
+                                 CommonFactor, CommonFactor, CommonFactor, CommonSquare,
+                                 FourthPowers, FourthPowers};
   SquareDifference drawn;
   drawn.form = kForms[static_cast<std::size_t>(random.Rand(0, 9))];
   drawn.letter = random.OneOf(kVariableLettersWithoutAB);
@@ -120,8 +121,8 @@ SquareDifference DrawSquareDifference(RandomStream& random) {
 namespace {
 
 // With these shares the right choice is seldom the box most like the others.
-constexpr double kShareOfSameSigns = 0.5;
-constexpr double kShareOfBothInside = 0.6;
+constexpr double kShareOfNear = 0.8;
+constexpr double kShareOfBothInside = 0.75;
 
 // "7(2x + 5)(2x - 5)", the number only when it is not 1.
 std::string Mixed(int before, const std::string& first, int last) {
@@ -140,57 +141,65 @@ WrongFactors SameSigns(const std::string& before, const SquareDifference& inner,
   return {"writes two minus signs", Twice(before, FactorOf(inner.FirstRoot(), -inner.LastRoot()))};
 }
 
-// Roots that are forgotten.  Where one of the squares is 1 there is only one root to be forgotten.
-std::vector<WrongFactors> ForgottenRoots(const SquareDifference& asked) {
-  const std::string squared = PowerTerm(asked.a * asked.a, asked.letter, 1);
-  const int square = asked.LastSquare();
-  const WrongFactors first = {"forgets the square root of the first number",
-                              Mixed(asked.common, squared, asked.b)};
-  const WrongFactors last = {"forgets the square root of the second number",
-                             Mixed(asked.common, asked.FirstRoot(), square)};
-  if (asked.a == 1) return {last};
-  if (asked.b == 1) return {first};
-  return {{"forgets both square roots", Mixed(asked.common, squared, square)}, first, last};
+// The two terms, and the numbers whose squares stand there.
+enum class Side { First, Second };
+
+std::vector<Side> SidesWithRoots(const SquareDifference& asked) {
+  if (asked.a == 1) return {Side::Second};
+  if (asked.b == 1) return {Side::First};
+  return {Side::First, Side::Second};
 }
 
-// Half of an even square in place of its root: of 4 they are the same.
+int RootOf(const SquareDifference& asked, Side side) {
+  return side == Side::First ? asked.a : asked.b;
+}
+
+// Another number in place of one of the roots.
+std::string WithNumber(const SquareDifference& asked, Side side, int number) {
+  if (side == Side::First) return Mixed(asked.common, PowerTerm(number, asked.letter, 1), asked.b);
+  return Mixed(asked.common, asked.FirstRoot(), number);
+}
+
+WrongFactors ForgottenRoot(const SquareDifference& asked, Side side) {
+  const int root = RootOf(asked, side);
+  return {side == Side::First ? "forgets the square root of the first number"
+                              : "forgets the square root of the second number",
+          WithNumber(asked, side, root * root)};
+}
+
+WrongFactors ForgottenRoots(const SquareDifference& asked) {
+  return {"forgets both square roots",
+          Mixed(asked.common, PowerTerm(asked.a * asked.a, asked.letter, 1), asked.LastSquare())};
+}
+
+WrongFactors HalvedSquare(const SquareDifference& asked, Side side) {
+  const int square = RootOf(asked, side) * RootOf(asked, side);
+  return {Text("takes half of {} in place of its square root", square),
+          WithNumber(asked, side, square / 2)};
+}
+
+// Half of 4 is its root, and of 1 nobody takes half.
 bool CanBeHalved(int root) {
   return root % 2 == 0 && root > 2;
 }
 
-std::vector<WrongFactors> HalvedSquares(const SquareDifference& asked) {
-  std::vector<WrongFactors> wrong;
-  const int first = asked.a * asked.a;
-  const int last = asked.LastSquare();
-  const auto add = [&](int square, const std::string& text) {
-    wrong.push_back({Text("takes half of {} in place of its square root", square), text});
-  };
-  if (CanBeHalved(asked.b)) add(last, Mixed(1, asked.FirstRoot(), last / 2));
-  if (CanBeHalved(asked.a)) add(first, Mixed(1, PowerTerm(first / 2, asked.letter, 1), asked.b));
-  return wrong;
-}
-
 // Factors whose first and last products are right, but not the middle term: (25x + 2)(x - 2).
-std::vector<WrongFactors> SplitSquares(const SquareDifference& asked) {
-  std::vector<WrongFactors> wrong;
-  const int first = asked.a * asked.a;
-  const int last = asked.LastSquare();
-  const auto add = [&](int square, const std::string& text) {
-    wrong.push_back({Text("splits {} into {} and 1", square, square), text});
-  };
-  if (asked.a > 1)
-    add(first, FactorOf(PowerTerm(first, asked.letter, 1), asked.b) +
-                   FactorOf(asked.letter, -asked.b));
-  if (asked.b > 1) add(last, FactorOf(asked.FirstRoot(), last) + FactorOf(asked.FirstRoot(), -1));
-  return wrong;
+WrongFactors SplitSquare(const SquareDifference& asked, Side side) {
+  const int square = RootOf(asked, side) * RootOf(asked, side);
+  const std::string factors =
+      side == Side::First
+          ? FactorOf(PowerTerm(square, asked.letter, 1), asked.b) + FactorOf(asked.letter, -asked.b)
+          : FactorOf(asked.FirstRoot(), square) + FactorOf(asked.FirstRoot(), -1);
+  return {Text("splits {} into {} and 1", square, square), factors};
 }
 
-// The first of wrong choices in any order, all of which differ, and the mistakes, too.
+// So many of them, in any order.
 std::vector<WrongFactors> AnyOf(std::vector<WrongFactors> wrong, std::size_t count,
                                 RandomStream& random) {
-  for (std::size_t i = 0; i < count; ++i)
-    std::swap(wrong[i], wrong[static_cast<std::size_t>(
-                            random.Rand(static_cast<int>(i), static_cast<int>(wrong.size()) - 1))]);
+  for (std::size_t i = 0; i < count; ++i) {
+    const int other = random.Rand(static_cast<int>(i), static_cast<int>(wrong.size()) - 1);
+    std::swap(wrong[i], wrong[static_cast<std::size_t>(other)]);
+  }
   wrong.resize(count);
   return wrong;
 }
@@ -199,20 +208,26 @@ void Append(std::vector<WrongFactors>& wrong, const std::vector<WrongFactors>& m
   wrong.insert(wrong.end(), more.begin(), more.end());
 }
 
+// Three that lie around the first of them, and then any other.
 std::vector<WrongFactors> WrongFactoringsOfBare(const SquareDifference& asked,
                                                 RandomStream& random) {
-  std::vector<WrongFactors> wrong = ForgottenRoots(asked);
-  Append(wrong, HalvedSquares(asked));
-  Append(wrong, SplitSquares(asked));
-  wrong.push_back({"exchanges the two numbers",
-                   Mixed(1, PowerTerm(asked.b, asked.letter, 1), asked.a)});
-  const WrongFactors same = SameSigns("", asked, random);
-  if (wrong.size() < 4 || random.Rnd() < kShareOfSameSigns) {
-    wrong = AnyOf(wrong, 3, random);
-    wrong.push_back(same);
-    return wrong;
+  std::vector<Side> sides = SidesWithRoots(asked);
+  if (random.Rnd() < 0.5) std::ranges::reverse(sides);
+  const WrongFactors exchanged = {"exchanges the two numbers",
+                                  Mixed(1, PowerTerm(asked.b, asked.letter, 1), asked.a)};
+  std::vector<WrongFactors> near = {ForgottenRoot(asked, sides[0]), SplitSquare(asked, sides[0])};
+  std::vector<WrongFactors> others = {SameSigns("", asked, random)};
+  near.push_back(sides.size() == 2 ? ForgottenRoots(asked) : exchanged);
+  if (sides.size() == 2)
+    Append(others, {exchanged, ForgottenRoot(asked, sides[1]), SplitSquare(asked, sides[1])});
+  for (const Side side : sides)
+    if (CanBeHalved(RootOf(asked, side))) others.push_back(HalvedSquare(asked, side));
+  if (random.Rnd() < kShareOfNear) {
+    Append(near, AnyOf(others, 1, random));
+    return near;
   }
-  return AnyOf(wrong, 4, random);
+  Append(others, near);
+  return AnyOf(others, 4, random);
 }
 
 // "3(49x^2^ - 16)", which can be factored again.
@@ -224,9 +239,9 @@ std::string Unfinished(const SquareDifference& asked) {
 std::vector<WrongFactors> CommonFactorInside(const SquareDifference& asked) {
   const std::string times = PowerTerm(asked.common * asked.a, asked.letter, 1);
   const int number = asked.common * asked.b;
-  return {{Text("leaves the {} inside the first factor", asked.common),
+  return {{"leaves the common factor in the first factor",
            FactorOf(times, number) + FactorOf(asked.FirstRoot(), -asked.b)},
-          {Text("leaves the {} inside the second factor", asked.common),
+          {"leaves the common factor in the second factor",
            FactorOf(asked.FirstRoot(), asked.b) + FactorOf(times, -number)}};
 }
 
@@ -238,7 +253,11 @@ std::vector<WrongFactors> WrongFactoringsWithCommonFactor(const SquareDifference
     Append(wrong, CommonFactorInside(asked));
   } else {
     Append(wrong, AnyOf(CommonFactorInside(asked), 1, random));
-    Append(wrong, AnyOf(ForgottenRoots(asked), 1, random));
+    const std::vector<Side> sides = SidesWithRoots(asked);
+    std::vector<WrongFactors> forgotten = {ForgottenRoot(asked, sides.front())};
+    if (sides.size() == 2)
+      Append(forgotten, {ForgottenRoot(asked, sides.back()), ForgottenRoots(asked)});
+    Append(wrong, AnyOf(forgotten, 1, random));
   }
   if (random.Rnd() < 0.5)
     wrong.push_back(SameSigns(NumStr(asked.common), asked.Bared(), random));
@@ -252,10 +271,9 @@ std::vector<WrongFactors> WrongFactoringsWithCommonSquare(const SquareDifference
                                                           RandomStream& random) {
   const int times = asked.commonRoot;
   std::vector<WrongFactors> wrong = {
-      {Text("leaves the {} inside both factors", times),
+      {"leaves a common factor in both factors",
        Mixed(1, PowerTerm(times * asked.a, asked.letter, 1), times * asked.b)},
-      {Text("takes the {} out of one factor only", times),
-       Mixed(times, asked.FirstRoot(), asked.b)},
+      {"takes the common factor out of one factor only", Mixed(times, asked.FirstRoot(), asked.b)},
       {"forgets the common factor", Mixed(1, asked.FirstRoot(), asked.b)}};
   if (random.Rnd() < 0.5)
     wrong.push_back(SameSigns(NumStr(asked.common), asked.Bared(), random));
@@ -273,8 +291,9 @@ std::vector<WrongFactors> WrongFactoringsOfFourthPowers(const SquareDifference& 
       Mixed(1, PowerTerm(inner.a * inner.a, inner.letter, 1), inner.b * inner.b);
   std::vector<WrongFactors> wrong = {
       {"leaves a difference of squares inside", asked.SumTimesDifference()},
-      {"takes a sum of squares for a difference",
-       FactorOf(inner.FirstRoot(), inner.b) + "^2^" + FactorOf(inner.FirstRoot(), -inner.b) + "^2^"},
+      {"takes a sum of squares for a difference", FactorOf(inner.FirstRoot(), inner.b) + "^2^" +
+                                                      FactorOf(inner.FirstRoot(), -inner.b) +
+                                                      "^2^"},
       {"forgets the sum of squares", inner.SumTimesDifference()}};
   if (random.Rnd() < 0.5)
     wrong.push_back(same);
