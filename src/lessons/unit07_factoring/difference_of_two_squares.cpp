@@ -20,8 +20,8 @@ std::string Pair(int a, int b, const std::string& letter = "x") {
 
 void AreaWithoutCorner() {
   constexpr double kRow = 5.5;
-  constexpr double kFigureCol = 4;
-  const TextPlace beside = {.col = 17};
+  constexpr double kFigureCol = 2;
+  const TextPlace beside = {.col = 14};
   NewScreen();
   SayAt(3, "This square loses a corner with side 2:");
   const SquareWithoutCorner figure(kRow, kFigureCol);
@@ -34,7 +34,6 @@ void AreaWithoutCorner() {
   figure.CutInTwo();
   SayAt(12, "We cut what is left in two.  The parts are 5 by 3 and 3 by 2.");
   PageEnd();
-  Say("The lower part goes beside the upper:");
   figure.MoveBeside();
   Say(R"(\yTry it:\z  How long and how high is the new rectangle?)");
   PageEnd();
@@ -54,9 +53,9 @@ void RuleForLetters() {
   Show(R"(= \yx^2^ - 9)", kCol);
   Say("The middle terms cancel:  -3x + 3x = 0.");
   PageEnd();
-  Say("They cancel for all numbers and terms a and b:");
+  Say("They cancel for all terms a and b:");
   RuleBox("Difference of Two Squares", {"a^2^ - b^2^ = (a + b)(a - b)"}, {.width = 32});
-  Say(R"(To \cfactor\z means to go back.  \yTry it:\z  Factor )" + Text("{}.", "x^2^ - 49"));
+  Say(R"(\yTry it:\z  Go back, and factor )" + Text("{}.", "x^2^ - 49"));
   PageEnd();
   Say("x^2^ is x times x, so a is x.  49 is 7 times 7, so b is 7:");
   Show(R"(x^2^ - 49 = \y)" + Pair(1, 7), kCol);
@@ -79,9 +78,8 @@ void NotASquareOfADifference() {
   NewScreen();
   SayAt(3, R"(\yTry it:\z  x^2^ + 49 is a \ysum\z of two squares.  Does it have such factors?)");
   PageEnd();
-  Say("No.  Two factors with the same sign give a middle term, 14x or -14x.  With different signs "
-      "the last term is -49.");
-  Say("A sum of two squares has no such factors.  Only a common factor can be taken out.");
+  Say("No.  (x + 7)(x - 7) ends in -49, and the same sign twice gives a middle term.");
+  Say("In a sum of two squares, only a common factor can be taken out.");
   PageEnd();
 }
 
@@ -92,9 +90,7 @@ void NumberInFront() {
   Note(7.2, 6, "the square of 2x");
   Note(7.2, 18, "the square of 5");
   PageEnd();
-  SayAt(10,
-        "We write the factors as the sum and difference of the values 2x and 5.  One factor is "
-        "2x + 5, the other 2x - 5:");
+  SayAt(9.5, "The factors are the sum and the difference of the values 2x and 5:");
   Show(R"(4x^2^ - 25 = \y)" + Pair(2, 5), kCol);
   PageEnd();
   Say(R"(\yWatch out:\z  These give other products.)");
@@ -110,9 +106,7 @@ void NumberInFront() {
 
 void CommonFactorFirst() {
   NewScreen();
-  SayAt(3, "In 3x^2^ - 75, 3 and 75 are not squares.  But 3 is a factor of both terms.");
-  Say(R"(\yTry it:\z  What is left when we take the 3 out?)");
-  PageEnd();
+  SayAt(3, "In 3x^2^ - 75, 3 and 75 are not squares.  But 3 is a factor of both terms:");
   Show("3x^2^ - 75 = 3(x^2^ - 25)", kCol);
   Say(R"(\yTry it:\z  Can we go on?)");
   PageEnd();
@@ -173,7 +167,7 @@ void FourthPowers() {
   PageEnd();
   Say("81y^4^ is 9y^2^ times 9y^2^:");
   Show("81y^4^ - 1 = (9y^2^ + 1)(9y^2^ - 1)", kWide);
-  Say("9y^2^ - 1 goes on.  It is the difference of the squares of 3y and 1:");
+  Say("9y^2^ - 1 goes on, with 3y and 1:");
   Show(R"(81y^4^ - 1 = \y(9y^2^ + 1))" + Pair(3, 1, "y"), kWide);
   PageEnd();
 }

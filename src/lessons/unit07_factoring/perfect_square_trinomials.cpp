@@ -93,10 +93,11 @@ void WithMinus() {
   PageEnd();
   Say("-3 times -3 is +9:  two minus signs make a plus.");
   Show(R"((x - 3)^2^ = \yx^2^ - 6x + 9)", kCol);
+  Say(R"(It is a \ctrinomial\z:  it has three terms.)");
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(A \ctrinomial\z has three terms.  These are the squares of a + b and a - b:)");
+  SayAt(3, "The squares of a + b and a - b are:");
   RuleBox("Perfect Square Trinomials",
           {"a^2^ + 2ab + b^2^ = (a + b)^2^", "a^2^ - 2ab + b^2^ = (a - b)^2^"}, {.width = 30});
   PageEnd();
@@ -110,9 +111,8 @@ void TestOfTheMiddleTerm() {
   SayAt(3, R"(\yTry it:\z  Is every trinomial with x^2^ and 25 at its ends a square?)");
   PageEnd();
   Say(R"(No.  The middle term has to fit, too:)");
-  RuleBox("The Test",
-          {"1.  The first term is a square, a^2^.", "2.  The last term is a square, b^2^.",
-           "3.  The middle term is 2ab or -2ab."});
+  PaperBox({"1.  The first term is a square, a^2^.", "2.  The last term is a square, b^2^.",
+            "3.  The middle term is 2ab or -2ab."});
   PageEnd();
   Say(Text("Let's test {}.", TrinomialText({1, 10, 25})));
   Say("First:   x^2^ is x times x.", {.col = 3});
