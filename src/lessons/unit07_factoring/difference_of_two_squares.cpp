@@ -110,11 +110,11 @@ void CommonFactorFirst() {
   Show("3x^2^ - 75 = 3(x^2^ - 25)", kCol);
   Say(R"(\yTry it:\z  Can we go on?)");
   PageEnd();
-  Say("Yes.  In the parentheses stand the squares of x and 5:");
+  Say("Yes.  x^2^ and 25 are squares:");
   Show(R"(3x^2^ - 75 = \y3)" + Pair(1, 5), kCol);
+  Say("A common factor is taken out first, and kept in front.");
   PageEnd();
   Say(R"(To \cfactor completely\z means to go on until no factor can be factored again.)");
-  Say("A common factor is taken out first, and kept in front.");
   PaperBox({R"(\rnot (3x + 15)(x - 5),\z  3x + 15 is 3(x + 5))",
             R"(\rnot (x + 5)(x - 5),\z    that is x^2^ - 25)"});
   PageEnd();
@@ -136,8 +136,7 @@ void FindTheCommonFactor() {
   SayAt(3,
         R"(\yTry it:\z  Ben writes  )" + Text("{}.  Is he done?", "4x^2^ - 36 = (2x + 6)(2x - 6)"));
   PageEnd();
-  Say("No.  Both factors still have 2 in common.  We take out 4 first, the greatest common "
-      "factor:");
+  Say("No.  Both factors have 2 in common.  We take out the 4 first:");
   Show("4x^2^ - 36 = 4(x^2^ - 9)", kCol);
   Show(R"(         = \y4)" + Pair(1, 3), kCol);
   PageEnd();
@@ -146,10 +145,8 @@ void FindTheCommonFactor() {
 void FourthPowers() {
   constexpr double kWide = 2;  // column of wide lines
   NewScreen();
-  SayAt(3,
-        "x^4^ is x^2^ times x^2^, since 2 + 2 = 4.  So x^4^ is a square, too.  And 16 is 4 "
-        "times 4.");
-  Say(R"(\yTry it:\z  What are the two factors of x^4^ - 16?)");
+  SayAt(3, "x^4^ is x^2^ times x^2^, and 16 is 4 times 4.  Both are squares.");
+  Say(R"(\yTry it:\z  What are the two factors of )" + Text("{}?", "x^4^ - 16"));
   PageEnd();
   Show("x^4^ - 16 = (x^2^ + 4)(x^2^ - 4)", kWide);
   Say(R"(\yTry it:\z  Which of the two factors can be factored again?)");

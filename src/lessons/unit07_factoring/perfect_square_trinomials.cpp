@@ -61,7 +61,7 @@ void AreaOfTheSquare() {
   constexpr double kFigureCol = 7;
   const TextPlace beside = {.col = 19};
   NewScreen();
-  SayAt(3, "This square has the side x.  Its area is x^2^.");
+  SayAt(3, "The area of this square is x^2^:");
   const SquareOfSum figure(kRow, kFigureCol, "x", "3");
   PageEnd();
   figure.Grow();
@@ -148,7 +148,7 @@ void TwoRoots() {
 void NumberInFront() {
   NewScreen();
   const Binomial root = {2, -5};
-  SayAt(3, Text("Let's find the square root of {}.", TrinomialText(SquareOf(root))));
+  SayAt(3, Text("Now we take {}.", TrinomialText(SquareOf(root))));
   Say("First:   4x^2^ is 2x times 2x.", {.col = 3});
   AddLine("Last:    25 is 5 times 5.", {.col = 3});
   Say(R"(\yTry it:\z  Which middle term must it have?)");

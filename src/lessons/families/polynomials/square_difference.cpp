@@ -121,8 +121,8 @@ SquareDifference DrawSquareDifference(RandomStream& random) {
 namespace {
 
 // With these shares the right choice is seldom the box most like the others.
-constexpr double kShareOfNear = 0.8;
-constexpr double kShareOfBothInside = 0.75;
+constexpr double kShareOfNear = 0.85;
+constexpr double kShareOfBothInside = 0.8;
 
 // "7(2x + 5)(2x - 5)", the number only when it is not 1.
 std::string Mixed(int before, const std::string& first, int last) {
