@@ -101,8 +101,9 @@ void WithMinus() {
   RuleBox("Perfect Square Trinomials",
           {"a^2^ + 2ab + b^2^ = (a + b)^2^", "a^2^ - 2ab + b^2^ = (a - b)^2^"}, {.width = 30});
   PageEnd();
-  Say("Here a is the first term of the binomial, and b is the second.  In (2x - 5)^2^, a is 2x and "
-      "b is 5.");
+  Say(Text(
+      "Here a is the first term of the binomial, and b is the second.  In {}, a is 2x and b is 5.",
+      "(2x - 5)^2^"));
   PageEnd();
 }
 
@@ -167,8 +168,7 @@ void NumberInFront() {
                Text("{}.  What is wrong?", TrinomialText(SquareOf(root))));
   PageEnd();
   Say("In (2x - 10)^2^ the last term is 100, not 25.");
-  Say(R"(Half of 20x is 10x, and that is 2x times 5.  We must still divide by 2x:  10x/(2x) = )"
-      R"(\y5\z.)");
+  Say("Half of 20x is 10x, which is (2x)(5).  We must still divide by 2x.");
   PageEnd();
 }
 
