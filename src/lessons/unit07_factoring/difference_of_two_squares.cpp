@@ -20,7 +20,7 @@ std::string Pair(int a, int b, const std::string& letter = "x") {
 
 void AreaWithoutCorner() {
   constexpr double kRow = 5.5;
-  constexpr double kFigureCol = 2;
+  constexpr double kFigureCol = 1.3;
   const TextPlace beside = {.col = 14};
   NewScreen();
   SayAt(3, "This square loses a corner with side 2:");
