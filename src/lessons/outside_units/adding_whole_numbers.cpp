@@ -116,7 +116,7 @@ void TenOnesMakeOneTen() {
   PageEnd();
   DrawOnes(kRow, kFirst, 7, Yellow);
   DrawOnes(kRow, kSecond, 5, Cyan);
-  SayAt(12.5, "Here are 7 ones and 5 ones.");
+  SayAt(12.5, "7 ones and 5 ones are 12 ones.");
   PageEnd();
   SlideLeft({kRow - 0.3, kSecond - 0.2, 8, 1.5}, kSecond - kFirst - 7 * kSquare);
   DrawOnes(kRow, kFirst, 10, Yellow);

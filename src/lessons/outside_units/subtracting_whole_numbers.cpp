@@ -46,7 +46,7 @@ PrintCellTable TableOf52() {
   table.labels = {{42, 6, 24, 20, "tens", kSize, platform::colour::Black, true},
                   {72, 6, 24, 20, "ones", kSize, platform::colour::Black, true},
                   {2, 34, 38, 22, "52", kSize},
-                  {2, 70, 38, 22, "52, too", kSize}};
+                  {2, 70, 38, 22, "52 again", kSize}};
   return table;
 }
 
@@ -146,7 +146,7 @@ void NoHundredLeft() {
 void SubtractingRule() {
   NewScreen();
   RuleBox("Subtracting",
-          {"Begin on the right, with the ones.", "Upper digit too small: borrow 1 ten."},
+          {"Begin on the right, with the ones.", "Upper digit too small: borrow from the left."},
           {.row = 3, .width = 40});
   Say(R"(\yTry it:\z  What is 300 - 6?)");
   PageEnd();

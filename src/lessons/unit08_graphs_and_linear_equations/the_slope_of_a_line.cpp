@@ -267,6 +267,9 @@ void TheSlopeOfALine::AskForSlope(RandomStream& random) {
   const SlopeStep step = {first_, second_};
   const Fraction slope = Reduced(step.Rise(), step.Run());
   const Fraction counted = Reduced(random.Rand(1, 5), slope.den);
+  // One step more or less than the rise is a miscount; other values come from no mistake.
+  const Fraction steps = counted * Fraction{std::abs(step.Run()), 1};
+  const bool isMiscounted = steps.den == 1 && std::abs(steps.num - std::abs(step.Rise())) == 1;
   const auto comesFrom = [&](const GridPoint& point) {
     return counted == Reduced(std::abs(point.y - point.x), std::abs(step.Run()));
   };
@@ -279,6 +282,7 @@ void TheSlopeOfALine::AskForSlope(RandomStream& random) {
   problem.Wrong(3, "takes the wrong sign", SlopeText(-step.Rise(), step.Run()));
   problem.Wrong(4,
                 comesFrom(first_) || comesFrom(second_) ? "subtracts the coordinates of one point"
+                : !isMiscounted                         ? kFiller
                 : slope.num < 0                         ? "miscounts the rise and loses its sign"
                                                         : "miscounts the rise",
                 ValueText(counted));

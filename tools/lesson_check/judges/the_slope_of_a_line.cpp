@@ -11,7 +11,6 @@ namespace {
 
 constexpr long kWidest = 5;  // of the coordinates
 constexpr long kHighest = 3;
-constexpr long kMostCounted = 5;
 
 struct Place {
   Polynomial x, y;
@@ -49,8 +48,7 @@ void AddMistakesAtLine(const Rational& rise, const Rational& run, const Place& f
   }
   const char* miscounted =
       slope < 0 ? "miscounts the rise and loses its sign" : "miscounts the rise";
-  for (long count = 1; count <= kMostCounted; ++count)
-    add(miscounted, Rational(count) / Rational(slope.get_den()));
+  for (const int more : {-1, 1}) add(miscounted, (abs(rise) + more) / abs(run));
 }
 
 Reading ReadDrawnLine(const course::Problem& problem) {
