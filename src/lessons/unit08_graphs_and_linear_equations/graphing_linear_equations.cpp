@@ -246,7 +246,7 @@ void GraphingLinearEquations::GraphSlopeForm() const {
         Text("It has the form {} with m = {} and b = {}.", "y = mx + b", slope, sheet.Intercept()),
         kBesidePlane);
   PageEnd();
-  Say(Text("The intercept is {}:  {}.", sheet.Intercept(), GraphPointText(first)), kBesidePlane);
+  Say(Text("Intercept:  {}.", GraphPointText(first)), kBesidePlane);
   sheet.PlotIntercept();
   PageEnd();
   SayAt(kWorkRow,
