@@ -11,7 +11,8 @@ namespace {
 using namespace graphs;
 
 // The lines of the teaching screens.
-constexpr LineThroughPoints kWhole = {{-1, 4}, {2, -2}};
+// The way from point to point crosses no axis, and so none of its numbers.
+constexpr LineThroughPoints kWhole = {{-3, 5}, {-1, 1}};
 constexpr LineThroughPoints kFraction = {{2, 3}, {-2, 2}};
 constexpr LineThroughPoints kLevel = {{-3, 2}, {4, 2}};
 constexpr LineThroughPoints kUpright = {{3, -2}, {3, 4}};
@@ -28,8 +29,11 @@ void SayBelowPlane(const std::string& text) {
 void SlopeAndIntercept() {
   NewScreen();
   ShowPlaneAtRight(LineBoard::kPlaneRow);
-  SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z.)", kBesidePlane);
-  Say("m is the slope, b is the y intercept.", kBesidePlane);
+  SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z, unless it is vertical.)",
+        kBesidePlane);
+  Say(R"(m is the \cslope\z:  how far up for 1 to the right.)", kBesidePlane);
+  SayBelowPlane(
+      R"(b is the \cy intercept\z:  the line crosses the y axis at b.  When b is 0, it passes through the origin, and we write only y = mx.)");
   PageEnd();
   KeepLabelsClearOf(1, {StepItem(0, -1, 1, 2), LineItem(-1, 2)});
   DrawOnPlane(1, {LineItem(2, -1)}, platform::colour::Blue);
@@ -54,10 +58,20 @@ void SlopeAndIntercept() {
 
 // What a student gets who ...
 void WarnOfWrongSlopes() {
-  ClearBelow(kBelowPlane);
-  PaperBox(
-      {R"(\r3/(-6) = -1/2\z  puts run over rise.)", R"(\r6/3 = 2\z  loses the sign:  we go down.)"},
-      kBelowPlane);
+  SayBelowPlane(R"(\yWatch out:\z  The same order above and below.)");
+  PaperBox({R"(\r(5 - 1)/(-1 - (-3)) = 2\z  mixes the order.)",
+            R"(\r2/(-4) = -1/2\z  puts run over rise.)"});
+  PageEnd();
+  SayBelowPlane("A false m makes b false, too.  With m = -1/2 the point (-3,5) gives:");
+  Show("5 = -1/2 (-3) + b");
+  Show("b = 5 - 3/2 = 7/2");
+  PageEnd();
+}
+
+void ShowWayToSecondPoint() {
+  DrawArrows(1, StepItem(-3, 5, 2, -4), platform::colour::Blue);
+  LabelPlace(1, -2, 5, "run 2", platform::colour::Blue);
+  LabelPlace(1, -1, 3, "rise -4", platform::colour::Blue);
 }
 
 void FromTwoPoints() {
@@ -66,21 +80,23 @@ void FromTwoPoints() {
   board.ShowPoints();
   SayAt(LineBoard::kTextRow, "We know two points.", kBesidePlane);
   AddLine("Solve for m and b.", kBesidePlane);
-  SayBelowPlane(R"(\yTry it:\z  How do we go from (-1,4) to (2,-2)?)");
+  SayBelowPlane(R"(\yTry it:\z  How do we go from (-3,5) to (-1,1)?)");
   PageEnd();
-  DrawOnPlane(1, {StepItem(-1, 4, 3, -6)});
-  SayBelowPlane("3 right and 6 down.  The run is 3, the rise is -6.");
-  Say(R"(\yTry it:\z  What is the slope?)");
+  ShowWayToSecondPoint();
+  SayBelowPlane("2 right and 4 down.  The run is 2, the rise is -4.");
+  Say(R"(The slope m is rise over run.  \yTry it:\z  What is the slope?)");
+  PageEnd();
+  SayBelowPlane("rise = second y - first y = 1 - 5");
+  AddLine("run = second x - first x = -1 - (-3)");
   PageEnd();
   board.FindSlope();
   PageEnd();
   WarnOfWrongSlopes();
-  PageEnd();
   board.PutFirstPointIn();
   Say(R"(\yTry it:\z  What is b?)");
   PageEnd();
   board.SolveForIntercept();
-  Say(R"(\yWatch out:\z  It is 4 - 2, not 2 - 4.)");
+  Say(R"(\yWatch out:\z  It is 5 - 6, not 6 - 5.)");
   PageEnd();
   board.ShowEquationAndCheck();
   PageEnd();
@@ -94,6 +110,7 @@ void WithFractions() {
   SayBelowPlane(R"(\yTry it:\z  What is the slope of this line?)");
   PageEnd();
   board.FindSlope();
+  Say("We go left and down:  both are negative.");
   PageEnd();
   board.PutFirstPointIn();
   PageEnd();
@@ -113,6 +130,14 @@ void HorizontalLines() {
   board.FindSlope();
   PageEnd();
   board.ShowHorizontal();
+  Say(R"(\yTry it:\z  Is it x = 2, too?  Or y = -3?)");
+  PageEnd();
+  DrawOnPlane(1, {Broken(UprightItem(2, "x = 2"))}, platform::colour::Red);
+  SayBelowPlane("No.  x = 2 is vertical (dashed), and -3 is only the x coordinate of (-3,2).");
+  Say(R"(\yTry it:\z  Which line goes through (-1,0) and (4,0)?)");
+  PageEnd();
+  SayBelowPlane("m is 0, and b is 0:  y = 0.  It is the x axis.");
+  Say(R"(\yWatch out:\z  x = 0 is the y axis.)");
   PageEnd();
 }
 
@@ -129,7 +154,9 @@ void VerticalLines() {
   Say(R"(\yTry it:\z  Is it y = 3, too?)");
   PageEnd();
   DrawOnPlane(1, {Broken(LineItem(0, 3, "y = 3"))}, platform::colour::Red);
-  SayBelowPlane("No.  On the dashed line y = 3 each point has the y 3.  That line is horizontal.");
+  SayBelowPlane(
+      "No.  On the dashed line y = 3 each point has the y coordinate 3.  That line is "
+      "horizontal.");
   PageEnd();
 }
 
@@ -194,11 +221,11 @@ std::array<NamedPoint, 2> NamedPoints(const LineThroughPoints& line) {
 
 struct WrongLine {
   std::string mistake;
-  std::string withOtherSign;  // the name when the sign of its intercept is turned, too
+  std::string withOtherSign;  // the name when the sign of its intercept is reversed, too
   LineEquation line;
 };
 
-LineEquation WithInterceptTurned(const LineEquation& line) {
+LineEquation WithInterceptReversed(const LineEquation& line) {
   return WithSlope(line.slope, kZero - line.constant);
 }
 
@@ -208,19 +235,22 @@ void OfferSloping(const LineThroughPoints& line, int pair, bool oneLikeRight,
                   Choices<LineEquation>& choices) {
   const Fraction m = line.Slope();
   const std::array<WrongLine, 3> wrongLines = {
-      {{"exchanges slope and intercept", "exchanges slope and intercept and turns a sign",
+      {{"exchanges slope and intercept", "exchanges slope and intercept and reverses a sign",
         WithSlope(line.Intercept(), m)},
-       {"puts run over rise", "puts run over rise and turns the sign of the intercept",
+       {"puts run over rise and uses this slope for b",
+        "puts run over rise, uses this slope for b and reverses its sign",
         line.ThroughFirst(kOne / m)},
-       {"turns the sign of the slope", "turns both signs", line.ThroughFirst(kZero - m)}}};
+       {"reverses the sign of the slope and uses it for b",
+        "reverses the sign of the slope, uses it for b and reverses the sign of b",
+        line.ThroughFirst(kZero - m)}}};
   const auto offer = [&](int number, bool bothSigns) {
     const WrongLine& wrong = wrongLines.at(static_cast<std::size_t>(number % 3));
     choices.Wrong(wrong.mistake, wrong.line);
-    if (bothSigns) choices.Wrong(wrong.withOtherSign, WithInterceptTurned(wrong.line));
+    if (bothSigns) choices.Wrong(wrong.withOtherSign, WithInterceptReversed(wrong.line));
   };
   offer(pair, true);
   if (oneLikeRight)
-    choices.Wrong("turns the sign of the intercept", WithInterceptTurned(line.Equation()));
+    choices.Wrong("reverses the sign of the intercept", WithInterceptReversed(line.Equation()));
   offer(pair + 1, !oneLikeRight);
   // Where some of these are the same line:
   offer(pair + 2, false);
@@ -244,7 +274,7 @@ void OfferHorizontal(const LineThroughPoints& line, bool oneLikeRight,
   offerX(first);
   if (oneLikeRight) {
     choices.Wrong("exchanges slope and intercept", WithSlope(b, kZero));
-    choices.Wrong("turns the sign of the intercept", WithSlope(kZero, kZero - b));
+    choices.Wrong("reverses the sign of the intercept", WithSlope(kZero, kZero - b));
   }
   offerX(second);
   choices.Wrong("takes 1 for the slope", WithSlope(kOne, b));
@@ -261,7 +291,7 @@ void OfferVertical(const LineThroughPoints& line, bool oneLikeRight,
   };
   const auto [first, second] = NamedPoints(line);
   offerY(first);
-  if (oneLikeRight) choices.Wrong("turns the sign of the number", Upright(-line.first.x));
+  if (oneLikeRight) choices.Wrong("reverses the sign of the number", Upright(-line.first.x));
   offerY(second);
   choices.Wrong("takes the number for the slope", WithSlope(x, kZero));
 }
@@ -297,7 +327,8 @@ void EquationOfALine::ExplainProblem() {
   ProblemBanner();
   SayAt(LineBoard::kTextRow, problem.question[0] + " " + problem.question[1], kBesidePlane);
   board.ShowPoints();
-  SayBelowPlane("The equation of a line is y = mx + b.");
+  SayBelowPlane(line_.IsVertical() ? "The equation of a line is y = mx + b, unless it is vertical."
+                                   : "The equation of a line is y = mx + b.");
   AddLine("m is the slope, b is the y intercept.");
   Say("Solve for m and b.");
   PageEnd();
@@ -305,15 +336,17 @@ void EquationOfALine::ExplainProblem() {
   PageEnd();
   if (line_.IsVertical()) {
     board.ShowVertical();
-  } else if (line_.IsHorizontal()) {
-    board.ShowHorizontal();
-  } else {
-    board.PutFirstPointIn();
-    PageEnd();
-    board.SolveForIntercept();
-    PageEnd();
-    board.ShowEquationAndCheck();
+    return Conclude(problem);
   }
+  if (line_.IsHorizontal()) {
+    board.ShowHorizontal();
+    return Conclude(problem);
+  }
+  board.PutFirstPointIn();
+  PageEnd();
+  board.SolveForIntercept();
+  PageEnd();
+  board.ShowEquationAndCheck();
   PageEnd();
   ClearBelow(kBelowPlane);
   ConcludeAt(kBelowPlane, problem);

@@ -72,7 +72,7 @@ void ReadVertical(const Point& first, const Point& second, Reading& reading) {
   reading.kind = "vertical";
   reading.answer = XEquals(first.x);
   reading.mistakes["mixes up x and y"] = {YEquals(0, first.x)};
-  reading.mistakes["turns the sign of the number"] = {XEquals(-first.x)};
+  reading.mistakes["reverses the sign of the number"] = {XEquals(-first.x)};
   reading.mistakes["takes the number for the slope"] = {YEquals(first.x, 0)};
   for (const Point* point : {&first, &second}) {
     const std::string name = NameOf(point == &first);
@@ -95,7 +95,7 @@ void ReadHorizontal(const Point& first, const Point& second, Reading& reading) {
   reading.answer = YEquals(0, first.y);
   reading.mistakes["mixes up x and y"] = {XEquals(first.y)};
   reading.mistakes["exchanges slope and intercept"] = {YEquals(first.y, 0)};
-  reading.mistakes["turns the sign of the intercept"] = {YEquals(0, -first.y)};
+  reading.mistakes["reverses the sign of the intercept"] = {YEquals(0, -first.y)};
   reading.mistakes["takes 1 for the slope"] = {YEquals(1, first.y)};
   AddCoordinateTakenForIntercept("x", 0, first.x, second.x, reading);
   for (const Point* point : {&first, &second})
@@ -115,12 +115,14 @@ void ReadSloping(const Point& first, const Point& second, Reading& reading) {
     reading.mistakes[name] = {YEquals(wrong, constant)};
     reading.mistakes[withOtherSign] = {YEquals(wrong, -constant)};
   };
-  addSlope("puts run over rise", "puts run over rise and turns the sign of the intercept",
-           1 / slope);
-  addSlope("turns the sign of the slope", "turns both signs", -slope);
+  addSlope("puts run over rise and uses this slope for b",
+           "puts run over rise, uses this slope for b and reverses its sign", 1 / slope);
+  addSlope("reverses the sign of the slope and uses it for b",
+           "reverses the sign of the slope, uses it for b and reverses the sign of b", -slope);
   reading.mistakes["exchanges slope and intercept"] = {YEquals(intercept, slope)};
-  reading.mistakes["exchanges slope and intercept and turns a sign"] = {YEquals(intercept, -slope)};
-  reading.mistakes["turns the sign of the intercept"] = {YEquals(slope, -intercept)};
+  reading.mistakes["exchanges slope and intercept and reverses a sign"] = {
+      YEquals(intercept, -slope)};
+  reading.mistakes["reverses the sign of the intercept"] = {YEquals(slope, -intercept)};
   AddCoordinateTakenForIntercept("y", slope, first.y, second.y, reading);
   AddCoordinateTakenForIntercept("x", slope, first.x, second.x, reading);
 }

@@ -101,13 +101,17 @@ void LineBoard::ShowPoints() const {
     DrawOnPlane(kPlane, {PointItem(point.x, point.y, PointText(point))});
 }
 
+// Fractions make a label that is hard to read along a line.
 void LineBoard::DrawLine() const {
   if (!IsOnPlane()) return;
   const LineEquation equation = line_.Equation();
-  DrawOnPlane(kPlane,
-              {equation.vertical ? UprightItem(line_.first.x)
-                                 : LineItem(ValueOf(equation.slope), ValueOf(equation.constant))},
-              kLineColour);
+  const bool isWhole = equation.slope.den == 1 && equation.constant.den == 1;
+  const std::string label = isWhole ? EquationText(equation) : "";
+  DrawOnPlane(
+      kPlane,
+      {equation.vertical ? UprightItem(line_.first.x, label)
+                         : LineItem(ValueOf(equation.slope), ValueOf(equation.constant), label)},
+      kLineColour);
 }
 
 // --- The steps -----------------------------------------------------------------------------------
@@ -127,9 +131,13 @@ void LineBoard::PutFirstPointIn() const {
   const std::string left = NumStr(y) + " = ";
   const std::string product = ProductText(line_.Slope(), x);
   const std::string value = ValueText(Product());
+  const Fraction slope = line_.Slope();
+  const std::string unreduced =
+      FractionOfTexts(NumStr(slope.num * x), NumStr(slope.den)) + " + b = ";
+  const bool isReduced = slope.den == 1 || Product().den == slope.den;
   SayBelow(Text("We put m and {} into y = mx + b:", PointText(line_.first)));
   Show(left + product + " + b");
-  if (product != value) Show(left + value + " + b");
+  if (product != value) Show(left + (isReduced ? "" : unreduced) + value + " + b");
 }
 
 void LineBoard::SolveForIntercept() const {
@@ -141,8 +149,11 @@ void LineBoard::SolveForIntercept() const {
     SayBelow("0 plus b is b:");
     Show(intercept);
   } else {
+    const int y = line_.first.y;
     SayBelow(Text(product.num > 0 ? "Subtracting {} from both sides:" : "Adding {} to both sides:",
                   ValueText(size)));
+    if (product.den != 1 && y != 0)
+      AddLine(Text("{} is {}.", y, NumStr(y * product.den) + "/" + NumStr(product.den)));
     Show("b = " + DifferenceSteps(line_.first.y, product));
   }
 }
@@ -165,14 +176,14 @@ void LineBoard::ShowEquationAndCheck() const {
 
 void LineBoard::ShowHorizontal() const {
   SayBelow("With m = 0 only y = b is left.");
-  Say(Text("Both points have the y {}, so b is {}:", line_.first.y, line_.first.y));
+  Say(Text("Both points have the y coordinate {}, so b is {}:", line_.first.y, line_.first.y));
   Show(EquationText(line_.Equation()));
   DrawLine();
 }
 
 void LineBoard::ShowVertical() const {
   SayBelow("There is no m, so it is not y = mx + b.");
-  Say(Text("But all points of the line have the x {}:", line_.first.x));
+  Say(Text("All its points have the x coordinate {}:", line_.first.x));
   Show(EquationText(line_.Equation()));
   DrawLine();
 }
