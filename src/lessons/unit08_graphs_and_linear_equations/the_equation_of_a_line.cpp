@@ -29,19 +29,19 @@ void SayBelowPlane(const std::string& text) {
 void SlopeAndIntercept() {
   NewScreen();
   ShowPlaneAtRight(LineBoard::kPlaneRow);
-  SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z, unless it is vertical.)",
-        kBesidePlane);
-  Say(R"(m is the \cslope\z:  how far up for 1 to the right.)", kBesidePlane);
-  SayBelowPlane(
-      R"(b is the \cy intercept\z:  the line crosses the y axis at b.  When b is 0, it passes through the origin, and we write only y = mx.)");
+  SayAt(LineBoard::kTextRow, R"(The equation of a line is \yy = mx + b\z.)", kBesidePlane);
+  SayBelowPlane("It fits all lines but the vertical ones.");
+  Say("m is the slope, b is the y intercept.");
   PageEnd();
   KeepLabelsClearOf(1, {StepItem(0, -1, 1, 2), LineItem(-1, 2)});
   DrawOnPlane(1, {LineItem(2, -1)}, platform::colour::Blue);
-  SayBelowPlane(R"(\yTry it:\z  Where does it cross the y axis?)");
+  SayBelowPlane(R"(The \cy intercept\z b tells where the line crosses the y axis.)");
+  Say(R"(\yTry it:\z  Where is that here?)");
   PageEnd();
   DrawOnPlane(1, {PointItem(0, -1, "(0,-1)")});
-  SayBelowPlane("At -1.  So the y intercept b is -1.");
-  Say(R"(\yTry it:\z  How many squares up does it go for one square to the right?)");
+  SayBelowPlane(R"(At -1, so b is -1.  The \cslope\z m tells how far up the line goes for 1 to )"
+                "the right.");
+  Say(R"(\yTry it:\z  How far is it here?)");
   PageEnd();
   DrawOnPlane(1, {StepItem(0, -1, 1, 2)});
   DrawOnPlane(1, {LineItem(2, -1, "y = 2x - 1")}, platform::colour::Blue);
@@ -50,15 +50,16 @@ void SlopeAndIntercept() {
   Say(R"(\yTry it:\z  Is it y = -x + 2, too?)");
   PageEnd();
   DrawOnPlane(1, {Broken(LineItem(-1, 2, "y = -x + 2"))}, platform::colour::Red);
-  SayBelowPlane(
-      "No.  There slope and intercept are exchanged.  That line is dashed:  it has the "
-      "slope -1 and crosses at 2.");
+  SayBelowPlane("No.  In the dashed line slope and intercept are exchanged.");
+  Say(R"(\yTry it:\z  What is b when a line passes through the origin?)");
+  PageEnd();
+  SayBelowPlane("b is 0.  Then we write only y = mx, such as y = 2x.");
   PageEnd();
 }
 
 // What a student gets who ...
 void WarnOfWrongSlopes() {
-  SayBelowPlane(R"(\yWatch out:\z  The same order above and below.)");
+  SayBelowPlane(R"(\yWatch out:\z  These are wrong.)");
   PaperBox({R"(\r(5 - 1)/(-1 - (-3)) = 2\z  mixes the order.)",
             R"(\r2/(-4) = -1/2\z  puts run over rise.)"});
   PageEnd();
@@ -84,10 +85,11 @@ void FromTwoPoints() {
   PageEnd();
   ShowWayToSecondPoint();
   SayBelowPlane("2 right and 4 down.  The run is 2, the rise is -4.");
-  Say(R"(The slope m is rise over run.  \yTry it:\z  What is the slope?)");
+  Say(R"(The slope m is rise over run.  \yTry it:\z  What is it here?)");
   PageEnd();
   SayBelowPlane("rise = second y - first y = 1 - 5");
   AddLine("run = second x - first x = -1 - (-3)");
+  Say("We keep this order in the fraction.");
   PageEnd();
   board.FindSlope();
   PageEnd();
@@ -327,8 +329,7 @@ void EquationOfALine::ExplainProblem() {
   ProblemBanner();
   SayAt(LineBoard::kTextRow, problem.question[0] + " " + problem.question[1], kBesidePlane);
   board.ShowPoints();
-  SayBelowPlane(line_.IsVertical() ? "The equation of a line is y = mx + b, unless it is vertical."
-                                   : "The equation of a line is y = mx + b.");
+  SayBelowPlane("The equation of a line is y = mx + b.");
   AddLine("m is the slope, b is the y intercept.");
   Say("Solve for m and b.");
   PageEnd();

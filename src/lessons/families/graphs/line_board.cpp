@@ -175,8 +175,8 @@ void LineBoard::ShowEquationAndCheck() const {
 }
 
 void LineBoard::ShowHorizontal() const {
-  SayBelow("With m = 0 only y = b is left.");
-  Say(Text("Both points have the y coordinate {}, so b is {}:", line_.first.y, line_.first.y));
+  SayBelow(
+      Text("With m = 0 only y = b is left.  Both points have the y coordinate {}:", line_.first.y));
   Show(EquationText(line_.Equation()));
   DrawLine();
 }
