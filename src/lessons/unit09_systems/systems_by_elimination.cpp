@@ -1,6 +1,7 @@
 // The student can solve a system of two linear equations by elimination: choose the letter that is
 // easy to eliminate, multiply until its terms are opposites, add the equations, and go back for the
 // second number of the pair.
+#include "lessons/families/graphs/plane_figure.h"
 #include "lessons/families/systems/elimination_board.h"
 #include "lessons/families/systems/linear_system.h"
 #include "lessons/families/systems/system_steps.h"
@@ -9,6 +10,7 @@
 namespace course {
 namespace {
 
+using namespace graphs;
 using namespace systems;
 
 // The systems of the teaching screens.
@@ -21,29 +23,41 @@ constexpr LinearSystem kOneLine = {{2, 1, 3}, {4, 2, 6}};
 
 constexpr double kBelowEquations = EliminationBoard::kBelowEquations;
 constexpr double kBelow = EliminationBoard::kBelow;
+constexpr double kFewRows = 8;    // of a white box for a few words
+constexpr double kBelowSum = 12.4;  // beside a plane
 
 // --- Teaching screens --------------------------------------------------------
+
+void WhatASystemIs() {
+  NewScreen();
+  ShowPlaneAtRight(3);
+  DrawOnPlane(1, {LineItem(-1, 7, "x + y = 7")}, platform::colour::Blue);
+  DrawOnPlane(1, {Broken(LineItem(1, -3, "x - y = 3"))}, platform::colour::Red);
+  DrawOnPlane(1, {PointItem(5, 2, "(5,2)")});
+  SayAt(4, R"(Both equations make a \csystem\z.)", kBesidePlane);
+  SayAt(14.5, R"(A pair that makes both true is its \csolution\z:  5 + 2 = 7 and 5 - 2 = 3.)");
+  PageEnd();
+}
 
 void Principle() {
   NewScreen();
   Say("The method of elimination depends upon the following important principle:");
-  RuleBox("Addition Principle of Equality", {"If a = b and c = d, then a + c = b + d."});
-  PageEnd();
-  Say("Equal numbers have equal sums:");
-  Show("9 = 5 + 4");
-  Show("3 = 2 + 1");
+  Show("9 = 5 + 4  and  3 = 2 + 1");
   Say(R"(\yTry it:\z  Add both equations.)");
+  PageEnd();
+  Say("9 + 3 = 12, and 5 + 4 + 2 + 1 = 12.");
+  RuleBox("Addition Principle of Equality", {"If a = b and c = d, then a + c = b + d."});
   PageEnd();
 }
 
 void AddTwoEquations() {
   const EliminationBoard board(kIdea);
   NewScreen();
-  SayAt(2, "12 = 12.  And now with letters:");
+  SayAt(2, "And now with letters:");
   board.ShowEquations();
   SayAt(kBelowEquations, R"(\yTry it:\z  What is the sum of y and -y?)");
   PageEnd();
-  board.OpenWorkBox();
+  board.OpenWorkBox(kFewRows);
   board.MoveDown(1);
   board.MoveDown(2);
   board.ShowSum();
@@ -65,18 +79,21 @@ void OneMultiplication() {
   board.ShowEquations();
   SayAt(kBelowEquations, R"(\yTry it:\z  Which number times 2y is the opposite of -4y?)");
   PageEnd();
-  Say("2:  the opposite is 4y.  We multiply:");
-  PaperBox({R"(\r6x + 2y = 8\z  forgets the term 2y.)",
-            R"(\r6x + 4y = 4\z  forgets the right side.)", R"(\b6x + 4y = 8\z  is right.)"});
+  ClearBelow(kBelowEquations);
+  SayAt(kBelowEquations, "2, for 4y.  We multiply every term:");
+  Show("2(3x + 2y) = 2(4),  so  6x + 4y = 8");
+  PaperBox({R"(\r6x + 2y = 8:\z  2y was not multiplied.)",
+            R"(\r6x + 4y = 4:\z  4 was not multiplied.)"});
   PageEnd();
-  board.OpenWorkBox();
-  board.BringDown();
+  board.OpenWorkBox(kFewRows);
+  board.MoveDown(1);
+  board.MoveDown(2);
   board.ShowSum();
-  SayInBoxAnew("11x = 22, so x = 2.");
-  SayInBox("What is y?  Use Equation 1.");
+  SayInBox("11x = 22, so x = 2.  What is y?");
   PageEnd();
   SayInBoxAnew("3(2) + 2y = 4, so 6 + 2y = 4.");
   SayInBox("2y = -2, and y = -1.");
+  SayInBox("Check in Equation 2:  5(2) - 4(-1) = 14.");
   SayInBox(R"(The solution is \b(2,-1)\z.)");
   PageEnd();
 }
@@ -88,15 +105,18 @@ void EqualTerms() {
   SayAt(kBelowEquations, "3x and 3x add up to 6x, not to 0.");
   Say(R"(\yTry it:\z  Multiply Equation 2 by -1.)");
   PageEnd();
-  board.OpenWorkBox();
+  board.OpenWorkBox(kFewRows);
   board.MoveDown(1);
   board.MoveDown(2);
   SayInBox(R"(\bWatch out:\z  All three signs change, also the one on the right side.)");
   PageEnd();
   board.ShowSum();
-  SayInBoxAnew("-2y = 4, so y = -2.");
-  SayInBox("Equation 1:  3x - 4 = 5, so x = 3.");
-  SayInBox(R"(The solution is \b(3,-2)\z, not (-2,3).)");
+  SayInBoxAnew("-2y = 4, so y = -2.  What is x?");
+  PageEnd();
+  SayInBoxAnew("3x + 2(-2) = 5, so 3x - 4 = 5.");
+  SayInBox("3x = 9, and x = 3.");
+  SayInBox("Check in Equation 2:  3(3) + 4(-2) = 1.");
+  SayInBox(R"(We found y first, but x is written first:  \b(3,-2)\z.)");
   PageEnd();
 }
 
@@ -121,10 +141,10 @@ void WorkedExample() {
   const EliminationBoard board(kWorked);
   NewScreen();
   board.ShowEquations();
-  board.ShowFactors();
-  SayAt(kBelowEquations, "y is easier:  we need 6y and -6y.");
-  AddLine("For x we need 12x and -12x.");
+  SayAt(kBelowEquations, "y is easier:  we need 6y and -6y.  For x we need 12x and -12x.");
+  Say(R"(\yTry it:\z  By which numbers do we multiply?)");
   PageEnd();
+  board.ShowFactors();
   board.OpenWorkBox();
   board.BringDown();
   board.Add();
@@ -137,6 +157,12 @@ void WorkedExample() {
   PageEnd();
 }
 
+// A plane in place of the white box.
+void ShowLinesBelow() {
+  ClearBelow(kBelow);
+  ShowPlaneAtRight(kBelowSum - 0.4);
+}
+
 // Both letters can drop out.
 void NoLetterLeft() {
   const EliminationBoard board(kParallel);
@@ -144,14 +170,17 @@ void NoLetterLeft() {
   board.ShowEquations();
   SayAt(kBelowEquations, R"(\yTry it:\z  By which number do we multiply Equation 1?)");
   PageEnd();
-  board.OpenWorkBox();
+  board.OpenWorkBox(kFewRows);
   board.MoveDown(1);
   board.MoveDown(2);
   board.ShowSum();
   SayInBox("By -2.  For which pairs is 0 = 4 true?");
   PageEnd();
-  SayInBoxAnew("For none.  The lines are parallel:  they have no common point.");
-  SayInBox(SolutionSentence(SystemClass::NoSolution));
+  ShowLinesBelow();
+  DrawOnPlane(1, {LineItem(-2, 3, "2x + y = 3")}, platform::colour::Blue);
+  DrawOnPlane(1, {Broken(LineItem(-2, 5, "4x + 2y = 10"))}, platform::colour::Red);
+  SayAt(kBelowSum, "For none.  The lines are parallel:  no point is on both.", kBesidePlane);
+  Say(SolutionSentence(SystemClass::NoSolution), kBesidePlane);
   PageEnd();
 }
 
@@ -161,15 +190,20 @@ void EveryPointOfTheLine() {
   board.ShowEquations();
   SayAt(kBelowEquations, R"(\yTry it:\z  What is the sum this time?)");
   PageEnd();
-  board.OpenWorkBox();
+  board.OpenWorkBox(kFewRows);
   board.MoveDown(1);
   board.MoveDown(2);
   board.ShowSum();
   SayInBox("0 = 0 is true.  Is (0,0) a solution?");
   PageEnd();
-  SayInBoxAnew(
-      "No:  2(0) + 0 is not 3.  But each point of their common line is one, such as (1,1).");
-  SayInBox(SolutionSentence(SystemClass::SameLine));
+  ShowLinesBelow();
+  DrawOnPlane(1, {LineItem(-2, 3, "2x + y = 3")}, platform::colour::Blue);
+  DrawOnPlane(1, {PointItem(1, 1, "(1,1)")});
+  SayAt(kBelowSum,
+        "No:  2(0) + 0 is not 3.  Both equations have the same line.  Each of its points is a "
+        "solution, such as (1,1).",
+        kBesidePlane);
+  Say(SolutionSentence(SystemClass::SameLine), kBesidePlane);
   PageEnd();
 }
 
@@ -182,7 +216,7 @@ class SystemsByElimination final : public LessonScript {
 
  private:
   std::vector<Screen> Screens() override {
-    return {{Principle, AddTwoEquations},
+    return {{WhatASystemIs, Principle, AddTwoEquations},
             {OneMultiplication, EqualTerms},
             {ThePlan},
             {WorkedExample},
@@ -217,8 +251,10 @@ void SystemsByElimination::DrawProblem(RandomStream& random) {
 
 void SystemsByElimination::ShowProblem() {
   SayAt(5, problem.question[0] + " " + problem.question[1]);
-  ShowAt(8, problem.question[2], 7);
-  ShowAt(9, problem.question[3], 7);
+  const std::string& first = problem.question[2];
+  const std::string& second = problem.question[3];
+  ShowAt(8, first, 7 + ColumnsToAlign(first, second));
+  ShowAt(9, second, 7 + ColumnsToAlign(second, first));
   ShowAnswersInTwoColumns(problem, {.row = 12});
 }
 

@@ -1,5 +1,6 @@
 #include "lessons/families/systems/elimination_board.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "display/animation.h"
@@ -32,45 +33,17 @@ constexpr double RowOfAddend(int line) {
 }
 constexpr double kRuleRow = 8.85;  // the bar goes through the middle of its row
 constexpr double kSumRow = 9.5;
+constexpr double kWorkColumns = 40;  // "Multiply both sides of Equation 2 by -2" stays on one line
 
 // The print cell that travels, in columns.
 constexpr int kCellColumns = 18;
 constexpr double kCellPoints = 16;
 constexpr double kTravelSpeed = 30;
 
-// --- Equations in columns: "  6x +  9y =   12" ---------------------------------------------------
-
-constexpr std::size_t kTermWidth = 4;      // "-36x"
-constexpr std::size_t kConstantWidth = 4;  // "-120"
-
 std::string AtRight(const std::string& text, std::size_t width) {
   std::string padded;
   for (std::size_t i = text.size(); i < width; ++i) padded += tutor::Gap;
   return padded + text;
-}
-
-std::string RightSide(int constant) {
-  return tutor::Gap + "=" + tutor::Gap + AtRight(NumStr(constant), kConstantWidth);
-}
-
-// The term of x, then sign and term of y; the one that drops out in yellow.
-std::string InColumns(const LinearEquation& equation, char dropsOut) {
-  const auto coloured = [&](const std::string& term, char letter) {
-    return letter == dropsOut ? R"(\y)" + term + R"(\z)" : term;
-  };
-  const std::string sign = tutor::Gap + (equation.b < 0 ? "-" : "+") + tutor::Gap;
-  const std::string y = LetterTermText(std::abs(equation.b), 'y');
-  return coloured(AtRight(LetterTermText(equation.a, 'x'), kTermWidth), 'x') +
-         coloured(sign + AtRight(y, kTermWidth - 1), 'y') + RightSide(equation.c);
-}
-
-// The sum, of which at least one letter has dropped out.
-std::string SumInColumns(const LinearEquation& sum) {
-  const std::size_t leftWidth = 2 * kTermWidth + 2;
-  if (sum.a == 0)
-    return AtRight(sum.b == 0 ? "0" : LetterTermText(sum.b, 'y'), leftWidth) + RightSide(sum.c);
-  return AtRight(LetterTermText(sum.a, 'x'), kTermWidth) + AtRight("", leftWidth - kTermWidth) +
-         RightSide(sum.c);
 }
 
 void SlideInCell(const std::string& text, double fromRow, double toRow) {
@@ -90,7 +63,13 @@ void SlideInCell(const std::string& text, double fromRow, double toRow) {
 }  // namespace
 
 EliminationBoard::EliminationBoard(const LinearSystem& system)
-    : system_(system), plan_(PlanFor(system)) {}
+    : system_(system), plan_(PlanFor(system)) {
+  for (const LinearEquation& equation : {MultipleOf(1), MultipleOf(2), Sum()}) {
+    columns_.x = std::max(columns_.x, LetterTermText(equation.a, 'x').size());
+    columns_.y = std::max(columns_.y, LetterTermText(std::abs(equation.b), 'y').size());
+    columns_.constant = std::max(columns_.constant, NumStr(equation.c).size());
+  }
+}
 
 LinearEquation EliminationBoard::MultipleOf(int line) const {
   return Multiplied(system_.Line(line), plan_.Factor(line));
@@ -102,31 +81,76 @@ LinearEquation EliminationBoard::Sum() const {
   return {first.a + second.a, first.b + second.b, first.c + second.c};
 }
 
+// --- Columns -------------------------------------------------------------------------------------
+
+constexpr std::size_t kSignWidth = 3;  // " + ", " = "
+
+std::size_t EliminationBoard::Columns::LeftWidth() const {
+  return x + kSignWidth + y;
+}
+
+std::size_t EliminationBoard::Columns::Width() const {
+  return LeftWidth() + kSignWidth + constant;
+}
+
+// What drops out is yellow.
+std::string EliminationBoard::InColumns(const LinearEquation& equation) const {
+  const auto coloured = [&](const std::string& term, char letter) {
+    return DropsOut(letter) ? R"(\y)" + term + R"(\z)" : term;
+  };
+  const std::string sign = tutor::Gap + (equation.b < 0 ? "-" : "+") + tutor::Gap;
+  const std::string y = LetterTermText(std::abs(equation.b), 'y');
+  return coloured(AtRight(LetterTermText(equation.a, 'x'), columns_.x), 'x') +
+         coloured(sign + AtRight(y, columns_.y), 'y') + tutor::Gap + "=" + tutor::Gap +
+         AtRight(NumStr(equation.c), columns_.constant);
+}
+
+std::string EliminationBoard::SumInColumns() const {
+  const LinearEquation sum = Sum();
+  std::string left = "0";
+  if (sum.a != 0)
+    left = AtRight(LetterTermText(sum.a, 'x'), columns_.x) + AtRight("", kSignWidth + columns_.y);
+  else if (sum.b != 0)
+    left = LetterTermText(sum.b, 'y');
+  return AtRight(left, columns_.LeftWidth()) + tutor::Gap + "=" + tutor::Gap +
+         AtRight(NumStr(sum.c), columns_.constant);
+}
+
 // --- The steps -----------------------------------------------------------------------------------
 
 void EliminationBoard::ShowEquations() const {
-  for (const int line : {1, 2}) {
-    ShowAt(RowOfEquation(line), Text("Equation {}:", line), kLabelCol);
-    ShowAt(RowOfEquation(line), EquationText(system_.Line(line)), kEquationCol);
-  }
+  const std::string first = EquationText(system_.first);
+  const std::string second = EquationText(system_.second);
+  for (const int line : {1, 2}) ShowAt(RowOfEquation(line), Text("Equation {}:", line), kLabelCol);
+  ShowAt(RowOfEquation(1), first, kEquationCol + ColumnsToAlign(first, second));
+  ShowAt(RowOfEquation(2), second, kEquationCol + ColumnsToAlign(second, first));
 }
 
 void EliminationBoard::ShowFactors() const {
   for (const int line : {1, 2})
     if (plan_.Factor(line) != 1)
-      ShowAt(RowOfEquation(line), tutor::Times + " " + InParentheses(plan_.Factor(line)),
-             kFactorCol);
+      ShowAt(RowOfEquation(line), Text("times {}", plan_.Factor(line)), kFactorCol);
 }
 
-void EliminationBoard::OpenWorkBox() const {
+void EliminationBoard::OpenWorkBox(double rows) const {
   ClearBelow(kBelowEquations);
-  WhiteBox({.row = kBelow});
+  WhiteBox({.row = kBelow, .rows = rows, .width = kWorkColumns});
 }
 
 void EliminationBoard::MoveDown(int line) const {
   const LinearEquation multiple = MultipleOf(line);
   SlideInCell(EquationText(multiple), RowOfEquation(line), RowOfAddend(line));
-  ShowAt(RowOfAddend(line), InColumns(multiple, plan_.letter), kEquationCol);
+  ShowAt(RowOfAddend(line), InColumns(multiple), kEquationCol);
+}
+
+// A factor at every term: "2(6x) + 2(-3y) = 2(-3)", "-2(6x) - 2(3y) = -2(5)".
+std::string EliminationBoard::TermByTerm(int line) const {
+  const auto [a, b, c] = system_.Line(line);
+  const int factor = plan_.Factor(line);
+  const auto inParentheses = [](const std::string& term) { return "(" + term + ")"; };
+  return CoefText(factor) + inParentheses(LetterTermText(a, 'x')) + SignedCoefText(factor) +
+         inParentheses(LetterTermText(b, 'y')) + " = " + CoefText(factor) +
+         inParentheses(NumStr(c));
 }
 
 void EliminationBoard::SayMultiplication(int line) const {
@@ -134,14 +158,15 @@ void EliminationBoard::SayMultiplication(int line) const {
   const std::string sides = EquationText(system_.Line(line));
   const std::size_t equals = sides.find(" = ");
   SayInBoxAnew(Text(R"(\bMultiply both sides of Equation {} by{}\z)", line, " " + factor));
-  SayInBox(AlignedEquation(factor + "(" + sides.substr(0, equals) + ") = " + factor + "(" +
-                           sides.substr(equals + 3) + ")"));
+  if (MultipliesBoth())  // else the page has no room
+    SayInBox(AlignedEquation(factor + "(" + sides.substr(0, equals) + ") = " + factor + "(" +
+                             sides.substr(equals + 3) + ")"));
+  SayInBox(AlignedEquation(TermByTerm(line)));
 }
 
 void EliminationBoard::BringDown() const {
-  const bool both = plan_.firstFactor != 1 && plan_.secondFactor != 1;
   for (const int line : {1, 2}) {
-    if (both && line == 2) PageEnd();
+    if (MultipliesBoth() && line == 2) PageEnd();
     if (plan_.Factor(line) != 1) SayMultiplication(line);
     MoveDown(line);
   }
@@ -149,10 +174,10 @@ void EliminationBoard::BringDown() const {
 }
 
 void EliminationBoard::ShowSum() const {
-  constexpr double kRuleColumns = 17;
   constexpr int kRulePixels = 2;
-  isDrawHorizLine(kRuleRow, kEquationCol, kEquationCol + kRuleColumns, kRulePixels);
-  ShowAt(kSumRow, SumInColumns(Sum()), kEquationCol);
+  isDrawHorizLine(kRuleRow, kEquationCol, kEquationCol + static_cast<double>(columns_.Width()),
+                  kRulePixels);
+  ShowAt(kSumRow, SumInColumns(), kEquationCol);
 }
 
 void EliminationBoard::Add() const {
@@ -162,7 +187,7 @@ void EliminationBoard::Add() const {
   if (Sum().a == 0 && Sum().b == 0) {
     SayInBox("Both letters drop out.");
   } else {
-    const int coefficient = std::abs(CoefficientOf(MultipleOf(1), plan_.letter));
+    const int coefficient = CoefficientOf(MultipleOf(1), plan_.letter);
     SayInBox(Text("{} and {} add up to 0.", LetterTermText(coefficient, plan_.letter),
                   LetterTermText(-coefficient, plan_.letter)));
   }

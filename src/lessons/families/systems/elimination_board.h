@@ -3,6 +3,7 @@
 // added term by term.  Below the sum a white box holds the work.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "lessons/families/systems/elimination_plan.h"
@@ -22,8 +23,8 @@ class EliminationBoard {
   void ShowEquations() const;
   // Beside them, by what they are multiplied.
   void ShowFactors() const;
-  // An empty white box below the sum.
-  void OpenWorkBox() const;
+  // An empty white box below the sum; 0 rows reach down to the bottom of the screen.
+  void OpenWorkBox(double rows = 0) const;
   // Equation 1 or 2, or its multiple, slides down; then their sum below them.
   void MoveDown(int line) const;
   void ShowSum() const;
@@ -42,10 +43,25 @@ class EliminationBoard {
   int ValueOf(char letter) const { return letter == 'x' ? system_.x : system_.y; }
   LinearEquation MultipleOf(int line) const;
   LinearEquation Sum() const;
+  bool MultipliesBoth() const { return plan_.firstFactor != 1 && plan_.secondFactor != 1; }
+  std::string TermByTerm(int line) const;
   void SayMultiplication(int line) const;
+
+  // Equations in columns: "12x + 6y = -6".
+  struct Columns {
+    std::size_t x = 0;  // widths of the longest terms and constant
+    std::size_t y = 0;  // without its sign
+    std::size_t constant = 0;
+    std::size_t LeftWidth() const;
+    std::size_t Width() const;
+  };
+  std::string InColumns(const LinearEquation& equation) const;
+  std::string SumInColumns() const;
+  bool DropsOut(char letter) const { return CoefficientOf(Sum(), letter) == 0; }
 
   LinearSystem system_;
   EliminationPlan plan_;
+  Columns columns_;
 };
 
 }  // namespace course::systems

@@ -1,5 +1,6 @@
 #include "lessons/families/systems/elimination_plan.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <numeric>
 #include <tuple>
@@ -48,6 +49,11 @@ int CoefficientOf(const LinearEquation& equation, char letter) {
 
 std::string LetterTermText(int coefficient, char letter) {
   return CoefText(coefficient) + letter;
+}
+
+double ColumnsToAlign(const std::string& equation, const std::string& other) {
+  return std::max(0.0,
+                  static_cast<double>(other.find('=')) - static_cast<double>(equation.find('=')));
 }
 
 std::string ReasonOfPlan(const LinearSystem& system, const EliminationPlan& plan) {

@@ -25,6 +25,9 @@ LinearEquation Multiplied(const LinearEquation& equation, int factor);
 int CoefficientOf(const LinearEquation& equation, char letter);
 // "3x", "-y".
 std::string LetterTermText(int coefficient, char letter);
+// By how much the first of two equations is moved to the right, so that the signs of equality stand
+// under each other.
+double ColumnsToAlign(const std::string& equation, const std::string& other);
 // Why the plan works, in a sentence or two.
 std::string ReasonOfPlan(const LinearSystem& system, const EliminationPlan& plan);
 
