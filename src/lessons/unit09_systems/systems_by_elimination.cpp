@@ -23,19 +23,20 @@ constexpr LinearSystem kOneLine = {{2, 1, 3}, {4, 2, 6}};
 
 constexpr double kBelowEquations = EliminationBoard::kBelowEquations;
 constexpr double kBelow = EliminationBoard::kBelow;
-constexpr double kFewRows = 8;    // of a white box for a few words
-constexpr double kBelowSum = 12.4;  // beside a plane
+constexpr double kFewRows = 8;  // of a white box for a few words
+constexpr double kBelowPlane = 18.3;
 
 // --- Teaching screens --------------------------------------------------------
 
 void WhatASystemIs() {
   NewScreen();
-  ShowPlaneAtRight(3);
+  SayAt(2.5, R"(x + y = 7 and x - y = 3 make a \csystem\z.)");
+  ShowPlaneAtRight(4);
   DrawOnPlane(1, {LineItem(-1, 7, "x + y = 7")}, platform::colour::Blue);
   DrawOnPlane(1, {Broken(LineItem(1, -3, "x - y = 3"))}, platform::colour::Red);
   DrawOnPlane(1, {PointItem(5, 2, "(5,2)")});
-  SayAt(4, R"(Both equations make a \csystem\z.)", kBesidePlane);
-  SayAt(14.5, R"(A pair that makes both true is its \csolution\z:  5 + 2 = 7 and 5 - 2 = 3.)");
+  SayAt(15.5, R"(A pair that makes both true is its \csolution\z, here (5,2).)");
+  Say(R"(\yCheck:\z  5 + 2 = 7 and 5 - 2 = 3.)");
   PageEnd();
 }
 
@@ -111,10 +112,10 @@ void EqualTerms() {
   SayInBox(R"(\bWatch out:\z  All three signs change, also the one on the right side.)");
   PageEnd();
   board.ShowSum();
-  SayInBoxAnew("-2y = 4, so y = -2.  What is x?");
+  SayInBoxAnew("-2y = 4, so y = -2.");
+  SayInBox("Equation 1:  3x + 2(-2) = 5.  What is x?");
   PageEnd();
-  SayInBoxAnew("3x + 2(-2) = 5, so 3x - 4 = 5.");
-  SayInBox("3x = 9, and x = 3.");
+  SayInBoxAnew("3x - 4 = 5, so 3x = 9, and x = 3.");
   SayInBox("Check in Equation 2:  3(3) + 4(-2) = 1.");
   SayInBox(R"(We found y first, but x is written first:  \b(3,-2)\z.)");
   PageEnd();
@@ -141,10 +142,9 @@ void WorkedExample() {
   const EliminationBoard board(kWorked);
   NewScreen();
   board.ShowEquations();
-  SayAt(kBelowEquations, "y is easier:  we need 6y and -6y.  For x we need 12x and -12x.");
-  Say(R"(\yTry it:\z  By which numbers do we multiply?)");
+  SayAt(kBelowEquations, "y is easier:  for x we need 12x.");
+  Say(R"(\yTry it:\z  How do we get 6y and -6y?)");
   PageEnd();
-  board.ShowFactors();
   board.OpenWorkBox();
   board.BringDown();
   board.Add();
@@ -157,10 +157,11 @@ void WorkedExample() {
   PageEnd();
 }
 
-// A plane in place of the white box.
+// A plane in place of sum and white box.
 void ShowLinesBelow() {
-  ClearBelow(kBelow);
-  ShowPlaneAtRight(kBelowSum - 0.4);
+  constexpr double kSumRow = 7;
+  ClearBelow(kSumRow);
+  ShowPlaneAtRight(kBelowEquations - 0.5);
 }
 
 // Both letters can drop out.
@@ -179,8 +180,8 @@ void NoLetterLeft() {
   ShowLinesBelow();
   DrawOnPlane(1, {LineItem(-2, 3, "2x + y = 3")}, platform::colour::Blue);
   DrawOnPlane(1, {Broken(LineItem(-2, 5, "4x + 2y = 10"))}, platform::colour::Red);
-  SayAt(kBelowSum, "For none.  The lines are parallel:  no point is on both.", kBesidePlane);
-  Say(SolutionSentence(SystemClass::NoSolution), kBesidePlane);
+  SayAt(kBelowPlane, "For none.  The lines are parallel:  no point is on both.");
+  Say(SolutionSentence(SystemClass::NoSolution));
   PageEnd();
 }
 
@@ -199,11 +200,9 @@ void EveryPointOfTheLine() {
   ShowLinesBelow();
   DrawOnPlane(1, {LineItem(-2, 3, "2x + y = 3")}, platform::colour::Blue);
   DrawOnPlane(1, {PointItem(1, 1, "(1,1)")});
-  SayAt(kBelowSum,
-        "No:  2(0) + 0 is not 3.  Both equations have the same line.  Each of its points is a "
-        "solution, such as (1,1).",
-        kBesidePlane);
-  Say(SolutionSentence(SystemClass::SameLine), kBesidePlane);
+  SayAt(kBelowPlane,
+        "No:  2(0) + 0 is not 3.  But each point of their common line is one, such as (1,1).");
+  Say(SolutionSentence(SystemClass::SameLine));
   PageEnd();
 }
 
