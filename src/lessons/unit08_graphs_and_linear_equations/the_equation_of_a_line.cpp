@@ -50,7 +50,7 @@ void SlopeAndIntercept() {
   Say(R"(\yTry it:\z  Is it y = -x + 2, too?)");
   PageEnd();
   DrawOnPlane(1, {Broken(LineItem(-1, 2, "y = -x + 2"))}, platform::colour::Red);
-  SayBelowPlane("No.  In the dashed line slope and intercept are exchanged.");
+  SayBelowPlane("No.  There slope and intercept are exchanged:  see the dashed line.");
   Say(R"(\yTry it:\z  What is b when a line passes through the origin?)");
   PageEnd();
   SayBelowPlane("b is 0.  Then we write only y = mx, such as y = 2x.");
@@ -72,7 +72,7 @@ void WarnOfWrongSlopes() {
 void ShowWayToSecondPoint() {
   DrawArrows(1, StepItem(-3, 5, 2, -4), platform::colour::Blue);
   LabelPlace(1, -2, 5, "run 2", platform::colour::Blue);
-  LabelPlace(1, -1, 3, "rise -4", platform::colour::Blue);
+  LabelPlace(1, 0.15, 3, "rise -4", platform::colour::Blue);
 }
 
 void FromTwoPoints() {
