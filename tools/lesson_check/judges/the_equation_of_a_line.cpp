@@ -116,7 +116,7 @@ void ReadSloping(const Point& first, const Point& second, Reading& reading) {
     reading.mistakes[withOtherSign] = {YEquals(wrong, -constant)};
   };
   addSlope("puts run over rise and uses this slope for b",
-           "puts run over rise, uses this slope for b and reverses its sign", 1 / slope);
+           "puts run over rise, uses this slope for b and reverses the sign of b", 1 / slope);
   addSlope("reverses the sign of the slope and uses it for b",
            "reverses the sign of the slope, uses it for b and reverses the sign of b", -slope);
   reading.mistakes["exchanges slope and intercept"] = {YEquals(intercept, slope)};
