@@ -15,6 +15,7 @@ using namespace systems;
 constexpr TriedEquation kLeftSide = {{3, -2, 0}, {0, 0, 8}};
 constexpr TriedEquation kSolvedForY = {{0, 1, 0}, {2, 0, -3}};
 constexpr TriedEquation kTwoSides = {{3, 0, 0}, {0, 2, 1}};
+constexpr TriedEquation kOpposite = {{-1, 0, 0}, {0, -2, -8}};
 
 constexpr double kCellSize = 14;  // points
 
@@ -39,7 +40,7 @@ void ManyPairs() {
   NewScreen();
   SayAt(3, Text("One number makes {} true:  3.  Now there are two variables:", "x + 2 = 5"));
   Show("x + y = 5", 15);
-  Say(R"(\yTry it:\z  Which numbers make it true?)");
+  Say(R"(\yTry it:\z  Find x and y to make it true.)");
   PageEnd();
   ShowPairsInRows();
   Say(Text("All of these do, and many more.  x and y need not be equal.  In the last pair {} is 5.",
@@ -62,33 +63,41 @@ void OrderedPairs() {
 
 void WhatLinearMeans() {
   NewScreen();
-  SayAt(3, R"(An equation is \clinear\z when we can write it as ax + by = c, where a, b and c are )"
-           "numbers, and a and b are not both 0.");
+  SayAt(3, Text(R"({} is \clinear\z:  it has the form {}, with a = 3, b = -2, c = 8. )",
+                kLeftSide.Text(), "ax + by = c"));
   Say(Text(R"(\yTry it:\z  Is {} linear?)", "x^2^ + y = 5"));
   PageEnd();
-  Say(R"(No.  x has an exponent there.)");
+  Say("No.  x\xB2 has the exponent 2.  In a linear equation there is no x\xB2 and no product xy.");
   Say(Text("But {} is linear:  we subtract 2x from both sides, and get {}.", "y = 2x + 1",
            "-2x + y = 1"));
   PageEnd();
 }
 
-// Both numbers come into the places of their letters, on a row below.
-void BringNumbersIntoPlace() {
-  constexpr double kRow = 6;
-  constexpr double kDown = 1.5;
-  constexpr double kCol = 5;    // of the equation
-  constexpr double kXCol = 28;  // of the numbers
-  constexpr double kYCol = 36;
+// The equation with the numbers beside it, and on a row below the numbers in their places.
+constexpr double kRow = 6;
+constexpr double kDown = 1.5;
+constexpr double kCol = 5;    // of the equation
+constexpr double kXCol = 28;  // of the numbers
+constexpr double kYCol = 36;
+
+void ShowEquationAndPair(int x, int y) {
   ShowAt(kRow, kLeftSide.Text(), kCol);
-  ShowAt(kRow, R"(x = \y2\z)", kXCol - 4);
-  ShowAt(kRow, R"(y = \y-1\z)", kYCol - 4);
+  ShowAt(kRow, Text(R"(x = \y{}\z)", x), kXCol - 4);
+  ShowAt(kRow, Text(R"(y = \y{}\z)", y), kYCol - 4);
+}
+void ShowNumbersInPlace(int x, int y) {
+  ShowAt(kRow + kDown, Text(R"(3(\y{}\z) - 2(\y{}\z) = 8)", x, y), kCol);
+}
+
+void BringNumbersIntoPlace() {
+  ShowEquationAndPair(2, -1);
   SayAt(9.5, R"(\yTry it:\z  Which number comes where?)");
   PageEnd();
   SlideDown({kRow, kXCol, 1}, kDown, Leaving::Copy);
   SlideLeft({kRow + kDown, kXCol, 1}, kXCol - kCol - 2);
   SlideDown({kRow, kYCol, 2}, kDown, Leaving::Copy);
   SlideLeft({kRow + kDown, kYCol, 2}, kYCol - kCol - 9);
-  ShowAt(kRow + kDown, R"(3(\y2\z) - 2(\y-1\z) = 8)", kCol);
+  ShowNumbersInPlace(2, -1);
 }
 
 void TryOnTheLeft() {
@@ -97,14 +106,18 @@ void TryOnTheLeft() {
   BringNumbersIntoPlace();
   ClearBelow(9.5);
   SayAt(9.5, "The parentheses keep the minus sign.");
-  WhiteBox({.row = 11.5, .rows = 9});
+  WhiteBox({.row = 11.5, .rows = 6});
   SayInBox(R"(\bEvaluate the expression on the left side of the equal sign.\z)");
   PageEnd();
   SayInBox(R"(6 - (-2) = 6 + 2 = 8)");
-  SayInBox(R"(8 = 8   \btrue\z)");
-  SayInBox("So (2,-1) is a solution.");
-  SayInBox(R"(\bTry it:\z  Is (-1,2) a solution, too?)");
+  SayInBox(R"(8 = 8   \btrue\z:  (2,-1) is a solution.)");
+  PaperBox({R"(6 - 2 = 4   \rloses the minus of -1\z)"}, 18);
+  SayAt(21.5, R"(\yTry it:\z  Is (-1,2) a solution, too?)");
   PageEnd();
+  ClearRows(kRow, 3);
+  ClearBelow(18);
+  ShowEquationAndPair(-1, 2);
+  ShowNumbersInPlace(-1, 2);
   SayInBoxAnew("3(-1) - 2(2) = -3 - 4 = -7");
   SayInBox(R"(-7 = 8   \rfalse\z)");
   SayInBox("So (-1,2) is not a solution.");
@@ -121,10 +134,14 @@ void ShowTrial(const TriedEquation& equation, int x, int y) {
 }
 
 void TryOnBothSides() {
-  ShowTrial(kSolvedForY, 4, 5);
+  ShowTrial(kSolvedForY, 0, -3);
+  SayAt(16, "2(0) is 0, and not 2:  0 times any number is 0.");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
   SayAt(16, "Putting the numbers in always tells.");
+  PageEnd();
+  ShowTrial(kOpposite, -4, -6);
+  SayAt(16, Text("{} is the opposite of x:  for {} it is 4.", "-x", "x = -4"));
   PageEnd();
 }
 
@@ -153,11 +170,10 @@ void TableOfPairs() {
   NewScreen();
   SayAt(3, "A ride costs 1 dollar, plus 2 dollars a mile.  For x miles we pay y dollars:");
   Show("y = 2x + 1", 15);
-  Say(R"(\yTry it:\z  Does x depend on y, or y on x?)");
+  Say(R"(\yTry it:\z  Which do we know first, the miles or the price?)");
   PageEnd();
   ClearBelow(6.5);
-  SayAt(6.5,
-        R"(y \ydepends\z on x:  miles make the cost.  We choose x, and the equation tells y:)");
+  SayAt(6.5, R"(The miles.  So y \ydepends\z on x.  We choose x, and the equation tells y:)");
   ShowTableOfY(9);
   FillX(1, 0);
   FillY(1, 0);
@@ -170,13 +186,13 @@ void TableOfPairs() {
   PageEnd();
   ClearRows(kBelowTable + 0.7, 6);
   FillX(3, 2);
-  FillX(4, -1);
-  SayAt(kBelowTable + 0.7, "No ride has -1 miles.  But the equation takes negative numbers, too.");
-  Say(R"(\yTry it:\z  Find y for 2 and for -1.)");
+  FillX(4, -2);
+  SayAt(kBelowTable + 0.7, "No ride has -2 miles.  But the equation takes negative numbers, too.");
+  Say(R"(\yTry it:\z  Find y for 2 and for -2.)");
   PageEnd();
   FillY(3, 2);
-  FillY(4, -1);
-  Say(Text("{}, and {}.", "2(2) + 1 = 5", "2(-1) + 1 = -1"));
+  FillY(4, -2);
+  Say(Text("{}, and {}.  For -3 it is {}.", "2(2) + 1 = 5", "2(-2) + 1 = -3", "2(-3) + 1 = -5"));
   PageEnd();
 }
 
@@ -275,8 +291,8 @@ void PointsBecomeALine() {
   DrawOnPlane(1, {PointItem(4, -2, "(4,-2)")});
   Say(Text("No:  {}, not -2.", "2(4) + 1 = 9"));
   CommentBox(
-      "Equation, table and line tell the same.  The line has no end:  there are infinitely "
-      "many solutions.");
+      "The table shows some solutions, the line shows all of them.  It has no end:  there are "
+      "infinitely many.");
   PageEnd();
 }
 

@@ -1,5 +1,6 @@
 // The student can name the parts of a coordinate plane, read the coordinates of a point, find the
 // point of given coordinates, also on an axis, and tell the quadrant from the signs.
+#include "display/plain_face.h"
 #include "lessons/families/graphs/plane_figure.h"
 #include "lessons/families/graphs/point_question.h"
 #include "lessons/lesson.h"
@@ -50,14 +51,17 @@ void TwoAxes() {
   ShowPlaneAtRight();
   Say(R"(Two number lines that cross at 0 make a \ccoordinate plane\z.)", kBesidePlane);
   PageEnd();
-  Say(R"(The level one is the \cx axis\z, the upright one is the \cy axis\z.)", kBesidePlane);
+  SayAt(kBelowPlane, R"(The horizontal one (left to right) is the \cx axis\z, the vertical one )"
+                     R"((up and down) the \cy axis\z.)");
   PageEnd();
+  ClearBelow(kBelowPlane);
   SayAt(kBelowPlane, R"(They cross at the \corigin\z.)");
-  DrawOnPlane(kPlane, {PointItem(0, 0)}, platform::colour::Blue);
+  DrawOnPlane(kPlane, {PointItem(0, 0, "origin")}, platform::colour::Blue);
   Say(R"(\yTry it:\z  Where are the negative numbers on each axis?)");
   PageEnd();
   Say("On the x axis they are to the left of the origin, as on every number line.  On the y axis "
       "they are below it.");
+  Say("One square is one step.");
   PageEnd();
 }
 
@@ -86,22 +90,24 @@ void NegativeCoordinates() {
   ShowPlaneAtRight();
   Expect({kFirst, kExchanged});
   DrawOnPlane(kPlane, {PointOf(kFirst, "L")});
-  Say("Left and down we count with negative numbers.", kBesidePlane);
+  Say("To the left and down we count with negative numbers.", kBesidePlane);
   Say(R"(\yTry it:\z  What are the coordinates of L?)", kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
   WalkUp(kFirst);
-  SayAt(kBelowPlane, Text(R"(3 left, then 1 up:  L has the coordinates \y{}\z.  The minus of a )"
-                          "coordinate stands a little higher.",
-                          GraphPointText(kFirst)));
+  SayAt(kBelowPlane, Text(R"(3 left, then 1 up:  L has the coordinates \y{}\z.  We write the )"
+                          "minus of a coordinate a little higher:  {} is the number -3.",
+                          GraphPointText(kFirst), RaisedNumberText(kFirst.x)));
   PageEnd();
-  DrawOnPlane(kPlane, {PointOf(kExchanged, "M")});
+  ShowPlaneAtRight();  // without the first way
+  Expect({kFirst, kExchanged});
+  DrawOnPlane(kPlane, {PointOf(kFirst, "L"), PointOf(kExchanged, "M")});
   Say(R"(\yTry it:\z  And the coordinates of M?)");
   PageEnd();
   WalkAcross(kExchanged.x);
   WalkUp(kExchanged);
   Say(Text(R"(1 right, then 3 down:  \y{}\z.)", GraphPointText(kExchanged)));
-  PaperBox({Text(R"(L is {}, \rnot {}\z)", GraphPointText(kFirst), GraphPointText(kExchanged)),
+  PaperBox({Text("L is {}, M is {}.", GraphPointText(kFirst), GraphPointText(kExchanged)),
             "The same numbers in another order:  another point."});
   PageEnd();
 }
@@ -112,7 +118,7 @@ void Plotting() {
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst, kSecond});
-  Say(R"(To \cplot\z a point means to draw it.)", kBesidePlane);
+  Say(R"(To \cplot\z a point means to mark it at its coordinates.)", kBesidePlane);
   Say(Text(R"(\yTry it:\z  Plot {}.  Which way do we go?)", GraphPointText(kFirst)), kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
@@ -122,12 +128,18 @@ void Plotting() {
   Arrive(kFirst, "P");
   Say(Text("y is {}.  So we go 4 down.  There is the point, P.", RaisedNumberText(kFirst.y)));
   PageEnd();
-  Say(Text(R"(\yTry it:\z  Put your finger on {}.)", GraphPointText(kSecond)));
+  ClearBelow(kBelowPlane);
+  ShowPlaneAtRight();  // without the first way
+  Expect({kFirst, kSecond});
+  Arrive(kFirst, "P");
+  SayAt(kBelowPlane, Text(R"(\yTry it:\z  Put your finger on {}.)", GraphPointText(kSecond)));
   PageEnd();
   WalkAcross(kSecond.x);
   WalkUp(kSecond);
   Arrive(kSecond, "Q");
   Say("5 right, then 3 down.  That is Q.");
+  PaperBox({"Right and up are plus, left and down are minus.",
+            Text(R"(\r(5,3)\z would be 3 up, not {})", "3 down.")});
   PageEnd();
 }
 
@@ -161,33 +173,35 @@ void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
   constexpr double kLetter = 0.27;  // half of the usual width of one, in squares
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const double left = kMiddles[i].x - kLetter * static_cast<double>(texts[i].size());
-    picGraph2DPrintRotated(kPlane, 0, left, kMiddles[i].y - down, texts[i], platform::colour::Blue,
-                           kSize);
+    picGraph2DPrintRotated(kPlane, 0, left, kMiddles[i].y - down, InPlainFace(texts[i]),
+                           platform::colour::Blue, kSize);
   }
 }
 
 void Quadrants() {
+  const std::string kMinus = tutor::RaisedMinus;
   NewScreen();
   ShowPlaneAtRight();
   Say(R"(The axes divide the plane into four \cquadrants\z.)", kBesidePlane);
-  SayAt(kBelowPlane, "We count from I against the clock.");
+  SayAt(kBelowPlane, "We number them counterclockwise, from I at the upper right.");
   PrintInQuadrants({"I", "II", "III", "IV"}, -1);
   PageEnd();
   Say("In I both coordinates are positive.  In II x is negative and y is positive.");
-  PrintInQuadrants({"(+,+)", "(-,+)", "", ""}, 0.2);
+  PrintInQuadrants({"(+,+)", "(" + kMinus + ",+)", "", ""}, 0.2);
   Say(R"(\yTry it:\z  Which signs do III and IV have?)");
   PageEnd();
   Say("In III both are negative.  In IV x is positive and y is negative.");
-  PrintInQuadrants({"", "", "(-,-)", "(+,-)"}, 0.2);
+  PrintInQuadrants({"", "", "(" + kMinus + "," + kMinus + ")", "(+," + kMinus + ")"}, 0.2);
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane,
         Text(R"(\yTry it:\z  Which quadrants hold {}, {} and {}?)", GraphPointText({4, -1}),
              GraphPointText({-1, 4}), GraphPointText({0, 3})));
   PageEnd();
+  DrawOnPlane(kPlane, {PointItem(4, -1, "U"), PointItem(-1, 4, "V"), PointItem(0, 3, "W")});
   Say(
-      Text("{} is in IV and {} in II.  {} is on the y axis, and a point on an axis is in no "
-           "quadrant.",
+      Text("{} is U in IV, and {} is V in II.  {} is W on the y axis, and a point on an axis is in "
+           "no quadrant.",
            GraphPointText({4, -1}), GraphPointText({-1, 4}), GraphPointText({0, 3})));
   PageEnd();
 }
@@ -210,10 +224,12 @@ void WhichOfFive() {
   WalkUp(kAsked);
   Arrive(kAsked, "J");
   Say(Text(R"(\yCheck:\z  3 left, then 2 up.  The answer is \yJ\z.)"));
-  Say(R"(\yTry it:\z  What would lead us to F, and what to G?)");
+  Say(R"(\yTry it:\z  Which mistake leads to F, to G, to H and to K?)");
   PageEnd();
-  Say("F is 3 right and 2 up:  the minus of x is lost.  G is 2 right and 3 down:  the coordinates "
-      "are exchanged.");
+  ClearBelow(kBelow);
+  SayAt(kBelow, Text("J is {}.", GraphPointText(kAsked)));
+  Say("F has the wrong sign for x, K for y.  H has both signs wrong.  At G, 2 right and 3 down, "
+      "the coordinates are exchanged.");
   PageEnd();
 }
 

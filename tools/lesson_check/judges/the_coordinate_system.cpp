@@ -56,6 +56,17 @@ std::string Asked(const std::string& question, const std::string& front, const s
   return question.substr(front.size(), question.size() - front.size() - back.size());
 }
 
+// Of the way to a place one square more or less.
+void AddMiscounts(Place place, const std::string& name, Reading& reading) {
+  const auto [x, y] = place;
+  const long outX = x > 0 ? 1 : -1;
+  const long outY = y > 0 ? 1 : -1;
+  for (const Place& farther : {Place(x + outX, y), Place(x, y + outY)})
+    reading.mistakes[name + "many"].push_back(TextOf(farther));
+  for (const Place& nearer : {Place(x - outX, y), Place(x, y - outY)})
+    reading.mistakes[name + "few"].push_back(TextOf(nearer));
+}
+
 void AddMistakes(Place right, Reading& reading) {
   const auto [x, y] = right;
   const auto add = [&](const char* name, Place place) {
@@ -67,12 +78,9 @@ void AddMistakes(Place right, Reading& reading) {
   add("takes the wrong sign for x", {-x, y});
   add("takes the wrong sign for y", {x, -y});
   add("takes the wrong sign for both", {-x, -y});
-  const long outX = x > 0 ? 1 : -1;
-  const long outY = y > 0 ? 1 : -1;
-  add("counts one square too many", {x + outX, y});
-  add("counts one square too many", {x, y + outY});
-  add("counts one square too few", {x - outX, y});
-  add("counts one square too few", {x, y - outY});
+  AddMiscounts(right, "counts one square too ", reading);
+  for (const Place& turned : {Place(-x, y), Place(x, -y)})
+    AddMiscounts(turned, "takes a wrong sign and counts one square too ", reading);
 }
 
 Reading ReadPointOfPlane(const course::Problem& problem) {

@@ -51,13 +51,21 @@ std::string PointQuestion::MistakeOfSignAt(GridPoint place) const {
 
 std::string PointQuestion::OtherMistakeAt(GridPoint place) const {
   const auto [x, y] = Point();
+  if (miscounts_) {
+    if (IsOneSquareFarther(place, Point())) return "counts one square too many";
+    return IsOneSquareFarther(Point(), place) ? "counts one square too few" : "";
+  }
   if (HasRoomAt({y, x}))
     return place == GridPoint{-y, x} || place == GridPoint{y, -x}
                ? "exchanges the coordinates and takes a wrong sign"
                : "";
-  if (IsOneSquareFarther(place, Point())) return "counts one square too many";
-  if (IsOneSquareFarther(Point(), place)) return "counts one square too few";
-  return kFiller;
+  for (const GridPoint& turned : {GridPoint{-x, y}, GridPoint{x, -y}}) {
+    if (IsOneSquareFarther(place, turned))
+      return "takes a wrong sign and counts one square too many";
+    if (IsOneSquareFarther(turned, place))
+      return "takes a wrong sign and counts one square too few";
+  }
+  return "";
 }
 
 // What takes the place for the first point's; "" where the place is of no use.
@@ -67,7 +75,7 @@ std::string PointQuestion::MistakeAt(GridPoint place) const {
   if (HasRoomAt(exchanged) && points_.size() == 1) return "";  // it comes first
   const std::string ofSign = MistakeOfSignAt(place);
   if (!ofSign.empty()) return ofSign;
-  // With nothing but single mistakes the right point would be the one most like the others.
+  // One place of another kind.
   const bool hasOther = std::ranges::any_of(points_, [&](const LetteredPoint& p) {
     return p.place != Point() && p.place != exchanged && MistakeOfSignAt(p.place).empty();
   });
@@ -111,6 +119,9 @@ void PointQuestion::DrawLetters(RandomStream& random) {
 
 void PointQuestion::Draw(RandomStream& random, Problem& problem) {
   plane_ = random.Rand(0, 1) == 0 ? PlaneHeight::Low : PlaneHeight::Full;
+  // Rather two mistakes at once: with single ones alone the right point is the one most like the
+  // others.
+  miscounts_ = random.Rand(1, 5) <= 2;
   DrawPoints(random);
   DrawLetters(random);
   asksForPoint_ = random.Rand(0, 1) == 1;

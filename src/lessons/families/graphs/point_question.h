@@ -44,6 +44,7 @@ class PointQuestion {
 
   PlaneHeight plane_ = PlaneHeight::Full;
   bool asksForPoint_ = false;
+  bool miscounts_ = false;  // whether the place of another kind is a square beside the first point
   std::vector<LetteredPoint> points_;
 };
 

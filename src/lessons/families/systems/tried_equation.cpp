@@ -75,12 +75,22 @@ void SayPairMeans(int x, int y) {
   SayInBox(Text("{} means x = {} and y = {}.", PairText(x, y), x, y));
 }
 
+namespace {
+
+const char* WhatToEvaluate(const TriedEquation& equation) {
+  if (!equation.right.HasLetter())
+    return R"(\bEvaluate the expression on the left side of the equal sign.\z)";
+  if (equation.IsSolvedForY())
+    return R"(\bEvaluate the expression on the right side of the equal sign.\z)";
+  return R"(\bEvaluate the expressions on both sides of the equal sign.\z)";
+}
+
+}  // namespace
+
 void SayEvaluation(const TriedEquation& equation, int x, int y) {
   std::vector<std::string> lines = equation.LinesFor(x, y);
   SayInBox(AlignedEquation(lines.front()));
-  SayInBox(equation.right.HasLetter()
-               ? R"(\bEvaluate the expressions on both sides of the equal sign.\z)"
-               : R"(\bEvaluate the expression on the left side of the equal sign.\z)");
+  SayInBox(WhatToEvaluate(equation));
   PageEnd();
   if (lines.size() > 1) lines.erase(lines.begin());
   lines.back() += equation.IsTrueFor(x, y) ? R"(   \btrue\z)" : R"(   \rfalse\z)";

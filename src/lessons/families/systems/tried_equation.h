@@ -22,6 +22,7 @@ struct TriedEquation {
   Side right;
 
   std::string Text() const;  // "3x = -2y + 7"
+  bool IsSolvedForY() const { return left.x == 0 && left.y == 1 && left.constant == 0; }
   bool IsTrueFor(int x, int y) const { return left.ValueFor(x, y) == right.ValueFor(x, y); }
   // "3(2) = -2(-1) + 7", "6 = 2 + 7", "6 = 9"; a line like the one before is left out.
   std::vector<std::string> LinesFor(int x, int y) const;
