@@ -63,11 +63,14 @@ void OrderedPairs() {
 
 void WhatLinearMeans() {
   NewScreen();
-  SayAt(3, Text(R"({} is \clinear\z:  it has the form {}, with a = 3, b = -2, c = 8. )",
-                kLeftSide.Text(), "ax + by = c"));
+  SayAt(
+      3,
+      Text(
+          R"({} is \clinear\z.  It has the form {}:  a is 3, b is -2, c is 8.  a or b may be 0, but not both.)",
+          kLeftSide.Text(), "ax + by = c"));
   Say(Text(R"(\yTry it:\z  Is {} linear?)", "x^2^ + y = 5"));
   PageEnd();
-  Say("No.  x\xB2 has the exponent 2.  In a linear equation there is no x\xB2 and no product xy.");
+  Say("No.  x\xB2 has the exponent 2.  A linear equation has no x\xB2 and no xy.");
   Say(Text("But {} is linear:  we subtract 2x from both sides, and get {}.", "y = 2x + 1",
            "-2x + y = 1"));
   PageEnd();
@@ -118,10 +121,8 @@ void TryOnTheLeft() {
   ClearBelow(18);
   ShowEquationAndPair(-1, 2);
   ShowNumbersInPlace(-1, 2);
-  SayInBoxAnew("3(-1) - 2(2) = -3 - 4 = -7");
-  SayInBox(R"(-7 = 8   \rfalse\z)");
-  SayInBox("So (-1,2) is not a solution.");
-  SayInBox("Here x and y are exchanged.");
+  SayInBoxAnew(R"(-3 - 4 = -7, and -7 = 8 is \rfalse\z.)");
+  SayInBox("With x and y exchanged it is no solution.");
   PageEnd();
 }
 
@@ -192,7 +193,7 @@ void TableOfPairs() {
   PageEnd();
   FillY(3, 2);
   FillY(4, -2);
-  Say(Text("{}, and {}.  For -3 it is {}.", "2(2) + 1 = 5", "2(-2) + 1 = -3", "2(-3) + 1 = -5"));
+  Say(Text("For -3 we get {}.", "2(-3) + 1 = -5"));
   PageEnd();
 }
 

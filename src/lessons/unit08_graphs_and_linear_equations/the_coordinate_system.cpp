@@ -90,7 +90,7 @@ void NegativeCoordinates() {
   ShowPlaneAtRight();
   Expect({kFirst, kExchanged});
   DrawOnPlane(kPlane, {PointOf(kFirst, "L")});
-  Say("To the left and down we count with negative numbers.", kBesidePlane);
+  Say("To the left and down are negative numbers.", kBesidePlane);
   Say(R"(\yTry it:\z  What are the coordinates of L?)", kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
@@ -118,7 +118,7 @@ void Plotting() {
   NewScreen();
   ShowPlaneAtRight();
   Expect({kFirst, kSecond});
-  Say(R"(To \cplot\z a point means to mark it at its coordinates.)", kBesidePlane);
+  Say(R"(To \cplot\z a point means to mark its place.)", kBesidePlane);
   Say(Text(R"(\yTry it:\z  Plot {}.  Which way do we go?)", GraphPointText(kFirst)), kBesidePlane);
   PageEnd();
   WalkAcross(kFirst.x);
