@@ -122,7 +122,7 @@ void TryOnTheLeft() {
   ShowEquationAndPair(-1, 2);
   ShowNumbersInPlace(-1, 2);
   SayInBoxAnew(R"(-3 - 4 = -7, and -7 = 8 is \rfalse\z.)");
-  SayInBox("With x and y exchanged it is no solution.");
+  SayInBox("Exchanged, it is no solution.");
   PageEnd();
 }
 

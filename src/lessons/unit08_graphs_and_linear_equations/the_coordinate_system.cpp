@@ -183,7 +183,7 @@ void Quadrants() {
   NewScreen();
   ShowPlaneAtRight();
   Say(R"(The axes divide the plane into four \cquadrants\z.)", kBesidePlane);
-  SayAt(kBelowPlane, "We number them counterclockwise, from I at the upper right.");
+  SayAt(kBelowPlane, "We number them counterclockwise from I.");
   PrintInQuadrants({"I", "II", "III", "IV"}, -1);
   PageEnd();
   Say("In I both coordinates are positive.  In II x is negative and y is positive.");
