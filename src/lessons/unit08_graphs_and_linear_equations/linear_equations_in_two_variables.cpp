@@ -136,7 +136,7 @@ void ShowTrial(const TriedEquation& equation, int x, int y) {
 
 void TryOnBothSides() {
   ShowTrial(kSolvedForY, 0, -3);
-  SayAt(16, "2(0) is 0, and not 2:  0 times any number is 0.");
+  SayAt(16, R"(\yWatch out:\z  2(0) is 0, and not 2.)");
   PageEnd();
   ShowTrial(kTwoSides, -1, 2);
   SayAt(16, "Putting the numbers in always tells.");
