@@ -31,6 +31,15 @@ constexpr double kColAtRight = 23.75;
 // Where labels stand on the planes that are shown, by their index.
 std::array<LabelGround, 6> grounds;
 
+// Arrows that run down from the x axis, through the place of a number, on the planes by their
+// index.
+struct DownArrow {
+  double x;
+  double up;
+  platform::Colour colour;
+};
+std::array<std::vector<DownArrow>, 6> downArrows;
+
 LabelGround& GroundOf(int index) {
   return grounds.at(static_cast<std::size_t>(index));
 }
@@ -135,6 +144,26 @@ void DrawArrow(int index, Vector from, Vector to, platform::Colour colour) {
   plane.Polygon(head, colour);
 }
 
+// The axes' numbers over all that was drawn; one that an arrow runs through makes way to the left.
+void PrintNumbersOnTop(int index) {
+  constexpr double kNumberTop = 0.3;  // squares below the axis
+  constexpr double kNumberFoot = 1;
+  constexpr double kNumberHalf = 0.45;
+  constexpr double kAside = 0.2;
+  picGraph2DPrintNumbersOnTop(index);
+  platform::PictureBox& plane = frmPR->picGraph2D[index];
+  for (const auto& [x, up, colour] : downArrows.at(static_cast<std::size_t>(index))) {
+    plane.FilledBox(x - kNumberHalf, -kNumberTop, x + kNumberHalf, -kNumberFoot,
+                    platform::colour::White);
+    DrawArrow(index, {x, 0}, {x, up}, colour);
+    const std::string number = std::to_string(std::lround(x));
+    plane.CurrentX = x - kAside - plane.TextWidth(number);
+    plane.CurrentY = -0.2;
+    plane.Print(number);
+  }
+  plane.Refresh();
+}
+
 void DrawItem(int index, const FigureItem& item, platform::Colour colour) {
   if (item.shape == "line")
     DrawLineItem(index, item, colour);
@@ -164,6 +193,7 @@ void ShowPlane(int index, double row, double col, int square, PlaneHeight height
                     static_cast<double>(2 * squaresUp + kSquaresBeside) * square / gCellHeight);
   picGraph2DShowPlane(index, "shownumbers", false, squaresUp);
   NameAxes(index, squaresUp);
+  downArrows.at(static_cast<std::size_t>(index)).clear();
   platform::PictureBox& plane = frmPR->picGraph2D[index];
   GroundOf(index) = LabelGround({plane.TextWidth("5"), plane.TextHeight("5")}, squaresUp);
 }
@@ -187,15 +217,16 @@ void DrawArrows(int index, const FigureItem& step, platform::Colour colour) {
   const Vector corner = from + Vector{step.Value("right"), 0};
   DrawArrow(index, from, corner, colour);
   DrawArrow(index, corner, corner + Vector{0, step.Value("up")}, colour);
-  frmPR->picGraph2D[index].Refresh();
   KeepFigureItem(index, step);
-  picGraph2DPrintNumbersOnTop(index);
+  if (from.y == 0 && corner.x != 0 && step.Value("up") < 0)
+    downArrows.at(static_cast<std::size_t>(index)).push_back({corner.x, step.Value("up"), colour});
+  PrintNumbersOnTop(index);
 }
 
 void DrawOnPlane(int index, const std::vector<FigureItem>& items, platform::Colour colour) {
   KeepLabelsClearOf(index, items);
   for (const FigureItem& item : items) DrawItem(index, item, colour);
-  picGraph2DPrintNumbersOnTop(index);
+  PrintNumbersOnTop(index);
 }
 
 }  // namespace course::graphs
