@@ -1,6 +1,5 @@
 // The student can name the parts of a coordinate plane, read the coordinates of a point, find the
 // point of given coordinates, also on an axis, and tell the quadrant from the signs.
-#include "display/plain_face.h"
 #include "lessons/families/graphs/plane_figure.h"
 #include "lessons/families/graphs/point_question.h"
 #include "lessons/lesson.h"
@@ -173,13 +172,12 @@ void PrintInQuadrants(const std::array<std::string, 4>& texts, double down) {
   constexpr double kLetter = 0.27;  // half of the usual width of one, in squares
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const double left = kMiddles[i].x - kLetter * static_cast<double>(texts[i].size());
-    picGraph2DPrintRotated(kPlane, 0, left, kMiddles[i].y - down, InPlainFace(texts[i]),
-                           platform::colour::Blue, kSize);
+    picGraph2DPrintRotated(kPlane, 0, left, kMiddles[i].y - down, texts[i], platform::colour::Blue,
+                           kSize);
   }
 }
 
 void Quadrants() {
-  const std::string kMinus = tutor::RaisedMinus;
   NewScreen();
   ShowPlaneAtRight();
   Say(R"(The axes divide the plane into four \cquadrants\z.)", kBesidePlane);
@@ -187,11 +185,11 @@ void Quadrants() {
   PrintInQuadrants({"I", "II", "III", "IV"}, -1);
   PageEnd();
   Say("In I both coordinates are positive.  In II x is negative and y is positive.");
-  PrintInQuadrants({"(+,+)", "(" + kMinus + ",+)", "", ""}, 0.2);
+  PrintInQuadrants({"(+,+)", "(-,+)", "", ""}, 0.2);
   Say(R"(\yTry it:\z  Which signs do III and IV have?)");
   PageEnd();
   Say("In III both are negative.  In IV x is positive and y is negative.");
-  PrintInQuadrants({"", "", "(" + kMinus + "," + kMinus + ")", "(+," + kMinus + ")"}, 0.2);
+  PrintInQuadrants({"", "", "(-,-)", "(+,-)"}, 0.2);
   PageEnd();
   ClearBelow(kBelowPlane);
   SayAt(kBelowPlane,
