@@ -142,7 +142,7 @@ void TryOnBothSides() {
   SayAt(16, "Putting the numbers in always tells.");
   PageEnd();
   ShowTrial(kOpposite, -4, -6);
-  SayAt(16, Text("{} is the opposite of x:  for {} it is 4.", "-x", "x = -4"));
+  SayAt(16, Text("{} is the opposite:  {} is 4.", "-x", "-(-4)"));
   PageEnd();
 }
 
