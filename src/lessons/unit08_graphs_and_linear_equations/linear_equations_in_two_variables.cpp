@@ -70,7 +70,7 @@ void WhatLinearMeans() {
           kLeftSide.Text(), "ax + by = c"));
   Say(Text(R"(\yTry it:\z  Is {} linear?)", "x^2^ + y = 5"));
   PageEnd();
-  Say("No.  x\xB2 has the exponent 2.  A linear equation has no x\xB2 and no product of x and y.");
+  Say("No.  x\xB2 has the exponent 2.  A linear equation has no x\xB2.");
   Say(Text("But {} is linear:  we subtract 2x from both sides, and get {}.", "y = 2x + 1",
            "-2x + y = 1"));
   PageEnd();
