@@ -171,7 +171,7 @@ void TableOfPairs() {
   NewScreen();
   SayAt(3, "A ride costs 1 dollar, plus 2 dollars a mile.  For x miles we pay y dollars:");
   Show("y = 2x + 1", 15);
-  Say(R"(\yTry it:\z  Which do we know first, the miles or the price?)");
+  Say(R"(\yTry it:\z  Do miles or price come first?)");
   PageEnd();
   ClearBelow(6.5);
   SayAt(6.5, R"(The miles.  So y \ydepends\z on x.  We choose x, and the equation tells y:)");
