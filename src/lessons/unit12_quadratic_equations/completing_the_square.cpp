@@ -113,9 +113,11 @@ void RadicalRoots() {
   PageEnd();
 
   NewScreen();
-  SayAt(3, R"(\yTry it:\z  Which number completes the square in 3x^2^ + 12x = 5?)");
+  SayAt(3, R"(\yTry it:\z  In 3x^2^ + 12x = 5, by what do we divide?  What do we add then?)");
   PageEnd();
-  Say("We divide by 3 first.  Half of 4 is 2, so it is 4:");
+  Say("We divide by 3:");
+  Show("x^2^ + 4x = 5/3");
+  Say("Half of 4 is 2, so we add 4 to both sides:");
   Show(R"(x^2^ + 4x \y+ 4\z = 5/3 \y+ 4)");
   PageEnd();
 }

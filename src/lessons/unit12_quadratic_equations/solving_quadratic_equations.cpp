@@ -194,7 +194,9 @@ void TrinomialWithNumber() {
   NewScreen();
   SayAt(3, Text(R"(Let's solve {}.  \yFirst\z the common factor.  Factoring out a factor of 2:)",
                 EquationText({4, 10, -24})));
-  ShowAt(6.5, EquationText({2, 5, -12}));
+  ShowAt(6.5, "2(" + TrinomialText(kAsked) + ") = 0");
+  Say("2 is never 0, so the parentheses are 0:");
+  Show(EquationText({2, 5, -12}));
   PageEnd();
   Say(R"(\yThen\z the other factors, by trying:)");
   const std::vector<Trial> trials = TrialsUntilFound(kAsked);
@@ -356,6 +358,10 @@ void SolvingQuadraticEquations::ShowProblem() {
 void SolvingQuadraticEquations::ExplainProblem() {
   SolveByFactoring(equation_, factors_);
   CheckRoot(equation_);
+  if (factors_.first != factors_.second) {
+    Say("We have checked one of the two solutions.  Check the other one yourself.");
+    PageEnd();
+  }
   Conclude(problem);
 }
 

@@ -90,7 +90,8 @@ class SquareSteps {
         square_(half_ * half_),
         sum_(right_ + square_),
         rootOfDen_(RootOfSquareOver(sum_.den)),
-        overSquare_{sum_.num * (rootOfDen_ * rootOfDen_ / sum_.den), rootOfDen_ * rootOfDen_} {}
+        toSquare_(rootOfDen_ * rootOfDen_ / sum_.den),
+        overSquare_{sum_.num * toSquare_, rootOfDen_ * rootOfDen_} {}
   void Solve() const;
 
  private:
@@ -102,6 +103,14 @@ class SquareSteps {
   void FindX() const;
 
   std::string Moved() const { return SquareAndLinear(linear_) + " = " + ValueText(right_); }
+  // "(35 x 3)" with the times sign.
+  std::string Multiplied(int part) const {
+    return "(" + NumStr(part) + " " + tutor::Times + " " + NumStr(toSquare_) + ")";
+  }
+  // Not in lowest terms.
+  std::string OverSquareText() const {
+    return NumStr(overSquare_.num) + "/" + NumStr(overSquare_.den);
+  }
   // Plus or minus the root of the right side, worked out.
   std::string RootText() const;
 
@@ -112,6 +121,7 @@ class SquareSteps {
   const Fraction square_;
   const Fraction sum_;  // of the right side and the square
   const int rootOfDen_;
+  const int toSquare_;         // times the denominator of the sum: the square of that number
   const Fraction overSquare_;  // the sum with the square of this number as its denominator
 };
 
@@ -175,11 +185,14 @@ void SquareSteps::TakeRoots() const {
   ShowSquareOfSum(kSecondRow, half_, ValueText(sum_));
   GoBelow();
   if (overSquare_.den != sum_.den) {
-    SayAt(kUnderSecond, Text("{} is not a square.  We want one in the denominator:", sum_.den));
-    Show(ValueText(sum_) + " = " + ValueText(overSquare_));
+    SayAt(kUnderSecond, Text("{} is not a perfect square.  We multiply the numerator and the "
+                             "denominator by {}:",
+                             sum_.den, toSquare_));
+    Show(ValueText(sum_) + " = " + Multiplied(sum_.num) + "/" + Multiplied(sum_.den) + " = " +
+         OverSquareText());
     PageEnd();
     StartPage();
-    ShowSquareOfSum(kSecondRow, half_, ValueText(overSquare_));
+    ShowSquareOfSum(kSecondRow, half_, OverSquareText());
     GoBelow();
   }
   SayAt(kUnderSecond,
