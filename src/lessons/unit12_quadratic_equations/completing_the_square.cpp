@@ -117,6 +117,7 @@ void RadicalRoots() {
   PageEnd();
   Say("We divide by 3:");
   Show("x^2^ + 4x = 5/3");
+  PageEnd();
   Say("Half of 4 is 2, so we add 4 to both sides:");
   Show(R"(x^2^ + 4x \y+ 4\z = 5/3 \y+ 4)");
   PageEnd();

@@ -195,6 +195,7 @@ void TrinomialWithNumber() {
   SayAt(3, Text(R"(Let's solve {}.  \yFirst\z the common factor.  Factoring out a factor of 2:)",
                 EquationText({4, 10, -24})));
   ShowAt(6.5, "2(" + TrinomialText(kAsked) + ") = 0");
+  PageEnd();
   Say("2 is never 0, so the parentheses are 0:");
   Show(EquationText({2, 5, -12}));
   PageEnd();
@@ -357,11 +358,7 @@ void SolvingQuadraticEquations::ShowProblem() {
 
 void SolvingQuadraticEquations::ExplainProblem() {
   SolveByFactoring(equation_, factors_);
-  CheckRoot(equation_);
-  if (factors_.first != factors_.second) {
-    Say("We have checked one of the two solutions.  Check the other one yourself.");
-    PageEnd();
-  }
+  CheckEveryRoot(equation_);
   Conclude(problem);
 }
 

@@ -107,6 +107,7 @@ class FormulaSteps {
   void ReadOff() const;
   void Solve() const;
   void CheckRoot() const;
+  void CheckEveryRoot() const;
 
  private:
   void StartPage() const;
@@ -119,6 +120,7 @@ class FormulaSteps {
   void SimplifyRadical() const;
   void ReduceRoots() const;
   void SplitRoots() const;
+  void PutBack(const Fraction& root) const;
 
   // What stands under the radical; b^2^ of 0 is left out as soon as it is worked out.
   std::string PutInDiscriminant() const {
@@ -382,7 +384,18 @@ void FormulaSteps::CheckRoot() const {
   const Fraction larger = Answer().Larger();
   const Fraction smaller = Answer().Smaller();
   const bool first = larger.num != 0 && (larger.den == 1 || smaller.den != 1 || smaller.num == 0);
-  const Fraction root = first ? larger : smaller;
+  PutBack(first ? larger : smaller);
+}
+
+void FormulaSteps::CheckEveryRoot() const {
+  PutBack(Answer().Smaller());
+  if (Answer().Double()) return;
+  PageEnd();
+  PutBack(Answer().Larger());
+}
+
+// On a new screen.
+void FormulaSteps::PutBack(const Fraction& root) const {
   StartPage();
   if (root.den == 1) {
     SayAt(7, Text(R"(\yCheck:\z  Put {} in for x.)", root.num));
@@ -425,6 +438,10 @@ void SolveWithFormula(const Quadratic& equation, Asked asked) {
 
 void CheckRoot(const Quadratic& equation) {
   FormulaSteps(equation).CheckRoot();
+}
+
+void CheckEveryRoot(const Quadratic& equation) {
+  FormulaSteps(equation).CheckEveryRoot();
 }
 
 }  // namespace course::quadratics

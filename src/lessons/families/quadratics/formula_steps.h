@@ -41,5 +41,7 @@ enum class Asked { Nothing, Discriminant, ValuesToo };
 void SolveWithFormula(const Quadratic& equation, Asked asked = Asked::Nothing);
 // One of the rational roots is put back, on a new screen.
 void CheckRoot(const Quadratic& equation);
+// Each of the rational roots, on a screen of its own.
+void CheckEveryRoot(const Quadratic& equation);
 
 }  // namespace course::quadratics
