@@ -47,17 +47,19 @@ ColumnSum WriteFilled(double row, const std::string& first, const std::string& s
 void PlacesBehindThePoint() {
   constexpr double kNames = 5;  // the row
   NewScreen();
-  SayAt(3, R"(After the ones of 3.27 comes a \cpoint\z.  Then come smaller places:)");
+  SayAt(3, R"(Smaller places come after the \cpoint\z:)");
   WrittenColumns number(9, 11);
   SayAt(kNames, "ones", {.col = 8});
   SayAt(kNames, "tenths", {.col = 18});
   SayAt(kNames, "hundredths", {.col = 27});
   number.Write(6.5, "3.27");
   number.PickOut(-1);
-  SayAt(9, R"(The 2 is in the \ytenths\z place: 2 tenths.  10 tenths make 1 one.)");
+  SayAt(9, R"(The 2 means 2 \ytenths\z.)");
   PageEnd();
   number.PickOut(-2);
-  Say(R"(The 7 is in the \yhundredths\z place: 7 hundredths.  10 hundredths make 1 tenth.)");
+  AddLine("10 tenths make 1 one.");
+  Say(R"(The 7 means 7 \yhundredths\z.)");
+  AddLine("10 hundredths make 1 tenth.");
   PageEnd();
   number.PickOutNone();
   Say(R"(\yTry it:\z  What does the 0 in 4.06 tell us?  What does the 6 stand for?)");
@@ -111,19 +113,18 @@ void TenTenthsMakeOne() {
 
 void LessThanItsPart() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Someone adds 8 + 4 = 12 and writes the 12 behind the point.)");
-  PaperBox({R"(0.8 + 0.4 = \r0.12\z)"}, 5.5);
-  SayAt(8, R"(\yTry it:\z  How can you see that 0.12 is too small?)");
+  SayAt(3, R"(\yWatch out:\z  8 + 4 = 12, but we do not write:)");
+  PaperBox({R"(0.8 + 0.4 = \r0.12\z)"}, 4.5);
+  SayAt(7, R"(\yTry it:\z  How can you see that 0.12 is too small?)");
   PageEnd();
-  SayAt(10.5,
-        "0.12 is less than 0.8.  But we have added something to 0.8, so the sum is more than 0.8.");
+  SayAt(10, "0.12 is less than 0.8.  We add something to 0.8, so the sum is more than 0.8.");
   Say(R"(\yTry it:\z  What is 0.7 + 0.6?)");
   PageEnd();
-  ColumnSum answer(15.5, kOnesCol, {"0.7", "0.6"});
+  ColumnSum answer(15, kOnesCol, {"0.7", "0.6"});
   Finish(answer);
-  SayAt(16.5, "Tenths:  7 + 6 = 13", {.col = kBeside});
-  SayAt(17.5, "Write 3, carry 1.", {.col = kBeside});
-  SayAt(19, "The answer is 1.3.", {.col = kBeside});
+  SayAt(16, "Tenths:  7 + 6 = 13", {.col = kBeside});
+  SayAt(17, "Write 3, carry 1.", {.col = kBeside});
+  SayAt(20.5, "The answer is 1.3.");
   PageEnd();
 }
 
@@ -191,23 +192,20 @@ void CarryingTwice() {
   SayAt(3, "What is 12.75 + 3.68?");
   ColumnSum sum(4.5, kOnesCol, {"12.75", "3.68"});
   WritePoint(sum);
+  PageEnd();
   sum.Add(-2);
-  SayAt(10.5,
-        Text("Hundredths:  {}.  13 hundredths are 1 tenth and 3 hundredths.  Write 3, carry 1.",
-             "5 + 8 = 13"));
+  SayAt(10, Text("Hundredths:  {}, that is 1 tenth and 3 hundredths.  Write 3, carry 1.",
+                 "5 + 8 = 13"));
   PageEnd();
   sum.Add(-1);
-  Say(Text("Tenths:  {}.  14 tenths are 1 one and 4 tenths.  Write 4, carry 1 past the point.",
+  Say(Text("Tenths:  {}, that is 1 one and 4 tenths.  Write 4, carry 1 past the point.",
            "1 + 7 + 6 = 14"));
   PageEnd();
   sum.Add(0);
   sum.Add(1);
   sum.Columns().PickOutNone();
-  Say(Text("Ones:  {}.  The 1 of the tens stands alone.  So {}.", "1 + 2 + 3 = 6",
-           "12.75 + 3.68 = 16.43"));
-  Say(R"(\yTry it:\z  Between which two whole numbers must the sum be?)");
-  PageEnd();
-  Say("12 + 3 = 15 and 13 + 4 = 17.  16.43 is between them.");
+  Say(Text("Ones:  {}.  The 1 ten stands alone.  The answer is 16.43.", "1 + 2 + 3 = 6"));
+  Say(R"(\yCheck:\z  12 + 3 = 15 and 13 + 4 = 17.  The answer is between 15 and 17.)");
   PageEnd();
 }
 
@@ -346,15 +344,16 @@ void AddingDecimalNumbers::ExplainColumn(ColumnSum& sum, int place) const {
   const int total = sum.Total(place);
   const int carry = sum.Carry(place);
   const int digit = total % 10;
-  std::string text = Text("We add the {}:  {}.", PlaceName(place), sum.TotalText(place));
-  if (place == sum.Highest())
-    text = sum.Addends(place).size() == 1
-               ? Text("The {} of the {} stands alone.  We bring it down.", total, PlaceName(place))
-               : text + (carry > 0 ? Text("  No column is left, so we write {}.", total) : "");
+  std::string text = Text("The {}:  {}", PlaceName(place), sum.TotalText(place));
+  if (place == sum.Highest() && carry > 0)
+    text += Text(".  No column is left, so we write {}.", total);
   else if (carry > 0)
-    text += Text("  {} {} are {} {} and {} {}.  Write {}, carry {}", total, PlaceName(place), carry,
+    text += Text(", that is {} {} and {} {}.  Write {}, carry {}", carry,
                  PlaceName(place + 1, carry), digit, PlaceName(place, digit), digit, carry) +
             (place == -1 ? " past the point." : ".");
+  else
+    text += sum.Addends(place).size() == 1 ? " stands alone.  We bring it down."
+                                           : Text(".  Write {}.", total);
   sum.Add(place);
   SayInBox(text);
   PageEnd();
