@@ -113,7 +113,7 @@ void TenTenthsMakeOne() {
 
 void LessThanItsPart() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  8 + 4 = 12, but we do not write:)");
+  SayAt(3, R"(\yWatch out:\z  Do not write it like this:)");
   PaperBox({R"(0.8 + 0.4 = \r0.12\z)"}, 4.5);
   SayAt(7, R"(\yTry it:\z  How can you see that 0.12 is too small?)");
   PageEnd();
@@ -153,9 +153,10 @@ void PointUnderPoint() {
 
 void WrongSums() {
   NewScreen();
-  SayAt(3, R"(\yWatch out:\z  Three wrong answers to 2.5 + 1.37:)");
-  PaperBox({R"(\r1.62\z  The last digits were lined up.)",
-            R"(\r3.42\z  5 + 37 = 42 was added by itself.)", R"(\r3.8\z  The 7 was dropped.)"},
+  SayAt(3, R"(\yWatch out:\z  Three wrong answers:)");
+  PaperBox({R"(2.5 + 1.37:  \r1.62\z.  Last digits lined up.)",
+            R"(2.5 + 1.37:  \r3.42\z.  5 + 37 by itself.)",
+            R"(2.5 + 1.37:  \r3.8\z.  The 7 was dropped.)"},
            4.5);
   PageEnd();
   SayAt(8.5, R"(\yCheck:\z  2.5 is between 2 and 3.  1.37 is between 1 and 2.)");
@@ -175,15 +176,14 @@ void WholeNumbers() {
   SayAt(6, R"(Ones stand under ones.  The \yzeros\z fill the gaps.)", {.col = kBeside});
   PageEnd();
   Finish(sum);
-  SayAt(11, "So 60 + 1.35 = 61.35.");
-  SayAt(12.5, R"(\yWatch out:\z  Do not line up the first or the last digits.)");
-  PaperBox({R"(60 + 1.35:  \rnot 73.5, not 1.95\z)"}, 14.5);
-  SayAt(17, R"(\yTry it:\z  What is 7 + 0.48?)");
+  SayAt(11, R"(\yWatch out:\z  Do not line up the ends:)");
+  PaperBox({R"(First digits:  \r73.5\z     Last digits:  \r1.95\z)"}, 12.5);
+  SayAt(15, R"(\yTry it:\z  What is 7 + 0.48?)");
   PageEnd();
-  ColumnSum answer = WriteFilled(18, "7", "0.48");
+  ColumnSum answer = WriteFilled(17, "7", "0.48");
   Finish(answer);
-  SayAt(19, "7 = 7.00", {.col = kBeside});
-  SayAt(21.5, "The answer is 7.48.", {.col = kBeside});
+  SayAt(18, "7 = 7.00", {.col = kBeside});
+  SayAt(20.5, "The answer is 7.48.", {.col = kBeside});
   PageEnd();
 }
 
@@ -334,7 +334,7 @@ void AddingDecimalNumbers::ExplainZeros() const {
   const int decimals = std::max(DecimalsOf(first_), DecimalsOf(second_));
   for (const std::string& number : {first_, second_}) {
     if (DecimalsOf(number) == decimals) continue;
-    SayInBox(Text("We fill the gap with zeros:  {}.  The number stays the same.",
+    SayInBox(Text("We fill the gap:  {}.  The number stays the same.",
                   number + " = " + WithZeros(number, decimals)));
     PageEnd();
   }
@@ -347,10 +347,11 @@ void AddingDecimalNumbers::ExplainColumn(ColumnSum& sum, int place) const {
   std::string text = Text("The {}:  {}", PlaceName(place), sum.TotalText(place));
   if (place == sum.Highest() && carry > 0)
     text += Text(".  No column is left, so we write {}.", total);
+  else if (carry > 0 && place == -1)  // past the point: the reason is given
+    text += Text(", that is 1 one and {} {}.  Write {}, carry 1.", digit, PlaceName(place, digit),
+                 digit);
   else if (carry > 0)
-    text += Text(", that is {} {} and {} {}.  Write {}, carry {}", carry,
-                 PlaceName(place + 1, carry), digit, PlaceName(place, digit), digit, carry) +
-            (place == -1 ? " past the point." : ".");
+    text += Text(".  Write {}, carry 1 to the {}.", digit, PlaceName(place + 1));
   else
     text += sum.Addends(place).size() == 1 ? " stands alone.  We bring it down."
                                            : Text(".  Write {}.", total);
