@@ -124,13 +124,13 @@ void LessThanItsPart() {
   Finish(answer);
   SayAt(16, "Tenths:  7 + 6 = 13", {.col = kBeside});
   SayAt(17, "Write 3, carry 1.", {.col = kBeside});
-  SayAt(20.5, "The answer is 1.3.");
+  SayAt(18.5, "The answer is 1.3.", {.col = kBeside});
   PageEnd();
 }
 
 void PointUnderPoint() {
   NewScreen();
-  SayAt(3, R"(To add 2.5 and 1.37 we write \ypoint under point\z.)");
+  SayAt(3, R"(2.5 + 1.37:  Write \ypoint under point\z.)");
   const ColumnSum unfilled(5, kOnesCol, {"2.5", "1.37"});
   SayAt(6, "Then tenths stand under tenths.  Nothing stands above the 7.", {.col = kBeside});
   PageEnd();
