@@ -160,18 +160,18 @@ void WrongSums() {
            4.5);
   PageEnd();
   SayAt(8.5, R"(\yCheck:\z  2.5 is between 2 and 3.  1.37 is between 1 and 2.)");
-  Say("So the sum is between 3 and 5.  The answer 1.62 cannot be right.");
+  Say("So the sum is between 3 and 5, not 1.62.");
   Say(R"(\yTry it:\z  Can 38.7 be right?  Can 0.387?)");
   PageEnd();
-  Say("No.  38.7 is more than 5, and 0.387 is less than 3.  The digits are right, but the point is "
-      "one place off.");
+  Say("No.  38.7 is too large, 0.387 too small.");
+  AddLine("The point is one place off.");
   Say(R"(\yTry it:\z  Next we add 60 and 1.35.  Where is the point of 60?)");
   PageEnd();
 }
 
 void WholeNumbers() {
   NewScreen();
-  SayAt(3, "The point of a whole number comes after its ones:  60 = 60.00");
+  SayAt(3, "The point comes after the ones: 60.00");
   ColumnSum sum = WriteFilled(5, "60", "1.35");
   SayAt(6, R"(Ones stand under ones.  The \yzeros\z fill the gaps.)", {.col = kBeside});
   PageEnd();
@@ -198,32 +198,28 @@ void CarryingTwice() {
                  "5 + 8 = 13"));
   PageEnd();
   sum.Add(-1);
-  Say(Text("Tenths:  {}, that is 1 one and 4 tenths.  Write 4, carry 1 past the point.",
-           "1 + 7 + 6 = 14"));
+  Say(Text("Tenths:  {}, that is 1 one and 4 tenths.  Write 4, carry 1.", "1 + 7 + 6 = 14"));
   PageEnd();
   sum.Add(0);
   sum.Add(1);
   sum.Columns().PickOutNone();
   Say(Text("Ones:  {}.  The 1 ten stands alone.  The answer is 16.43.", "1 + 2 + 3 = 6"));
-  Say(R"(\yCheck:\z  12 + 3 = 15 and 13 + 4 = 17.  The answer is between 15 and 17.)");
+  Say(R"(\yCheck:\z  It is between 12 + 3 and 13 + 4.)");
   PageEnd();
 }
 
 void AddingRule() {
   NewScreen();
   RuleBox("Adding decimal numbers",
-          {"Write point under point.", "Fill the gaps with zeros.",
-           "Add from the right.  10 or more: carry."},
+          {"Write point under point.  Fill the gaps.", "Add from the right.  10 or more: carry."},
           {.row = 3, .width = 40});
   Say(R"(\yTry it:\z  What is 0.9 + 4.35?)");
   PageEnd();
   ColumnSum answer = WriteFilled(12, "0.9", "4.35");
   Finish(answer);
   SayAt(13, "0.9 = 0.90", {.col = kBeside});
-  SayAt(14, "0 + 5 = 5", {.col = kBeside});
-  SayAt(15, "9 + 3 = 12: carry 1", {.col = kBeside});
-  SayAt(16, "1 + 0 + 4 = 5", {.col = kBeside});
-  SayAt(18, "The answer is 5.25.");
+  SayAt(14, "9 + 3 = 12: carry 1", {.col = kBeside});
+  SayAt(15.5, "The answer is 5.25.", {.col = kBeside});
   PageEnd();
 }
 
