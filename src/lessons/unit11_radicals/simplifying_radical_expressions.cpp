@@ -76,8 +76,8 @@ void CountRadicals() {
   Say(R"(We add the numbers \yin front\z and keep the radical.)");
   PageEnd();
   CommentBox(
-      R"(The numbers under the radicals are \rnot\z added.  The root of 4 is 2, and 2 + 2 is )"
-      "4.  The root of 8 is less than 3.");
+      R"(The numbers under the radicals are \rnot\z added and \rnot\z multiplied.  The root of 9 )"
+      "is 3, and 3 + 3 is 6.  The root of 18 is less than 5, and the root of 81 is 9.");
   Say(R"(\yTry it:\z  Simplify)");
   ShowAt(NextRow() - 1, "6" + kRoot + "3 - 8" + kRoot + "3", 20);
   PageEnd();
@@ -91,8 +91,8 @@ void UnlikeStayApart() {
   SayAt(3, Text("Unlike radicals stay apart, just as {} does:", "2x + 5y"));
   Show("2" + kRoot + "3 + 5" + kRoot + "2", kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  Perfect squares show it.)");
-  Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7", kCol);
+  Say(R"(\yWatch out:\z  We do not add under one sign:)");
+  Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7,  but", kCol);
   Show(kRoot + "(9 + 16) = " + kRoot + "25 = 5", kCol);
   PageEnd();
   Say(R"(\yTry it:\z  Simplify this sum:)");

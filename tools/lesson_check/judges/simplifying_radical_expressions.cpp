@@ -144,9 +144,17 @@ class Mistakes {
     const auto added = [](const Term& term) {
       return term.Root() == 1 ? term.front : term.front + SignOf(term) * term.Root();
     };
-    fronts_["adds the root to the number in front instead of multiplying"] = added(a) + added(b);
-    fronts_["loses the roots that come out"] = a.front + b.front;
-    fronts_["leaves out the numbers in front"] = SignOf(a) * a.Root() + SignOf(b) * b.Root();
+    const long fronts = a.front + b.front;
+    const long roots = SignOf(a) * a.Root() + SignOf(b) * b.Root();
+    if (unlike_) {  // these mistakes leave it as it should be, and say so
+      fronts_["adds the root to the number in front of the like radicals"] = added(a) + added(b);
+      fronts_["loses the roots that come out of the like radicals"] = fronts;
+      fronts_["leaves out the numbers in front of the like radicals"] = roots;
+    } else {
+      fronts_["adds the root to the number in front instead of multiplying"] = added(a) + added(b);
+      fronts_["loses the roots that come out"] = fronts;
+      fronts_["leaves out the numbers in front"] = roots;
+    }
     fronts_["multiplies the numbers in front"] = first * second;
     std::erase_if(fronts_,
                   [&](const auto& slip) { return slip.second == total_ || slip.second == 0; });

@@ -114,7 +114,8 @@ class Mistakes {
 
   void WithoutSquare(const mpz_class& number) {
     for (mpz_class root = 2; root * root + 2 <= number; ++root)
-      AddRoot("takes the root of one part of a sum", root, number - root * root);
+      AddRoot("splits the radicand into a sum and brings out the root of one part", root,
+              number - root * root);
     for (const auto& [name, count] : right_.inside) {
       if (count == 0) continue;
       const mpz_class factor(name, 10);

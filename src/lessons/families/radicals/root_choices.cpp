@@ -138,7 +138,8 @@ Slips SlipsWithoutSquare(int number, RandomStream& random) {
       Whole("takes the root of the nearest perfect square", nearer ? largest : largest + 1),
       {"brings out a factor and leaves it inside, too", {{prime, ""}, {number, ""}}}};
   if (root > 1 && rest > 1)
-    slips.push_back({"takes the root of one part of a sum", {{root, ""}, {rest, ""}}});
+    slips.push_back({"splits the radicand into a sum and brings out the root of one part",
+                     {{root, ""}, {rest, ""}}});
   if (number % 2 == 0)
     slips.push_back(Whole("takes half of the number instead of its root", number / 2));
   if (number <= kLargestSquared)

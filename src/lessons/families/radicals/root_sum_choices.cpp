@@ -91,16 +91,19 @@ class SumSlips {
     const int right = RightTotal();
     const RootTerm first = Simplified(like_.front());
     const bool minus = like_.back().outside.coef < 0;
+    // An unlike radical is simplified rightly, so the mistake is told of the like ones alone.
+    const std::string ofLike = unlike_ ? " of the like radicals" : "";
     Add(front_, minus ? "adds instead of subtracting" : "subtracts instead of adding",
         2 * first.outside.coef - right, right);
     Add(front_, "brings a square out without taking its root",
         Total([](int front, int root) { return front * root * root; }), right);
-    Add(front_, "adds the root to the number in front instead of multiplying",
+    Add(front_,
+        "adds the root to the number in front" + (unlike_ ? ofLike : " instead of multiplying"),
         Total([](int front, int root) { return root == 1 ? front : front + root; }), right);
-    Add(front_, "loses the roots that come out", Total([](int front, int) { return front; }),
-        right);
-    Add(front_, "leaves out the numbers in front", Total([](int, int root) { return root; }),
-        right);
+    Add(front_, "loses the roots that come out" + ofLike,
+        Total([](int front, int) { return front; }), right);
+    Add(front_, "leaves out the numbers in front" + ofLike,
+        Total([](int, int root) { return root; }), right);
     Add(front_, "multiplies the numbers in front",
         first.outside.coef * Simplified(like_.back()).outside.coef, right);
   }
