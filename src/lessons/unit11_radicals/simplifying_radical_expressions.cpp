@@ -72,12 +72,12 @@ void CountRadicals() {
   polynomials::PrintCells(1, {"3x + 4x", "3" + kRoot + "5 + 4" + kRoot + "5"});
   polynomials::PrintCells(3, {"7x", "7" + kRoot + "5"}, platform::colour::Blue);
   PageEnd();
-  SayAt(9.5, "3 times a number and 4 times the same number is 7 times this number.");
+  SayAt(8.5, "3 times a number and 4 times the same number is 7 times this number.");
   Say(R"(We add the numbers \yin front\z and keep the radical.)");
   PageEnd();
-  CommentBox(
-      R"(The numbers under the radicals are \rnot\z added and \rnot\z multiplied.  The root of 9 )"
-      "is 3, and 3 + 3 is 6.  The root of 18 is less than 5, and the root of 81 is 9.");
+  CommentBox(R"(The numbers under the radicals are \rnot\z added and \rnot\z multiplied.  )" +
+             kRoot + "9 + " + kRoot + "9 is 3 + 3 = 6.  " + kRoot + "18 is less than 5, and " +
+             kRoot + "81 is 9.");
   Say(R"(\yTry it:\z  Simplify)");
   ShowAt(NextRow() - 1, "6" + kRoot + "3 - 8" + kRoot + "3", 20);
   PageEnd();

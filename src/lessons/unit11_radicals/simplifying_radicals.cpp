@@ -145,7 +145,7 @@ void SimpleAlready() {
   Say("So the radical is simplified already.");
   PageEnd();
   Say("5 is a factor of 30, but 5 is no perfect square.  It stays inside.");
-  Say(R"(\yTry it:\z  Which one is simplified already?)");
+  Say(R"(\yTry it:\z  Which one is simplified?)");
   Show(kRoot + "35     " + kRoot + "45     " + kRoot + "48");
   PageEnd();
   Say("The first one.  45 has the factor 9, and 48 has 4 and 16.  We take 16, the larger one:");
