@@ -75,9 +75,10 @@ void CountRadicals() {
   SayAt(8.5, "3 times a number and 4 times the same number is 7 times this number.");
   Say(R"(We add the numbers \yin front\z and keep the radical.)");
   PageEnd();
-  CommentBox(R"(The numbers under the radicals are \rnot\z added and \rnot\z multiplied.  )" +
-             kRoot + "9 + " + kRoot + "9 is 3 + 3 = 6.  " + kRoot + "18 is less than 5, and " +
-             kRoot + "81 is 9.");
+  CommentBox(
+      R"(The numbers under the radicals are \rnot\z added or multiplied.  The root of 9 is 3, and )"
+      "3 + 3 is 6.  The root of 18 is less than 5, that of 81 is 9.",
+      {.width = 40});
   Say(R"(\yTry it:\z  Simplify)");
   ShowAt(NextRow() - 1, "6" + kRoot + "3 - 8" + kRoot + "3", 20);
   PageEnd();
@@ -91,7 +92,7 @@ void UnlikeStayApart() {
   SayAt(3, Text("Unlike radicals stay apart, just as {} does:", "2x + 5y"));
   Show("2" + kRoot + "3 + 5" + kRoot + "2", kCol);
   PageEnd();
-  Say(R"(\yWatch out:\z  We do not add under one sign:)");
+  Say(R"(\yWatch out:\z  Do not add under one sign:)");
   Show(kRoot + "9 + " + kRoot + "16 = 3 + 4 = 7,  but", kCol);
   Show(kRoot + "(9 + 16) = " + kRoot + "25 = 5", kCol);
   PageEnd();
