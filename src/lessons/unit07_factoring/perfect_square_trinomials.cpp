@@ -240,13 +240,14 @@ struct WrongRoot {
 
 // The first three stand beside the right root, and the fourth in its place when it hides.  At times
 // a wrong root is closer to the others than the right one, so that to be so is no hint.
-constexpr std::array<std::array<Slip, 4>, 9> kPatterns = {{
+constexpr std::array<std::array<Slip, 4>, 10> kPatterns = {{
     {LastRoot, BothRoots, FirstRoot, OtherSign},
     {OtherSign, LastRoot, BothRoots, HalfOfMiddle},
     {OtherSign, FirstRoot, BothRoots, Middle},
     {HalfOfLast, LastRoot, BothRoots, FirstRoot},
     {HalfOfFirst, FirstRoot, BothRoots, LastRoot},
     {HalfOfMiddle, LastRoot, BothRoots, OtherSign},
+    {LastRoot, BothRoots, HalfOfMiddle, FirstRoot},
     {Exchange, LastRoot, BothRoots, OtherSign},
     {OtherSign, Exchange, Middle, HalfOfMiddle},
     {OtherSign, Exchange, Added, HalfOfMiddle},
